@@ -1,0 +1,55 @@
+// A picture in memory: decoded from PNG or JPEG, drawn by a canvas, saved as PNG.
+#pragma once
+
+#include "desktop/drawing/colour.hpp"
+#include "desktop/drawing/geometry.hpp"
+
+#include <cairo.h>
+
+#include <cstddef>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace desktop {
+
+/// An immutable bitmap. Copies share the pixels; safe to read from any thread.
+class Image {
+public:
+    /// Reads a picture of any supported format; `scale` is pixels per point (not positive or NaN:
+    /// 1). Nothing when the file is missing, no picture, damaged, or larger than
+    /// `largestSide` pixels on a side.
+    static std::optional<Image> load(const std::filesystem::path& file, double scale = 1);
+    /// As `load`, from the bytes of a file.
+    static std::optional<Image> decode(std::span<const std::byte> bytes, double scale = 1);
+    /// Shares an ARGB32 image surface, which must not be drawn to any more.
+    static Image adopt(std::shared_ptr<cairo_surface_t> surface, double scale);
+
+    static constexpr int largestSide = 16384;
+
+    /// Points: pixels divided by the scale.
+    Size size() const;
+    double scale() const { return scale_; }
+    int pixelWidth() const;
+    int pixelHeight() const;
+    /// The colour of a pixel, (0, 0) at the top left; clear outside of the image.
+    Colour pixel(int x, int y) const;
+
+    /// The bytes of a PNG file; empty when the image cannot be encoded.
+    std::vector<std::byte> png() const;
+    /// Writes a PNG file; false when that fails.
+    bool savePng(const std::filesystem::path& file) const;
+
+    /// The pixels, still owned by the image; not to be drawn to.
+    cairo_surface_t* surface() const { return surface_.get(); }
+
+private:
+    Image(std::shared_ptr<cairo_surface_t> surface, double scale);
+
+    std::shared_ptr<cairo_surface_t> surface_;
+    double scale_;
+};
+
+} // namespace desktop
