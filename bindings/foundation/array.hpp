@@ -1,0 +1,49 @@
+// NSArray and NSMutableArray.
+#pragma once
+
+#include "bindings/objc/kind.hpp"
+#include "bindings/objc/strong.hpp"
+
+#include <iterator>
+
+namespace ns {
+
+struct Array : objc::Kind<Array, "NSArray"> {
+    using Kind::Kind;
+
+    [[nodiscard]] unsigned long count() const { return send<"count", unsigned long>(); }
+    [[nodiscard]] objc::Object at(unsigned long index) const {
+        return send<"objectAtIndex:", objc::Object>(index);
+    }
+    [[nodiscard]] objc::Object first() const { return count() == 0 ? nullptr : at(0); }
+    [[nodiscard]] bool contains(objc::Object element) const {
+        return send<"containsObject:", bool>(element);
+    }
+    /// A fresh array with the same elements, safe to walk while the original changes.
+    [[nodiscard]] Array copied() const { return sendClass<"arrayWithArray:", Array>(*this); }
+
+    struct Iterator {
+        id array;
+        unsigned long index;
+        objc::Object operator*() const { return objc::wrap<Array>(array).at(index); }
+        Iterator& operator++() {
+            ++index;
+            return *this;
+        }
+        friend bool operator==(const Iterator&, const Iterator&) = default;
+    };
+    [[nodiscard]] Iterator begin() const { return {raw(), 0}; }
+    [[nodiscard]] Iterator end() const { return {raw(), count()}; }
+};
+
+struct MutableArray : objc::Kind<MutableArray, "NSMutableArray", Array> {
+    using Kind::Kind;
+
+    void add(objc::Object element) const { send<"addObject:">(element); }
+    void insert(objc::Object element, unsigned long index) const {
+        send<"insertObject:atIndex:">(element, index);
+    }
+    void remove(objc::Object element) const { send<"removeObjectIdenticalTo:">(element); }
+};
+
+} // namespace ns

@@ -1,0 +1,38 @@
+// NSDictionary and NSMutableDictionary.
+#pragma once
+
+#include "bindings/foundation/string.hpp"
+
+namespace ns {
+
+struct Array;
+
+struct Dictionary : objc::Kind<Dictionary, "NSDictionary"> {
+    using Kind::Kind;
+
+    static Dictionary withContentsOfFile(String path) {
+        return sendClass<"dictionaryWithContentsOfFile:", Dictionary>(path);
+    }
+    [[nodiscard]] unsigned long count() const { return send<"count", unsigned long>(); }
+    /// The value under `key`, or nil.
+    [[nodiscard]] objc::Object get(objc::Object key) const {
+        return send<"objectForKey:", objc::Object>(key);
+    }
+    [[nodiscard]] Array allKeys() const;
+    bool writeToFile(String path, bool atomically) const {
+        return send<"writeToFile:atomically:", bool>(path, atomically);
+    }
+};
+
+struct MutableDictionary : objc::Kind<MutableDictionary, "NSMutableDictionary", Dictionary> {
+    using Kind::Kind;
+
+    void set(objc::Object value, objc::Object key) const { send<"setObject:forKey:">(value, key); }
+    void remove(objc::Object key) const { send<"removeObjectForKey:">(key); }
+};
+
+} // namespace ns
+
+#include "bindings/foundation/array.hpp"
+
+inline ns::Array ns::Dictionary::allKeys() const { return send<"allKeys", Array>(); }

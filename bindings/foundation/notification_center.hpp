@@ -1,0 +1,42 @@
+// NSNotificationCenter and NSNotification.
+#pragma once
+
+#include "bindings/foundation/dictionary.hpp"
+#include "bindings/foundation/exception.hpp"
+#include "bindings/objc/block.hpp"
+
+namespace ns {
+
+struct Notification : objc::Kind<Notification, "NSNotification"> {
+    using Kind::Kind;
+
+    [[nodiscard]] String name() const { return send<"name", String>(); }
+    [[nodiscard]] objc::Object object() const { return send<"object", objc::Object>(); }
+    [[nodiscard]] Dictionary userInfo() const { return send<"userInfo", Dictionary>(); }
+};
+
+struct OperationQueue : objc::Kind<OperationQueue, "NSOperationQueue"> {
+    using Kind::Kind;
+
+    static OperationQueue mainQueue() { return sendClass<"mainQueue", OperationQueue>(); }
+};
+
+struct NotificationCenter : objc::Kind<NotificationCenter, "NSNotificationCenter"> {
+    using Kind::Kind;
+
+    static NotificationCenter defaultCenter() {
+        return sendClass<"defaultCenter", NotificationCenter>();
+    }
+    void post(String name, objc::Object object, Dictionary userInfo = nullptr) const {
+        send<"postNotificationName:object:userInfo:">(name, object, userInfo);
+    }
+    /// Calls `block` for each notification of that name (any object when `object` is nil); on the
+    /// posting thread when `queue` is nil. The result is the observer's token.
+    objc::Object observe(String name, objc::Object object, OperationQueue queue,
+                         objc::Block<void(Notification)> block) const {
+        return send<"addObserverForName:object:queue:usingBlock:", objc::Object>(name, object,
+                                                                                 queue, block);
+    }
+};
+
+} // namespace ns

@@ -1,0 +1,45 @@
+// The base of every wrapped class: a handle type that knows its class's name and superclass.
+#pragma once
+
+#include "bindings/objc/object.hpp"
+
+#include <atomic>
+
+namespace objc {
+
+/// `struct Label : objc::Kind<Label, "UILabel", View> { … }`: one line for each message.
+template <class Self, Literal Name, class Super = Object> struct Kind : Super {
+    using Superkind = Super;
+    static constexpr auto className = Name;
+
+    constexpr Kind() = default;
+    constexpr Kind(std::nullptr_t) {}
+
+    /// The class, or null while no image has brought it. A class that was found is not looked up
+    /// again; a missing one is, since it may be loaded later.
+    static Class classObject() {
+        static constinit std::atomic<Class> known{nullptr};
+        Class found = known.load(std::memory_order_relaxed);
+        if (found == nullptr) [[unlikely]] {
+            found = objc_lookUpClass(Name.data());
+            known.store(found, std::memory_order_relaxed);
+        }
+        return found;
+    }
+
+    /// Sends a message to the class itself.
+    template <Literal Selector, class Result = void, class... Arguments>
+    static Result sendClass(Arguments... arguments) {
+        return objc::send<Selector, Result>(object(classObject()), arguments...);
+    }
+
+    /// alloc, the given initialiser, autorelease: a new object, borrowed from the pool.
+    template <Literal Initialiser = "init", class... Arguments>
+    static Self make(Arguments... arguments) {
+        return sendClass<"alloc", Object>()
+            .template send<Initialiser, Object>(arguments...)
+            .template send<"autorelease", Self>();
+    }
+};
+
+} // namespace objc

@@ -1,0 +1,80 @@
+// Message sends: typed, nil-safe, at the cost of a C call through the looked-up implementation.
+#pragma once
+
+#include "bindings/objc/selector.hpp"
+
+#include <type_traits>
+
+namespace objc {
+
+template <class T> class Strong;
+
+/// How a C++ type travels in a message. Plain values and handles go as they are.
+template <class T> struct Passing {
+    using Type = T;
+};
+template <> struct Passing<bool> {
+    using Type = Boolean;
+};
+/// An owning reference lends its object.
+template <class T> struct Passing<Strong<T>> {
+    using Type = T;
+};
+template <class T> using Passed = typename Passing<std::remove_cvref_t<T>>::Type;
+
+/// From the travelling form back to the C++ type.
+template <class T> constexpr T received(Passed<T> value) {
+    if constexpr (std::is_same_v<T, bool>) {
+        return value != 0;
+    } else {
+        return value;
+    }
+}
+
+/// The C function type of a method.
+template <class Result, class... Arguments>
+using Implementation = Passed<Result> (*)(id, SEL, Passed<Arguments>...);
+
+/// Calls `implementation`, a method's function of that exact type, with receiver and selector.
+template <class Result, class... Arguments>
+Result invoke(IMP implementation, id receiver, SEL name, Arguments... arguments) {
+    auto call = reinterpret_cast<Implementation<Result, Arguments...>>(implementation);
+    if constexpr (std::is_void_v<Result>) {
+        call(receiver, name, arguments...);
+    } else {
+        return received<Result>(call(receiver, name, arguments...));
+    }
+}
+
+/// Sends a message whose selector is known only at run time. A nil receiver answers zero.
+template <class Result = void, class... Arguments>
+Result sendTo(id receiver, SEL name, Arguments... arguments) {
+    if (receiver == nullptr) {
+        return Result();
+    }
+    return invoke<Result, Arguments...>(lookUp(receiver, name), receiver, name, arguments...);
+}
+
+/// Sends `Name` to `receiver`: `send<"length", std::size_t>(string)`. A nil receiver answers zero.
+template <Literal Name, class Result = void, class... Arguments>
+Result send(id receiver, Arguments... arguments) {
+    static_assert(argumentCount(Name) == sizeof...(Arguments),
+                  "a selector has one colon for each argument");
+    return sendTo<Result, Arguments...>(receiver, selector<Name>(), arguments...);
+}
+
+/// A class receives messages like any object.
+inline id object(Class cls) { return reinterpret_cast<id>(cls); }
+
+/// Sends the message as if the receiver were an instance of `superclass` (for a class method: the
+/// superclass's metaclass).
+template <Literal Name, class Result = void, class... Arguments>
+Result sendSuper(Class superclass, id receiver, Arguments... arguments) {
+    static_assert(argumentCount(Name) == sizeof...(Arguments),
+                  "a selector has one colon for each argument");
+    const SEL name = selector<Name>();
+    return invoke<Result, Arguments...>(class_getMethodImplementation(superclass, name), receiver,
+                                        name, arguments...);
+}
+
+} // namespace objc

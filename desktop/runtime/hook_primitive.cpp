@@ -1,0 +1,14 @@
+// MSHookMessageEx: the code-injection framework's hook, on GNU libobjc.
+#include "bindings/objc/hook_primitive.hpp"
+
+void MSHookMessageEx(Class cls, SEL name, IMP replacement, IMP* former) {
+    const Method method = cls != nullptr ? class_getInstanceMethod(cls, name) : nullptr;
+    if (method == nullptr) {
+        return;
+    }
+    // The slot is filled first: another thread may call the replacement as soon as it is there.
+    if (former != nullptr) {
+        *former = method_getImplementation(method);
+    }
+    class_replaceMethod(cls, name, replacement, method_getTypeEncoding(method));
+}
