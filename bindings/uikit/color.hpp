@@ -1,0 +1,38 @@
+// UIColor.
+#pragma once
+
+#include "bindings/coregraphics/color.hpp"
+#include "bindings/foundation/string.hpp"
+
+namespace ui {
+
+struct Color : objc::Kind<Color, "UIColor"> {
+    using Kind::Kind;
+
+    /// Components from 0 to 1, in sRGB.
+    static Color rgba(double red, double green, double blue, double alpha) {
+        return sendClass<"colorWithRed:green:blue:alpha:", Color>(red, green, blue, alpha);
+    }
+    static Color white(double white, double alpha) {
+        return sendClass<"colorWithWhite:alpha:", Color>(white, alpha);
+    }
+    static Color black() { return sendClass<"blackColor", Color>(); }
+    static Color white() { return sendClass<"whiteColor", Color>(); }
+    static Color clear() { return sendClass<"clearColor", Color>(); }
+    static Color label() { return sendClass<"labelColor", Color>(); }
+    static Color secondaryLabel() { return sendClass<"secondaryLabelColor", Color>(); }
+    static Color systemBackground() { return sendClass<"systemBackgroundColor", Color>(); }
+    static Color systemBlue() { return sendClass<"systemBlueColor", Color>(); }
+
+    [[nodiscard]] Color withAlpha(double alpha) const {
+        return send<"colorWithAlphaComponent:", Color>(alpha);
+    }
+    /// False when the colour has no such components (a pattern).
+    bool components(double* red, double* green, double* blue, double* alpha) const {
+        return send<"getRed:green:blue:alpha:", bool>(red, green, blue, alpha);
+    }
+    /// Borrowed: valid as long as the colour.
+    [[nodiscard]] CGColorRef cgColor() const { return send<"CGColor", CGColorRef>(); }
+};
+
+} // namespace ui

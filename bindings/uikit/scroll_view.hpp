@@ -1,0 +1,19 @@
+// UIScrollView.
+#pragma once
+
+#include "bindings/uikit/view.hpp"
+
+namespace ui {
+
+struct ScrollView : objc::Kind<ScrollView, "UIScrollView", View> {
+    using Kind::Kind;
+
+    static ScrollView withFrame(CGRect frame) { return make<"initWithFrame:">(frame); }
+
+    [[nodiscard]] CGSize contentSize() const { return send<"contentSize", CGSize>(); }
+    void setContentSize(CGSize size) const { send<"setContentSize:">(size); }
+    [[nodiscard]] CGPoint contentOffset() const { return send<"contentOffset", CGPoint>(); }
+    void setContentOffset(CGPoint offset) const { send<"setContentOffset:">(offset); }
+};
+
+} // namespace ui

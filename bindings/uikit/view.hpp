@@ -1,0 +1,100 @@
+// UIView.
+#pragma once
+
+#include "bindings/coregraphics/geometry.hpp"
+#include "bindings/foundation/array.hpp"
+#include "bindings/quartzcore/layer.hpp"
+#include "bindings/uikit/color.hpp"
+#include "bindings/uikit/responder.hpp"
+
+namespace ui {
+
+struct Window;
+
+struct View : objc::Kind<View, "UIView", Responder> {
+    using Kind::Kind;
+
+    [[nodiscard]] CGRect frame() const { return send<"frame", CGRect>(); }
+    void setFrame(CGRect frame) const { send<"setFrame:">(frame); }
+    [[nodiscard]] CGRect bounds() const { return send<"bounds", CGRect>(); }
+    void setBounds(CGRect bounds) const { send<"setBounds:">(bounds); }
+    [[nodiscard]] CGPoint center() const { return send<"center", CGPoint>(); }
+    void setCenter(CGPoint center) const { send<"setCenter:">(center); }
+    [[nodiscard]] CGAffineTransform transform() const {
+        return send<"transform", CGAffineTransform>();
+    }
+    void setTransform(CGAffineTransform transform) const { send<"setTransform:">(transform); }
+
+    [[nodiscard]] double alpha() const { return send<"alpha", double>(); }
+    void setAlpha(double alpha) const { send<"setAlpha:">(alpha); }
+    [[nodiscard]] bool isHidden() const { return send<"isHidden", bool>(); }
+    void setHidden(bool hidden) const { send<"setHidden:">(hidden); }
+    [[nodiscard]] Color backgroundColor() const { return send<"backgroundColor", Color>(); }
+    void setBackgroundColor(Color color) const { send<"setBackgroundColor:">(color); }
+    [[nodiscard]] Color tintColor() const { return send<"tintColor", Color>(); }
+    void setClipsToBounds(bool clips) const { send<"setClipsToBounds:">(clips); }
+    [[nodiscard]] bool clipsToBounds() const { return send<"clipsToBounds", bool>(); }
+    [[nodiscard]] long tag() const { return send<"tag", long>(); }
+    void setTag(long tag) const { send<"setTag:">(tag); }
+    [[nodiscard]] ca::Layer layer() const { return send<"layer", ca::Layer>(); }
+    void setUserInteractionEnabled(bool enabled) const {
+        send<"setUserInteractionEnabled:">(enabled);
+    }
+
+    [[nodiscard]] View superview() const { return send<"superview", View>(); }
+    /// Back to front; a snapshot.
+    [[nodiscard]] ns::Array subviews() const { return send<"subviews", ns::Array>(); }
+    [[nodiscard]] Window window() const;
+    void addSubview(View view) const { send<"addSubview:">(view); }
+    void insertSubview(View view, long index) const { send<"insertSubview:atIndex:">(view, index); }
+    void removeFromSuperview() const { send<"removeFromSuperview">(); }
+    [[nodiscard]] View viewWithTag(long tag) const { return send<"viewWithTag:", View>(tag); }
+    [[nodiscard]] ns::Array gestureRecognizers() const {
+        return send<"gestureRecognizers", ns::Array>();
+    }
+
+    void layoutSubviews() const { send<"layoutSubviews">(); }
+    void setNeedsLayout() const { send<"setNeedsLayout">(); }
+    void layoutIfNeeded() const { send<"layoutIfNeeded">(); }
+    void setNeedsDisplay() const { send<"setNeedsDisplay">(); }
+    [[nodiscard]] CGSize sizeThatFits(CGSize room) const {
+        return send<"sizeThatFits:", CGSize>(room);
+    }
+    void sizeToFit() const { send<"sizeToFit">(); }
+    [[nodiscard]] CGSize intrinsicContentSize() const {
+        return send<"intrinsicContentSize", CGSize>();
+    }
+    /// A rectangle of this view in the coordinates of `other` (nil: the window).
+    [[nodiscard]] CGRect convertRect(CGRect rect, View other) const {
+        return send<"convertRect:toView:", CGRect>(rect, other);
+    }
+    [[nodiscard]] CGPoint convertPoint(CGPoint point, View other) const {
+        return send<"convertPoint:toView:", CGPoint>(point, other);
+    }
+    [[nodiscard]] UIEdgeInsets safeAreaInsets() const {
+        return send<"safeAreaInsets", UIEdgeInsets>();
+    }
+    [[nodiscard]] ns::String accessibilityLabel() const {
+        return send<"accessibilityLabel", ns::String>();
+    }
+    void setAccessibilityLabel(ns::String label) const { send<"setAccessibilityLabel:">(label); }
+    void setAutoresizingMask(unsigned long mask) const { send<"setAutoresizingMask:">(mask); }
+
+    static View withFrame(CGRect frame) { return make<"initWithFrame:">(frame); }
+};
+
+/// What a view resizes by itself when its superview's size changes.
+namespace autoresizing {
+inline constexpr unsigned long flexibleLeftMargin = 1U << 0U;
+inline constexpr unsigned long flexibleWidth = 1U << 1U;
+inline constexpr unsigned long flexibleRightMargin = 1U << 2U;
+inline constexpr unsigned long flexibleTopMargin = 1U << 3U;
+inline constexpr unsigned long flexibleHeight = 1U << 4U;
+inline constexpr unsigned long flexibleBottomMargin = 1U << 5U;
+} // namespace autoresizing
+
+} // namespace ui
+
+#include "bindings/uikit/window.hpp"
+
+inline ui::Window ui::View::window() const { return send<"window", Window>(); }
