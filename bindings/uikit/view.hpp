@@ -44,6 +44,7 @@ struct View : objc::Kind<View, "UIView", Responder> {
     [[nodiscard]] View superview() const { return send<"superview", View>(); }
     /// Back to front; a snapshot.
     [[nodiscard]] ns::Array subviews() const { return send<"subviews", ns::Array>(); }
+    /// Defined with the windows, in window.hpp.
     [[nodiscard]] Window window() const;
     void addSubview(View view) const { send<"addSubview:">(view); }
     void insertSubview(View view, long index) const { send<"insertSubview:atIndex:">(view, index); }
@@ -94,7 +95,3 @@ inline constexpr unsigned long flexibleBottomMargin = 1U << 5U;
 } // namespace autoresizing
 
 } // namespace ui
-
-#include "bindings/uikit/window.hpp"
-
-inline ui::Window ui::View::window() const { return send<"window", Window>(); }

@@ -1,7 +1,7 @@
 // UIViewController.
 #pragma once
 
-#include "bindings/uikit/view.hpp"
+#include "bindings/uikit/window.hpp"
 
 namespace ui {
 
@@ -18,5 +18,12 @@ struct ViewController : objc::Kind<ViewController, "UIViewController", Responder
         return send<"presentedViewController", ViewController>();
     }
 };
+
+inline ViewController Window::rootViewController() const {
+    return send<"rootViewController", ViewController>();
+}
+inline void Window::setRootViewController(ViewController controller) const {
+    send<"setRootViewController:">(controller);
+}
 
 } // namespace ui

@@ -13,24 +13,15 @@ struct Window : objc::Kind<Window, "UIWindow", View> {
 
     static Window withFrame(CGRect frame) { return make<"initWithFrame:">(frame); }
 
+    /// Defined with the view controllers, in view_controller.hpp.
     [[nodiscard]] ViewController rootViewController() const;
     void setRootViewController(ViewController controller) const;
+    /// Defined with the scenes, in window_scene.hpp.
     [[nodiscard]] WindowScene windowScene() const;
     [[nodiscard]] bool isKeyWindow() const { return send<"isKeyWindow", bool>(); }
     void makeKeyAndVisible() const { send<"makeKeyAndVisible">(); }
 };
 
+inline Window View::window() const { return send<"window", Window>(); }
+
 } // namespace ui
-
-#include "bindings/uikit/view_controller.hpp"
-#include "bindings/uikit/window_scene.hpp"
-
-inline ui::ViewController ui::Window::rootViewController() const {
-    return send<"rootViewController", ViewController>();
-}
-inline void ui::Window::setRootViewController(ViewController controller) const {
-    send<"setRootViewController:">(controller);
-}
-inline ui::WindowScene ui::Window::windowScene() const {
-    return send<"windowScene", WindowScene>();
-}

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bindings/foundation/array.hpp"
+#include "bindings/uikit/window.hpp"
 
 namespace ui {
 
@@ -18,5 +19,7 @@ struct WindowScene : objc::Kind<WindowScene, "UIWindowScene"> {
     [[nodiscard]] long activationState() const { return send<"activationState", long>(); }
     [[nodiscard]] ns::Array windows() const { return send<"windows", ns::Array>(); }
 };
+
+inline WindowScene Window::windowScene() const { return send<"windowScene", WindowScene>(); }
 
 } // namespace ui
