@@ -1,0 +1,75 @@
+// Makes the perfect hash table of the known preference keys.
+#include "library/startup/key_table.hpp"
+
+#include "library/startup/byte_word.hpp"
+
+#include <algorithm>
+#include <bit>
+#include <cstdint>
+
+namespace wentra::startup {
+namespace {
+
+constexpr auto knownKeys = std::bit_cast<std::array<Key, knownKeyCount>>(keys);
+static_assert(knownKeyCount < 256, "an index takes one byte of the table");
+
+constexpr std::size_t shortestName =
+    std::ranges::min(knownKeys, {}, [](const Key& key) { return key.name().size(); }).name().size();
+static_assert(shortestName >= 4, "a digest reads four bytes at once");
+
+// Names differ in their length or in the bytes at either end, so the middle need not be read.
+constexpr std::uint64_t digest(std::string_view name) {
+    const char* begin = name.data();
+    const char* end = begin + name.size();
+    const std::uint64_t head = name.size() < 8 ? littleEndian<4>(begin) : littleEndian<8>(begin);
+    const std::uint64_t tail = name.size() < 8 ? littleEndian<4>(end - 4) : littleEndian<8>(end - 8);
+    return (head * 0x9E3779B97F4A7C15U) ^ std::rotl(tail, 29) ^ name.size();
+}
+
+class PerfectHash {
+public:
+    consteval PerfectHash() {
+        while (!fill())
+            multiplier_ += 2;
+    }
+
+    constexpr std::size_t operator[](std::uint64_t digest) const {
+        return indices_[place(digest)];
+    }
+
+private:
+    static constexpr int placeBits = 11;
+
+    constexpr std::size_t place(std::uint64_t digest) const {
+        return static_cast<std::size_t>((digest * multiplier_) >> (64 - placeBits));
+    }
+
+    consteval bool fill() {
+        indices_.fill(emptyPlace);
+        for (std::size_t index = 0; index < knownKeyCount; ++index) {
+            auto& entry = indices_[place(digest(knownKeys[index].name()))];
+            if (entry != emptyPlace)
+                return false;
+            entry = static_cast<unsigned char>(index);
+        }
+        return true;
+    }
+
+    static constexpr unsigned char emptyPlace = knownKeyCount;
+
+    std::uint64_t multiplier_ = 0xD6E8FEB86659FD93U;
+    std::array<unsigned char, std::size_t{1} << placeBits> indices_{};
+};
+
+constexpr PerfectHash perfectHash;
+
+} // namespace
+
+std::size_t knownKeyIndex(std::string_view name) {
+    if (name.size() < shortestName || name.size() > Key::capacity)
+        return knownKeyCount;
+    const std::size_t index = perfectHash[digest(name)];
+    return index < knownKeyCount && knownKeys[index].name() == name ? index : knownKeyCount;
+}
+
+} // namespace wentra::startup
