@@ -5,6 +5,7 @@
 
 #include <set>
 #include <string_view>
+#include <utility>
 
 namespace wentra::labels {
 namespace {

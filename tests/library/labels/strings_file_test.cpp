@@ -5,6 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string>
+#include <string_view>
+
 namespace wentra::labels {
 namespace {
 
@@ -44,14 +48,19 @@ TEST(ConvertStringsFile, replacesWhatTheExpressionMatches) {
 }
 
 TEST(ConvertStringsFile, noMatchCrossesALineTerminator) {
+    const Conversion cases[] = {
+        {uR"("a"="b@c";)", uR"("a"="b@c";)"},
+        {uR"("a@b"="c";@)", uR"("a@b"="c";@)"},
+        {uR"("@"a"="b";@)", uR"("@a===b@)"},
+    };
     for (const char16_t terminator : u"\n\v\f\r\u0085\u2028\u2029"sv) {
-        const std::u16string end(1, terminator);
-        const std::u16string inValue = u"\"a\"=\"b" + end + u"c\";";
-        const std::u16string inKey = u"\"a" + end + u"b\"=\"c\";" + end;
-        EXPECT_EQ(convertStringsFile(inValue), inValue);
-        EXPECT_EQ(convertStringsFile(inKey), u"\"a" + end + u"b\"=\"c\";" + end);
-        EXPECT_EQ(convertStringsFile(u"\"" + end + u"\"a\"=\"b\";" + end),
-                  u"\"" + end + u"a===b" + end);
+        const auto terminated = [terminator](std::u16string_view text) {
+            std::u16string result(text);
+            std::ranges::replace(result, u'@', terminator);
+            return result;
+        };
+        for (const Conversion& each : cases)
+            EXPECT_EQ(convertStringsFile(terminated(each.text)), terminated(each.converted));
     }
     EXPECT_EQ(convertStringsFile(u"\"a\0\u0084\u2027\"=\"b\";"sv), u"a\0\u0084\u2027===b"sv);
 }
