@@ -21,8 +21,8 @@ struct AffineTransform {
     double ty = 0;
 };
 
-/// One thread at a time. Rectangles with a negative, infinite or NaN measure draw nothing; a
-/// corner radius is brought between zero and half of the shorter side.
+/// One thread at a time. Rectangles with a negative or NaN measure draw nothing, edges far away are
+/// brought within a million points, and a corner radius between zero and half of the shorter side.
 class Canvas {
 public:
     /// A clear surface of size times scale pixels, rounded up, each side between 1 and
@@ -37,8 +37,8 @@ public:
     /// Keeps transform and clip until the matching `restore`.
     void save();
     void restore();
-    void translate(double x, double y);
-    /// Ignored when the transform cannot be inverted or is not finite: false then.
+    /// A transform that cannot be inverted or is not finite is ignored: false then.
+    bool translate(double x, double y);
     bool concatenate(const AffineTransform& transform);
     void clip(const Rectangle& area, double cornerRadius = 0);
 

@@ -10,7 +10,7 @@ struct Font {
     /// The family as the phone names it ("Helvetica Neue") or as installed here ("DejaVu Sans");
     /// UTF-8. Empty is the system font; `monospacedFamily` is the system's monospaced one.
     /// A family that is not known is drawn in the system font.
-    std::string family;
+    std::string family = {};
     /// Points. Sizes that are zero, negative or NaN draw nothing and take no room; sizes above
     /// `largestSize` count as that.
     double size = 17;

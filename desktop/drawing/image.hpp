@@ -27,7 +27,7 @@ public:
     /// Shares an ARGB32 image surface, which must not be drawn to any more.
     static Image adopt(std::shared_ptr<cairo_surface_t> surface, double scale);
 
-    static constexpr int largestSide = 16384;
+    static constexpr int largestSide = 8192;
 
     /// Points: pixels divided by the scale.
     Size size() const;

@@ -36,9 +36,9 @@ struct TextRun {
     /// In UTF-16 units.
     std::size_t start = 0;
     std::size_t length = toTheEnd;
-    Font font;
-    Colour colour;
-    std::optional<Colour> background;
+    Font font = {};
+    Colour colour = {};
+    std::optional<Colour> background = {};
     bool underline = false;
     bool strikethrough = false;
 };
@@ -59,7 +59,7 @@ struct TextFrame {
     /// Added between lines.
     double lineSpacing = 0;
 
-    static constexpr double widestLine = 100000;
+    static constexpr double widestLine = 20000;
 };
 
 /// Text set in lines. The constructor does all of the work; it copies what it needs of the text.

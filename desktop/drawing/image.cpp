@@ -1,0 +1,140 @@
+// Decodes pictures with GdkPixbuf into Cairo's pixels, and encodes them as PNG.
+#include "desktop/drawing/image.hpp"
+
+#include "desktop/drawing/handle.hpp"
+
+#include <gdk-pixbuf/gdk-pixbuf.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <fstream>
+#include <iterator>
+#include <utility>
+
+namespace desktop {
+namespace {
+
+using Pixbuf = Handle<GdkPixbuf, g_object_unref>;
+using Loader = Handle<GdkPixbufLoader, g_object_unref>;
+
+std::shared_ptr<cairo_surface_t> makeSurface(int width, int height) {
+    return {cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height), cairo_surface_destroy};
+}
+
+// Keeps a small file that claims to be a huge picture from taking the memory.
+void refuseLargePicture(GdkPixbufLoader* loader, int width, int height, gpointer refused) {
+    if (std::max(width, height) > Image::largestSide) {
+        *static_cast<bool*>(refused) = true;
+        gdk_pixbuf_loader_set_size(loader, 1, 1);
+    }
+}
+
+Pixbuf decodePixbuf(std::span<const std::byte> bytes) {
+    bool refused = false;
+    const Loader loader(gdk_pixbuf_loader_new());
+    g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(refuseLargePicture), &refused);
+    const bool written =
+        gdk_pixbuf_loader_write(loader.get(), reinterpret_cast<const guchar*>(bytes.data()),
+                                bytes.size(), nullptr) != FALSE;
+    const bool complete = gdk_pixbuf_loader_close(loader.get(), nullptr) != FALSE;
+    GdkPixbuf* decoded = gdk_pixbuf_loader_get_pixbuf(loader.get());
+    if (!written || !complete || refused || decoded == nullptr)
+        return nullptr;
+    return Pixbuf(gdk_pixbuf_apply_embedded_orientation(decoded));
+}
+
+std::uint32_t premultiplied(std::uint32_t component, std::uint32_t alpha) {
+    return (component * alpha + 127) / 255;
+}
+
+std::shared_ptr<cairo_surface_t> surfaceOf(GdkPixbuf* pixbuf) {
+    const int width = gdk_pixbuf_get_width(pixbuf);
+    const int height = gdk_pixbuf_get_height(pixbuf);
+    const bool hasAlpha = gdk_pixbuf_get_has_alpha(pixbuf) != FALSE;
+    auto surface = makeSurface(width, height);
+    unsigned char* target = cairo_image_surface_get_data(surface.get());
+    for (int y = 0; target != nullptr && y < height; ++y) {
+        const guchar* from =
+            gdk_pixbuf_read_pixels(pixbuf) + std::ptrdiff_t{y} * gdk_pixbuf_get_rowstride(pixbuf);
+        auto* row = reinterpret_cast<std::uint32_t*>(
+            target + std::ptrdiff_t{y} * cairo_image_surface_get_stride(surface.get()));
+        for (int x = 0; x < width; ++x, from += gdk_pixbuf_get_n_channels(pixbuf)) {
+            const std::uint32_t alpha = hasAlpha ? from[3] : 255;
+            row[x] = alpha << 24 | premultiplied(from[0], alpha) << 16 |
+                     premultiplied(from[1], alpha) << 8 | premultiplied(from[2], alpha);
+        }
+    }
+    cairo_surface_mark_dirty(surface.get());
+    return surface;
+}
+
+cairo_status_t appendBytes(void* bytes, const unsigned char* data, unsigned int length) {
+    const auto* first = reinterpret_cast<const std::byte*>(data);
+    auto& target = *static_cast<std::vector<std::byte>*>(bytes);
+    target.insert(target.end(), first, first + length);
+    return CAIRO_STATUS_SUCCESS;
+}
+
+} // namespace
+
+Image::Image(std::shared_ptr<cairo_surface_t> surface, double scale)
+    : surface_(std::move(surface)), scale_(scale > 0 ? scale : 1) {}
+
+std::optional<Image> Image::load(const std::filesystem::path& file, double scale) {
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(file, error))
+        return std::nullopt;
+    std::ifstream stream(file, std::ios::binary);
+    const std::vector<char> bytes{std::istreambuf_iterator<char>(stream), {}};
+    return decode(std::as_bytes(std::span(bytes)), scale);
+}
+
+std::optional<Image> Image::decode(std::span<const std::byte> bytes, double scale) {
+    const Pixbuf pixbuf = decodePixbuf(bytes);
+    if (!pixbuf)
+        return std::nullopt;
+    return Image(surfaceOf(pixbuf.get()), scale);
+}
+
+Image Image::adopt(std::shared_ptr<cairo_surface_t> surface, double scale) {
+    cairo_surface_flush(surface.get());
+    return Image(std::move(surface), scale);
+}
+
+Size Image::size() const { return {pixelWidth() / scale_, pixelHeight() / scale_}; }
+
+int Image::pixelWidth() const { return cairo_image_surface_get_width(surface()); }
+
+int Image::pixelHeight() const { return cairo_image_surface_get_height(surface()); }
+
+Colour Image::pixel(int x, int y) const {
+    const unsigned char* data = cairo_image_surface_get_data(surface());
+    if (data == nullptr || x < 0 || y < 0 || x >= pixelWidth() || y >= pixelHeight())
+        return {0, 0, 0, 0};
+    const std::ptrdiff_t stride = cairo_image_surface_get_stride(surface());
+    const std::uint32_t value = reinterpret_cast<const std::uint32_t*>(data + y * stride)[x];
+    const std::uint32_t alpha = value >> 24;
+    if (alpha == 0)
+        return {0, 0, 0, 0};
+    const auto component = [&](int shift) {
+        return std::min(1.0, static_cast<double>((value >> shift) & 0xFF) / alpha);
+    };
+    return {component(16), component(8), component(0), alpha / 255.0};
+}
+
+std::vector<std::byte> Image::png() const {
+    std::vector<std::byte> bytes;
+    if (cairo_surface_write_to_png_stream(surface(), appendBytes, &bytes) != CAIRO_STATUS_SUCCESS)
+        bytes.clear();
+    return bytes;
+}
+
+bool Image::savePng(const std::filesystem::path& file) const {
+    const std::vector<std::byte> bytes = png();
+    std::ofstream stream(file, std::ios::binary);
+    stream.write(reinterpret_cast<const char*>(bytes.data()),
+                 static_cast<std::streamsize>(bytes.size()));
+    return !bytes.empty() && stream.flush().good();
+}
+
+} // namespace desktop
