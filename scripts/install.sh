@@ -1,0 +1,77 @@
+#!/usr/bin/env bash
+# Installs the missing Debian packages of the given groups: build (default), format, lint, fuzz.
+set -euo pipefail
+
+# Group, package, and what the package is needed for.
+packages='
+build  g++                      the compiler
+build  cmake                    describes the build
+build  ninja-build              runs the build
+build  pkg-config               finds the drawing libraries
+build  git                      the history, and which files changed
+build  libgnustep-base-dev      Foundation on the desktop
+build  libobjc-12-dev           the Objective-C runtime on the desktop
+build  libcairo2-dev            draws shapes and pictures
+build  libpango1.0-dev          lays out text
+build  libharfbuzz-dev          shapes text
+build  libfontconfig-dev        finds fonts
+build  libgdk-pixbuf-2.0-dev    reads JPEG pictures
+build  nlohmann-json3-dev       the JSON of the automation protocol
+build  libgtest-dev             unit tests
+build  libbenchmark-dev         benchmarks
+build  fonts-inter              Latin text
+build  fonts-noto-cjk           Chinese text
+build  fonts-noto-color-emoji   emoji
+build  fonts-dejavu-core        serif and monospaced faces
+build  python3                  runs the tour and other client scripts
+format clang-format             formats the sources
+lint   clang-tidy               finds faults in the sources
+lint   shellcheck               finds faults in the scripts
+fuzz   clang                    compiles the fuzz targets
+fuzz   libclang-rt-14-dev       the fuzzer and the sanitizers of clang
+'
+
+fail() {
+    printf 'install: %s\n' "$1" >&2
+    exit 1
+}
+
+is_installed() {
+    [[ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" == installed ]]
+}
+
+as_root() {
+    if [[ "$(id -u)" == 0 ]]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        fail "neither root nor sudo here; as root, run: apt-get install ${missing[*]}"
+    fi
+}
+
+command -v dpkg-query >/dev/null || fail 'this needs Debian 12 (there is no dpkg-query here)'
+
+groups=("${@:-build}")
+missing=()
+for wanted in "${groups[@]}"; do
+    known=false
+    while read -r group package reason; do
+        [[ "$group" == "$wanted" ]] || continue
+        known=true
+        is_installed "$package" && continue
+        if [[ ${#missing[@]} == 0 ]]; then
+            printf 'Installing from Debian:\n'
+        fi
+        missing+=("$package")
+        printf '  %-23s %s\n' "$package" "$reason"
+    done <<<"$packages"
+    "$known" || fail "unknown group: $wanted"
+done
+
+[[ ${#missing[@]} == 0 ]] && exit 0
+
+as_root apt-get update || fail 'apt-get update failed; is the network reachable?'
+as_root env DEBIAN_FRONTEND=noninteractive \
+    apt-get install --yes --no-install-recommends "${missing[@]}" ||
+    fail 'apt-get install failed; its messages above say why (Debian 12 is expected)'

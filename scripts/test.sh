@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# Builds and runs every test: ./dev test [PRESET [CTEST ARGUMENTS]] (release, sanitize).
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+preset="${1:-release}"
+scripts/build.sh "$preset"
+if ctest --preset "$preset" --parallel "$(nproc)" "${@:2}"; then
+    printf '\nAll tests passed (%s); results: build/%s/test-results.xml\n' "$preset" "$preset"
+else
+    printf '\nTESTS FAILED (%s); results: build/%s/test-results.xml\n' "$preset" "$preset" >&2
+    exit 1
+fi
