@@ -39,6 +39,7 @@ public:
 template <class Kind> class Copied : public Strong<Kind> {
 public:
     constexpr Copied() = default;
+    constexpr Copied(std::nullptr_t) {}
     // NOLINTNEXTLINE(google-explicit-constructor)
     Copied(Kind original)
         : Strong<Kind>(Strong<Kind>::adopt(original.template send<"copy", Kind>())) {}

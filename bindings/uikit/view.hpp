@@ -58,6 +58,8 @@ struct View : objc::Kind<View, "UIView", Responder> {
     void setNeedsLayout() const { send<"setNeedsLayout">(); }
     void layoutIfNeeded() const { send<"layoutIfNeeded">(); }
     void setNeedsDisplay() const { send<"setNeedsDisplay">(); }
+    void drawRect(CGRect dirty) const { send<"drawRect:">(dirty); }
+    [[nodiscard]] long contentMode() const { return send<"contentMode", long>(); }
     [[nodiscard]] CGSize sizeThatFits(CGSize room) const {
         return send<"sizeThatFits:", CGSize>(room);
     }

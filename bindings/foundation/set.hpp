@@ -1,0 +1,16 @@
+// NSSet.
+#pragma once
+
+#include "bindings/foundation/array.hpp"
+
+namespace ns {
+
+struct Set : objc::Kind<Set, "NSSet"> {
+    using Kind::Kind;
+
+    static Set with(objc::Object element) { return sendClass<"setWithObject:", Set>(element); }
+    /// In no particular order.
+    [[nodiscard]] Array allObjects() const { return send<"allObjects", Array>(); }
+};
+
+} // namespace ns

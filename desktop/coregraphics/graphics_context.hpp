@@ -1,0 +1,29 @@
+// The canvas that drawing methods draw on at the moment.
+#pragma once
+
+#include "bindings/coregraphics/geometry.hpp"
+#include "desktop/drawing/canvas.hpp"
+
+namespace desktop {
+
+/// The innermost canvas made current on this thread; null outside of drawing.
+[[nodiscard]] Canvas* currentCanvas();
+
+/// Makes a canvas the current one for a scope. Scopes nest.
+class CurrentCanvas {
+public:
+    explicit CurrentCanvas(Canvas& canvas);
+    CurrentCanvas(const CurrentCanvas&) = delete;
+    CurrentCanvas& operator=(const CurrentCanvas&) = delete;
+    ~CurrentCanvas();
+
+private:
+    Canvas* outer_;
+};
+
+/// The same rectangle in the drawing core's type.
+inline Rectangle rectangle(CGRect rect) {
+    return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
+}
+
+} // namespace desktop

@@ -1,0 +1,55 @@
+// Image views: fitting the image into the view by the content mode.
+#include "desktop/uikit/image_view.hpp"
+
+#include "desktop/coregraphics/affine.hpp"
+#include "desktop/coregraphics/graphics_context.hpp"
+#include "desktop/uikit/image.hpp"
+#include "desktop/uikit/view.hpp"
+
+#include <algorithm>
+
+namespace desktop {
+namespace {
+
+/// The platform's numbers of the content modes that are told apart here.
+enum class ContentMode : long { scaleToFill = 0, scaleAspectFit = 1, scaleAspectFill = 2, center = 4 };
+
+CGRect placed(CGSize image, CGRect bounds, ContentMode mode) {
+    if (mode == ContentMode::scaleToFill || image.width <= 0 || image.height <= 0) {
+        return bounds;
+    }
+    const double across = bounds.size.width / image.width;
+    const double down = bounds.size.height / image.height;
+    double scale = 1;
+    if (mode == ContentMode::scaleAspectFit) {
+        scale = std::min(across, down);
+    } else if (mode == ContentMode::scaleAspectFill) {
+        scale = std::max(across, down);
+    }
+    const CGPoint middle = centre(bounds);
+    const CGSize size{image.width * scale, image.height * scale};
+    return {{middle.x - size.width / 2, middle.y - size.height / 2}, size};
+}
+
+} // namespace
+
+ui::ImageView ImageView::initWithImage(ui::Image image) {
+    self().send<"initWithFrame:", ui::View>(CGRect{{}, image.size()});
+    image_ = image;
+    return self();
+}
+
+void ImageView::drawRect(CGRect) {
+    Canvas* canvas = currentCanvas();
+    const Image* picture = UIImage::valueOf(image_);
+    if (canvas != nullptr && picture != nullptr) {
+        const auto mode = static_cast<ContentMode>(self().contentMode());
+        canvas->draw(*picture, rectangle(placed(image_.size(), self().bounds(), mode)));
+    }
+}
+
+CGSize ImageView::intrinsicContentSize() const {
+    return image_ ? image_.size() : CGSize{noIntrinsicMetric, noIntrinsicMetric};
+}
+
+} // namespace desktop

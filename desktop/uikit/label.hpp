@@ -1,0 +1,58 @@
+// UILabel: text in a view.
+#pragma once
+
+#include "bindings/uikit/label.hpp"
+
+#include "desktop/class.hpp"
+#include "desktop/drawing/text_layout.hpp"
+
+#include <optional>
+
+namespace desktop {
+
+class Label : public PlatformClass<Label, ui::Label> {
+public:
+    static auto methods() {
+        return std::array{
+            objc::method<"initWithFrame:", &Label::initWithFrame>(),
+            objc::property<"text", &Label::text, &Label::setText>(),
+            objc::property<"font", &Label::font, &Label::setFont>(),
+            objc::property<"textColor", &Label::textColor, &Label::setTextColor>(),
+            objc::property<"textAlignment", &Label::alignment_, &Label::changed>(),
+            objc::property<"lineBreakMode", &Label::lineBreakMode_, &Label::changed>(),
+            objc::property<"numberOfLines", &Label::numberOfLines_, &Label::changed>(),
+            objc::property<"preferredMaxLayoutWidth", &Label::preferredWidth_, &Label::changed>(),
+            objc::flag<"enabled", &Label::enabled_>(),
+            objc::flag<"highlighted", &Label::highlighted_>(),
+            objc::method<"drawRect:", &Label::drawRect>(),
+            objc::method<"sizeThatFits:", &Label::sizeThatFits>(),
+            objc::method<"intrinsicContentSize", &Label::intrinsicContentSize>(),
+        };
+    }
+
+private:
+    ui::Label initWithFrame(CGRect frame);
+    [[nodiscard]] ns::String text() const { return text_; }
+    void setText(ns::String text);
+    [[nodiscard]] ui::Font font() const { return font_; }
+    void setFont(ui::Font font);
+    [[nodiscard]] ui::Color textColor() const { return textColor_; }
+    void setTextColor(ui::Color color);
+    void changed();
+    void drawRect(CGRect dirty);
+    [[nodiscard]] CGSize sizeThatFits(CGSize room) const;
+    [[nodiscard]] CGSize intrinsicContentSize() const;
+    [[nodiscard]] TextLayout layout(double width, double height) const;
+
+    objc::Copied<ns::String> text_;
+    objc::Strong<ui::Font> font_;
+    objc::Strong<ui::Color> textColor_;
+    ui::TextAlignment alignment_ = ui::TextAlignment::natural;
+    ui::LineBreakMode lineBreakMode_ = ui::LineBreakMode::truncatingTail;
+    long numberOfLines_ = 1;
+    double preferredWidth_ = 0;
+    bool enabled_ = true;
+    bool highlighted_ = false;
+};
+
+} // namespace desktop

@@ -1,0 +1,29 @@
+// UIResponder: a link of the chain that events and actions travel along.
+#pragma once
+
+#include "bindings/uikit/responder.hpp"
+
+#include "desktop/class.hpp"
+
+namespace desktop {
+
+class Responder : public PlatformClass<Responder, ui::Responder> {
+public:
+    static auto methods() {
+        return std::array{
+            objc::method<"nextResponder", &Responder::nextResponder>(),
+            objc::method<"canBecomeFirstResponder", &Responder::canBecomeFirstResponder>(),
+            objc::method<"canPerformAction:withSender:", &Responder::canPerformAction>(),
+        };
+    }
+
+private:
+    [[nodiscard]] ui::Responder nextResponder() const { return nullptr; }
+    [[nodiscard]] bool canBecomeFirstResponder() const { return false; }
+    /// By default a responder can do what it has a method for.
+    [[nodiscard]] bool canPerformAction(SEL action, objc::Object) const {
+        return self().respondsToSelector(action);
+    }
+};
+
+} // namespace desktop

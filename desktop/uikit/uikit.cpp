@@ -1,0 +1,80 @@
+// Setting UIKit up, and drawing the screen.
+#include "desktop/uikit/uikit.hpp"
+
+#include "desktop/drawing/canvas.hpp"
+#include "desktop/quartzcore/layer.hpp"
+#include "desktop/uikit/application.hpp"
+#include "desktop/uikit/color.hpp"
+#include "desktop/uikit/compositor.hpp"
+#include "desktop/uikit/font.hpp"
+#include "desktop/uikit/image.hpp"
+#include "desktop/uikit/image_view.hpp"
+#include "desktop/uikit/label.hpp"
+#include "desktop/uikit/navigation_bar.hpp"
+#include "desktop/uikit/navigation_item.hpp"
+#include "desktop/uikit/pasteboard.hpp"
+#include "desktop/uikit/responder.hpp"
+#include "desktop/uikit/screen.hpp"
+#include "desktop/uikit/scroll_view.hpp"
+#include "desktop/uikit/stack_view.hpp"
+#include "desktop/uikit/status_bar.hpp"
+#include "desktop/uikit/view.hpp"
+#include "desktop/uikit/view_controller.hpp"
+#include "desktop/uikit/window.hpp"
+#include "desktop/uikit/window_scene.hpp"
+
+#include "bindings/objc/pool.hpp"
+
+#include <stdexcept>
+
+namespace desktop::uikit {
+namespace {
+
+/// Registers classes in that order: superclasses first.
+template <class... Classes> void registerAll() { (Classes::registerClass(), ...); }
+
+/// A phone without a notch has a plain status bar and no home indicator to keep clear of.
+UIEdgeInsets safeAreaOf(CGSize size) {
+    constexpr double shortestWithNotch = 780;
+    return size.height >= shortestWithNotch ? UIEdgeInsets{47, 0, 34, 0}
+                                            : UIEdgeInsets{20, 0, 0, 0};
+}
+
+} // namespace
+
+void registerClasses() {
+    const objc::Pool pool;
+    registerAll<Color, UIFont, UIImage, Layer, Screen, WindowScene, Pasteboard, NavigationItem,
+                Responder, Application, ViewController, View, Window, Label, ImageView, ScrollView,
+                StackView, NavigationBar>();
+}
+
+void startApplication(ScreenSize size) {
+    const CGSize points{size.width, size.height};
+    ScreenGeometry::current() = {points, size.scale, safeAreaOf(points)};
+    ui::Application::shared();
+}
+
+void layoutWindows() {
+    for (const ui::Window window : Application::shared().visibleWindows()) {
+        window.layoutIfNeeded();
+    }
+}
+
+void renderScreen(const std::string& pngFile) {
+    const objc::Pool pool;
+    layoutWindows();
+    const ScreenGeometry& geometry = ScreenGeometry::current();
+    const Size size{geometry.size.width, geometry.size.height};
+    Canvas canvas(size, geometry.scale);
+    canvas.fill({0, 0, size.width, size.height}, {0, 0, 0, 1});
+    for (const ui::Window window : Application::shared().visibleWindows()) {
+        composite(window, canvas);
+    }
+    drawSystemOverlays(canvas, size);
+    if (!canvas.snapshot().savePng(pngFile)) {
+        throw std::runtime_error("cannot write " + pngFile);
+    }
+}
+
+} // namespace desktop::uikit

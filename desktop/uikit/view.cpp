@@ -1,0 +1,120 @@
+// UIView's table, creation and box.
+#include "desktop/uikit/view.hpp"
+
+#include "bindings/uikit/application.hpp"
+#include "desktop/coregraphics/affine.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace desktop {
+
+std::vector<objc::MethodRow> View::methods() {
+    return {
+        objc::method<"init", &View::init>(),
+        objc::method<"initWithFrame:", &View::initWithFrame>(),
+        objc::method<"layer", &View::layerObject>(),
+        objc::property<"frame", &View::frame, &View::setFrame>(),
+        objc::property<"bounds", &View::bounds, &View::setBounds>(),
+        objc::property<"center", &View::center, &View::setCenter>(),
+        objc::property<"transform", &View::transform, &View::setTransform>(),
+        objc::property<"alpha", &View::alpha, &View::setAlpha>(),
+        objc::method<"isHidden", &View::isHidden>(),
+        objc::method<"setHidden:", &View::setHidden>(),
+        objc::method<"isOpaque", &View::isOpaque>(),
+        objc::property<"backgroundColor", &View::backgroundColor_>(),
+        objc::property<"clipsToBounds", &View::clipsToBounds, &View::setClipsToBounds>(),
+        objc::property<"tintColor", &View::tintColor, &View::setTintColor>(),
+        objc::property<"tag", &View::tag_>(),
+        objc::property<"contentMode", &View::contentMode_>(),
+        objc::property<"autoresizingMask", &View::autoresizingMask_>(),
+        objc::flag<"userInteractionEnabled", &View::userInteractionEnabled_>(),
+        objc::property<"accessibilityLabel", &View::accessibilityLabel_>(),
+        objc::property<"accessibilityIdentifier", &View::accessibilityIdentifier_>(),
+        objc::method<"superview", &View::superview_>(),
+        objc::method<"subviews", &View::subviews>(),
+        objc::method<"window", &View::window>(),
+        objc::method<"nextResponder", &View::nextResponder>(),
+        objc::method<"addSubview:", &View::addSubview>(),
+        objc::method<"insertSubview:atIndex:", &View::insertAtIndex>(),
+        objc::method<"insertSubview:aboveSubview:", &View::insertAbove>(),
+        objc::method<"insertSubview:belowSubview:", &View::insertBelow>(),
+        objc::method<"bringSubviewToFront:", &View::bringToFront>(),
+        objc::method<"sendSubviewToBack:", &View::sendToBack>(),
+        objc::method<"removeFromSuperview", &View::removeFromSuperview>(),
+        objc::method<"isDescendantOfView:", &View::isDescendantOf>(),
+        objc::method<"viewWithTag:", &View::viewWithTag>(),
+        objc::method<"willMoveToSuperview:", &View::ignoreMove>(),
+        objc::method<"didMoveToSuperview", &View::layoutSubviews>(),
+        objc::method<"willMoveToWindow:", &View::ignoreMove>(),
+        objc::method<"didMoveToWindow", &View::layoutSubviews>(),
+        objc::method<"didAddSubview:", &View::ignoreMove>(),
+        objc::method<"willRemoveSubview:", &View::ignoreMove>(),
+        objc::method<"convertPoint:toView:", &View::convertPointTo>(),
+        objc::method<"convertPoint:fromView:", &View::convertPointFrom>(),
+        objc::method<"convertRect:toView:", &View::convertRectTo>(),
+        objc::method<"convertRect:fromView:", &View::convertRectFrom>(),
+        objc::method<"safeAreaInsets", &View::safeAreaInsets>(),
+        objc::method<"layoutSubviews", &View::layoutSubviews>(),
+        objc::method<"setNeedsLayout", &View::setNeedsLayout>(),
+        objc::method<"layoutIfNeeded", &View::layoutIfNeeded>(),
+        objc::method<"setNeedsDisplay", &View::setNeedsDisplay>(),
+        objc::method<"drawRect:", &View::drawRect>(),
+        objc::method<"sizeThatFits:", &View::sizeThatFits>(),
+        objc::method<"sizeToFit", &View::sizeToFit>(),
+        objc::method<"intrinsicContentSize", &View::intrinsicContentSize>(),
+        objc::method<"gestureRecognizers", &View::gestureRecognizers>(),
+        objc::method<"addGestureRecognizer:", &View::addGestureRecognizer>(),
+        objc::method<"removeGestureRecognizer:", &View::removeGestureRecognizer>(),
+    };
+}
+
+View::~View() {
+    for (const auto& child : subviews_) {
+        of(child).superview_ = nullptr;
+    }
+}
+
+ui::View View::initWithFrame(CGRect frame) {
+    setFrame(frame);
+    return self();
+}
+
+void View::setFrame(CGRect frame) {
+    const CGSize former = bounds().size;
+    layer().setFrame(frame);
+    resizeChildren(former);
+}
+
+void View::setBounds(CGRect bounds) {
+    const CGSize former = this->bounds().size;
+    layer().setBounds(bounds);
+    resizeChildren(former);
+}
+
+void View::setAlpha(double alpha) {
+    layer().opacity_ = static_cast<float>(std::isnan(alpha) ? 0 : std::clamp(alpha, 0.0, 1.0));
+}
+
+ui::Color View::tintColor() const {
+    if (tintColor_ || !superview_) {
+        return tintColor_ ? static_cast<ui::Color>(tintColor_) : ui::Color::systemBlue();
+    }
+    return superview_.tintColor();
+}
+
+ns::Array View::gestureRecognizers() const {
+    return recognizers_ ? recognizers_.copied() : ns::Array();
+}
+
+void View::addGestureRecognizer(objc::Object recognizer) {
+    if (!recognizers_) {
+        recognizers_ = ns::MutableArray::make();
+    }
+    recognizers_.remove(recognizer);
+    recognizers_.add(recognizer);
+}
+
+void View::removeGestureRecognizer(objc::Object recognizer) { recognizers_.remove(recognizer); }
+
+} // namespace desktop

@@ -1,0 +1,113 @@
+// UIView: the tree of views, their geometry and their layout.
+#pragma once
+
+#include "bindings/uikit/view.hpp"
+#include "bindings/uikit/window.hpp"
+
+#include "bindings/foundation/string.hpp"
+#include "desktop/class.hpp"
+#include "desktop/quartzcore/layer.hpp"
+
+#include <vector>
+
+namespace desktop {
+
+class View : public PlatformClass<View, ui::View> {
+public:
+    static std::vector<objc::MethodRow> methods();
+
+    View() : layer_(ca::Layer::make()) {}
+    ~View();
+
+    [[nodiscard]] Layer& layer() const { return Layer::of(layer_); }
+    /// Back to front.
+    [[nodiscard]] const std::vector<objc::Strong<ui::View>>& children() const { return subviews_; }
+    [[nodiscard]] ui::View superview() const { return superview_; }
+    [[nodiscard]] ui::Color backgroundColor() const { return backgroundColor_; }
+
+    /// The controller whose view this is; it outlives that role, or takes it back.
+    void setController(ui::Responder controller) { controller_ = controller; }
+
+private:
+    ui::View initWithFrame(CGRect frame);
+    ui::View init() { return self().send<"initWithFrame:", ui::View>(CGRect()); }
+
+    [[nodiscard]] ca::Layer layerObject() const { return layer_; }
+    [[nodiscard]] CGRect frame() const { return layer().frame(); }
+    void setFrame(CGRect frame);
+    [[nodiscard]] CGRect bounds() const { return layer().bounds(); }
+    void setBounds(CGRect bounds);
+    [[nodiscard]] CGPoint center() const { return layer().position(); }
+    void setCenter(CGPoint center) { layer().setPosition(center); }
+    [[nodiscard]] CGAffineTransform transform() const { return layer().transform_; }
+    void setTransform(CGAffineTransform transform) { layer().transform_ = transform; }
+    [[nodiscard]] double alpha() const { return static_cast<double>(layer().opacity_); }
+    void setAlpha(double alpha);
+    [[nodiscard]] bool isHidden() const { return layer().hidden_; }
+    void setHidden(bool hidden) { layer().hidden_ = hidden; }
+    [[nodiscard]] bool clipsToBounds() const { return layer().masksToBounds_; }
+    void setClipsToBounds(bool clips) { layer().masksToBounds_ = clips; }
+    [[nodiscard]] ui::Color tintColor() const;
+    void setTintColor(ui::Color color) { tintColor_ = color; }
+    [[nodiscard]] bool isOpaque() const { return true; }
+
+    [[nodiscard]] ns::Array subviews() const;
+    [[nodiscard]] ui::Window window() const;
+    [[nodiscard]] ui::Responder nextResponder() const;
+    void addSubview(ui::View view);
+    void insertAtIndex(ui::View view, long index);
+    void insertAbove(ui::View view, ui::View sibling);
+    void insertBelow(ui::View view, ui::View sibling);
+    void bringToFront(ui::View view);
+    void sendToBack(ui::View view);
+    void removeFromSuperview();
+    void insert(ui::View view, std::size_t index);
+    [[nodiscard]] std::size_t indexOf(ui::View view) const;
+    [[nodiscard]] bool isDescendantOf(ui::View ancestor) const;
+    [[nodiscard]] ui::View viewWithTag(long tag) const;
+    static void announceWindow(ui::View view, ui::Window window);
+    void ignoreMove(objc::Object) {}
+
+    [[nodiscard]] CGAffineTransform toWindow() const;
+    [[nodiscard]] CGAffineTransform to(ui::View other) const;
+    [[nodiscard]] CGPoint convertPointTo(CGPoint point, ui::View other) const;
+    [[nodiscard]] CGPoint convertPointFrom(CGPoint point, ui::View other) const;
+    [[nodiscard]] CGRect convertRectTo(CGRect rect, ui::View other) const;
+    [[nodiscard]] CGRect convertRectFrom(CGRect rect, ui::View other) const;
+    [[nodiscard]] UIEdgeInsets safeAreaInsets() const;
+
+    void layoutSubviews() {}
+    void setNeedsLayout() { needsLayout_ = true; }
+    void layoutIfNeeded();
+    void setNeedsDisplay() {}
+    void drawRect(CGRect) {}
+    [[nodiscard]] CGSize sizeThatFits(CGSize) const { return bounds().size; }
+    void sizeToFit();
+    [[nodiscard]] CGSize intrinsicContentSize() const;
+    void resizeChildren(CGSize former);
+    void autoresize(CGSize former, CGSize current);
+
+    [[nodiscard]] ns::Array gestureRecognizers() const;
+    void addGestureRecognizer(objc::Object recognizer);
+    void removeGestureRecognizer(objc::Object recognizer);
+
+    objc::Strong<ca::Layer> layer_;
+    std::vector<objc::Strong<ui::View>> subviews_;
+    ui::View superview_;
+    ui::Responder controller_;
+    objc::Strong<ui::Color> backgroundColor_;
+    objc::Strong<ui::Color> tintColor_;
+    objc::Copied<ns::String> accessibilityLabel_;
+    objc::Copied<ns::String> accessibilityIdentifier_;
+    objc::Strong<ns::MutableArray> recognizers_;
+    long tag_ = 0;
+    long contentMode_ = 0;
+    unsigned long autoresizingMask_ = 0;
+    bool userInteractionEnabled_ = true;
+    bool needsLayout_ = true;
+};
+
+/// A measure for which a view has no size of its own.
+inline constexpr double noIntrinsicMetric = -1;
+
+} // namespace desktop

@@ -1,0 +1,168 @@
+// UIView's place in the tree: superviews, subviews, order, and coordinates between views.
+#include "bindings/uikit/view_controller.hpp"
+#include "desktop/coregraphics/affine.hpp"
+#include "desktop/uikit/view.hpp"
+
+#include <algorithm>
+
+namespace desktop {
+
+ns::Array View::subviews() const {
+    const auto array = ns::MutableArray::make();
+    for (const auto& child : subviews_) {
+        array.add(child);
+    }
+    return array;
+}
+
+ui::Window View::window() const {
+    if (const auto window = self().as<ui::Window>(); window) {
+        return window;
+    }
+    return superview_.window();
+}
+
+ui::Responder View::nextResponder() const {
+    return controller_ ? controller_ : static_cast<ui::Responder>(superview_);
+}
+
+std::size_t View::indexOf(ui::View view) const {
+    return static_cast<std::size_t>(std::ranges::find(subviews_, view) - subviews_.begin());
+}
+
+void View::addSubview(ui::View view) { insert(view, subviews_.size()); }
+
+void View::insertAtIndex(ui::View view, long index) {
+    insert(view, static_cast<std::size_t>(std::max(0L, index)));
+}
+
+void View::insertAbove(ui::View view, ui::View sibling) {
+    view.removeFromSuperview();
+    insert(view, indexOf(sibling) + 1);
+}
+
+void View::insertBelow(ui::View view, ui::View sibling) {
+    view.removeFromSuperview();
+    insert(view, indexOf(sibling));
+}
+
+void View::bringToFront(ui::View view) {
+    if (const std::size_t index = indexOf(view); index < subviews_.size()) {
+        std::rotate(subviews_.begin() + static_cast<std::ptrdiff_t>(index),
+                    subviews_.begin() + static_cast<std::ptrdiff_t>(index) + 1, subviews_.end());
+    }
+}
+
+void View::sendToBack(ui::View view) {
+    if (const std::size_t index = indexOf(view); index < subviews_.size()) {
+        std::rotate(subviews_.begin(), subviews_.begin() + static_cast<std::ptrdiff_t>(index),
+                    subviews_.begin() + static_cast<std::ptrdiff_t>(index) + 1);
+    }
+}
+
+void View::insert(ui::View view, std::size_t index) {
+    if (!view || view == self() || isDescendantOf(view)) {
+        return; // a tree has no cycles
+    }
+    const objc::Strong<ui::View> kept = view; // its former superview may own it alone
+    const ui::Window former = view.window();
+    if (view.superview()) {
+        view.removeFromSuperview();
+    }
+    view.send<"willMoveToSuperview:">(self());
+    subviews_.insert(subviews_.begin() +
+                         static_cast<std::ptrdiff_t>(std::min(index, subviews_.size())),
+                     kept);
+    of(view).superview_ = self();
+    self().setNeedsLayout();
+    view.send<"didMoveToSuperview">();
+    if (const ui::Window current = window(); current != former) {
+        announceWindow(view, current);
+    }
+    self().send<"didAddSubview:">(view);
+}
+
+void View::removeFromSuperview() {
+    if (!superview_) {
+        return;
+    }
+    const objc::Strong<ui::View> kept = self();
+    const bool wasInWindow = static_cast<bool>(window());
+    superview_.send<"willRemoveSubview:">(self());
+    self().send<"willMoveToSuperview:">(ui::View());
+    View& parent = of(superview_);
+    std::erase(parent.subviews_, kept);
+    parent.self().setNeedsLayout();
+    superview_ = nullptr;
+    self().send<"didMoveToSuperview">();
+    if (wasInWindow) {
+        announceWindow(self(), nullptr);
+    }
+}
+
+/// Tells a view and everything in it that they have come into a window, or (nil) left theirs.
+void View::announceWindow(ui::View view, ui::Window window) {
+    view.send<"willMoveToWindow:">(window);
+    view.send<"didMoveToWindow">();
+    const auto children = of(view).subviews_; // a copy: the messages may change the tree
+    for (const auto& child : children) {
+        announceWindow(child, window);
+    }
+}
+
+bool View::isDescendantOf(ui::View ancestor) const {
+    for (ui::View view = self(); view; view = view.superview()) {
+        if (view == ancestor) {
+            return true;
+        }
+    }
+    return false;
+}
+
+ui::View View::viewWithTag(long tag) const {
+    if (tag_ == tag) {
+        return self();
+    }
+    for (const auto& child : subviews_) {
+        if (const ui::View found = child.viewWithTag(tag); found) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+CGAffineTransform View::toWindow() const {
+    CGAffineTransform transform;
+    for (ui::View view = self(); view; view = view.superview()) {
+        // A window's own place on the screen is not part of its coordinates.
+        if (view.as<ui::Window>()) {
+            const CGPoint origin = view.bounds().origin;
+            return concatenated(transform, {1, 0, 0, 1, -origin.x, -origin.y});
+        }
+        transform = concatenated(transform, of(view).layer().toSuperlayer());
+    }
+    return transform;
+}
+
+CGAffineTransform View::to(ui::View other) const {
+    if (!other) {
+        return toWindow();
+    }
+    return concatenated(toWindow(), inverted(of(other).toWindow()).value_or(CGAffineTransform()));
+}
+
+CGPoint View::convertPointTo(CGPoint point, ui::View other) const {
+    return apply(to(other), point);
+}
+
+CGPoint View::convertPointFrom(CGPoint point, ui::View other) const {
+    return apply(inverted(to(other)).value_or(CGAffineTransform()), point);
+}
+
+CGRect View::convertRectTo(CGRect rect, ui::View other) const { return apply(to(other), rect); }
+
+CGRect View::convertRectFrom(CGRect rect, ui::View other) const {
+    return apply(inverted(to(other)).value_or(CGAffineTransform()), rect);
+}
+
+} // namespace desktop

@@ -1,0 +1,95 @@
+// UIView's layout: passes over the tree, sizes to fit, autoresizing, the safe area.
+#include "desktop/uikit/screen.hpp"
+#include "desktop/uikit/view.hpp"
+
+#include <algorithm>
+
+namespace desktop {
+
+void View::layoutIfNeeded() {
+    // A layout may ask for another one; a few rounds settle what can be settled.
+    constexpr int rounds = 4;
+    for (int round = 0; needsLayout_ && round < rounds; ++round) {
+        needsLayout_ = false;
+        self().layoutSubviews();
+    }
+    const auto children = subviews_; // a copy: layout may change the tree
+    for (const auto& child : children) {
+        child.layoutIfNeeded();
+    }
+}
+
+void View::sizeToFit() {
+    const CGSize size = self().sizeThatFits(bounds().size);
+    self().setFrame({frame().origin, size});
+}
+
+CGSize View::intrinsicContentSize() const { return {noIntrinsicMetric, noIntrinsicMetric}; }
+
+void View::resizeChildren(CGSize former) {
+    const CGSize current = bounds().size;
+    if (current == former) {
+        return;
+    }
+    needsLayout_ = true;
+    for (const auto& child : subviews_) {
+        of(child).autoresize(former, current);
+    }
+}
+
+namespace {
+
+/// One dimension of autoresizing: the change is shared among what is flexible, in proportion.
+void stretch(double& origin, double& length, double former, double current, bool before,
+             bool itself, bool after) {
+    const double change = current - former;
+    const double rest = former - origin - length;
+    const double flexible =
+        (before ? origin : 0.0) + (itself ? length : 0.0) + (after ? rest : 0.0);
+    const int parts = static_cast<int>(before) + static_cast<int>(itself) + static_cast<int>(after);
+    if (parts == 0) {
+        return;
+    }
+    const auto share = [&](double part) {
+        return flexible > 0 ? change * part / flexible : change / parts;
+    };
+    const double grow = itself ? share(length) : 0;
+    origin += before ? share(origin) : 0;
+    length += grow;
+}
+
+} // namespace
+
+void View::autoresize(CGSize former, CGSize current) {
+    using namespace ui::autoresizing;
+    const auto flexible = [this](unsigned long bit) { return (autoresizingMask_ & bit) != 0; };
+    CGRect frame = this->frame();
+    const CGRect before = frame;
+    stretch(frame.origin.x, frame.size.width, former.width, current.width,
+            flexible(flexibleLeftMargin), flexible(flexibleWidth), flexible(flexibleRightMargin));
+    stretch(frame.origin.y, frame.size.height, former.height, current.height,
+            flexible(flexibleTopMargin), flexible(flexibleHeight),
+            flexible(flexibleBottomMargin));
+    if (frame != before) {
+        self().setFrame(frame);
+    }
+}
+
+UIEdgeInsets View::safeAreaInsets() const {
+    const ui::Window window = this->window();
+    if (!window) {
+        return {};
+    }
+    const CGRect screen = window.bounds();
+    const CGRect own = convertRectTo(bounds(), nullptr);
+    const UIEdgeInsets unsafe = ScreenGeometry::current().safeArea;
+    const auto overlap = [](double unsafeEdge, double distance) {
+        return std::max(0.0, unsafeEdge - std::max(0.0, distance));
+    };
+    return {overlap(unsafe.top, own.origin.y), overlap(unsafe.left, own.origin.x),
+            overlap(unsafe.bottom,
+                    screen.size.height - own.origin.y - own.size.height),
+            overlap(unsafe.right, screen.size.width - own.origin.x - own.size.width)};
+}
+
+} // namespace desktop

@@ -1,0 +1,60 @@
+// Windows: their controller, and which of them is visible and key.
+#include "desktop/uikit/window.hpp"
+
+#include "desktop/uikit/application.hpp"
+
+namespace desktop {
+
+ui::Window Window::initWithFrame(CGRect frame) {
+    super<"initWithFrame:", ui::View>(frame);
+    super<"setHidden:">(true); // a window shows when it is asked to
+    scene_ = Application::shared().scene();
+    return self();
+}
+
+ui::Window Window::initWithWindowScene(ui::WindowScene scene) {
+    self().send<"initWithFrame:", ui::Window>(ui::Screen::main().bounds());
+    scene_ = scene;
+    return self();
+}
+
+Window::~Window() { Application::shared().forget(self()); }
+
+void Window::setRootViewController(ui::ViewController controller) {
+    if (rootController_) {
+        rootController_.view().removeFromSuperview();
+    }
+    rootController_ = controller;
+    if (controller) {
+        controller.view().setFrame(self().bounds());
+        self().insertSubview(controller.view(), 0);
+    }
+}
+
+objc::Object Window::screen() const { return ui::Screen::main(); }
+
+bool Window::isKeyWindow() const { return Application::shared().keyWindow() == self(); }
+
+void Window::makeKeyWindow() { Application::shared().setKeyWindow(self()); }
+
+void Window::makeKeyAndVisible() {
+    self().setHidden(false);
+    makeKeyWindow();
+}
+
+void Window::setHidden(bool hidden) {
+    super<"setHidden:">(hidden);
+    if (!hidden) {
+        Application::shared().show(self());
+    }
+}
+
+ui::Responder Window::nextResponder() const { return ui::Application::shared(); }
+
+void Window::layoutSubviews() {
+    if (rootController_) {
+        rootController_.view().setFrame(self().bounds());
+    }
+}
+
+} // namespace desktop
