@@ -13,7 +13,7 @@ build  libgnustep-base-dev      Foundation on the desktop
 build  libobjc-12-dev           the Objective-C runtime on the desktop
 build  libcairo2-dev            draws shapes and pictures
 build  libpango1.0-dev          lays out text
-build  libharfbuzz-dev          shapes text
+build  libharfbuzz-dev          measures fonts
 build  libfontconfig-dev        finds fonts
 build  libgdk-pixbuf-2.0-dev    reads JPEG pictures
 build  nlohmann-json3-dev       the JSON of the automation protocol
@@ -23,6 +23,7 @@ build  fonts-inter              Latin text
 build  fonts-noto-cjk           Chinese text
 build  fonts-noto-color-emoji   emoji
 build  fonts-dejavu-core        serif and monospaced faces
+build  fonts-dejavu-extra       italic and condensed faces
 build  python3                  runs the tour and other client scripts
 format clang-format             formats the sources
 lint   clang-tidy               finds faults in the sources
