@@ -31,6 +31,11 @@ public:
         return strong;
     }
 
+    /// A reference that the current pool keeps alive, whatever becomes of this one.
+    [[nodiscard]] Kind autoreleased() const {
+        return this->template send<"retain", Object>().template send<"autorelease", Kind>();
+    }
+
     /// Gives the reference up: the caller owns it from now on.
     [[nodiscard]] Kind release() noexcept { return std::exchange(static_cast<Kind&>(*this), Kind()); }
 };

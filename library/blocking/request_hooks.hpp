@@ -1,0 +1,17 @@
+// The hooks on the platform's URL and networking classes.
+#pragma once
+
+#include "bindings/objc/hook.hpp"
+
+#include <span>
+
+namespace wentra::blocking {
+
+/// Works out where the preference file is, once for the life of the process: the hooks of this
+/// folder read it from there.
+void resolvePreferencePath();
+
+/// The ten entry points at which requests are stopped.
+std::span<const objc::Change> requestHooks();
+
+} // namespace wentra::blocking

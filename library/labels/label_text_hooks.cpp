@@ -1,0 +1,96 @@
+// Label texts on their way to the platform: styled by the text that was asked for, then replaced.
+#include "library/labels/label_text_hooks.hpp"
+
+#include "bindings/objc/pool.hpp"
+#include "bindings/uikit/label.hpp"
+#include "library/labels/label_style.hpp"
+#include "library/labels/stored_rules.hpp"
+#include "library/labels/text_replacement.hpp"
+#include "library/labels/yy_label.hpp"
+#include "library/startup/preferences.hpp"
+
+#include <array>
+
+namespace wentra::labels {
+namespace {
+
+using namespace ns::literals;
+using startup::Preferences;
+
+/// The text that a label shows instead: `text` itself when no rule says otherwise.
+ns::String replaced(ns::String text) {
+    const StoredRules rules(RuleKind::text);
+    const auto result =
+        replacedText(text.utf16(), [&rules](std::u16string_view key) -> std::optional<std::u16string> {
+            const ns::String value = rules.text(ns::String::from(key));
+            return value ? std::optional(value.utf16()) : std::nullopt;
+        });
+    return result ? ns::String::from(*result) : text;
+}
+
+/// Hosts do pass nil, and objects that are no strings; these are none of our business.
+bool canBeRewritten(ns::String text) { return text.as<ns::String>() && text.length() > 0; }
+
+void rewriteLabel(objc::Next<void(ns::String)> next, ui::Label label, ns::String text) {
+    if (!canBeRewritten(text)) {
+        next(text);
+        return;
+    }
+    const objc::Pool pool; // a background thread may have none
+    const Preferences preferences = Preferences::read();
+    applyColourRule(label, text, preferences);
+    applySizeRules(label, text, preferences);
+    applyFrameRules(label, text, preferences);
+    applyFontRules(label, text, preferences);
+    next(replaced(text));
+}
+
+void rewriteYYLabel(objc::Next<void(ns::String)> next, YYLabel label, ns::String text) {
+    if (!canBeRewritten(text)) {
+        next(text);
+        return;
+    }
+    const objc::Pool pool;
+    const Preferences preferences = Preferences::read();
+    applyColourRule(label, text, preferences);
+    applyTextSizeRule(label, text, preferences);
+    applyFrameRules(label, text, preferences);
+    applyTextFontRule(label, text, preferences);
+    next(replaced(text));
+}
+
+/// One text is never shown by any label: it only makes the label's font small.
+void withholdOneText(objc::Next<void(ns::String)> next, ui::Label label, ns::String text) {
+    constexpr double smallSize = 10;
+    if (text.as<ns::String>() &&
+        text.isEqualToString(u"感谢逆向，没技术含量的插件。"_ns)) {
+        label.setFont(ui::Font::system(smallSize));
+        return;
+    }
+    next(text);
+}
+
+} // namespace
+
+std::span<const objc::Change> labelTextLoad() {
+    static constexpr std::array changes{
+        objc::exchange<"UILabel", "setText:", "hook_setText:", &rewriteLabel>(),
+    };
+    return changes;
+}
+
+std::span<const objc::Change> yyLabelTextLoad() {
+    static constexpr std::array changes{
+        objc::exchange<"YYLabel", "setText:", "hook_setText:", &rewriteYYLabel>(),
+    };
+    return changes;
+}
+
+std::span<const objc::Change> labelTextHooks() {
+    static constexpr std::array changes{
+        objc::hook<"UILabel", "setText:", &withholdOneText>(),
+    };
+    return changes;
+}
+
+} // namespace wentra::labels

@@ -1,0 +1,73 @@
+// Reading and writing the rule maps of the user defaults.
+#include "library/labels/stored_rules.hpp"
+
+#include "bindings/foundation/number.hpp"
+#include "library/labels/rule_text.hpp"
+
+namespace wentra::labels {
+namespace {
+
+using namespace ns::literals;
+
+/// The defaults keys as constant strings, so that the hooks need not make them at each label.
+ns::String defaultsKey(RuleKind kind) {
+    static const std::array keys = [] {
+        std::array<objc::Strong<ns::String>, ruleKindCount> made;
+        for (const RuleKind each : storingOrder) {
+            made[ruleKindIndex(each)] = ns::String::from(ruleKindNames(each).defaultsKey);
+        }
+        return made;
+    }();
+    return keys[ruleKindIndex(kind)];
+}
+
+} // namespace
+
+StoredRules::StoredRules(RuleKind kind)
+    : map_(ns::UserDefaults::standard().dictionary(defaultsKey(kind))) {}
+
+ns::String StoredRules::text(ns::String key) const { return map_.get(key).as<ns::String>(); }
+
+std::optional<double> StoredRules::number(ns::String key) const {
+    const objc::Object value = map_.get(key);
+    if (const auto text = value.as<ns::String>(); text) {
+        return text.floatValue();
+    }
+    if (const auto number = value.as<ns::Number>(); number) {
+        return number.floatValue();
+    }
+    return std::nullopt;
+}
+
+RuleSet storedRuleSet() {
+    RuleSet rules;
+    for (const RuleKind kind : listingOrder) {
+        const StoredRules stored(kind);
+        const auto map = ns::UserDefaults::standard().dictionary(defaultsKey(kind));
+        for (const objc::Object entry : map.allKeys()) {
+            const auto key = entry.as<ns::String>();
+            if (const ns::String value = stored.text(key); key && value) {
+                rules[kind].assign(key.utf16(), value.utf16());
+            }
+        }
+    }
+    return rules;
+}
+
+void storeRuleSet(const RuleSet& rules) {
+    const auto defaults = ns::UserDefaults::standard();
+    for (const RuleKind kind : storingOrder) {
+        const auto map = ns::MutableDictionary::make();
+        for (const Rule& rule : rules[kind]) {
+            map.set(ns::String::from(rule.value), ns::String::from(rule.key));
+        }
+        if (!rules[kind].empty()) {
+            defaults.set(map, defaultsKey(kind));
+        }
+    }
+    defaults.synchronize();
+}
+
+void saveRuleText(std::u16string_view editorText) { storeRuleSet(parseRules(editorText)); }
+
+} // namespace wentra::labels

@@ -1,0 +1,20 @@
+// ZKViewModel: the owner of the floating toolbox, one in each process.
+#pragma once
+
+#include "bindings/uikit/view_controller.hpp"
+
+namespace wentra::toolbox {
+
+struct ViewModel : objc::Kind<ViewModel, "ZKViewModel", ui::ViewController> {
+    using Kind::Kind;
+
+    void updateView() const { send<"updateView">(); }
+};
+
+/// Declares the class.
+void registerViewModel();
+
+/// Creates the process's view model on the main queue, 0.3 s from now, and tells it to update.
+void scheduleViewModel();
+
+} // namespace wentra::toolbox
