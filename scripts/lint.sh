@@ -23,12 +23,13 @@ tidy() {
 }
 
 scripts/install.sh build format lint
+status=0
 printf '== shellcheck\n'
-shellcheck dev .ci/run scripts/*.sh tests/scripts/*.sh
-[[ "${1:-}" == --scripts ]] && exit 0
+shellcheck dev .ci/run scripts/*.sh tests/scripts/*.sh || status=1
+[[ "${1:-}" == --scripts ]] && exit "$status"
 
 printf '== clang-format\n'
-scripts/format.sh --check "$@"
+scripts/format.sh --check "$@" || status=1
 
 printf '== clang-tidy\n'
 sources=("$@")
@@ -38,5 +39,6 @@ fi
 if [[ ${#sources[@]} == 0 ]]; then
     printf 'No source has changed.\n'
 else
-    tidy "${sources[@]}"
+    tidy "${sources[@]}" || status=1
 fi
+exit "$status"
