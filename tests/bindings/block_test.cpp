@@ -1,0 +1,62 @@
+// Blocks: made from lambdas, kept by the platform, called from both sides.
+#include "bindings/foundation/array.hpp"
+#include "bindings/foundation/notification_center.hpp"
+#include "bindings/objc/block.hpp"
+#include "bindings/objc/pool.hpp"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <stdexcept>
+
+namespace {
+
+using namespace ns::literals;
+
+TEST(Block, CallsTheLambdaWithItsTypes) {
+    const objc::Pool pool;
+    const auto block = objc::Block<double(bool, int)>::from(
+        [](bool add, int value) { return add ? value + 0.5 : 0.0; });
+    EXPECT_EQ(block(true, 2), 2.5);
+    EXPECT_EQ(block(false, 2), 0.0);
+}
+
+TEST(Block, KeepsWhatItCapturesAsLongAsAnyoneHoldsIt) {
+    auto captured = std::make_shared<int>(1);
+    const std::weak_ptr<int> watched = captured;
+    objc::Strong<objc::Block<int()>> held;
+    {
+        const objc::Pool pool;
+        held = objc::Block<int()>::from([captured] { return *captured; });
+        const auto array = ns::MutableArray::make();
+        array.add(held);
+        const auto copy = objc::Copied<objc::Object>(held);
+        EXPECT_EQ(copy, static_cast<objc::Object>(held)) << "a heap block is copied by retaining";
+    }
+    captured.reset();
+    ASSERT_FALSE(watched.expired());
+    EXPECT_EQ(held(), 1);
+    held = nullptr;
+    EXPECT_TRUE(watched.expired());
+}
+
+TEST(Block, IsCalledByFoundation) {
+    const objc::Pool pool;
+    int calls = 0;
+    ns::NotificationCenter::defaultCenter().observe(
+        u"TestNotification"_ns, nullptr, nullptr,
+        objc::Block<void(ns::Notification)>::from([&calls](ns::Notification notification) {
+            calls += notification.name().isEqualToString(u"TestNotification"_ns) ? 1 : 100;
+        }));
+    ns::NotificationCenter::defaultCenter().post(u"TestNotification"_ns, nullptr);
+    EXPECT_EQ(calls, 1);
+}
+
+TEST(Block, ContainsWhatItsLambdaThrows) {
+    const objc::Pool pool;
+    const auto block =
+        objc::Block<int()>::from([]() -> int { throw std::runtime_error("inside"); });
+    EXPECT_EQ(block(), 0);
+}
+
+} // namespace
