@@ -6,10 +6,12 @@
 #include "desktop/uikit/application.hpp"
 #include "desktop/uikit/color.hpp"
 #include "desktop/uikit/compositor.hpp"
+#include "desktop/uikit/control.hpp"
 #include "desktop/uikit/font.hpp"
 #include "desktop/uikit/image.hpp"
 #include "desktop/uikit/image_view.hpp"
 #include "desktop/uikit/label.hpp"
+#include "desktop/uikit/menu_controller.hpp"
 #include "desktop/uikit/navigation_bar.hpp"
 #include "desktop/uikit/navigation_item.hpp"
 #include "desktop/uikit/pasteboard.hpp"
@@ -18,6 +20,8 @@
 #include "desktop/uikit/scroll_view.hpp"
 #include "desktop/uikit/stack_view.hpp"
 #include "desktop/uikit/status_bar.hpp"
+#include "desktop/uikit/text_field.hpp"
+#include "desktop/uikit/text_view.hpp"
 #include "desktop/uikit/view.hpp"
 #include "desktop/uikit/view_controller.hpp"
 #include "desktop/uikit/window.hpp"
@@ -45,8 +49,8 @@ UIEdgeInsets safeAreaOf(CGSize size) {
 void registerClasses() {
     const objc::Pool pool;
     registerAll<Color, UIFont, UIImage, Layer, Screen, WindowScene, Pasteboard, NavigationItem,
-                Responder, Application, ViewController, View, Window, Label, ImageView, ScrollView,
-                StackView, NavigationBar>();
+                MenuController, Responder, Application, ViewController, View, Window, Label,
+                ImageView, ScrollView, StackView, NavigationBar, Control, TextField, TextView>();
 }
 
 void startApplication(ScreenSize size) {
