@@ -29,10 +29,16 @@ void refuseLargePicture(GdkPixbufLoader* loader, int width, int height, gpointer
     }
 }
 
+// The pixels of a picture that ends early would otherwise be left as the memory was.
+void makeClear(GdkPixbufLoader* loader, gpointer) {
+    gdk_pixbuf_fill(gdk_pixbuf_loader_get_pixbuf(loader), 0);
+}
+
 Pixbuf decodePixbuf(std::span<const std::byte> bytes) {
     bool refused = false;
     const Loader loader(gdk_pixbuf_loader_new());
     g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(refuseLargePicture), &refused);
+    g_signal_connect(loader.get(), "area-prepared", G_CALLBACK(makeClear), nullptr);
     const bool written =
         gdk_pixbuf_loader_write(loader.get(), reinterpret_cast<const guchar*>(bytes.data()),
                                 bytes.size(), nullptr) != FALSE;

@@ -20,7 +20,7 @@ class Image {
 public:
     /// Reads a picture of any supported format; `scale` is pixels per point (not positive or NaN:
     /// 1). Nothing when the file is missing, no picture, damaged, or larger than
-    /// `largestSide` pixels on a side.
+    /// `largestSide` pixels on a side; what a picture that ends early lacks may be clear or black.
     static std::optional<Image> load(const std::filesystem::path& file, double scale = 1);
     /// As `load`, from the bytes of a file.
     static std::optional<Image> decode(std::span<const std::byte> bytes, double scale = 1);

@@ -28,7 +28,7 @@ double horizontalPlace(const Line& line, std::size_t unit) {
 }
 
 std::size_t unitNear(const Line& line, double x) {
-    const double inside = std::clamp(x - line.x, 0.0, TextFrame::widestLine);
+    const double inside = x > line.x ? std::min(x - line.x, TextFrame::widestLine) : 0;
     int byte = 0;
     int trailing = 0;
     pango_layout_line_x_to_index(line.shaped, static_cast<int>(inside * PANGO_SCALE), &byte,
@@ -128,6 +128,8 @@ std::size_t TextLayout::indexAt(Point point) const {
 }
 
 void TextLayout::draw(cairo_t* context, Point origin) const {
+    if (!std::isfinite(origin.x) || !std::isfinite(origin.y))
+        return;
     Rectangle clip;
     double right = 0;
     double bottom = 0;
