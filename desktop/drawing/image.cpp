@@ -35,6 +35,8 @@ void makeClear(GdkPixbufLoader* loader, gpointer) {
 }
 
 Pixbuf decodePixbuf(std::span<const std::byte> bytes) {
+    if (bytes.empty())
+        return nullptr;
     bool refused = false;
     const Loader loader(gdk_pixbuf_loader_new());
     g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(refuseLargePicture), &refused);

@@ -6,8 +6,11 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <cmath>
 #include <string>
+#include <thread>
+#include <vector>
 
 using namespace desktop;
 
@@ -288,6 +291,17 @@ TEST(TextLayout, SetsOfAMillionCharactersWhatCanBeSeen) {
                       .width,
                   TextFrame::widestLine + 1);
     }
+}
+
+TEST(TextLayout, MeasuresOnSeveralThreads) {
+    const Size expected = lay(u"Settings 设置").size();
+    std::vector<std::thread> threads;
+    std::atomic<int> equal = 0;
+    for (int count = 0; count < 4; ++count)
+        threads.emplace_back([&] { equal += lay(u"Settings 设置").size() == expected ? 1 : 0; });
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(equal, 4);
 }
 
 TEST(TextLayout, SetsLongTextAsShortText) {
