@@ -2,16 +2,16 @@
 #include "library/startup/decimal_number.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
 #include <limits>
 
 namespace wentra::startup {
 namespace {
 
-constexpr bool isDigit(char character) {
-    return character >= '0' && character <= '9';
-}
+constexpr bool isDigit(char character) { return character >= '0' && character <= '9'; }
 
 constexpr std::uint64_t digitValue(char character) {
     if (isDigit(character))
@@ -20,10 +20,16 @@ constexpr std::uint64_t digitValue(char character) {
     return lower >= 'a' && lower <= 'f' ? static_cast<std::uint64_t>(lower - 'a' + 10) : 16;
 }
 
+constexpr bool isSpace(char character) {
+    return character == ' ' || character == '\t' || character == '\r' || character == '\n';
+}
+
 std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view whiteSpace = " \t\r\n";
-    const std::size_t begin = std::min(text.find_first_not_of(whiteSpace), text.size());
-    return text.substr(begin, text.find_last_not_of(whiteSpace) + 1 - begin);
+    while (!text.empty() && isSpace(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isSpace(text.back()))
+        text.remove_suffix(1);
+    return text;
 }
 
 std::size_t signLength(std::string_view text) {
@@ -62,13 +68,26 @@ Exponent scanExponent(std::string_view text) {
     return {text[1] == '-' ? -value : value, end};
 }
 
+// The powers of ten that a double holds exactly.
+constexpr auto powersOfTen = [] {
+    std::array<double, 23> powers{1};
+    for (std::size_t exponent = 1; exponent < powers.size(); ++exponent)
+        powers[exponent] = powers[exponent - 1] * 10;
+    return powers;
+}();
+
+double powerOfTen(std::uint64_t exponent) {
+    return exponent < powersOfTen.size() ? powersOfTen[exponent]
+                                         : std::pow(10.0, static_cast<double>(exponent));
+}
+
 // Both operands are exact, so the result is rounded once, for every number of everyday size.
 double scaled(std::uint64_t digits, std::int64_t exponent) {
     if (digits == 0)
         return 0;
     const auto value = static_cast<double>(digits);
-    const auto power = static_cast<double>(std::abs(exponent));
-    return exponent < 0 ? value / std::pow(10.0, power) : value * std::pow(10.0, power);
+    const double power = powerOfTen(static_cast<std::uint64_t>(std::abs(exponent)));
+    return exponent < 0 ? value / power : value * power;
 }
 
 } // namespace
@@ -103,12 +122,13 @@ std::optional<double> integerValue(std::string_view text) {
     const bool hexadecimal = text.starts_with("0x") || text.starts_with("0X");
     text.remove_prefix(hexadecimal ? 2 : 0);
     const std::uint64_t base = hexadecimal ? 16 : 10;
-    const std::uint64_t limit = negative ? std::uint64_t{1} << 63
-                                         : std::numeric_limits<std::uint64_t>::max();
+    const std::uint64_t limit =
+        negative ? std::uint64_t{1} << 63 : std::numeric_limits<std::uint64_t>::max();
+    const std::uint64_t largestMultiplied = hexadecimal ? limit / 16 : limit / 10;
     std::uint64_t magnitude = 0;
     for (const char character : text) {
         const std::uint64_t digit = digitValue(character);
-        if (digit >= base || magnitude > (limit - digit) / base)
+        if (digit >= base || magnitude > largestMultiplied || magnitude * base > limit - digit)
             return std::nullopt;
         magnitude = magnitude * base + digit;
     }

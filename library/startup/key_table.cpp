@@ -17,14 +17,19 @@ constexpr std::size_t shortestName =
     std::ranges::min(knownKeys, {}, [](const Key& key) { return key.name().size(); }).name().size();
 static_assert(shortestName >= 4, "a digest reads four bytes at once");
 
-// Names differ in their length or in the bytes at either end, so the middle need not be read.
+// Names differ at one of their ends, so the middle need not be read.
 constexpr std::uint64_t digest(std::string_view name) {
-    const char* begin = name.data();
-    const char* end = begin + name.size();
-    const std::uint64_t head = name.size() < 8 ? littleEndian<4>(begin) : littleEndian<8>(begin);
-    const std::uint64_t tail = name.size() < 8 ? littleEndian<4>(end - 4) : littleEndian<8>(end - 8);
-    return (head * 0x9E3779B97F4A7C15U) ^ std::rotl(tail, 29) ^ name.size();
+    const char* end = name.data() + name.size();
+    const std::uint64_t head = littleEndian<std::uint32_t>(name.data());
+    return head << 32 | littleEndian<std::uint32_t>(end - 4);
 }
+
+constexpr auto digests = [] {
+    std::array<std::uint64_t, knownKeyCount> result{};
+    std::ranges::transform(knownKeys, result.begin(),
+                           [](const Key& key) { return digest(key.name()); });
+    return result;
+}();
 
 class PerfectHash {
 public:
@@ -33,9 +38,7 @@ public:
             multiplier_ += 2;
     }
 
-    constexpr std::size_t operator[](std::uint64_t digest) const {
-        return indices_[place(digest)];
-    }
+    constexpr std::size_t operator[](std::uint64_t digest) const { return indices_[place(digest)]; }
 
 private:
     static constexpr int placeBits = 11;
@@ -47,7 +50,7 @@ private:
     consteval bool fill() {
         indices_.fill(emptyPlace);
         for (std::size_t index = 0; index < knownKeyCount; ++index) {
-            auto& entry = indices_[place(digest(knownKeys[index].name()))];
+            auto& entry = indices_[place(digests[index])];
             if (entry != emptyPlace)
                 return false;
             entry = static_cast<unsigned char>(index);

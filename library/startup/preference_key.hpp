@@ -15,8 +15,8 @@ public:
 
     /// From a UTF-8 literal of at most `capacity` bytes.
     template <std::size_t Size>
-        requires(Size <= capacity + 1)
-    explicit constexpr Key(const char (&name)[Size]) : length_{static_cast<unsigned char>(Size - 1)} {
+    requires(Size <= capacity + 1) explicit constexpr Key(const char (&name)[Size])
+        : length_{static_cast<unsigned char>(Size - 1)} {
         for (std::size_t index = 0; index + 1 < Size; ++index)
             name_[index] = name[index];
     }

@@ -10,27 +10,19 @@ namespace {
 
 constexpr std::string_view documentFolder = "/var/mobile/Documents/";
 
-std::string documentPath(std::string_view name) {
-    return std::string(documentFolder).append(name);
-}
+std::string documentPath(std::string_view name) { return std::string(documentFolder).append(name); }
 
 std::string rootfulBundlePath(std::string_view name) {
     return rootfulPath(std::string(bundleFolder).append(name));
 }
 
-bool exists(const std::string& path) {
-    return access(path.c_str(), F_OK) == 0;
-}
+bool exists(const std::string& path) { return access(path.c_str(), F_OK) == 0; }
 
 } // namespace
 
-std::string colourListPath() {
-    return bundlePath("colors.plist");
-}
+std::string colourListPath() { return bundlePath("colors.plist"); }
 
-std::string iconFolder() {
-    return rootfulBundlePath("tubiao/");
-}
+std::string iconFolder() { return rootfulBundlePath("tubiao/"); }
 
 std::string iconPath(std::string_view name) {
     return rootfulBundlePath(std::string("tubiao/").append(name).append(".png"));

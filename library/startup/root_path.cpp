@@ -30,9 +30,7 @@ Operations operations;
 std::once_flag operationsFlag;
 
 // This folder, not /var/jb, is what the fallbacks ask about; other layouts leave it out on purpose.
-bool hasMarkerFolder() {
-    return access("/var/LIY", F_OK) == 0;
-}
+bool hasMarkerFolder() { return access("/var/LIY", F_OK) == 0; }
 
 bool beginsWith(const char* path, const char* prefix) {
     return std::strncmp(path, prefix, std::strlen(prefix)) == 0;
@@ -46,23 +44,16 @@ char* join(const char* prefix, const char* path, char* buffer) {
     return buffer;
 }
 
-const char* fallbackRootPrefix() {
-    return "";
-}
+const char* fallbackRootPrefix() { return ""; }
 
-const char* fallbackJbrootPrefix() {
-    return hasMarkerFolder() ? "/var/jb" : "";
-}
+const char* fallbackJbrootPrefix() { return hasMarkerFolder() ? "/var/jb" : ""; }
 
-const char* fallbackBootIdentifier() {
-    return "00000000-0000-0000-0000-000000000000";
-}
+const char* fallbackBootIdentifier() { return "00000000-0000-0000-0000-000000000000"; }
 
 char* fallbackJbrootPath(const char* path, char* buffer) {
     if (path == nullptr)
         return nullptr;
-    const bool unchanged =
-        path[0] != '/' || (beginsWith(path, "/var/mobile") && hasMarkerFolder());
+    const bool unchanged = path[0] != '/' || (beginsWith(path, "/var/mobile") && hasMarkerFolder());
     return join(unchanged ? "" : libroot_dyn_get_jbroot_prefix(), path, buffer);
 }
 
@@ -96,9 +87,7 @@ void fillOperations() {
 
 } // namespace
 
-void libroot_load() {
-    std::call_once(operationsFlag, fillOperations);
-}
+void libroot_load() { std::call_once(operationsFlag, fillOperations); }
 
 const char* libroot_dyn_get_root_prefix() {
     libroot_load();

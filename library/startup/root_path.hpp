@@ -1,4 +1,5 @@
-// Where the files of a jailbreak live: prefixes and path conversions, given by its library or by us.
+// Where the files of a jailbreak live: prefixes and path conversions, given by its library or by
+// us.
 #pragma once
 
 #include <string>

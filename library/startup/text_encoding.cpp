@@ -18,16 +18,15 @@ struct Decoded {
 
 constexpr Decoded malformed{replacementCharacter, 0};
 
-constexpr bool isSurrogate(char32_t unit) {
-    return unit >= 0xD800 && unit <= 0xDFFF;
-}
+constexpr bool isSurrogate(char32_t unit) { return unit >= 0xD800 && unit <= 0xDFFF; }
 
 constexpr char32_t byteAt(std::string_view bytes, std::size_t index) {
     return static_cast<unsigned char>(bytes[index]);
 }
 
-constexpr bool isContinuation(char32_t byte) {
-    return (byte & 0xC0) == 0x80;
+// The bits a continuation byte brings, or some beyond them when it is none.
+constexpr char32_t continuation(std::string_view bytes, std::size_t index) {
+    return byteAt(bytes, index) ^ 0x80;
 }
 
 // The bytes must not be empty.
@@ -35,26 +34,32 @@ constexpr Decoded decode(std::string_view bytes) {
     const char32_t first = byteAt(bytes, 0);
     if (first < 0x80)
         return {first, 1};
-    const std::size_t size = first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
-    if (first < 0xC2 || first > 0xF4 || bytes.size() < size)
-        return malformed;
-    char32_t character = first & (0x7FU >> size);
-    for (std::size_t index = 1; index < size; ++index) {
-        if (!isContinuation(byteAt(bytes, index)))
-            return malformed;
-        character = character << 6 | (byteAt(bytes, index) & 0x3F);
+    if (first < 0xE0 && bytes.size() >= 2) {
+        const char32_t second = continuation(bytes, 1);
+        const char32_t character = (first & 0x1F) << 6 | second;
+        return second < 0x40 && first >= 0xC2 ? Decoded{character, 2} : malformed;
     }
-    const bool overlong = (size == 3 && character < 0x800) || (size == 4 && character < 0x10000);
-    if (overlong || isSurrogate(character) || character > 0x10FFFF)
+    if (first < 0xF0 && bytes.size() >= 3) {
+        const char32_t second = continuation(bytes, 1);
+        const char32_t third = continuation(bytes, 2);
+        const char32_t character = (first & 0x0F) << 12 | second << 6 | third;
+        const bool sound = (second | third) < 0x40 && character >= 0x800 && !isSurrogate(character);
+        return sound ? Decoded{character, 3} : malformed;
+    }
+    if (bytes.size() < 4)
         return malformed;
-    return {character, size};
+    const char32_t second = continuation(bytes, 1);
+    const char32_t third = continuation(bytes, 2);
+    const char32_t fourth = continuation(bytes, 3);
+    const char32_t character = (first & 0x07) << 18 | second << 12 | third << 6 | fourth;
+    const bool sound = (second | third | fourth) < 0x40 && first < 0xF8 && character >= 0x10000 &&
+                       character <= 0x10FFFF;
+    return sound ? Decoded{character, 4} : malformed;
 }
 
 constexpr char16_t unitAt(std::string_view bytes, std::size_t index, ByteOrder order) {
-    const char32_t first = byteAt(bytes, 2 * index);
-    const char32_t second = byteAt(bytes, 2 * index + 1);
-    return static_cast<char16_t>(order == ByteOrder::bigEndian ? first << 8 | second
-                                                               : second << 8 | first);
+    const unsigned unit = littleEndian<std::uint16_t>(bytes.data() + 2 * index);
+    return static_cast<char16_t>(order == ByteOrder::bigEndian ? unit << 8 | unit >> 8 : unit);
 }
 
 void appendUtf16(char32_t character, std::u16string& utf16) {
@@ -66,24 +71,30 @@ void appendUtf16(char32_t character, std::u16string& utf16) {
 }
 
 // Writes the character at `out`, which has room for it, and gives the place after it.
-char* writeUtf8(char32_t character, char* out) {
-    const auto put = [&out](char32_t byte) { *out++ = static_cast<char>(byte); };
+constexpr char* writeUtf8(char32_t character, char* out) {
+    const auto low = [character](int shift) {
+        return static_cast<char>(0x80 | (character >> shift & 0x3F));
+    };
     if (character < 0x80) {
-        put(character);
-    } else if (character < 0x800) {
-        put(0xC0 | character >> 6);
-        put(0x80 | (character & 0x3F));
-    } else if (character < 0x10000) {
-        put(0xE0 | character >> 12);
-        put(0x80 | (character >> 6 & 0x3F));
-        put(0x80 | (character & 0x3F));
-    } else {
-        put(0xF0 | character >> 18);
-        put(0x80 | (character >> 12 & 0x3F));
-        put(0x80 | (character >> 6 & 0x3F));
-        put(0x80 | (character & 0x3F));
+        out[0] = static_cast<char>(character);
+        return out + 1;
     }
-    return out;
+    if (character < 0x800) {
+        out[0] = static_cast<char>(0xC0 | character >> 6);
+        out[1] = low(0);
+        return out + 2;
+    }
+    if (character < 0x10000) {
+        out[0] = static_cast<char>(0xE0 | character >> 12);
+        out[1] = low(6);
+        out[2] = low(0);
+        return out + 3;
+    }
+    out[0] = static_cast<char>(0xF0 | character >> 18);
+    out[1] = low(12);
+    out[2] = low(6);
+    out[3] = low(0);
+    return out + 4;
 }
 
 } // namespace
@@ -91,7 +102,7 @@ char* writeUtf8(char32_t character, char* out) {
 bool isAscii(std::string_view bytes) {
     std::uint64_t seen = 0;
     for (; bytes.size() >= 8; bytes.remove_prefix(8))
-        seen |= littleEndian<8>(bytes.data());
+        seen |= littleEndian<std::uint64_t>(bytes.data());
     for (const char byte : bytes)
         seen |= static_cast<unsigned char>(byte);
     return (seen & highBits) == 0;
@@ -100,7 +111,7 @@ bool isAscii(std::string_view bytes) {
 bool isUtf8(std::string_view bytes) {
     while (!bytes.empty()) {
         std::size_t size = 8;
-        if (bytes.size() < 8 || (littleEndian<8>(bytes.data()) & highBits) != 0)
+        if (bytes.size() < 8 || (littleEndian<std::uint64_t>(bytes.data()) & highBits) != 0)
             size = decode(bytes).size;
         if (size == 0)
             return false;
@@ -127,10 +138,11 @@ std::u16string utf16FromBytes(std::string_view bytes, ByteOrder order) {
     return utf16;
 }
 
-void convertToUtf8(std::string_view bytes, ByteOrder order, std::string& utf8) {
+std::string_view convertToUtf8(std::string_view bytes, ByteOrder order, std::string& storage) {
     const std::size_t count = bytes.size() / 2;
-    utf8.resize(3 * count);
-    char* out = utf8.data();
+    if (storage.size() < 3 * count)
+        storage.resize(3 * count);
+    char* out = storage.data();
     for (std::size_t index = 0; index < count; ++index) {
         char32_t character = unitAt(bytes, index, order);
         if (isSurrogate(character)) {
@@ -142,7 +154,7 @@ void convertToUtf8(std::string_view bytes, ByteOrder order, std::string& utf8) {
         }
         out = writeUtf8(character, out);
     }
-    utf8.resize(static_cast<std::size_t>(out - utf8.data()));
+    return {storage.data(), static_cast<std::size_t>(out - storage.data())};
 }
 
 void appendUtf8(char32_t character, std::string& utf8) {

@@ -20,9 +20,9 @@ enum class ByteOrder { littleEndian, bigEndian };
 /// The text of UTF-16 bytes, kept as it is, lone surrogates included. An odd last byte is ignored.
 std::u16string utf16FromBytes(std::string_view bytes, ByteOrder order);
 
-/// Replaces `utf8` by the text of UTF-16 bytes, using its storage again; lone surrogates become
-/// U+FFFD and an odd last byte is ignored.
-void convertToUtf8(std::string_view bytes, ByteOrder order, std::string& utf8);
+/// The text of UTF-16 bytes as UTF-8, written to `storage`, which only ever grows. Lone surrogates
+/// become U+FFFD and an odd last byte is ignored.
+std::string_view convertToUtf8(std::string_view bytes, ByteOrder order, std::string& storage);
 
 /// Appends a character (at most U+10FFFF) as UTF-8.
 void appendUtf8(char32_t character, std::string& utf8);

@@ -1,0 +1,102 @@
+// Reads the preference file and finds values in it.
+#include "library/startup/preferences.hpp"
+
+#include "library/startup/file_reading.hpp"
+#include "library/startup/property_list_binary.hpp"
+#include "library/startup/property_list_xml.hpp"
+#include "library/startup/root_path.hpp"
+#include "library/startup/text_encoding.hpp"
+
+#include <utility>
+
+namespace wentra::startup {
+namespace {
+
+constexpr std::size_t largestFile = std::size_t{16} << 20; // bytes
+
+class KnownEntries final : public EntrySink {
+public:
+    explicit KnownEntries(std::array<Value, knownKeyCount>& values) : values_(values) {}
+
+    bool select(std::string_view key) override {
+        selected_ = knownKeyIndex(key);
+        return selected_ < knownKeyCount;
+    }
+
+    void assign(Value value) override { values_[selected_] = value; }
+
+private:
+    std::array<Value, knownKeyCount>& values_;
+    std::size_t selected_ = 0;
+};
+
+class NamedEntry final : public EntrySink {
+public:
+    explicit NamedEntry(std::string_view name) : name_(name) {}
+
+    bool select(std::string_view key) override { return key == name_; }
+    void assign(Value value) override { value_ = value; }
+
+    Value value() const { return value_; }
+
+private:
+    std::string_view name_;
+    Value value_;
+};
+
+bool readPropertyList(const PaddedBytes& bytes, EntrySink& sink) {
+    if (bytes.view().starts_with(binarySignature))
+        return readBinaryPropertyList(bytes, sink);
+    return readXmlPropertyList(bytes, sink);
+}
+
+PaddedBytes transcoded(std::string_view utf16, ByteOrder order) {
+    if (utf16.size() % 2 != 0)
+        return {};
+    std::string storage;
+    return PaddedBytes(convertToUtf8(utf16, order, storage));
+}
+
+// A byte order mark tells UTF-16 from UTF-8 and is not part of the document.
+PaddedBytes withoutByteOrderMark(PaddedBytes bytes) {
+    const std::string_view view = bytes.view();
+    if (view.starts_with("\xFE\xFF"))
+        return transcoded(view.substr(2), ByteOrder::bigEndian);
+    if (view.starts_with("\xFF\xFE"))
+        return transcoded(view.substr(2), ByteOrder::littleEndian);
+    if (view.starts_with("\xEF\xBB\xBF"))
+        return PaddedBytes(view.substr(3));
+    return bytes;
+}
+
+} // namespace
+
+Preferences::Preferences(PaddedBytes bytes) : bytes_(withoutByteOrderMark(std::move(bytes))) {
+    KnownEntries entries(known_);
+    if (!readPropertyList(bytes_, entries))
+        *this = Preferences();
+}
+
+Preferences Preferences::read() { return readFile(preferencePath()); }
+
+Preferences Preferences::readFile(const std::string& path) {
+    if (std::optional<PaddedBytes> bytes = readRegularFile(path, largestFile))
+        return Preferences(std::move(*bytes));
+    return {};
+}
+
+Preferences Preferences::parse(std::string_view bytes) {
+    if (bytes.size() > largestFile)
+        return {};
+    return Preferences(PaddedBytes(bytes));
+}
+
+Value Preferences::find(std::string_view name) const {
+    if (const std::size_t index = knownKeyIndex(name); index < knownKeyCount)
+        return known_[index];
+    NamedEntry entry(name);
+    readPropertyList(bytes_, entry);
+    return entry.value();
+}
+
+} // namespace wentra::startup

@@ -1,0 +1,19 @@
+// Reads binary property lists.
+#pragma once
+
+#include "library/startup/padded_bytes.hpp"
+#include "library/startup/property_list.hpp"
+
+namespace wentra::startup {
+
+/// The bytes every binary property list begins with.
+inline constexpr std::string_view binarySignature = "bplist00";
+
+/// Hands the entries of the top dictionary to `sink`. Each object of the file is checked on its own
+/// in one linear pass; references are compared with the number of objects but not followed, but for
+/// the kind of a dictionary's keys, so that cycles do no harm. Values and keys refer to `file`; a
+/// key only until the sink returns. False when the file is malformed or cut short, its objects
+/// overlap, or its top object is no dictionary.
+bool readBinaryPropertyList(const PaddedBytes& file, EntrySink& sink);
+
+} // namespace wentra::startup

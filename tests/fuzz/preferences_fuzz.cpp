@@ -1,0 +1,52 @@
+// Fuzzes the preference reader: any bytes are survived, and UTF-16 says what its UTF-8 form says.
+#include "library/startup/preferences.hpp"
+#include "library/startup/text_encoding.hpp"
+
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+namespace {
+
+using namespace wentra::startup;
+
+void require(bool condition) {
+    if (!condition)
+        std::abort();
+}
+
+bool sameNumber(double left, double right) {
+    return left == right || (std::isnan(left) && std::isnan(right));
+}
+
+void requireSame(const Preferences& left, const Preferences& right, std::string_view name) {
+    require(left.on(name) == right.on(name));
+    require(sameNumber(left.number(name), right.number(name)));
+    require(left.text(name) == right.text(name));
+}
+
+std::string utf16Document(std::string_view utf8) {
+    std::string bytes = "\xFE\xFF";
+    for (const char16_t unit : utf16FromUtf8(utf8)) {
+        bytes.push_back(static_cast<char>(unit >> 8));
+        bytes.push_back(static_cast<char>(unit & 0xFF));
+    }
+    return bytes;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+    const Preferences preferences = Preferences::parse(bytes);
+    // Known keys, in both alphabets, and names that have to be searched for.
+    for (const std::string_view name : {"kqwzgs", "开启文字复制", "kqxydx", "a", "名"}) {
+        requireSame(preferences, Preferences::parse(bytes), name);
+        if (isUtf8(bytes) && !bytes.starts_with("bplist") && !bytes.starts_with("\xEF\xBB\xBF"))
+            requireSame(preferences, Preferences::parse(utf16Document(bytes)), name);
+    }
+    return 0;
+}

@@ -1,0 +1,10 @@
+// A library that knows its prefixes and nothing else.
+extern "C" {
+
+const char* libroot_get_root_prefix();
+const char* libroot_get_jbroot_prefix();
+
+const char* libroot_get_root_prefix() { return "/its-root"; }
+
+const char* libroot_get_jbroot_prefix() { return "/its-jbroot"; }
+}
