@@ -33,7 +33,7 @@ TEST(Encoding, IsParsedByFoundationToTheRightSizes) {
     const objc::Pool pool;
     const auto signature =
         ns::MethodSignature::withTypes(encoding<CGRect(bool, CGAffineTransform, ns::Range)>().c_str());
-    EXPECT_EQ(signature.argumentCount(), 5U);
+    EXPECT_EQ(signature.numberOfArguments(), 5U);
     EXPECT_EQ(signature.returnLength(), sizeof(CGRect));
 }
 
