@@ -29,6 +29,7 @@ struct MutableDictionary : objc::Kind<MutableDictionary, "NSMutableDictionary", 
 
     void set(objc::Object value, objc::Object key) const { send<"setObject:forKey:">(value, key); }
     void remove(objc::Object key) const { send<"removeObjectForKey:">(key); }
+    void addEntries(Dictionary other) const { send<"addEntriesFromDictionary:">(other); }
 };
 
 } // namespace ns

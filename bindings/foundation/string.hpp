@@ -47,6 +47,9 @@ struct String : objc::Kind<String, "NSString"> {
     }
 };
 
+/// What the object says of itself, for people.
+inline String description(objc::Object object) { return object.send<"description", String>(); }
+
 namespace detail {
 
 /// A UTF-16 literal as a template argument.

@@ -1,0 +1,16 @@
+// NSURL.
+#pragma once
+
+#include "bindings/foundation/string.hpp"
+
+namespace ns {
+
+struct Url : objc::Kind<Url, "NSURL"> {
+    using Kind::Kind;
+
+    /// Nil when the text is not a URL.
+    static Url from(String text) { return sendClass<"URLWithString:", Url>(text); }
+    [[nodiscard]] String absoluteString() const { return send<"absoluteString", String>(); }
+};
+
+} // namespace ns

@@ -1,0 +1,20 @@
+// Installing the additions to Foundation.
+#include "desktop/foundation/foundation.hpp"
+
+#include "desktop/foundation/bundle.hpp"
+#include "desktop/foundation/delayed_perform.hpp"
+#include "desktop/foundation/user_defaults.hpp"
+
+#include "bindings/objc/pool.hpp"
+
+namespace desktop::foundation {
+
+void install(const std::string& bundleIdentifier) {
+    const objc::Pool pool;
+    const auto identifier = ns::String::fromUtf8(bundleIdentifier);
+    installBundle(identifier);
+    installUserDefaults(identifier);
+    installDelayedPerform();
+}
+
+} // namespace desktop::foundation

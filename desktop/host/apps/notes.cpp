@@ -1,0 +1,120 @@
+// The notes application: cards of stacked labels, a list of the application's own labels, and labels
+// placed by their frames.
+#include "desktop/host/app.hpp"
+#include "desktop/host/apps/notes_content.hpp"
+#include "desktop/host/apps/screen_parts.hpp"
+#include "desktop/host/apps/yy_label.hpp"
+
+#include "bindings/uikit/application.hpp"
+#include "bindings/uikit/scroll_view.hpp"
+#include "bindings/uikit/stack_view.hpp"
+
+#include <algorithm>
+
+namespace desktop::host {
+namespace {
+
+constexpr double margin = 16;
+constexpr double padding = 14;
+
+NotesContent& content() {
+    static NotesContent texts = NotesContent::standard();
+    return texts;
+}
+
+/// Fills a scroll view from top to bottom.
+class Page {
+public:
+    explicit Page(ui::ScrollView scroll)
+        : scroll_(scroll), width_(scroll.bounds().size.width - 2 * margin) {}
+
+    void addCard(const NotesContent::Card& card);
+    void addList(const std::vector<std::string>& rows);
+    void addBoard(const std::vector<NotesContent::PlacedLabel>& labels);
+
+    void finish() const { scroll_.setContentSize({scroll_.bounds().size.width, height_}); }
+
+private:
+    ui::View nextCard(double height) {
+        const auto card = cardWithFrame({{margin, height_}, {width_, height}});
+        scroll_.addSubview(card);
+        height_ += height + margin;
+        return card;
+    }
+
+    ui::ScrollView scroll_;
+    double width_;
+    double height_ = margin / 2;
+};
+
+void Page::addCard(const NotesContent::Card& card) {
+    const auto stack = ui::StackView::withFrame({});
+    stack.setAxis(ui::Axis::vertical);
+    stack.setSpacing(6);
+    stack.addArrangedSubview(
+        dressed(ui::Label::withFrame({}), card.title, {.weight = ui::Font::semibold}));
+    for (const std::string& line : card.lines) {
+        stack.addArrangedSubview(
+            dressed(ui::Label::withFrame({}), line,
+                    {.size = 15, .color = ui::Color::secondaryLabel(), .lines = 0}));
+    }
+    const double width = width_ - 2 * padding;
+    const double height = stack.sizeThatFits({width, 0}).height;
+    stack.setFrame({{padding, padding}, {width, height}});
+    nextCard(height + 2 * padding).addSubview(stack);
+}
+
+void Page::addList(const std::vector<std::string>& rows) {
+    constexpr double rowHeight = 44;
+    const auto card = nextCard(rowHeight * static_cast<double>(rows.size()));
+    double top = 0;
+    for (const std::string& row : rows) {
+        if (top > 0) {
+            card.addSubview(separatorWithFrame({{padding, top}, {width_ - padding, 0.5}}));
+        }
+        card.addSubview(dressed(
+            YYLabelKind::withFrame({{padding, top}, {width_ - 2 * padding, rowHeight}}), row));
+        top += rowHeight;
+    }
+}
+
+void Page::addBoard(const std::vector<NotesContent::PlacedLabel>& labels) {
+    double bottom = 0;
+    for (const auto& label : labels) {
+        bottom = std::max(bottom, label.frame[1] + label.frame[3]);
+    }
+    const auto board = nextCard(bottom + padding);
+    for (const auto& [text, frame, size] : labels) {
+        board.addSubview(dressed(
+            ui::Label::withFrame({{frame[0], frame[1]}, {frame[2], frame[3]}}), text,
+            {.size = size}));
+    }
+}
+
+void launch() {
+    const CGSize screen = ui::Screen::main().bounds().size;
+    const auto controller = ui::ViewController::make();
+    const ui::View view = controller.view();
+    view.setFrame({{}, screen});
+    view.setBackgroundColor(pageColor());
+    const double top = addNavigationBar(view, content().title);
+    const auto scroll =
+        ui::ScrollView::withFrame({{0, top}, {screen.width, screen.height - top}});
+    view.addSubview(scroll);
+    Page page(scroll);
+    std::ranges::for_each(content().cards, [&page](const auto& card) { page.addCard(card); });
+    page.addList(content().list);
+    page.addBoard(content().labels);
+    page.finish();
+    showInWindow(controller);
+}
+
+} // namespace
+
+const App notesApp{"notes", "com.example.notes", [] { YYLabel::registerClass(); },
+                   [](const std::filesystem::path& file) {
+                       content() = NotesContent::fromFile(file);
+                   },
+                   &launch};
+
+} // namespace desktop::host

@@ -1,0 +1,52 @@
+// Making the pieces.
+#include "desktop/host/apps/screen_parts.hpp"
+
+#include "bindings/uikit/application.hpp"
+#include "bindings/uikit/navigation_bar.hpp"
+
+namespace desktop::host {
+namespace {
+
+constexpr double cornerRadius = 12;
+
+} // namespace
+
+ui::Color pageColor() { return ui::Color::rgba(0.949, 0.949, 0.969, 1); }
+ui::Color cardColor() { return ui::Color::white(); }
+ui::Color separatorColor() { return ui::Color::rgba(0.235, 0.235, 0.263, 0.29); }
+
+ui::View cardWithFrame(CGRect frame) {
+    const auto card = ui::View::withFrame(frame);
+    card.setBackgroundColor(cardColor());
+    card.layer().setCornerRadius(cornerRadius);
+    card.setClipsToBounds(true);
+    return card;
+}
+
+ui::View separatorWithFrame(CGRect frame) {
+    const auto line = ui::View::withFrame(frame);
+    line.setBackgroundColor(separatorColor());
+    return line;
+}
+
+double addNavigationBar(ui::View page, std::string_view title) {
+    constexpr double height = 96;
+    const double width = page.bounds().size.width;
+    const auto bar = ui::NavigationBar::withFrame({{0, statusBarHeight}, {width, height}});
+    bar.setPrefersLargeTitles(true);
+    const auto items = ns::MutableArray::make();
+    items.add(ui::NavigationItem::withTitle(ns::String::fromUtf8(title)));
+    bar.setItems(items);
+    page.addSubview(bar);
+    return statusBarHeight + height;
+}
+
+void showInWindow(ui::ViewController controller) {
+    static const auto* window =
+        new objc::Strong(ui::Window::withFrame(ui::Screen::main().bounds()));
+    window->setBackgroundColor(ui::Color::white());
+    window->setRootViewController(controller);
+    window->makeKeyAndVisible();
+}
+
+} // namespace desktop::host

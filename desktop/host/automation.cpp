@@ -1,0 +1,95 @@
+// Reading requests, carrying them out, answering.
+#include "desktop/host/automation.hpp"
+
+#include "desktop/host/arguments.hpp"
+#include "desktop/host/commands.hpp"
+#include "desktop/host/main_loop.hpp"
+
+#include "bindings/objc/boundary.hpp"
+#include "bindings/objc/pool.hpp"
+#include "desktop/runtime/run_loop.hpp"
+
+#include <limits>
+
+namespace desktop::host {
+namespace {
+
+/// Deeper values are refused: converting them takes a stack frame a level.
+constexpr int deepest = 200;
+
+Json parse(const std::string& line) {
+    if (line.size() > Streams::longestLine) {
+        throw RequestError("the line is longer than 64 MB");
+    }
+    bool tooDeep = false;
+    Json request = Json::parse(
+        line,
+        [&tooDeep](int depth, Json::parse_event_t, const Json&) {
+            tooDeep = tooDeep || depth > deepest;
+            return depth <= deepest;
+        },
+        false);
+    if (tooDeep) {
+        throw RequestError("the request is nested too deeply");
+    }
+    if (!request.is_object()) {
+        throw RequestError("the line is not a JSON object");
+    }
+    return request;
+}
+
+Json carryOut(Session& session, const Json& request) {
+    const std::string& name = stringArgument(request, "do");
+    const Command command = commandNamed(name);
+    if (command == nullptr) {
+        throw RequestError("unknown command: " + name);
+    }
+    Json result = command(session, request);
+    run_loop::runUntilIdle();
+    return result;
+}
+
+std::string serialised(const Json& response) {
+    return response.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+std::string answer(Session& session, const std::string& line) {
+    const objc::Pool pool;
+    Json response{{"ok", false}};
+    try {
+        const Json request = parse(line);
+        if (const Json* id = argument(request, "id"); id != nullptr) {
+            response["id"] = *id;
+        }
+        response["result"] = carryOut(session, request);
+        response["ok"] = true;
+    } catch (const RequestError& error) {
+        response["error"] = error.what();
+    } catch (...) {
+        const objc::ExceptionText text = objc::describeCurrentException();
+        response["error"] = text.name + ": " + text.reason;
+    }
+    return serialised(response);
+}
+
+} // namespace
+
+void automate(Streams& streams, Values& values) {
+    Session session{values};
+    while (!session.quits && !isStopRequested()) {
+        if (const auto line = streams.nextLine()) {
+            if (!streams.write(answer(session, *line))) {
+                return;
+            }
+            continue;
+        }
+        if (streams.ended()) {
+            return;
+        }
+        runWhatIsDue();
+        run_loop::sleep(streams.input(), std::numeric_limits<double>::infinity());
+        streams.receive();
+    }
+}
+
+} // namespace desktop::host

@@ -1,0 +1,49 @@
+// The table of commands, and those that need no file of their own.
+#include "desktop/host/commands.hpp"
+
+#include "desktop/host/arguments.hpp"
+#include "desktop/uikit/uikit.hpp"
+
+#include <algorithm>
+#include <array>
+
+namespace desktop::host {
+namespace {
+
+Json screenshot(Session&, const Json& request) {
+    uikit::renderScreen(stringArgument(request, "file"));
+    return nullptr;
+}
+
+Json quit(Session& session, const Json&) {
+    session.quits = true;
+    return nullptr;
+}
+
+struct Row {
+    std::string_view name;
+    Command command;
+};
+
+constexpr std::array<Row, 11> table{{
+    {"send", &send},
+    {"tree", &tree},
+    {"find", &find},
+    {"pasteboard", &pasteboard},
+    {"preferences", &preferences},
+    {"defaults", &defaults},
+    {"advance", &advance},
+    {"wait", &wait},
+    {"events", &events},
+    {"screenshot", &screenshot},
+    {"quit", &quit},
+}};
+
+} // namespace
+
+Command commandNamed(std::string_view name) {
+    const auto* row = std::ranges::find(table, name, &Row::name);
+    return row == table.end() ? nullptr : row->command;
+}
+
+} // namespace desktop::host

@@ -1,0 +1,36 @@
+// The commands of the protocol.
+#pragma once
+
+#include "desktop/host/values.hpp"
+
+#include <string_view>
+
+namespace desktop::host {
+
+/// What commands share while the host is driven.
+struct Session {
+    Values& values;
+    bool quits = false;
+};
+
+/// Carries a request out and gives its result. Throws RequestError for arguments that will not do;
+/// what the application throws passes through.
+using Command = Json (*)(Session& session, const Json& request);
+
+/// Null when there is no such command.
+[[nodiscard]] Command commandNamed(std::string_view name);
+
+// Objects and views.
+[[nodiscard]] Json send(Session& session, const Json& request);
+[[nodiscard]] Json tree(Session& session, const Json& request);
+[[nodiscard]] Json find(Session& session, const Json& request);
+// What the device keeps.
+[[nodiscard]] Json pasteboard(Session& session, const Json& request);
+[[nodiscard]] Json preferences(Session& session, const Json& request);
+[[nodiscard]] Json defaults(Session& session, const Json& request);
+// Time and happenings.
+[[nodiscard]] Json advance(Session& session, const Json& request);
+[[nodiscard]] Json wait(Session& session, const Json& request);
+[[nodiscard]] Json events(Session& session, const Json& request);
+
+} // namespace desktop::host

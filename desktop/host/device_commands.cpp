@@ -1,0 +1,78 @@
+// Commands for what the device keeps: pasteboard, preferences, user defaults.
+#include "desktop/host/arguments.hpp"
+#include "desktop/host/commands.hpp"
+#include "desktop/host/preference_file.hpp"
+
+#include "bindings/foundation/user_defaults.hpp"
+#include "bindings/uikit/pasteboard.hpp"
+
+namespace desktop::host {
+namespace {
+
+void setPasteboardImage(const std::string& file) {
+    const auto image = ui::Image::withContentsOfFile(ns::String::fromUtf8(file));
+    if (!image) {
+        throw RequestError("not an image: " + file);
+    }
+    ui::Pasteboard::general().setImage(image);
+}
+
+void setPasteboardText(const Json& text) {
+    if (!text.is_string() && !text.is_null()) {
+        throw RequestError("\"set\" must be a string or null");
+    }
+    ui::Pasteboard::general().setString(
+        text.is_null() ? ns::String()
+                       : ns::String::fromUtf8(text.get_ref<const std::string&>()));
+}
+
+ns::PropertyListFormat formatArgument(const Json& request) {
+    if (argument(request, "format") == nullptr) {
+        return ns::PropertyListFormat::xml;
+    }
+    const std::string& name = stringArgument(request, "format");
+    if (name != "xml" && name != "binary") {
+        throw RequestError("\"format\" must be xml or binary");
+    }
+    return name == "xml" ? ns::PropertyListFormat::xml : ns::PropertyListFormat::binary;
+}
+
+} // namespace
+
+Json pasteboard(Session& session, const Json& request) {
+    if (argument(request, "image") != nullptr) {
+        setPasteboardImage(stringArgument(request, "image"));
+    } else if (const Json* text = argument(request, "set"); text != nullptr) {
+        setPasteboardText(*text);
+    }
+    return session.values.toJson(ui::Pasteboard::general().string());
+}
+
+Json preferences(Session& session, const Json& request) {
+    const auto format = formatArgument(request);
+    const auto entries = ns::MutableDictionary::make();
+    if (argument(request, "replace") != nullptr) {
+        session.values.fill(entries, objectArgument(request, "replace"));
+        preference_file::write(entries, format);
+    } else if (argument(request, "set") != nullptr) {
+        if (const ns::Dictionary former = preference_file::read(); former) {
+            entries.addEntries(former);
+        }
+        session.values.fill(entries, objectArgument(request, "set"));
+        preference_file::write(entries, format);
+    } else if (flagArgument(request, "remove")) {
+        preference_file::remove();
+    }
+    return session.values.toJson(preference_file::read());
+}
+
+Json defaults(Session& session, const Json& request) {
+    const auto key = ns::String::fromUtf8(stringArgument(request, "key"));
+    const auto store = ns::UserDefaults::standard();
+    if (const Json* value = argument(request, "set"); value != nullptr) {
+        store.set(session.values.toObject(*value), key);
+    }
+    return session.values.toJson(store.get(key));
+}
+
+} // namespace desktop::host

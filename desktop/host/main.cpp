@@ -1,0 +1,128 @@
+// The host: a process in which an application runs on the desktop platform, with the library in it.
+#include "desktop/host/app.hpp"
+#include "desktop/host/automation.hpp"
+#include "desktop/host/device_folder.hpp"
+#include "desktop/host/happenings.hpp"
+#include "desktop/host/main_loop.hpp"
+#include "desktop/host/options.hpp"
+
+#include "bindings/foundation/user_defaults.hpp"
+#include "bindings/objc/boundary.hpp"
+#include "bindings/objc/pool.hpp"
+#include "desktop/foundation/foundation.hpp"
+#include "desktop/uikit/uikit.hpp"
+
+#include <cstdio>
+#include <dlfcn.h>
+#include <optional>
+
+namespace {
+
+using namespace desktop;
+using namespace desktop::host;
+
+constexpr int usageFailure = 2;
+
+const App& chosenApp(const Options& options) {
+    const App* app = appNamed(options.application);
+    if (app == nullptr) {
+        throw UsageError("unknown application: " + options.application);
+    }
+    return *app;
+}
+
+void readContent(const App& app, const Options& options) {
+    if (!options.content) {
+        return;
+    }
+    if (app.readContent == nullptr) {
+        throw UsageError("--content: the texts of " + options.application + " are fixed");
+    }
+    app.readContent(*options.content);
+}
+
+void listApplications() {
+    for (const App* app : apps()) {
+        std::printf("%-10s %s\n", app->name, app->bundleIdentifier);
+    }
+}
+
+std::filesystem::path libraryFile(const Options& options) {
+    return options.library.value_or(
+        std::filesystem::read_symlink("/proc/self/exe").parent_path() / "../lib/Wentra.so");
+}
+
+void loadLibrary(const std::filesystem::path& file) {
+    if (dlopen(std::filesystem::absolute(file).c_str(), RTLD_NOW | RTLD_LOCAL) == nullptr) {
+        throw std::runtime_error(std::string("cannot load the library: ") + dlerror());
+    }
+}
+
+/// Brings the application up in the order of a phone: its classes exist before any library does.
+void launch(const App& app, const Options& options) {
+    const objc::Pool pool;
+    app.registerClasses();
+    if (options.loadsLibrary) {
+        loadLibrary(libraryFile(options));
+    }
+    uikit::startApplication({options.screen.width, options.screen.height, options.screen.scale});
+    app.launch();
+}
+
+void runDevice(const App& app, const Options& options, Streams* automation) {
+    const DeviceFolder device(options.root);
+    watchForStop();
+    Clock::shared().setMode(options.clockMode());
+    const std::string bundle = options.bundle.value_or(app.bundleIdentifier);
+    foundation::install(bundle);
+    recordHappenings();
+    uikit::registerClasses();
+    Values values; // before the library can change how its parts are made
+    launch(app, options);
+    if (automation != nullptr) {
+        automate(*automation, values);
+    } else {
+        std::fprintf(stderr, "Wentra host %s: %s (%s), device folder %s\n", WENTRA_VERSION, app.name,
+                     bundle.c_str(), device.path().c_str());
+        runUntilStopped();
+    }
+    ns::UserDefaults::standard().synchronize();
+}
+
+int run(const Options& options) {
+    const App& app = chosenApp(options);
+    readContent(app, options);
+    std::optional<Streams> streams;
+    if (options.automation) {
+        streams.emplace();
+    }
+    const objc::Pool pool;
+    try {
+        runDevice(app, options, streams ? &*streams : nullptr);
+        return EXIT_SUCCESS;
+    } catch (...) {
+        const objc::ExceptionText text = objc::describeCurrentException();
+        std::fprintf(stderr, "host: %s: %s\n", text.name.c_str(), text.reason.c_str());
+        return EXIT_FAILURE;
+    }
+}
+
+} // namespace
+
+int main(int count, char** words) {
+    try {
+        const Options options = parseOptions({words + 1, words + count});
+        if (options.help) {
+            std::fputs(usage, stdout);
+            return EXIT_SUCCESS;
+        }
+        if (options.listsApplications) {
+            listApplications();
+            return EXIT_SUCCESS;
+        }
+        return run(options);
+    } catch (const UsageError& error) {
+        std::fprintf(stderr, "%shost: %s\n", usage, error.what());
+        return usageFailure;
+    }
+}

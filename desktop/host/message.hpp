@@ -1,0 +1,14 @@
+// Messages written in JSON: arguments and results are converted by the method's type encoding.
+#pragma once
+
+#include "desktop/host/values.hpp"
+
+namespace desktop::host {
+
+/// Sends `selector` with `arguments`, an array, to an object or a class. Throws RequestError when
+/// the receiver has no such method, takes other arguments, or carries types that have no JSON form;
+/// what the method throws passes through.
+[[nodiscard]] Json sendMessage(Values& values, objc::Object receiver, const std::string& selector,
+                               const Json& arguments);
+
+} // namespace desktop::host

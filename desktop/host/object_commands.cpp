@@ -1,0 +1,42 @@
+// Commands that talk to objects and look at views.
+#include "desktop/host/arguments.hpp"
+#include "desktop/host/commands.hpp"
+#include "desktop/host/message.hpp"
+#include "desktop/host/view_node.hpp"
+#include "desktop/host/view_search.hpp"
+
+#include "bindings/uikit/application.hpp"
+#include "desktop/uikit/uikit.hpp"
+
+namespace desktop::host {
+
+Json send(Session& session, const Json& request) {
+    const objc::Object receiver = session.values.toObject(anyArgument(request, "to"));
+    if (!receiver) {
+        throw RequestError("\"to\" must be an object or a class, not null");
+    }
+    const Json* arguments = argument(request, "args");
+    if (arguments != nullptr && !arguments->is_array()) {
+        throw RequestError("\"args\" must be a list");
+    }
+    return sendMessage(session.values, receiver, stringArgument(request, "selector"),
+                       arguments != nullptr ? *arguments : Json::array());
+}
+
+Json tree(Session& session, const Json& request) {
+    uikit::layoutWindows();
+    if (const Json* of = argument(request, "of"); of != nullptr) {
+        return viewTree(session.values, session.values.toKind<ui::View>(*of));
+    }
+    Json nodes = Json::array();
+    for (const objc::Object window : ui::Application::shared().windows()) {
+        nodes.push_back(viewTree(session.values, window.assume<ui::View>()));
+    }
+    return nodes;
+}
+
+Json find(Session& session, const Json& request) {
+    return findNodes(session.values, anyArgument(request, "where"));
+}
+
+} // namespace desktop::host

@@ -1,0 +1,112 @@
+// Reading the command line.
+#include "desktop/host/options.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdlib>
+
+namespace desktop::host {
+
+const char* const usage =
+    "usage: host [--app NAME] [--bundle ID] [--root DIR] [--library FILE | --no-library]\n"
+    "            [--clock virtual|real] [--automation] [--size WxH@S] [--content FILE]\n"
+    "            [--list-apps] [--help]\n";
+
+namespace {
+
+/// The words of the command line, taken one after the other.
+class Words {
+public:
+    explicit Words(std::span<const char* const> words) : rest_(words) {}
+
+    [[nodiscard]] bool empty() const { return rest_.empty(); }
+    std::string take() {
+        std::string word = rest_.front();
+        rest_ = rest_.subspan(1);
+        return word;
+    }
+    std::string value(const std::string& option) {
+        if (empty()) {
+            throw UsageError(option + " needs a value");
+        }
+        return take();
+    }
+
+private:
+    std::span<const char* const> rest_;
+};
+
+/// A number that ends at `end`, which must follow it (NUL: the end of the text).
+double measure(const char*& at, char end, double largest) {
+    char* stop = nullptr;
+    const double value = std::strtod(at, &stop);
+    const bool fits = stop != at && *stop == end && value >= 1 && value <= largest;
+    at = stop + (*stop == '\0' ? 0 : 1);
+    return fits ? value : std::nan("");
+}
+
+ScreenShape parseScreen(const std::string& text) {
+    constexpr double largestSide = 4096;
+    constexpr double largestScale = 4;
+    const char* at = text.c_str();
+    ScreenShape shape;
+    shape.width = measure(at, 'x', largestSide);
+    shape.height = measure(at, '@', largestSide);
+    shape.scale = measure(at, '\0', largestScale);
+    if (std::isnan(shape.width + shape.height + shape.scale)) {
+        throw UsageError("--size " + text + ": not of the form 390x844@3");
+    }
+    return shape;
+}
+
+Clock::Mode parseClock(const std::string& text) {
+    if (text == "virtual") {
+        return Clock::Mode::virtual_;
+    }
+    if (text == "real") {
+        return Clock::Mode::real;
+    }
+    throw UsageError("--clock " + text + ": neither virtual nor real");
+}
+
+struct Option {
+    const char* name;
+    void (*read)(Options& options, Words& words);
+};
+
+constexpr std::array<Option, 12> table{{
+    {"--app", [](Options& o, Words& w) { o.application = w.value("--app"); }},
+    {"--bundle", [](Options& o, Words& w) { o.bundle = w.value("--bundle"); }},
+    {"--root", [](Options& o, Words& w) { o.root = w.value("--root"); }},
+    {"--library", [](Options& o, Words& w) { o.library = w.value("--library"); }},
+    {"--no-library", [](Options& o, Words&) { o.loadsLibrary = false; }},
+    {"--clock", [](Options& o, Words& w) { o.clock = parseClock(w.value("--clock")); }},
+    {"--automation", [](Options& o, Words&) { o.automation = true; }},
+    {"--size", [](Options& o, Words& w) { o.screen = parseScreen(w.value("--size")); }},
+    {"--content", [](Options& o, Words& w) { o.content = w.value("--content"); }},
+    {"--list-apps", [](Options& o, Words&) { o.listsApplications = true; }},
+    {"--help", [](Options& o, Words&) { o.help = true; }},
+    {"-h", [](Options& o, Words&) { o.help = true; }},
+}};
+
+} // namespace
+
+Options parseOptions(std::span<const char* const> words) {
+    Options options;
+    Words rest(words);
+    while (!rest.empty()) {
+        const std::string word = rest.take();
+        const auto* option = std::ranges::find(table, word, &Option::name);
+        if (option == table.end()) {
+            throw UsageError("unknown option: " + word);
+        }
+        option->read(options, rest);
+    }
+    if (options.library && !options.loadsLibrary) {
+        throw UsageError("--no-library contradicts --library");
+    }
+    return options;
+}
+
+} // namespace desktop::host

@@ -1,0 +1,55 @@
+// The command line of the host.
+#pragma once
+
+#include "desktop/runtime/clock.hpp"
+
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <stdexcept>
+#include <string>
+
+namespace desktop::host {
+
+/// A screen: points, and pixels a point.
+struct ScreenShape {
+    double width = 390;
+    double height = 844;
+    double scale = 3;
+};
+
+struct Options {
+    std::string application = "notes";
+    /// Replaces the application's own bundle identifier.
+    std::optional<std::string> bundle;
+    /// The folder that plays the device's file system; none: a fresh one.
+    std::optional<std::filesystem::path> root;
+    /// The library to load; none: the one built together with the host.
+    std::optional<std::filesystem::path> library;
+    bool loadsLibrary = true;
+    /// None: virtual under automation, else real.
+    std::optional<Clock::Mode> clock;
+    bool automation = false;
+    ScreenShape screen;
+    /// The file with the screen's texts.
+    std::optional<std::filesystem::path> content;
+    bool listsApplications = false;
+    bool help = false;
+
+    [[nodiscard]] Clock::Mode clockMode() const {
+        return clock.value_or(automation ? Clock::Mode::virtual_ : Clock::Mode::real);
+    }
+};
+
+/// What is wrong with a command line or with a file that it names; tells the offending word.
+struct UsageError : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+/// Reads the words after the program's name. Throws UsageError.
+[[nodiscard]] Options parseOptions(std::span<const char* const> words);
+
+/// What `--help` prints.
+extern const char* const usage;
+
+} // namespace desktop::host

@@ -1,0 +1,115 @@
+// Matching views against conditions.
+#include "desktop/host/view_search.hpp"
+
+#include "bindings/uikit/application.hpp"
+#include "desktop/host/text.hpp"
+#include "desktop/host/view_node.hpp"
+#include "desktop/uikit/uikit.hpp"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <vector>
+
+namespace desktop::host {
+namespace {
+
+bool isOfClass(ui::View view, const Json& wanted) {
+    const Class cls = objc_lookUpClass(wanted.get_ref<const std::string&>().c_str());
+    return cls != nullptr && view.isKindOfClass(cls);
+}
+
+bool hasText(ns::String text, const Json& wanted) {
+    return text && toUtf8(text) == wanted.get_ref<const std::string&>();
+}
+
+bool intersect(CGRect one, CGRect other) {
+    const auto overlap = [](double a, double lengthOfA, double b, double lengthOfB) {
+        return lengthOfA > 0 && lengthOfB > 0 && a < b + lengthOfB && b < a + lengthOfA;
+    };
+    return overlap(one.origin.x, one.size.width, other.origin.x, other.size.width) &&
+           overlap(one.origin.y, one.size.height, other.origin.y, other.size.height);
+}
+
+bool isVisible(ui::View view) {
+    for (ui::View ancestor = view; ancestor; ancestor = ancestor.superview()) {
+        if (ancestor.isHidden() || ancestor.alpha() <= 0) {
+            return false;
+        }
+    }
+    CGRect rect = rectInWindow(view);
+    const CGPoint window = view.window().frame().origin;
+    rect.origin = {rect.origin.x + window.x, rect.origin.y + window.y};
+    return intersect(rect, ui::Screen::main().bounds());
+}
+
+struct Condition {
+    std::string_view name;
+    bool (*accepts)(const Json& wanted);
+    bool (*holds)(ui::View view, const Json& wanted);
+};
+
+bool isString(const Json& wanted) { return wanted.is_string(); }
+
+constexpr std::array<Condition, 6> conditions{{
+    {"class", &isString, &isOfClass},
+    {"text", &isString, [](ui::View v, const Json& w) { return hasText(textOf(v), w); }},
+    {"title", &isString, [](ui::View v, const Json& w) { return hasText(titleOf(v), w); }},
+    {"label", &isString, [](ui::View v, const Json& w) { return hasText(v.accessibilityLabel(), w); }},
+    {"tag", [](const Json& wanted) { return wanted.is_number_integer(); },
+     [](ui::View v, const Json& w) { return w == v.tag(); }},
+    {"visible", [](const Json& wanted) { return wanted.is_boolean(); },
+     [](ui::View v, const Json& w) { return w == isVisible(v); }},
+}};
+
+struct Wanted {
+    const Condition* condition;
+    const Json* value;
+};
+
+std::vector<Wanted> read(const Json& where) {
+    if (!where.is_object()) {
+        throw RequestError("conditions must be an object, not " + where.dump());
+    }
+    std::vector<Wanted> wanted;
+    for (const auto& [name, value] : where.items()) {
+        const auto* condition = std::ranges::find(conditions, name, &Condition::name);
+        if (condition == conditions.end()) {
+            throw RequestError("no such condition: " + name);
+        }
+        if (!condition->accepts(value)) {
+            throw RequestError("condition " + name + " cannot be " + value.dump());
+        }
+        wanted.push_back({condition, &value});
+    }
+    return wanted;
+}
+
+void search(ui::View view, const std::vector<Wanted>& wanted, std::vector<ui::View>& found) {
+    if (std::ranges::all_of(wanted, [view](const Wanted& one) {
+            return one.condition->holds(view, *one.value);
+        })) {
+        found.push_back(view);
+    }
+    for (const objc::Object child : view.subviews()) {
+        search(child.assume<ui::View>(), wanted, found);
+    }
+}
+
+} // namespace
+
+Json findNodes(Values& values, const Json& where) {
+    const std::vector<Wanted> wanted = read(where);
+    uikit::layoutWindows();
+    std::vector<ui::View> found;
+    for (const objc::Object window : ui::Application::shared().windows()) {
+        search(window.assume<ui::View>(), wanted, found);
+    }
+    Json nodes = Json::array();
+    for (const ui::View view : found) {
+        nodes.push_back(viewNode(values, view));
+    }
+    return nodes;
+}
+
+} // namespace desktop::host

@@ -1,0 +1,38 @@
+// What happened outside the views: opened URLs, sounds, log lines, swallowed exceptions.
+#pragma once
+
+#include "bindings/foundation/dictionary.hpp"
+
+#include <deque>
+#include <mutex>
+#include <string>
+
+namespace desktop {
+
+/// One happening: what kind of thing ("openURL"), and what is known of it under string keys.
+struct Event {
+    std::string kind;
+    objc::Strong<ns::Dictionary> fields;
+};
+
+/// The process's log of happenings, for whoever watches it from outside. Any thread.
+class EventLog {
+public:
+    static EventLog& shared();
+
+    /// Appends an event; `fields`, of property-list values, is copied. Beyond `mostEvents`, the
+    /// oldest are forgotten: perhaps nobody is watching.
+    void record(std::string kind, ns::Dictionary fields);
+    /// In order.
+    [[nodiscard]] std::deque<Event> events() const;
+    /// The events, in order; the log is empty then.
+    std::deque<Event> take();
+
+    static constexpr std::size_t mostEvents = 10'000;
+
+private:
+    mutable std::mutex mutex_;
+    std::deque<Event> events_;
+};
+
+} // namespace desktop
