@@ -92,7 +92,8 @@ template <class Self, class Kind, Boundary Border> Class Peer<Self, Kind, Border
         return nullptr;
     }
     registered_ = made;
-    class_addIvar(made, "peer", sizeof(Self),
+    // Named after the class: a superclass's peer has a variable of its own.
+    class_addIvar(made, Kind::className.data(), sizeof(Self),
                   static_cast<unsigned char>(std::countr_zero(alignof(Self))), "?");
     const Class meta = object_getClass(object(made));
     class_addMethod(meta, selector<"allocWithZone:">(), reinterpret_cast<IMP>(&allocate), "@@:^v");
@@ -101,7 +102,7 @@ template <class Self, class Kind, Boundary Border> Class Peer<Self, Kind, Border
         addMethod(row, made);
     }
     objc_registerClassPair(made);
-    offset_ = ivar_getOffset(class_getInstanceVariable(made, "peer"));
+    offset_ = ivar_getOffset(class_getInstanceVariable(made, Kind::className.data()));
     return made;
 }
 

@@ -60,6 +60,7 @@ public:
     }
     Bird() { lives.emplace_back("bird born"); }
     ~Bird() { lives.emplace_back("bird died"); }
+    int feathers = 0;
 
 private:
     [[nodiscard]] int legs() const { return super<"legs", int>() - 2; }
@@ -82,6 +83,9 @@ TEST_F(PeerTest, PeersLiveAndDieWithTheirObjectSuperclassFirst) {
         const auto bird = BirdKind::make();
         EXPECT_EQ(Bird::of(bird).self(), bird);
         EXPECT_EQ(Animal::of(bird).self(), bird);
+        Bird::of(bird).feathers = 7;
+        Animal::of(bird).renamings = 9;
+        EXPECT_EQ(Bird::of(bird).feathers, 7) << "the peers share memory";
     }
     EXPECT_EQ(lives, (std::vector<std::string>{"animal born", "bird born", "bird died",
                                                "animal died"}));
