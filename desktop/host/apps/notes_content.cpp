@@ -41,7 +41,8 @@ NotesContent::PlacedLabel placedLabel(const Json& json) {
 template <class Value>
 std::vector<Value> list(const Json& json, const char* key, Value (*read)(const Json&)) {
     std::vector<Value> values;
-    for (const Json& element : json.value(key, Json::array()).get_ref<const Json::array_t&>()) {
+    const Json elements = json.value(key, Json::array());
+    for (const Json& element : elements.get_ref<const Json::array_t&>()) {
         values.push_back(read(element));
     }
     return values;
