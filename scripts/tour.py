@@ -1,0 +1,120 @@
+#!/usr/bin/env python3
+"""The tour: rules are saved in an application, and its labels come out rewritten on the screen."""
+
+import json
+import pathlib
+import subprocess
+import sys
+import tempfile
+
+TOP = pathlib.Path(__file__).resolve().parent.parent
+HOST = TOP / "build/release/bin/host"
+MATERIAL = TOP / "scripts/tour"
+PICTURES = TOP / "build/tour"
+
+# The switches that the settings would show, by their keys in the preference file.
+SWITCHES = {"kqwzgs": "colour", "kqwzdx": "font size", "kqwzgd": "height", "kqwzkd": "width",
+            "kqhxyd": "horizontal position", "kqzxyd": "vertical position",
+            "kqxstm": "transparency", "kqxgzt": "font"}
+
+
+class Phone:
+    """The notes application in the desktop host, driven by one JSON line for each request."""
+
+    def __init__(self, root):
+        self.log = (PICTURES / "host.log").open("a", encoding="utf-8")
+        arguments = [HOST, "--automation", "--app", "notes", "--root", root,
+                     "--content", MATERIAL / "notes.json"]
+        self.process = subprocess.Popen(arguments, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                                        stderr=self.log, text=True)
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.process.stdin.close()
+        self.process.wait()
+        self.process.stdout.close()
+        self.log.close()
+
+    def ask(self, do, **arguments):
+        self.process.stdin.write(json.dumps({"do": do, **arguments}) + "\n")
+        self.process.stdin.flush()
+        response = json.loads(self.process.stdout.readline()
+                              or '{"ok":false,"error":"it ended, see build/tour/host.log"}')
+        if not response["ok"]:
+            sys.exit(f"tour: the host refused '{do}': {response['error']}")
+        return response.get("result")
+
+    def send(self, receiver, selector, *arguments):
+        return self.ask("send", to=receiver, selector=selector, args=list(arguments))
+
+    def label(self, text):
+        found = self.ask("find", where={"text": text})
+        if not found:
+            sys.exit(f"tour: no label shows {text!r}")
+        return found[0]
+
+    def picture(self, name):
+        file = PICTURES / name
+        self.ask("screenshot", file=str(file))
+        print(f"   picture: {file.relative_to(TOP)}")
+
+
+def save_rules(phone, text):
+    """Saves as the rule editor does, from a text view."""
+    editor = phone.send({"class": "UITextView"}, "alloc")
+    editor = phone.send(editor, "initWithFrame:", {"rect": [0, 0, 280, 400]})
+    phone.send(editor, "setText:", text)
+    phone.send(editor, "saveRulesFromTextView:", editor)
+
+
+def expect(what, found, wanted):
+    mark = "✓" if found == wanted else "✗"
+    print(f"   {mark} {what}: {found}")
+    if found != wanted:
+        sys.exit(f"tour: {what} should be {wanted}")
+
+
+def check(phone, after):
+    title, pinned = phone.label("购物清单"), phone.label("置顶")
+    expect("“Shopping list” shows", title["text"], "购物清单")
+    expect("   in the colour", title["textColor"], "#ff3b30ff")
+    expect("   at the font size", title["font"]["size"], 26)
+    expect("a rule with “↲” shows two lines",
+           phone.label("轻装出发，\n坐早班车去海边。")["text"].count("\n"), 1)
+    expect("only the prefix of “Coffee: two bags” is replaced",
+           bool(phone.label("咖啡: two bags")), True)
+    expect("the font of “Seat: 12A, window”", phone.label("座位: 12A, window")["font"]["name"],
+           "Courier")
+    expect("“All notes” is rewritten in a class of the application's own",
+           phone.label("全部备忘录")["class"], "YYLabel")
+    expect("“Pinned” has moved to x", pinned["frame"][0], 200)
+    expect("“Draft” has the alpha", round(phone.label("Draft")["alpha"], 2), 0.3)
+    expect("the cut-off label is as wide as",
+           phone.label("A long reminder that is cut off")["frame"][2], 300)
+    expect("the picture has changed",
+           after.read_bytes() != (PICTURES / "1-before.png").read_bytes(), True)
+
+
+def main():
+    PICTURES.mkdir(parents=True, exist_ok=True)
+    rules = (MATERIAL / "rules.txt").read_text(encoding="utf-8")
+    with tempfile.TemporaryDirectory(prefix="wentra-tour-") as root:
+        print("1. The notes application starts on an untouched phone, with Wentra loaded.")
+        with Phone(root) as phone:
+            phone.picture("1-before.png")
+            print("2. These rules are saved:")
+            print("".join(f"      {line}\n" for line in rules.splitlines()), end="")
+            save_rules(phone, rules)
+            print(f"3. The switches are turned on: {', '.join(SWITCHES.values())}.")
+            phone.ask("preferences", set=dict.fromkeys(SWITCHES, True))
+        print("4. The application starts again and sets its labels; Wentra rewrites them.")
+        with Phone(root) as phone:
+            phone.picture("2-after.png")
+            check(phone, PICTURES / "2-after.png")
+    print("Done: compare build/tour/1-before.png with build/tour/2-after.png.")
+
+
+if __name__ == "__main__":
+    main()
