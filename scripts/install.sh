@@ -24,7 +24,7 @@ build  fonts-noto-cjk           Chinese text
 build  fonts-noto-color-emoji   emoji
 build  fonts-dejavu-core        serif and monospaced faces
 build  fonts-dejavu-extra       italic and condensed faces
-build  python3                  runs the tour and other client scripts
+build  python3                  runs the tour
 format clang-format             formats the sources
 lint   clang-tidy               finds faults in the sources
 lint   shellcheck               finds faults in the scripts
