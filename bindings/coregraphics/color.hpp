@@ -6,6 +6,7 @@
 struct CGColor;
 using CGColorRef = CGColor*;
 
-template <> struct objc::Encoding<CGColorRef> {
+template <>
+struct objc::Encoding<CGColorRef> {
     static constexpr Literal value = "^{CGColor=}";
 };

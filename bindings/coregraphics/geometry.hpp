@@ -36,18 +36,23 @@ struct UIEdgeInsets {
     friend constexpr bool operator==(const UIEdgeInsets&, const UIEdgeInsets&) = default;
 };
 
-template <> struct objc::Encoding<CGPoint> {
+template <>
+struct objc::Encoding<CGPoint> {
     static constexpr Literal value = "{CGPoint=dd}";
 };
-template <> struct objc::Encoding<CGSize> {
+template <>
+struct objc::Encoding<CGSize> {
     static constexpr Literal value = "{CGSize=dd}";
 };
-template <> struct objc::Encoding<CGRect> {
+template <>
+struct objc::Encoding<CGRect> {
     static constexpr Literal value = "{CGRect={CGPoint=dd}{CGSize=dd}}";
 };
-template <> struct objc::Encoding<CGAffineTransform> {
+template <>
+struct objc::Encoding<CGAffineTransform> {
     static constexpr Literal value = "{CGAffineTransform=dddddd}";
 };
-template <> struct objc::Encoding<UIEdgeInsets> {
+template <>
+struct objc::Encoding<UIEdgeInsets> {
     static constexpr Literal value = "{UIEdgeInsets=dddd}";
 };

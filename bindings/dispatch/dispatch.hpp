@@ -33,7 +33,8 @@ inline dispatch_queue_t globalQueue() { return dispatch_get_global_queue(0, 0); 
 namespace detail {
 
 /// The body on its way to a queue, which calls and destroys it exactly once.
-template <class Body> std::pair<void*, dispatch_function_t> parcel(Body body) {
+template <class Body>
+std::pair<void*, dispatch_function_t> parcel(Body body) {
     return {new Body(std::move(body)), [](void* context) {
                 const std::unique_ptr<Body> owned(static_cast<Body*>(context));
                 objc::contained("dispatched work", [&] { (*owned)(); });
@@ -43,13 +44,15 @@ template <class Body> std::pair<void*, dispatch_function_t> parcel(Body body) {
 } // namespace detail
 
 /// Runs `body` on `queue` as soon as it is its turn. What it throws is reported and ends there.
-template <class Body> void async(dispatch_queue_t queue, Body body) {
+template <class Body>
+void async(dispatch_queue_t queue, Body body) {
     const auto [context, work] = detail::parcel(std::move(body));
     dispatch_async_f(queue, context, work);
 }
 
 /// Runs `body` on `queue` after that many nanoseconds.
-template <class Body> void after(std::int64_t nanoseconds, dispatch_queue_t queue, Body body) {
+template <class Body>
+void after(std::int64_t nanoseconds, dispatch_queue_t queue, Body body) {
     const auto [context, work] = detail::parcel(std::move(body));
     dispatch_after_f(dispatch_time(0, nanoseconds), queue, context, work);
 }

@@ -14,6 +14,7 @@ struct Range {
 
 } // namespace ns
 
-template <> struct objc::Encoding<ns::Range> {
+template <>
+struct objc::Encoding<ns::Range> {
     static constexpr Literal value = "{_NSRange=QQ}";
 };

@@ -53,7 +53,8 @@ inline String description(objc::Object object) { return object.send<"description
 namespace detail {
 
 /// A UTF-16 literal as a template argument.
-template <std::size_t Size> struct Utf16Literal {
+template <std::size_t Size>
+struct Utf16Literal {
     char16_t text[Size]{};
     // NOLINTNEXTLINE(google-explicit-constructor): the compiler makes it from a literal.
     constexpr Utf16Literal(const char16_t (&characters)[Size]) {
@@ -67,12 +68,12 @@ template <std::size_t Size> struct Utf16Literal {
 inline namespace literals {
 
 /// `u"你好"_ns`: one string object for the life of the process.
-template <detail::Utf16Literal Text> String operator""_ns() {
+template <detail::Utf16Literal Text>
+String operator""_ns() {
     static const String constant = [] {
-        return String::sendClass<"alloc", String>()
-            .send<"initWithCharacters:length:", String>(
-                static_cast<const char16_t*>(Text.text),
-                static_cast<unsigned long>(Text.view().size()));
+        return String::sendClass<"alloc", String>().send<"initWithCharacters:length:", String>(
+            static_cast<const char16_t*>(Text.text),
+            static_cast<unsigned long>(Text.view().size()));
     }();
     return constant;
 }

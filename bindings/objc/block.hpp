@@ -37,15 +37,16 @@ struct BlockHeader {
 inline constexpr int blockHasCopyDispose = 1 << 25;
 inline constexpr int blockHasSignature = 1 << 30;
 
-template <class Body, class Signature> struct BlockLiteral;
-template <class Body, class R, class... A> struct BlockLiteral<Body, R(A...)> {
+template <class Body, class Signature>
+struct BlockLiteral;
+template <class Body, class R, class... A>
+struct BlockLiteral<Body, R(A...)> {
     BlockHeader header;
     Body body;
 
     static Passed<R> invoke(BlockLiteral* block, Passed<A>... arguments) {
-        return contained("block", [&]() -> Passed<R> {
-            return block->body(received<A>(arguments)...);
-        });
+        return contained("block",
+                         [&]() -> Passed<R> { return block->body(received<A>(arguments)...); });
     }
     static void copy(void* to, const void* from) {
         new (&static_cast<BlockLiteral*>(to)->body)
@@ -61,15 +62,17 @@ template <class Body, class R, class... A> struct BlockLiteral<Body, R(A...)> {
 } // namespace detail
 
 /// A borrowed block: an object, and callable from C++ with its exact type.
-template <class Signature> class Block;
-template <class R, class... A> class Block<R(A...)> : public Object {
+template <class Signature>
+class Block;
+template <class R, class... A>
+class Block<R(A...)> : public Object {
 public:
     static constexpr auto encoding = Literal("@?");
 
-    /// The lambda as a block, autoreleased. An exception that leaves the lambda is reported and ends
-    /// there: a block is entered from the platform.
+    /// The lambda as a block, autoreleased. An exception that leaves the lambda is reported and
+    /// ends there: a block is entered from the platform.
     template <class Body>
-        requires std::invocable<Body&, A...>
+    requires std::invocable<Body&, A...>
     static Block from(Body body) {
         using Block_ = detail::BlockLiteral<Body, R(A...)>;
         static constexpr detail::BlockDescriptor descriptor{

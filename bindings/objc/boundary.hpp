@@ -31,7 +31,8 @@ void reportSwallowed(const char* where) noexcept;
 void logLine(const std::string& text) noexcept;
 
 /// Runs `body`; an exception is reported and gives a zero result.
-template <class Body> auto contained(const char* where, Body&& body) noexcept {
+template <class Body>
+auto contained(const char* where, Body&& body) noexcept {
     using Result = decltype(std::forward<Body>(body)());
     try {
         return std::forward<Body>(body)();

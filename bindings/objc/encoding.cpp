@@ -20,9 +20,26 @@ std::string normalised(std::string_view encoding) {
             continue;
         }
         switch (c) {
-        case '0': case '1': case '2': case '3': case '4': case '5': case '6': case '7': case '8':
-        case '9': case '+': case '-':                          // frame offsets
-        case 'r': case 'n': case 'N': case 'o': case 'O': case 'R': case 'V': case 'A': // qualifiers
+        case '0':
+        case '1':
+        case '2':
+        case '3':
+        case '4':
+        case '5':
+        case '6':
+        case '7':
+        case '8':
+        case '9':
+        case '+':
+        case '-': // frame offsets
+        case 'r':
+        case 'n':
+        case 'N':
+        case 'o':
+        case 'O':
+        case 'R':
+        case 'V':
+        case 'A': // qualifiers
             break;
         case '"': // the class of an object argument
             at = std::min(encoding.find('"', at + 1), encoding.size());
@@ -32,15 +49,25 @@ std::string normalised(std::string_view encoding) {
                 plain += c;
             }
             break;
-        case 'l': plain += 'q'; break;
-        case 'L': plain += 'Q'; break;
-        case 'c': case 'C': plain += 'B'; break;
-        case '*': plain += "^B"; break;
+        case 'l':
+            plain += 'q';
+            break;
+        case 'L':
+            plain += 'Q';
+            break;
+        case 'c':
+        case 'C':
+            plain += 'B';
+            break;
+        case '*':
+            plain += "^B";
+            break;
         case '{':
             plain += c;
             inName = true;
             break;
-        default: plain += c;
+        default:
+            plain += c;
         }
     }
     return plain;

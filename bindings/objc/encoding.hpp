@@ -1,4 +1,5 @@
-// Type encodings: how the runtime writes the types of a method, made from C++ types at compile time.
+// Type encodings: how the runtime writes the types of a method, made from C++ types at compile
+// time.
 #pragma once
 
 #include "bindings/objc/object.hpp"
@@ -11,13 +12,18 @@ namespace objc {
 
 /// The encoding of a C++ type as a literal `value`. A type without one is a compile error; value
 /// types of the platform specialise it where they are declared.
-template <class T> struct Encoding;
+template <class T>
+struct Encoding;
 
-template <class T> constexpr auto encodingOf() { return Encoding<std::remove_cv_t<T>>::value; }
+template <class T>
+constexpr auto encodingOf() {
+    return Encoding<std::remove_cv_t<T>>::value;
+}
 
 // NOLINTBEGIN(cppcoreguidelines-macro-usage)
 #define WENTRA_ENCODES(TYPE, TEXT)                                                                 \
-    template <> struct Encoding<TYPE> {                                                            \
+    template <>                                                                                    \
+    struct Encoding<TYPE> {                                                                        \
         static constexpr Literal value = TEXT;                                                     \
     }
 WENTRA_ENCODES(void, "v");
@@ -50,7 +56,7 @@ WENTRA_ENCODES(const void*, "r^v");
 /// A handle is written by what it refers to: an object, unless its kind says otherwise (a block
 /// says "@?").
 template <class T>
-    requires std::derived_from<T, Object>
+requires std::derived_from<T, Object>
 struct Encoding<T> {
     static constexpr auto value = [] {
         if constexpr (requires { T::encoding; }) {
@@ -62,21 +68,22 @@ struct Encoding<T> {
 };
 
 template <class T>
-    requires std::is_enum_v<T>
+requires std::is_enum_v<T>
 struct Encoding<T> {
     static constexpr auto value = encodingOf<std::underlying_type_t<T>>();
 };
 
 template <class T>
-    requires(std::is_pointer_v<T> && std::is_arithmetic_v<std::remove_pointer_t<T>> &&
-             !std::is_same_v<std::remove_cv_t<std::remove_pointer_t<T>>, char>)
-struct Encoding<T> {
+requires(std::is_pointer_v<T>&& std::is_arithmetic_v<std::remove_pointer_t<T>> &&
+         !std::is_same_v<std::remove_cv_t<std::remove_pointer_t<T>>, char>) struct Encoding<T> {
     static constexpr auto value = join(Literal("^"), encodingOf<std::remove_pointer_t<T>>());
 };
 
 /// The types of a method: result, receiver, selector, arguments. `bool(Label)` gives "B@:@".
-template <class Signature> struct MethodEncoding;
-template <class Result, class... Arguments> struct MethodEncoding<Result(Arguments...)> {
+template <class Signature>
+struct MethodEncoding;
+template <class Result, class... Arguments>
+struct MethodEncoding<Result(Arguments...)> {
     static constexpr auto value =
         join(encodingOf<Lent<Result>>(), Literal("@:"), encodingOf<Lent<Arguments>>()...);
 };

@@ -52,6 +52,9 @@ Outcome hookMethod(Class cls, SEL name, const char* types, IMP replacement, IMP*
 
 Outcome exchangeMethods(Class cls, SEL name, SEL with, const char* types, IMP replacement) {
     const Outcome outcome = check(cls, name, types);
+    if (outcome == Outcome::methodMissing) {
+        return Outcome::nothingToExchange;
+    }
     if (outcome != Outcome::installed) {
         return outcome;
     }

@@ -14,10 +14,11 @@ namespace objc {
 /// What a row's installation came to.
 enum class Outcome {
     installed,
-    classMissing,  ///< The process has no such class: the feature is absent there, no error.
-    methodMissing, ///< The class exists but has no such method to replace.
-    methodPresent, ///< The class has a method of its own where one was to be added.
-    typesDiffer,   ///< The method has other types than the replacement; it was left alone.
+    classMissing,      ///< The process has no such class: the feature is absent there, no error.
+    methodMissing,     ///< The class exists but has no such method to replace.
+    nothingToExchange, ///< The class exists but does not answer the selector: nothing was done.
+    methodPresent,     ///< The class has a method of its own where one was to be added.
+    typesDiffer,       ///< The method has other types than the replacement; it was left alone.
 };
 
 /// One row of a table of changes to classes that are not ours. `install` does it and says how it
@@ -32,9 +33,10 @@ struct Change {
     [[nodiscard]] std::string description() const;
 };
 
-/// What was there before the replacement, ready to be called with the method's arguments. Calling it
-/// is up to the replacement; whatever it throws belongs to the host and passes through.
-template <class Signature> class Next;
+/// What was there before the replacement, ready to be called with the method's arguments. Calling
+/// it is up to the replacement; whatever it throws belongs to the host and passes through.
+template <class Signature>
+class Next;
 
 namespace detail {
 
@@ -46,7 +48,8 @@ struct Progress {
 
 } // namespace detail
 
-template <class R, class... A> class Next<R(A...)> {
+template <class R, class... A>
+class Next<R(A...)> {
 public:
     Next(IMP former, id self, SEL name, detail::Progress& progress)
         : former_(former), self_(self), name_(name), progress_(&progress) {}
@@ -100,14 +103,16 @@ R guarded(const char* where, IMP former, id self, SEL name, A... arguments) {
     return R();
 }
 
-template <auto Replacement, class Function = decltype(Replacement)> struct Signature;
+template <auto Replacement, class Function = decltype(Replacement)>
+struct Signature;
 template <auto Replacement, class R, class Receiver, class... A>
 struct Signature<Replacement, R (*)(Next<R(A...)>, Receiver, A...)> {
     static constexpr std::size_t argumentCount = sizeof...(A);
     static constexpr const char* types = detail::types<R(A...)>;
 
     /// The replacement behind a slot that keeps the former implementation.
-    template <Literal ClassName, Literal Selector> struct Slot {
+    template <Literal ClassName, Literal Selector>
+    struct Slot {
         static inline IMP former = nullptr;
         static Passed<R> call(id self, SEL name, Passed<A>... arguments) {
             return guarded<Replacement, Receiver, R, A...>(where<ClassName, Selector>, former, self,
@@ -115,7 +120,8 @@ struct Signature<Replacement, R (*)(Next<R(A...)>, Receiver, A...)> {
         }
     };
     /// The replacement whose former implementation answers another selector.
-    template <Literal ClassName, Literal Selector, Literal Other> struct Exchanged {
+    template <Literal ClassName, Literal Selector, Literal Other>
+    struct Exchanged {
         static Passed<R> call(id self, SEL, Passed<A>... arguments) {
             const SEL other = selector<Other>();
             return guarded<Replacement, Receiver, R, A...>(where<ClassName, Selector>,
@@ -145,7 +151,8 @@ IMP exchanged() {
     return reinterpret_cast<IMP>(&Call::call);
 }
 
-template <auto Function, class Type = decltype(Function)> struct Addition;
+template <auto Function, class Type = decltype(Function)>
+struct Addition;
 template <auto Function, class R, class Receiver, class... A>
 struct Addition<Function, R (*)(Receiver, A...)> {
     static constexpr const char* types = detail::types<R(A...)>;
@@ -166,23 +173,25 @@ struct Addition<Function, R (*)(Receiver, A...)> {
 ///
 /// The types come from the function; a method whose own types differ is left alone. An inherited
 /// method is overridden in the named class only.
-template <Literal ClassName, Literal Selector, auto Replacement> constexpr Change hook() {
+template <Literal ClassName, Literal Selector, auto Replacement>
+constexpr Change hook() {
     static_assert(argumentCount(Selector) == detail::Signature<Replacement>::argumentCount);
     return {ClassName.data(), Selector.data(), Side::instance,
             &detail::installHook<ClassName, Selector, Side::instance, Replacement>};
 }
 
 /// The same for a class method; the replacement's receiver is the class, as an `Object`.
-template <Literal ClassName, Literal Selector, auto Replacement> constexpr Change classHook() {
+template <Literal ClassName, Literal Selector, auto Replacement>
+constexpr Change classHook() {
     static_assert(argumentCount(Selector) == detail::Signature<Replacement>::argumentCount);
     return {ClassName.data(), Selector.data(), Side::type,
             &detail::installHook<ClassName, Selector, Side::type, Replacement>};
 }
 
-/// Adds the replacement under `Other` and exchanges it with `Selector`: from then on `Selector` runs
-/// the replacement and `Other` the former method, which `next` sends. Where the class only inherits
-/// `Selector`, it is overridden there and the superclass stays as it is; a class that does not
-/// answer `Selector` at all is left alone.
+/// Adds the replacement under `Other` and exchanges it with `Selector`: from then on `Selector`
+/// runs the replacement and `Other` the former method, which `next` sends. Where the class only
+/// inherits `Selector`, it is overridden there and the superclass stays as it is; a class that does
+/// not answer `Selector` at all is left alone.
 template <Literal ClassName, Literal Selector, Literal Other, auto Replacement>
 constexpr Change exchange() {
     static_assert(argumentCount(Selector) == argumentCount(Other));
@@ -196,7 +205,8 @@ constexpr Change exchange() {
 
 /// Adds a method to a class that lacks it: `bool isOn(ui::View self)` under "isOn". One that the
 /// class has already is left alone.
-template <Literal ClassName, Literal Selector, auto Function> constexpr Change addition() {
+template <Literal ClassName, Literal Selector, auto Function>
+constexpr Change addition() {
     static_assert(argumentCount(Selector) == detail::Addition<Function>::argumentCount);
     return {ClassName.data(), Selector.data(), Side::instance, []() noexcept {
                 using Types = detail::Addition<Function>;
@@ -207,7 +217,8 @@ template <Literal ClassName, Literal Selector, auto Function> constexpr Change a
 }
 
 /// The same for a class method; the function's first argument is the class, as an `Object`.
-template <Literal ClassName, Literal Selector, auto Function> constexpr Change classAddition() {
+template <Literal ClassName, Literal Selector, auto Function>
+constexpr Change classAddition() {
     static_assert(argumentCount(Selector) == detail::Addition<Function>::argumentCount);
     return {ClassName.data(), Selector.data(), Side::type, []() noexcept {
                 using Types = detail::Addition<Function>;

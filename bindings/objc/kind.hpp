@@ -8,7 +8,8 @@
 namespace objc {
 
 /// `struct Label : objc::Kind<Label, "UILabel", View> { … }`: one line for each message.
-template <class Self, Literal Name, class Super = Object> struct Kind : Super {
+template <class Self, Literal Name, class Super = Object>
+struct Kind : Super {
     using Superkind = Super;
     static constexpr auto className = Name;
 

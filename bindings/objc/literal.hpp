@@ -1,4 +1,5 @@
-// A string literal as a template argument: selectors, class names and type encodings are values of it.
+// A string literal as a template argument: selectors, class names and type encodings are values of
+// it.
 #pragma once
 
 #include <algorithm>
@@ -8,7 +9,8 @@
 namespace objc {
 
 /// The characters of a literal with their terminating NUL; `Size` counts the NUL.
-template <std::size_t Size> struct Literal {
+template <std::size_t Size>
+struct Literal {
     char text[Size]{};
 
     constexpr Literal() = default;
@@ -29,7 +31,8 @@ constexpr auto join(const Literal<Sizes>&... parts) {
 }
 
 /// The name of the setter of a property: "tintColor" gives "setTintColor:".
-template <std::size_t Size> constexpr auto setterName(Literal<Size> property) {
+template <std::size_t Size>
+constexpr auto setterName(Literal<Size> property) {
     char& first = property.text[0];
     if (first >= 'a' && first <= 'z') {
         first = static_cast<char>(first - 'a' + 'A');
@@ -38,7 +41,8 @@ template <std::size_t Size> constexpr auto setterName(Literal<Size> property) {
 }
 
 /// The name of the getter of a boolean property: "hidden" gives "isHidden".
-template <std::size_t Size> constexpr auto flagGetterName(Literal<Size> property) {
+template <std::size_t Size>
+constexpr auto flagGetterName(Literal<Size> property) {
     char& first = property.text[0];
     if (first >= 'a' && first <= 'z') {
         first = static_cast<char>(first - 'a' + 'A');
@@ -47,7 +51,8 @@ template <std::size_t Size> constexpr auto flagGetterName(Literal<Size> property
 }
 
 /// How many arguments a selector takes: one for each colon.
-template <std::size_t Size> constexpr std::size_t argumentCount(const Literal<Size>& selector) {
+template <std::size_t Size>
+constexpr std::size_t argumentCount(const Literal<Size>& selector) {
     return static_cast<std::size_t>(std::ranges::count(selector.view(), ':'));
 }
 

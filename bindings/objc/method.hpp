@@ -34,22 +34,24 @@ void addMethod(const MethodRow& row, Class cls);
 namespace detail {
 
 /// Result, class and argument types of a member function, or the type of a data member.
-template <class Member> struct MemberType;
-template <class R, class C, class... A> struct MemberType<R (C::*)(A...)> {
+template <class Member>
+struct MemberType;
+template <class R, class C, class... A>
+struct MemberType<R (C::*)(A...)> {
     using Owner = C;
     using Result = R;
     static constexpr std::size_t argumentCount = sizeof...(A);
     using Signature = R(A...);
 };
-template <class R, class C, class... A> struct MemberType<R (C::*)(A...) const> {
+template <class R, class C, class... A>
+struct MemberType<R (C::*)(A...) const> {
     using Owner = C;
     using Result = R;
     static constexpr std::size_t argumentCount = sizeof...(A);
     using Signature = R(A...);
 };
 template <class T, class C>
-    requires(!std::is_function_v<T>)
-struct MemberType<T C::*> {
+requires(!std::is_function_v<T>) struct MemberType<T C::*> {
     using Owner = C;
     using Result = T;
     static constexpr std::size_t argumentCount = 0;
@@ -61,7 +63,8 @@ template <auto Member, class Signature = typename MemberType<decltype(Member)>::
 struct Trampoline;
 
 /// The function that the runtime calls: finds the peer, calls the member.
-template <auto Member, class R, class... A> struct Trampoline<Member, R(A...)> {
+template <auto Member, class R, class... A>
+struct Trampoline<Member, R(A...)> {
     using Owner = typename MemberType<decltype(Member)>::Owner;
     static Passed<Lent<R>> call(id self, SEL name, Passed<Lent<A>>... arguments) {
         auto body = [&]() -> Passed<Lent<R>> {
@@ -76,7 +79,8 @@ template <auto Member, class R, class... A> struct Trampoline<Member, R(A...)> {
 };
 
 /// Assigns to a data member, then tells the peer.
-template <auto Member, auto Changed> struct Assignment {
+template <auto Member, auto Changed>
+struct Assignment {
     using Owner = typename MemberType<decltype(Member)>::Owner;
     using Value = typename MemberType<decltype(Member)>::Value;
     static void call(id self, SEL, Passed<Lent<Value>> value) {
@@ -88,13 +92,17 @@ template <auto Member, auto Changed> struct Assignment {
     }
 };
 
-template <Literal Name> inline constexpr auto setterOf = setterName(Name);
-template <Literal Name> inline constexpr auto flagGetterOf = flagGetterName(Name);
+template <Literal Name>
+inline constexpr auto setterOf = setterName(Name);
+template <Literal Name>
+inline constexpr auto flagGetterOf = flagGetterName(Name);
 template <class Signature>
 inline constexpr const char* types = MethodEncoding<Signature>::value.data();
-template <class T> inline constexpr auto encoded = encodingOf<Lent<T>>();
+template <class T>
+inline constexpr auto encoded = encodingOf<Lent<T>>();
 
-template <class T> constexpr const char* ownership() {
+template <class T>
+constexpr const char* ownership() {
     if constexpr (std::is_same_v<T, Copied<Lent<T>>>) {
         return "C";
     } else if constexpr (std::is_same_v<T, Strong<Lent<T>>>) {
@@ -105,8 +113,10 @@ template <class T> constexpr const char* ownership() {
 }
 
 /// The function that the runtime calls for a class method.
-template <auto Function, class Type = decltype(Function)> struct ClassTrampoline;
-template <auto Function, class R, class... A> struct ClassTrampoline<Function, R (*)(Class, A...)> {
+template <auto Function, class Type = decltype(Function)>
+struct ClassTrampoline;
+template <auto Function, class R, class... A>
+struct ClassTrampoline<Function, R (*)(Class, A...)> {
     using Signature = Lent<R>(A...);
     static Passed<Lent<R>> call(Class self, SEL, Passed<Lent<A>>... arguments) {
         return Function(self, received<Lent<A>>(arguments)...);
@@ -116,7 +126,8 @@ template <auto Function, class R, class... A> struct ClassTrampoline<Function, R
 } // namespace detail
 
 /// An instance method: `method<"drawRect:", &Grip::drawRect>()`. A data member answers its value.
-template <Literal Selector, auto Member> MethodRow method() {
+template <Literal Selector, auto Member>
+MethodRow method() {
     using Type = detail::MemberType<decltype(Member)>;
     static_assert(argumentCount(Selector) == Type::argumentCount,
                   "a selector has one colon for each argument");
@@ -129,7 +140,8 @@ template <Literal Selector, auto Member> MethodRow method() {
 
 /// A class method, a static function that takes the receiving class first:
 /// `classMethod<"colorWithWhite:alpha:", &Color::withWhite>()`.
-template <Literal Selector, auto Function> MethodRow classMethod() {
+template <Literal Selector, auto Function>
+MethodRow classMethod() {
     using Call = detail::ClassTrampoline<Function>;
     MethodRow row;
     row.side = Side::type;
@@ -141,10 +153,10 @@ template <Literal Selector, auto Function> MethodRow classMethod() {
 
 /// A property kept in a data member, with its getter and setter; `Changed`, when given, is a member
 /// function that is called after each assignment. The member's type says who owns the value
-/// (`Strong`, `Copied` or a plain value): `property<"textColor", &Label::textColor_, &Label::redraw>()`.
+/// (`Strong`, `Copied` or a plain value): `property<"textColor", &Label::textColor_,
+/// &Label::redraw>()`.
 template <Literal Name, auto Member, auto Changed = nullptr>
-    requires(!std::is_member_function_pointer_v<decltype(Member)>)
-MethodRow property() {
+requires(!std::is_member_function_pointer_v<decltype(Member)>) MethodRow property() {
     using Value = typename detail::MemberType<decltype(Member)>::Value;
     MethodRow row = method<Name, Member>();
     row.setter = detail::setterOf<Name>.data();
@@ -156,23 +168,25 @@ MethodRow property() {
     return row;
 }
 
-/// A property with a getter and a setter of its own: `property<"frame", &View::frame, &View::setFrame>()`.
+/// A property with a getter and a setter of its own: `property<"frame", &View::frame,
+/// &View::setFrame>()`.
 template <Literal Name, auto Getter, auto Setter>
-    requires(std::is_member_function_pointer_v<decltype(Getter)>)
-MethodRow property() {
+requires(std::is_member_function_pointer_v<decltype(Getter)>) MethodRow property() {
     MethodRow row = method<Name, Getter>();
     const MethodRow setter = method<detail::setterOf<Name>, Setter>();
     row.setter = setter.selector;
     row.setterImplementation = setter.implementation;
     row.setterTypes = setter.types;
     row.property = Name.data();
-    row.propertyType = detail::encoded<typename detail::MemberType<decltype(Getter)>::Result>.data();
+    row.propertyType =
+        detail::encoded<typename detail::MemberType<decltype(Getter)>::Result>.data();
     return row;
 }
 
 /// A boolean property whose getter begins with "is": `flag<"hidden", &View::hidden_>()` answers
 /// `isHidden` and `setHidden:`.
-template <Literal Name, auto Member, auto Changed = nullptr> MethodRow flag() {
+template <Literal Name, auto Member, auto Changed = nullptr>
+MethodRow flag() {
     MethodRow row = property<Name, Member, Changed>();
     row.selector = detail::flagGetterOf<Name>.data();
     return row;

@@ -29,9 +29,13 @@ public:
     }
 
     /// The same object as another kind, unchecked; the caller knows what it is.
-    template <class Kind> [[nodiscard]] Kind assume() const { return std::bit_cast<Kind>(object_); }
+    template <class Kind>
+    [[nodiscard]] Kind assume() const {
+        return std::bit_cast<Kind>(object_);
+    }
     /// The same object as another kind, or nil when it is not of that kind.
-    template <class Kind> [[nodiscard]] Kind as() const {
+    template <class Kind>
+    [[nodiscard]] Kind as() const {
         const Class cls = Kind::classObject();
         return cls != nullptr && isKindOfClass(cls) ? assume<Kind>() : Kind();
     }
@@ -49,7 +53,10 @@ private:
 };
 
 /// A raw pointer from the runtime as a typed handle.
-template <class Kind = Object> Kind wrap(id object) { return std::bit_cast<Kind>(object); }
+template <class Kind = Object>
+Kind wrap(id object) {
+    return std::bit_cast<Kind>(object);
+}
 
 /// Anything that is a handle: one pointer wide, trivially copyable, derived from `Object`.
 template <class T>

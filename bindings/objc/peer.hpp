@@ -24,7 +24,8 @@ namespace objc {
 /// instance when the object is allocated, after the superclass's peer, and destroyed when it is
 /// deallocated. `methods()` is the only place that knows selectors; type encodings come from the
 /// member functions' types.
-template <class Self, class KindOfSelf, Boundary Border = Boundary::contained> class Peer {
+template <class Self, class KindOfSelf, Boundary Border = Boundary::contained>
+class Peer {
 public:
     using Kind = KindOfSelf;
     static constexpr Boundary border = Border;
@@ -83,11 +84,12 @@ private:
     static inline std::ptrdiff_t offset_ = 0;
 };
 
-template <class Self, class Kind, Boundary Border> Class Peer<Self, Kind, Border>::registerClass() {
-    const Class made = objc_lookUpClass(Kind::className.data()) != nullptr
-                           ? nullptr
-                           : objc_allocateClassPair(Kind::Superkind::classObject(),
-                                                    Kind::className.data(), 0);
+template <class Self, class Kind, Boundary Border>
+Class Peer<Self, Kind, Border>::registerClass() {
+    const Class made =
+        objc_lookUpClass(Kind::className.data()) != nullptr
+            ? nullptr
+            : objc_allocateClassPair(Kind::Superkind::classObject(), Kind::className.data(), 0);
     if (made == nullptr) {
         return nullptr;
     }

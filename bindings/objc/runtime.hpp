@@ -3,8 +3,8 @@
 
 #include <cstddef>
 
-// Declared here, not taken from a system header: the two runtimes ship different headers for what is
-// the same interface, and a cross-build has none.
+// Declared here, not taken from a system header: the two runtimes ship different headers for what
+// is the same interface, and a cross-build has none.
 struct objc_object;
 struct objc_class;
 struct objc_selector;

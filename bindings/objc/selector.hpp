@@ -9,7 +9,8 @@
 namespace objc {
 
 /// The selector of that name. Any thread; the first call registers it, later calls cost a load.
-template <Literal Name> SEL selector() {
+template <Literal Name>
+SEL selector() {
     // Zero-initialised, so that it may be used before any constructor of the image has run. Two
     // threads that race store the same value.
     static constinit std::atomic<SEL> registered{nullptr};

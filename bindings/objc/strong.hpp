@@ -9,7 +9,8 @@ namespace objc {
 
 /// Owns one reference to an object, or to none. Use it for every member that must outlive the
 /// current autorelease pool; it lends itself wherever the plain handle is wanted.
-template <class Kind> class Strong : public Kind {
+template <class Kind>
+class Strong : public Kind {
 public:
     constexpr Strong() = default;
     constexpr Strong(std::nullptr_t) {}
@@ -37,11 +38,14 @@ public:
     }
 
     /// Gives the reference up: the caller owns it from now on.
-    [[nodiscard]] Kind release() noexcept { return std::exchange(static_cast<Kind&>(*this), Kind()); }
+    [[nodiscard]] Kind release() noexcept {
+        return std::exchange(static_cast<Kind&>(*this), Kind());
+    }
 };
 
 /// Owns its own copy of what is assigned: for values that have mutable kinds, such as strings.
-template <class Kind> class Copied : public Strong<Kind> {
+template <class Kind>
+class Copied : public Strong<Kind> {
 public:
     constexpr Copied() = default;
     constexpr Copied(std::nullptr_t) {}
@@ -49,20 +53,25 @@ public:
     Copied(Kind original)
         : Strong<Kind>(Strong<Kind>::adopt(original.template send<"copy", Kind>())) {}
 };
-template <class Kind> struct Passing<Copied<Kind>> {
+template <class Kind>
+struct Passing<Copied<Kind>> {
     using Type = Kind;
 };
 
 /// The handle that an owning or plain reference type lends.
-template <class T> struct Lending {
+template <class T>
+struct Lending {
     using Type = T;
 };
-template <class Kind> struct Lending<Strong<Kind>> {
+template <class Kind>
+struct Lending<Strong<Kind>> {
     using Type = Kind;
 };
-template <class Kind> struct Lending<Copied<Kind>> {
+template <class Kind>
+struct Lending<Copied<Kind>> {
     using Type = Kind;
 };
-template <class T> using Lent = typename Lending<std::remove_cvref_t<T>>::Type;
+template <class T>
+using Lent = typename Lending<std::remove_cvref_t<T>>::Type;
 
 } // namespace objc

@@ -24,8 +24,8 @@ struct Color : objc::Kind<Color, "UIColor"> {
     static Color systemBackground() { return sendClass<"systemBackgroundColor", Color>(); }
     static Color systemBlue() { return sendClass<"systemBlueColor", Color>(); }
 
-    /// What UIColor's class method of that name answers ("redColor"), if it is a colour; nil when there
-    /// is no such method. The name must take no arguments.
+    /// What UIColor's class method of that name answers ("redColor"), if it is a colour; nil when
+    /// there is no such method. The name must take no arguments.
     static Color named(const std::string& classMethod) {
         const SEL name = sel_registerName(classMethod.c_str());
         const objc::Object receiver = objc::wrap(objc::object(classObject()));

@@ -30,9 +30,7 @@ struct Label : objc::Kind<Label, "UILabel", View> {
     void setFont(Font font) const { send<"setFont:">(font); }
     [[nodiscard]] Color textColor() const { return send<"textColor", Color>(); }
     void setTextColor(Color color) const { send<"setTextColor:">(color); }
-    void setTextAlignment(TextAlignment alignment) const {
-        send<"setTextAlignment:">(alignment);
-    }
+    void setTextAlignment(TextAlignment alignment) const { send<"setTextAlignment:">(alignment); }
     /// 0: as many as it takes.
     void setNumberOfLines(long lines) const { send<"setNumberOfLines:">(lines); }
     void setLineBreakMode(LineBreakMode mode) const { send<"setLineBreakMode:">(mode); }

@@ -8,9 +8,7 @@ namespace ui {
 struct MenuController : objc::Kind<MenuController, "UIMenuController"> {
     using Kind::Kind;
 
-    static MenuController shared() {
-        return sendClass<"sharedMenuController", MenuController>();
-    }
+    static MenuController shared() { return sendClass<"sharedMenuController", MenuController>(); }
     [[nodiscard]] ns::Array menuItems() const { return send<"menuItems", ns::Array>(); }
     void update() const { send<"update">(); }
 };

@@ -17,7 +17,13 @@ enum class StackDistribution : long {
 };
 
 /// How a stack places views across its axis; the platform's numbers.
-enum class StackAlignment : long { fill = 0, leading = 1, firstBaseline = 2, center = 3, trailing = 4 };
+enum class StackAlignment : long {
+    fill = 0,
+    leading = 1,
+    firstBaseline = 2,
+    center = 3,
+    trailing = 4
+};
 
 struct StackView : objc::Kind<StackView, "UIStackView", View> {
     using Kind::Kind;

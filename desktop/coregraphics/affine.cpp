@@ -14,19 +14,17 @@ CGPoint apply(const CGAffineTransform& t, CGPoint p) {
 CGRect apply(const CGAffineTransform& transform, CGRect rect) {
     const double right = rect.origin.x + rect.size.width;
     const double bottom = rect.origin.y + rect.size.height;
-    const std::array corners{apply(transform, rect.origin),
-                             apply(transform, CGPoint{right, rect.origin.y}),
-                             apply(transform, CGPoint{rect.origin.x, bottom}),
-                             apply(transform, CGPoint{right, bottom})};
+    const std::array corners{
+        apply(transform, rect.origin), apply(transform, CGPoint{right, rect.origin.y}),
+        apply(transform, CGPoint{rect.origin.x, bottom}), apply(transform, CGPoint{right, bottom})};
     const auto [left, farRight] = std::ranges::minmax(corners, {}, &CGPoint::x);
     const auto [top, farBottom] = std::ranges::minmax(corners, {}, &CGPoint::y);
     return {{left.x, top.y}, {farRight.x - left.x, farBottom.y - top.y}};
 }
 
 CGAffineTransform concatenated(const CGAffineTransform& f, const CGAffineTransform& s) {
-    return {f.a * s.a + f.b * s.c,         f.a * s.b + f.b * s.d,
-            f.c * s.a + f.d * s.c,         f.c * s.b + f.d * s.d,
-            f.tx * s.a + f.ty * s.c + s.tx, f.tx * s.b + f.ty * s.d + s.ty};
+    return {f.a * s.a + f.b * s.c, f.a * s.b + f.b * s.d,          f.c * s.a + f.d * s.c,
+            f.c * s.b + f.d * s.d, f.tx * s.a + f.ty * s.c + s.tx, f.tx * s.b + f.ty * s.d + s.ty};
 }
 
 std::optional<CGAffineTransform> inverted(const CGAffineTransform& t) {
@@ -61,8 +59,8 @@ bool intersects(CGRect one, CGRect other) {
 }
 
 bool hasNaN(CGRect rect) {
-    return std::isnan(rect.origin.x) || std::isnan(rect.origin.y) ||
-           std::isnan(rect.size.width) || std::isnan(rect.size.height);
+    return std::isnan(rect.origin.x) || std::isnan(rect.origin.y) || std::isnan(rect.size.width) ||
+           std::isnan(rect.size.height);
 }
 
 CGPoint centre(CGRect rect) {

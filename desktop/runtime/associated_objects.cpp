@@ -78,13 +78,16 @@ void objc_setAssociatedObject(id owner, const void* key, id object, unsigned lon
     constexpr unsigned long copies = 3;
     const objc::Object value = objc::wrap(object);
     switch (static_cast<objc::Association>(policy & copies)) {
-    case objc::Association::assign: Table::shared().set(owner, key, {value, nullptr}); break;
+    case objc::Association::assign:
+        Table::shared().set(owner, key, {value, nullptr});
+        break;
     case objc::Association::copyNonatomic: {
         objc::Strong<objc::Object> copy = objc::Copied<objc::Object>(value);
         Table::shared().set(owner, key, {copy, copy});
         break;
     }
-    default: Table::shared().set(owner, key, {value, value});
+    default:
+        Table::shared().set(owner, key, {value, value});
     }
 }
 

@@ -1,4 +1,5 @@
-// Grand Central Dispatch on the desktop: the main queue, global queues on threads, delays on the clock.
+// Grand Central Dispatch on the desktop: the main queue, global queues on threads, delays on the
+// clock.
 #include "bindings/dispatch/dispatch.hpp"
 
 #include "bindings/objc/pool.hpp"
@@ -6,8 +7,8 @@
 #include "desktop/runtime/main_queue.hpp"
 
 #include <algorithm>
-#include <condition_variable>
 #include <cmath>
+#include <condition_variable>
 #include <deque>
 #include <functional>
 #include <mutex>

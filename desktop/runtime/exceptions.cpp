@@ -1,4 +1,5 @@
-// Remembers the Objective-C exception that a thread threw last, so that C++ can name what it caught.
+// Remembers the Objective-C exception that a thread threw last, so that C++ can name what it
+// caught.
 #include "bindings/objc/strong.hpp"
 
 #include <cstdlib>

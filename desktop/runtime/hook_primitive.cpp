@@ -10,7 +10,8 @@ void MSHookMessageEx(Class cls, SEL name, IMP replacement, IMP* former) {
     if (former != nullptr) {
         *former = method_getImplementation(method);
     }
-    // GNU's class_replaceMethod would reach into the superclass that an inherited method belongs to.
+    // GNU's class_replaceMethod would reach into the superclass that an inherited method belongs
+    // to.
     if (class_addMethod(cls, name, replacement, method_getTypeEncoding(method)) == 0) {
         method_setImplementation(method, replacement);
     }

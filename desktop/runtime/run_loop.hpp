@@ -10,8 +10,8 @@ void runUntilIdle();
 /// own moment. With the real clock it waits that long instead. Main thread.
 void advance(double seconds);
 
-/// Sleeps until something can run, `descriptor` (when not -1) becomes readable, or the time is over;
-/// then returns without running it. Main thread.
+/// Sleeps until something can run, `descriptor` (when not -1) becomes readable, or the time is
+/// over; then returns without running it. Main thread.
 void sleep(int descriptor, double seconds);
 
 } // namespace desktop::run_loop

@@ -25,9 +25,8 @@ ns::Array Application::windows() const {
 void Application::show(ui::Window window) {
     std::erase(windows_, window);
     const double level = Window::of(window).level();
-    const auto place = std::ranges::find_if(windows_, [level](ui::Window other) {
-        return Window::of(other).level() > level;
-    });
+    const auto place = std::ranges::find_if(
+        windows_, [level](ui::Window other) { return Window::of(other).level() > level; });
     windows_.insert(place, window);
 }
 

@@ -29,8 +29,8 @@ public:
     [[nodiscard]] ui::WindowScene scene() const { return scene_; }
     [[nodiscard]] ui::Window keyWindow() const { return keyWindow_; }
     void setKeyWindow(ui::Window window) { keyWindow_ = window; }
-    /// Lists a window that has become visible, by its level and before those of higher levels. As on
-    /// the phone, the application does not own its windows.
+    /// Lists a window that has become visible, by its level and before those of higher levels. As
+    /// on the phone, the application does not own its windows.
     void show(ui::Window window);
     void forget(ui::Window window);
     [[nodiscard]] const std::vector<ui::Window>& visibleWindows() const { return windows_; }

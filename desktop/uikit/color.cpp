@@ -14,13 +14,14 @@ constexpr double channel(unsigned int rgba, unsigned int shift) {
     return ((rgba >> shift) & 0xFFU) / 255.0;
 }
 
-template <unsigned int Rgba> ui::Color constant(Class) {
-    return Color::with(
-        {channel(Rgba, 24), channel(Rgba, 16), channel(Rgba, 8), channel(Rgba, 0)});
+template <unsigned int Rgba>
+ui::Color constant(Class) {
+    return Color::with({channel(Rgba, 24), channel(Rgba, 16), channel(Rgba, 8), channel(Rgba, 0)});
 }
 
 /// A class method that answers one colour, given as 0xRRGGBBAA.
-template <objc::Literal Name, unsigned int Rgba> objc::MethodRow named() {
+template <objc::Literal Name, unsigned int Rgba>
+objc::MethodRow named() {
     return objc::classMethod<Name, &constant<Rgba>>();
 }
 

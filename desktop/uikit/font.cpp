@@ -24,9 +24,8 @@ constexpr std::array<std::pair<double, int>, 9> weights{{{-0.8, 100},
                                                          {0.62, 900}}};
 
 int nearestWeight(double weight) {
-    return std::ranges::min(weights, {}, [weight](const auto& known) {
-               return std::abs(known.first - weight);
-           })
+    return std::ranges::min(weights, {},
+                            [weight](const auto& known) { return std::abs(known.first - weight); })
         .second;
 }
 

@@ -12,7 +12,12 @@ namespace desktop {
 namespace {
 
 /// The platform's numbers of the content modes that are told apart here.
-enum class ContentMode : long { scaleToFill = 0, scaleAspectFit = 1, scaleAspectFill = 2, center = 4 };
+enum class ContentMode : long {
+    scaleToFill = 0,
+    scaleAspectFit = 1,
+    scaleAspectFill = 2,
+    center = 4
+};
 
 CGRect placed(CGSize image, CGRect bounds, ContentMode mode) {
     if (mode == ContentMode::scaleToFill || image.width <= 0 || image.height <= 0) {

@@ -16,10 +16,9 @@ namespace {
 // In the order of the platform's numbers.
 constexpr std::array alignments{TextAlignment::left, TextAlignment::center, TextAlignment::right,
                                 TextAlignment::justified, TextAlignment::natural};
-constexpr std::array lineBreakModes{
-    LineBreakMode::wordWrapping,   LineBreakMode::characterWrapping,
-    LineBreakMode::clipping,       LineBreakMode::truncatingHead,
-    LineBreakMode::truncatingTail, LineBreakMode::truncatingMiddle};
+constexpr std::array lineBreakModes{LineBreakMode::wordWrapping,   LineBreakMode::characterWrapping,
+                                    LineBreakMode::clipping,       LineBreakMode::truncatingHead,
+                                    LineBreakMode::truncatingTail, LineBreakMode::truncatingMiddle};
 
 /// The element that the platform's number stands for; the fallback for a number that is none.
 template <class Value, std::size_t Count, class Number>

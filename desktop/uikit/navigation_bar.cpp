@@ -23,9 +23,8 @@ ui::NavigationBar NavigationBar::initWithFrame(CGRect frame) {
 void NavigationBar::showTop() {
     const unsigned long count = items_.count();
     const auto top = count > 0 ? items_.at(count - 1).as<ui::NavigationItem>() : nullptr;
-    titleLabel_.setFont(prefersLargeTitles_
-                            ? ui::Font::boldSystem(largeTitleSize)
-                            : ui::Font::system(titleSize, ui::Font::semibold));
+    titleLabel_.setFont(prefersLargeTitles_ ? ui::Font::boldSystem(largeTitleSize)
+                                            : ui::Font::system(titleSize, ui::Font::semibold));
     titleLabel_.setTextAlignment(prefersLargeTitles_ ? ui::TextAlignment::left
                                                      : ui::TextAlignment::center);
     titleLabel_.setText(top.title());

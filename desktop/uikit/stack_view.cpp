@@ -30,9 +30,7 @@ ui::StackView StackView::initWithArrangedSubviews(ns::Array views) {
     return self();
 }
 
-void StackView::addArrangedSubview(ui::View view) {
-    insertArrangedSubview(view, arranged_.size());
-}
+void StackView::addArrangedSubview(ui::View view) { insertArrangedSubview(view, arranged_.size()); }
 
 void StackView::insertArrangedSubview(ui::View view, unsigned long index) {
     if (!view) {
@@ -43,9 +41,8 @@ void StackView::insertArrangedSubview(ui::View view, unsigned long index) {
     if (view.superview() != self()) {
         self().addSubview(view);
     }
-    arranged_.insert(arranged_.begin() +
-                         static_cast<std::ptrdiff_t>(std::min(index, arranged_.size())),
-                     kept);
+    arranged_.insert(
+        arranged_.begin() + static_cast<std::ptrdiff_t>(std::min(index, arranged_.size())), kept);
     changed();
 }
 
@@ -112,8 +109,8 @@ double StackView::share(std::vector<Extent>& extents, double length) const {
     switch (distribution_) {
     case ui::StackDistribution::fillEqually:
         for (Extent& extent : extents) {
-            extent.length = std::max(0.0, (length - gaps * spacing_) /
-                                              static_cast<double>(extents.size()));
+            extent.length =
+                std::max(0.0, (length - gaps * spacing_) / static_cast<double>(extents.size()));
         }
         break;
     case ui::StackDistribution::fillProportionally:
@@ -134,9 +131,12 @@ double StackView::share(std::vector<Extent>& extents, double length) const {
 /// Where a view begins across the axis.
 double StackView::across(double breadth, double room) const {
     switch (alignment_) {
-    case ui::StackAlignment::center: return (room - breadth) / 2;
-    case ui::StackAlignment::trailing: return room - breadth;
-    default: return 0;
+    case ui::StackAlignment::center:
+        return (room - breadth) / 2;
+    case ui::StackAlignment::trailing:
+        return room - breadth;
+    default:
+        return 0;
     }
 }
 
@@ -152,8 +152,8 @@ void StackView::layoutSubviews() {
             extents[i].breadth = room.breadth;
         }
         const CGSize offset = size({along, across(extents[i].breadth, room.breadth)});
-        views[i].setFrame({{area.origin.x + offset.width, area.origin.y + offset.height},
-                           size(extents[i])});
+        views[i].setFrame(
+            {{area.origin.x + offset.width, area.origin.y + offset.height}, size(extents[i])});
         along += extents[i].length + space;
     }
 }

@@ -29,9 +29,9 @@ void drawTime(Canvas& canvas) {
 void drawSignal(Canvas& canvas, double left) {
     constexpr std::array heights{4.0, 6.0, 8.5, 11.0};
     for (std::size_t bar = 0; bar < heights.size(); ++bar) {
-        canvas.fill({left + 4.7 * static_cast<double>(bar), middle + 5.5 - heights[bar], 3.2,
-                     heights[bar]},
-                    ink, 1);
+        canvas.fill(
+            {left + 4.7 * static_cast<double>(bar), middle + 5.5 - heights[bar], 3.2, heights[bar]},
+            ink, 1);
     }
 }
 

@@ -35,7 +35,10 @@ namespace desktop::uikit {
 namespace {
 
 /// Registers classes in that order: superclasses first.
-template <class... Classes> void registerAll() { (Classes::registerClass(), ...); }
+template <class... Classes>
+void registerAll() {
+    (Classes::registerClass(), ...);
+}
 
 /// A phone without a notch has a plain status bar and no home indicator to keep clear of.
 UIEdgeInsets safeAreaOf(CGSize size) {

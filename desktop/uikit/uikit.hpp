@@ -21,8 +21,8 @@ void startApplication(ScreenSize size);
 /// Brings the layout of all windows up to date. Main thread.
 void layoutWindows();
 
-/// Lays out and draws the windows, at device pixels, into a PNG file. Throws std::runtime_error when
-/// it cannot be written. Main thread.
+/// Lays out and draws the windows, at device pixels, into a PNG file. Throws std::runtime_error
+/// when it cannot be written. Main thread.
 void renderScreen(const std::string& pngFile);
 
 } // namespace desktop::uikit

@@ -70,9 +70,8 @@ void View::insert(ui::View view, std::size_t index) {
         view.removeFromSuperview();
     }
     view.send<"willMoveToSuperview:">(self());
-    subviews_.insert(subviews_.begin() +
-                         static_cast<std::ptrdiff_t>(std::min(index, subviews_.size())),
-                     kept);
+    subviews_.insert(
+        subviews_.begin() + static_cast<std::ptrdiff_t>(std::min(index, subviews_.size())), kept);
     of(view).superview_ = self();
     self().setNeedsLayout();
     view.send<"didMoveToSuperview">();

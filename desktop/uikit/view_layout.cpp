@@ -68,8 +68,7 @@ void View::autoresize(CGSize former, CGSize current) {
     stretch(frame.origin.x, frame.size.width, former.width, current.width,
             flexible(flexibleLeftMargin), flexible(flexibleWidth), flexible(flexibleRightMargin));
     stretch(frame.origin.y, frame.size.height, former.height, current.height,
-            flexible(flexibleTopMargin), flexible(flexibleHeight),
-            flexible(flexibleBottomMargin));
+            flexible(flexibleTopMargin), flexible(flexibleHeight), flexible(flexibleBottomMargin));
     if (frame != before) {
         self().setFrame(frame);
     }
@@ -87,8 +86,7 @@ UIEdgeInsets View::safeAreaInsets() const {
         return std::max(0.0, unsafeEdge - std::max(0.0, distance));
     };
     return {overlap(unsafe.top, own.origin.y), overlap(unsafe.left, own.origin.x),
-            overlap(unsafe.bottom,
-                    screen.size.height - own.origin.y - own.size.height),
+            overlap(unsafe.bottom, screen.size.height - own.origin.y - own.size.height),
             overlap(unsafe.right, screen.size.width - own.origin.x - own.size.width)};
 }
 

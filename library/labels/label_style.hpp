@@ -25,8 +25,7 @@ void applyColourRule(Label label, ns::String text, const startup::Preferences& p
     }
     if (const ns::String digits = StoredRules(RuleKind::colour).text(text); digits) {
         const Colour colour = colourFromRgb(scanHexadecimal(digits.utf16()));
-        label.setTextColor(
-            ui::Color::rgba(colour.red, colour.green, colour.blue, colour.alpha));
+        label.setTextColor(ui::Color::rgba(colour.red, colour.green, colour.blue, colour.alpha));
     }
 }
 
@@ -61,7 +60,8 @@ void applySizeRules(Label label, ns::String text, const startup::Preferences& pr
 /// Height, width, horizontal and vertical position, each keeping the rest of the frame; then alpha.
 void applyFrameRules(ui::View label, ns::String text, const startup::Preferences& preferences);
 
-/// Sets the font of the text's own rule at the current size; an unknown name sets no font, as given.
+/// Sets the font of the text's own rule at the current size; an unknown name sets no font, as
+/// given.
 template <class Label>
 void applyTextFontRule(Label label, ns::String text, const startup::Preferences& preferences) {
     if (!preferences.on(startup::keys.changeFont)) {
@@ -72,8 +72,8 @@ void applyTextFontRule(Label label, ns::String text, const startup::Preferences&
     }
 }
 
-/// The same, unless a global font is in force. A global font that was used once stays in force until
-/// the process ends, even after its switch is turned off.
+/// The same, unless a global font is in force. A global font that was used once stays in force
+/// until the process ends, even after its switch is turned off.
 template <class Label>
 void applyFontRules(Label label, ns::String text, const startup::Preferences& preferences) {
     if (!preferences.on(startup::keys.changeFont)) {

@@ -20,8 +20,8 @@ using startup::Preferences;
 /// The text that a label shows instead: `text` itself when no rule says otherwise.
 ns::String replaced(ns::String text) {
     const StoredRules rules(RuleKind::text);
-    const auto result =
-        replacedText(text.utf16(), [&rules](std::u16string_view key) -> std::optional<std::u16string> {
+    const auto result = replacedText(
+        text.utf16(), [&rules](std::u16string_view key) -> std::optional<std::u16string> {
             const ns::String value = rules.text(ns::String::from(key));
             return value ? std::optional(value.utf16()) : std::nullopt;
         });
@@ -62,8 +62,7 @@ void rewriteYYLabel(objc::Next<void(ns::String)> next, YYLabel label, ns::String
 /// One text is never shown by any label: it only makes the label's font small.
 void withholdOneText(objc::Next<void(ns::String)> next, ui::Label label, ns::String text) {
     constexpr double smallSize = 10;
-    if (text.as<ns::String>() &&
-        text.isEqualToString(u"感谢逆向，没技术含量的插件。"_ns)) {
+    if (text.as<ns::String>() && text.isEqualToString(u"感谢逆向，没技术含量的插件。"_ns)) {
         label.setFont(ui::Font::system(smallSize));
         return;
     }

@@ -7,8 +7,8 @@
 
 namespace wentra::labels {
 
-/// `saveRulesFromTextView:` on UIView: stores the rules in the given text view's text, and takes the
-/// text view off the screen.
+/// `saveRulesFromTextView:` on UIView: stores the rules in the given text view's text, and takes
+/// the text view off the screen.
 std::span<const objc::Change> ruleEditorCategory();
 
 /// `layoutSubviews` of the containers found in many applications.

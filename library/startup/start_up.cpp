@@ -21,7 +21,8 @@ namespace wentra::startup {
 namespace {
 
 /// Installs the rows of a room's table, in order.
-template <auto Table> void install() {
+template <auto Table>
+void install() {
     for (const objc::Change& change : Table()) {
         objc::install(change);
     }

@@ -12,7 +12,8 @@
 
 namespace {
 
-template <class Signature> std::string encoding() {
+template <class Signature>
+std::string encoding() {
     return objc::MethodEncoding<Signature>::value.data();
 }
 
@@ -31,8 +32,8 @@ TEST(Encoding, WritesWhatTheRuntimeWrites) {
 
 TEST(Encoding, IsParsedByFoundationToTheRightSizes) {
     const objc::Pool pool;
-    const auto signature =
-        ns::MethodSignature::withTypes(encoding<CGRect(bool, CGAffineTransform, ns::Range)>().c_str());
+    const auto signature = ns::MethodSignature::withTypes(
+        encoding<CGRect(bool, CGAffineTransform, ns::Range)>().c_str());
     EXPECT_EQ(signature.numberOfArguments(), 5U);
     EXPECT_EQ(signature.returnLength(), sizeof(CGRect));
 }
@@ -44,15 +45,15 @@ TEST(Encoding, ComparesByMeaning) {
         bool same;
     };
     for (const auto& [one, other, same] : {
-             Case{"v24@0:8@16", "v@:@", true},                        // frame offsets
-             Case{"C16@0:8", "B@:", true},                            // BOOL
+             Case{"v24@0:8@16", "v@:@", true}, // frame offsets
+             Case{"C16@0:8", "B@:", true},     // BOOL
              Case{"c16@0:8", "B@:", true},
-             Case{"l16@0:8", "q@:", true},                            // NSInteger
-             Case{"{_NSRect={_NSPoint=dd}{_NSSize=dd}}16@0:8",        // structure names
+             Case{"l16@0:8", "q@:", true},                     // NSInteger
+             Case{"{_NSRect={_NSPoint=dd}{_NSSize=dd}}16@0:8", // structure names
                   "{CGRect={CGPoint=dd}{CGSize=dd}}@:", true},
-             Case{"v@:@?", "v@:@", true},                             // a block is an object
-             Case{"@\"NSString\"16@0:8", "@@:", true},                // an argument's class
-             Case{"Vv24@0:8r^v16", "v@:^v", true},                    // qualifiers
+             Case{"v@:@?", "v@:@", true},              // a block is an object
+             Case{"@\"NSString\"16@0:8", "@@:", true}, // an argument's class
+             Case{"Vv24@0:8r^v16", "v@:^v", true},     // qualifiers
              Case{"v@:@", "v@:", false},
              Case{"v@:f", "v@:d", false},
              Case{"v@:i", "v@:q", false},
@@ -68,8 +69,8 @@ TEST(Encoding, AgreesWithFoundationsOwnMethods) {
         return method_getTypeEncoding(
             class_getInstanceMethod(objc_getClass(cls), sel_registerName(name)));
     };
-    EXPECT_TRUE(objc::sameMeaning(typesOf("NSString", "isEqualToString:"),
-                                  encoding<bool(ns::String)>()));
+    EXPECT_TRUE(
+        objc::sameMeaning(typesOf("NSString", "isEqualToString:"), encoding<bool(ns::String)>()));
     EXPECT_TRUE(objc::sameMeaning(typesOf("NSString", "length"), encoding<unsigned long()>()));
     EXPECT_TRUE(objc::sameMeaning(typesOf("NSString", "rangeOfString:"),
                                   encoding<ns::Range(ns::String)>()));

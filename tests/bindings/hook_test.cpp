@@ -22,9 +22,9 @@ class Bell : public objc::Peer<Bell, BellKind, objc::Boundary::propagates> {
 public:
     static auto methods() {
         return std::array{
-            objc::method<"ring:", &Bell::ring>(),       objc::method<"chime:", &Bell::ring>(),
-            objc::method<"toll:", &Bell::ring>(),       objc::method<"crack:", &Bell::crack>(),
-            objc::method<"peal:", &Bell::ring>(),       objc::classMethod<"count", &Bell::count>(),
+            objc::method<"ring:", &Bell::ring>(), objc::method<"chime:", &Bell::ring>(),
+            objc::method<"toll:", &Bell::ring>(), objc::method<"crack:", &Bell::crack>(),
+            objc::method<"peal:", &Bell::ring>(), objc::classMethod<"count", &Bell::count>(),
         };
     }
     static inline int rings = 0;
@@ -115,13 +115,14 @@ TEST_F(HookTest, WhatCannotBeInstalledSaysWhy) {
     EXPECT_EQ((objc::hook<"TestBell", "ring:", &wrongTypes>().install()),
               objc::Outcome::typesDiffer);
     EXPECT_EQ((objc::exchange<"TestBell", "jingle:", "my_jingle:", &twice>().install()),
-              objc::Outcome::methodMissing);
+              objc::Outcome::nothingToExchange);
     EXPECT_FALSE(BellKind::make().respondsToSelector(sel_registerName("my_jingle:")));
     EXPECT_EQ((objc::classHook<"TestBell", "count", &counted>().description()), "+TestBell count");
 }
 
 /// Runs `body` and returns the places that reported a swallowed exception meanwhile.
-template <class Body> std::vector<std::string> swallowed(Body body) {
+template <class Body>
+std::vector<std::string> swallowed(Body body) {
     static std::vector<std::string> places;
     static const bool observing = [] {
         ns::NotificationCenter::defaultCenter().observe(
@@ -161,9 +162,8 @@ TEST_F(HookTest, AFailingReplacementLeavesTheHostWhatItWouldHaveHad) {
 
 TEST_F(HookTest, TheHostsOwnExceptionPassesThrough) {
     objc::hook<"TestBell", "crack:", &passOn>().install();
-    EXPECT_TRUE(swallowed([] {
-                    EXPECT_ANY_THROW((BellKind::make().send<"crack:", int>(1)));
-                }).empty());
+    EXPECT_TRUE(
+        swallowed([] { EXPECT_ANY_THROW((BellKind::make().send<"crack:", int>(1))); }).empty());
 }
 
 } // namespace

@@ -87,15 +87,14 @@ TEST_F(PeerTest, PeersLiveAndDieWithTheirObjectSuperclassFirst) {
         Animal::of(bird).renamings = 9;
         EXPECT_EQ(Bird::of(bird).feathers, 7) << "the peers share memory";
     }
-    EXPECT_EQ(lives, (std::vector<std::string>{"animal born", "bird born", "bird died",
-                                               "animal died"}));
+    EXPECT_EQ(lives,
+              (std::vector<std::string>{"animal born", "bird born", "bird died", "animal died"}));
 }
 
 TEST_F(PeerTest, PropertiesCopyRetainAndTell) {
     const auto animal = AnimalKind::make();
-    const auto mutableName =
-        objc::wrap<ns::String>(objc::send<"string", id>(
-            objc::object(objc_getClass("NSMutableString"))));
+    const auto mutableName = objc::wrap<ns::String>(
+        objc::send<"string", id>(objc::object(objc_getClass("NSMutableString"))));
     animal.setName(mutableName);
     objc::send<"appendString:">(mutableName.raw(), u"later"_ns);
     EXPECT_EQ(animal.name().utf8(), "") << "the property did not copy";
