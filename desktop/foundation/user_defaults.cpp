@@ -102,11 +102,11 @@ ns::Dictionary DeviceUserDefaults::representation() const {
 void DeviceUserDefaults::changed() {
     {
         const std::scoped_lock lock(mutex_);
-        if (!unwritten_) { // one write for all changes of this turn
+        if (file_ && !unwritten_) { // one write for all changes of this turn
             unwritten_ = true;
-            MainQueue::shared().add([this] {
+            MainQueue::shared().add([kept = objc::Strong(self())] {
                 const objc::Pool pool;
-                write();
+                of(kept).write();
             });
         }
     }
@@ -116,14 +116,20 @@ void DeviceUserDefaults::changed() {
 bool DeviceUserDefaults::synchronize() { return write(); }
 
 bool DeviceUserDefaults::write() {
-    const std::scoped_lock lock(mutex_);
-    if (!unwritten_) {
-        return true;
+    const std::scoped_lock writing(writing_);
+    objc::Strong<ns::Dictionary> snapshot;
+    {
+        const std::scoped_lock lock(mutex_);
+        if (!unwritten_) {
+            return true;
+        }
+        unwritten_ = false;
+        snapshot = objc::Copied<ns::Dictionary>(values_);
     }
-    unwritten_ = false;
+    // Not under the lock: Foundation itself asks for user defaults while it writes.
     std::error_code failure; // the write itself tells
     fs::create_directories(folder, failure);
-    return ns::PropertyList::data(values_, ns::PropertyListFormat::xml).writeToFile(file_, true);
+    return ns::PropertyList::data(snapshot, ns::PropertyListFormat::xml).writeToFile(file_, true);
 }
 
 void installUserDefaults(ns::String bundleIdentifier) {

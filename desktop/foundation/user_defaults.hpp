@@ -4,6 +4,7 @@
 #include "bindings/foundation/user_defaults.hpp"
 #include "desktop/class.hpp"
 
+#include <mutex>
 #include <shared_mutex>
 
 namespace desktop::foundation {
@@ -14,7 +15,7 @@ struct DeviceUserDefaultsKind
 };
 
 /// The standard user defaults. Values are immutable snapshots; changes are written in the main
-/// thread's next turn, and by `synchronize`. Any thread.
+/// thread's next turn, and by `synchronize`; without `load` they stay in memory. Any thread.
 class DeviceUserDefaults : public PlatformClass<DeviceUserDefaults, DeviceUserDefaultsKind> {
 public:
     static auto methods() {
@@ -44,6 +45,7 @@ private:
     bool write();
 
     mutable std::shared_mutex mutex_;
+    std::recursive_mutex writing_;
     objc::Strong<ns::MutableDictionary> values_ = ns::MutableDictionary::make();
     objc::Strong<ns::MutableDictionary> fallbacks_ = ns::MutableDictionary::make();
     objc::Strong<ns::String> file_;

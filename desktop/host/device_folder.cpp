@@ -31,6 +31,9 @@ DeviceFolder::DeviceFolder(const std::optional<std::filesystem::path>& given)
     if (!deviceroot_set(path_.c_str())) {
         throw std::runtime_error("cannot use as the device's root: " + path_.string());
     }
+    // What every phone has; its other folders are made by whoever writes into them.
+    std::filesystem::create_directories(path_ / "var/mobile/Library/Preferences");
+    std::filesystem::create_directories(path_ / "Library");
 }
 
 DeviceFolder::~DeviceFolder() {

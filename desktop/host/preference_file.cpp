@@ -1,6 +1,7 @@
 // Reading and writing the preference file.
 #include "desktop/host/preference_file.hpp"
 
+#include "desktop/foundation/property_list.hpp"
 #include "desktop/host/json.hpp"
 
 #include <filesystem>
@@ -28,10 +29,10 @@ ns::Dictionary read() {
 }
 
 void write(ns::Dictionary entries, ns::PropertyListFormat format) {
-    const auto data = ns::PropertyList::data(entries, format);
-    if (!data) {
+    if (!foundation::propertyListCopy(entries)) { // Foundation would write a description
         throw RequestError("preferences can hold only what a property list can");
     }
+    const auto data = ns::PropertyList::data(entries, format);
     std::error_code failure;
     fs::create_directories(file().parent_path(), failure);
     if (!data.writeToFile(asString(file()), true)) {

@@ -1,0 +1,97 @@
+// The clock, waiting, and the log of happenings.
+#include "tests/host/host.hpp"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using nlohmann::json;
+using support::HostProcess;
+
+class Time : public testing::Test {
+protected:
+    /// Sends the label a message after that many seconds of the device's clock.
+    void after(double seconds, const char* selector, const json& argument) {
+        host.message(label, "performSelector:withObject:afterDelay:",
+                     {{{"selector", selector}}, argument, seconds});
+    }
+    std::string text() { return host.message(label, "text"); }
+    void advance(double seconds) { host.result({{"do", "advance"}, {"seconds", seconds}}); }
+
+    HostProcess host = tests::automatedHost({"--app", "plain"});
+    json label = host.result({{"do", "find"}, {"where", {{"class", "UILabel"}}}}).at(0);
+};
+
+TEST_F(Time, StandsStillUntilItIsMoved) {
+    host.message(label, "setText:", {"before"});
+    after(2, "setText:", "late");
+    after(1, "setText:", "soon");
+    EXPECT_EQ(text(), "before");
+    advance(0.5);
+    EXPECT_EQ(text(), "before");
+    advance(0.5);
+    EXPECT_EQ(text(), "soon");
+    advance(60);
+    EXPECT_EQ(text(), "late");
+}
+
+TEST_F(Time, DelayedMessagesCanBeCancelled) {
+    host.message(label, "setText:", {"before"});
+    after(1, "setText:", "one");
+    after(2, "setText:", "two");
+    const json requests{{"class", "NSObject"}};
+    host.message(requests, "cancelPreviousPerformRequestsWithTarget:selector:object:",
+                 {label, {{"selector", "setText:"}}, "one"});
+    advance(1);
+    EXPECT_EQ(text(), "before");
+    advance(1);
+    EXPECT_EQ(text(), "two");
+    after(1, "setText:", "three");
+    host.message(requests, "cancelPreviousPerformRequestsWithTarget:", {label});
+    advance(1);
+    EXPECT_EQ(text(), "two");
+}
+
+TEST_F(Time, WhatAnExceptionInterruptsIsTold) {
+    after(1, "noSuchMethod", nullptr);
+    const std::string error = host.error({{"do", "advance"}, {"seconds", 1}});
+    EXPECT_EQ(error.find("NSInvalidArgumentException"), 0U) << error;
+    EXPECT_NE(error.find("noSuchMethod"), std::string::npos) << error;
+}
+
+TEST_F(Time, WaitingEndsWhenTheViewIsThere) {
+    host.message(label, "setText:", {"here"});
+    const json found =
+        host.result({{"do", "wait"}, {"for", {{"text", "here"}}}, {"seconds", 30}});
+    EXPECT_EQ(found.at(0).at("object"), label.at("object"));
+}
+
+TEST_F(Time, WaitingRunsWhatOtherThreadsHandToTheMainThread) {
+    // From a background thread to the main one, both by Foundation.
+    host.message(label, "performSelectorInBackground:withObject:",
+                 {{{"selector", "setText:"}}, "from afar"});
+    const json found =
+        host.result({{"do", "wait"}, {"for", {{"text", "from afar"}}}, {"seconds", 30}});
+    EXPECT_EQ(found.size(), 1U);
+}
+
+TEST_F(Time, LogLinesAreEventsAndGoToStandardError) {
+    const json exception = host.message(
+        {{"class", "NSException"}}, "exceptionWithName:reason:userInfo:", {"Name", "reason", nullptr});
+    EXPECT_EQ(exception.at("class"), "NSException");
+    // Foundation itself complains about a run loop mode of this kind, or a bad base URL, in its log.
+    host.message({{"class", "NSNotificationCenter"}}, "defaultCenter");
+    const json center = host.message({{"class", "NSNotificationCenter"}}, "defaultCenter");
+    host.message(center, "postNotificationName:object:userInfo:",
+                 {"WentraExceptionSwallowed", nullptr,
+                  {{"where", "UILabel setText:"}, {"name", "NSRangeException"}, {"reason", "far"}}});
+    const json expected = json::parse(
+        R"([{"kind":"exception","where":"UILabel setText:","name":"NSRangeException","reason":"far"}])");
+    EXPECT_EQ(host.result({{"do", "wait"}, {"for", {{"event", "exception"}}}, {"seconds", 30}}),
+              expected);
+    EXPECT_EQ(host.result({{"do", "events"}, {"keep", true}}), expected);
+    EXPECT_EQ(host.result({{"do", "events"}}), expected);
+    EXPECT_EQ(host.result({{"do", "events"}}), json::array());
+}
+
+} // namespace
