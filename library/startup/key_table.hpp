@@ -2,6 +2,7 @@
 #pragma once
 
 #include "library/startup/preference_keys.hpp"
+#include "library/startup/text_encoding.hpp"
 
 #include <cstddef>
 #include <string_view>
@@ -10,7 +11,7 @@ namespace wentra::startup {
 
 inline constexpr std::size_t knownKeyCount = sizeof(PreferenceKeys) / sizeof(Key);
 
-/// The place of the key of that UTF-8 name among the known ones, knownKeyCount for any other name.
-std::size_t knownKeyIndex(std::string_view name);
+/// The place among the known keys of the one with that name, knownKeyCount for any other name.
+std::size_t knownKeyIndex(std::string_view name, Encoding encoding = Encoding::utf8);
 
 } // namespace wentra::startup

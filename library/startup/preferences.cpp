@@ -18,8 +18,8 @@ class KnownEntries final : public EntrySink {
 public:
     explicit KnownEntries(std::array<Value, knownKeyCount>& values) : values_(values) {}
 
-    bool select(std::string_view key) override {
-        selected_ = knownKeyIndex(key);
+    bool select(std::string_view key, Encoding encoding) override {
+        selected_ = knownKeyIndex(key, encoding);
         return selected_ < knownKeyCount;
     }
 
@@ -32,15 +32,20 @@ private:
 
 class NamedEntry final : public EntrySink {
 public:
-    explicit NamedEntry(std::string_view name) : name_(name) {}
+    explicit NamedEntry(std::string_view name)
+        : utf8_(name), utf16_(bigEndianUtf16(utf16FromUtf8(name))) {}
 
-    bool select(std::string_view key) override { return key == name_; }
+    bool select(std::string_view key, Encoding encoding) override {
+        return key == (encoding == Encoding::utf8 ? utf8_ : std::string_view(utf16_));
+    }
+
     void assign(Value value) override { value_ = value; }
 
     Value value() const { return value_; }
 
 private:
-    std::string_view name_;
+    std::string_view utf8_;
+    std::string utf16_;
     Value value_;
 };
 
@@ -50,20 +55,19 @@ bool readPropertyList(const PaddedBytes& bytes, EntrySink& sink) {
     return readXmlPropertyList(bytes, sink);
 }
 
-PaddedBytes transcoded(std::string_view utf16, ByteOrder order) {
+PaddedBytes transcoded(std::string_view utf16, Encoding encoding) {
     if (utf16.size() % 2 != 0)
         return {};
-    std::string storage;
-    return PaddedBytes(convertToUtf8(utf16, order, storage));
+    return PaddedBytes(utf8FromUtf16(utf16FromBytes(utf16, encoding)));
 }
 
 // A byte order mark tells UTF-16 from UTF-8 and is not part of the document.
 PaddedBytes withoutByteOrderMark(PaddedBytes bytes) {
     const std::string_view view = bytes.view();
     if (view.starts_with("\xFE\xFF"))
-        return transcoded(view.substr(2), ByteOrder::bigEndian);
+        return transcoded(view.substr(2), Encoding::utf16BigEndian);
     if (view.starts_with("\xFF\xFE"))
-        return transcoded(view.substr(2), ByteOrder::littleEndian);
+        return transcoded(view.substr(2), Encoding::utf16LittleEndian);
     if (view.starts_with("\xEF\xBB\xBF"))
         return PaddedBytes(view.substr(3));
     return bytes;

@@ -66,7 +66,7 @@ std::u16string textValue(Value value) {
     case Value::Kind::escapedText:
         return utf16FromUtf8(unescapedXml(value.bytes()));
     case Value::Kind::utf16Text:
-        return utf16FromBytes(value.bytes(), ByteOrder::bigEndian);
+        return utf16FromBytes(value.bytes(), Encoding::utf16BigEndian);
     case Value::Kind::none:
     case Value::Kind::number:
         break;

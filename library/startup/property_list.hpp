@@ -1,6 +1,8 @@
 // A property list seen as the entries of its top dictionary, handed over one after the other.
 #pragma once
 
+#include "library/startup/text_encoding.hpp"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -58,8 +60,9 @@ std::u16string textValue(Value value);
 /// then reports success.
 class EntrySink {
 public:
-    /// Whether the value of this key, in UTF-8, is wanted; assign() then follows.
-    virtual bool select(std::string_view key) = 0;
+    /// Whether the value of this key is wanted; assign() then follows. The bytes are those of the
+    /// file, which spells keys in UTF-8 or in big-endian UTF-16.
+    virtual bool select(std::string_view key, Encoding encoding) = 0;
 
     /// The value of the key selected last.
     virtual void assign(Value value) = 0;

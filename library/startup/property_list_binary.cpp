@@ -76,10 +76,6 @@ struct Object {
     std::uint64_t size = 0;    // how many bytes they take
 };
 
-bool isText(const Object& object) {
-    return object.type == Type::asciiText || object.type == Type::utf16Text;
-}
-
 class BinaryReader {
 public:
     BinaryReader(std::string_view file, EntrySink& sink) : bytes_(file.data()), sink_(sink) {
@@ -124,7 +120,6 @@ private:
         return {bytes_ + object.content, static_cast<std::size_t>(object.size)};
     }
 
-    std::string_view utf8(const Object& key);
     Value value(const Object& object) const;
     double integer(const Object& object) const;
     double real(const Object& object) const;
@@ -150,7 +145,6 @@ private:
     std::uint64_t topObject_ = 0;
     std::uint64_t offsetTable_ = 0; // also where the objects end
     std::array<std::uint64_t, typeCount> unitSizes_{1, 1, 1, 1, 1, 1, 2};
-    std::string keyStorage_;
 };
 
 bool isSizeOfInteger(std::size_t size) { return size >= 1 && size <= 8; }
@@ -214,28 +208,21 @@ bool BinaryReader::referencesExist(const Object& object, std::uint64_t count) co
     return true;
 }
 
-// The objects were checked before. The keys' sizes are added up because one long key, named again
-// and again, would be read more often than there are bytes.
+// The objects were checked before.
 bool BinaryReader::topDictionary() {
     const Object dictionary = object(topObject_);
     if (dictionary.type != Type::dictionary)
         return false;
-    std::uint64_t spare = offsetTable_;
     for (std::uint64_t index = 0; index < dictionary.count; ++index) {
         const Object key = object(reference(dictionary, index));
-        if (!isText(key) || key.size > spare)
+        if (key.type != Type::asciiText && key.type != Type::utf16Text)
             return false;
-        spare -= key.size;
-        if (sink_.select(utf8(key)))
+        const Encoding encoding =
+            key.type == Type::asciiText ? Encoding::utf8 : Encoding::utf16BigEndian;
+        if (sink_.select(content(key), encoding))
             sink_.assign(value(object(reference(dictionary, dictionary.count + index))));
     }
     return true;
-}
-
-std::string_view BinaryReader::utf8(const Object& key) {
-    if (key.type == Type::asciiText)
-        return content(key);
-    return convertToUtf8(content(key), ByteOrder::bigEndian, keyStorage_);
 }
 
 Value BinaryReader::value(const Object& object) const {

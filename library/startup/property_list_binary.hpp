@@ -10,10 +10,10 @@ namespace wentra::startup {
 inline constexpr std::string_view binarySignature = "bplist00";
 
 /// Hands the entries of the top dictionary to `sink`. Each object of the file is checked on its own
-/// in one linear pass; references are compared with the number of objects but not followed, but for
-/// the kind of a dictionary's keys, so that cycles do no harm. Values and keys refer to `file`; a
-/// key only until the sink returns. False when the file is malformed or cut short, its objects
-/// overlap, or its top object is no dictionary.
+/// in one linear pass; references are compared with the number of objects but only the top
+/// dictionary's are followed, so that cycles do no harm. Keys and values refer to `file`. False
+/// when the file is malformed or cut short, its objects overlap, or its top object is no
+/// dictionary.
 bool readBinaryPropertyList(const PaddedBytes& file, EntrySink& sink);
 
 } // namespace wentra::startup

@@ -24,7 +24,9 @@ constexpr std::uint64_t matches(std::uint64_t word, unsigned char byte) {
 }
 
 constexpr bool isSpace(char character) {
-    return character == ' ' || character == '\n' || character == '\t' || character == '\r';
+    constexpr std::uint64_t spaces = 1ULL << ' ' | 1ULL << '\n' | 1ULL << '\t' | 1ULL << '\r';
+    const auto code = static_cast<unsigned char>(character);
+    return code <= ' ' && (spaces >> code & 1) != 0;
 }
 
 constexpr bool isBase64(char character) {
@@ -127,14 +129,14 @@ private:
 
     bool contents();
     bool key();
-    bool plainKey();
     bool value();
 
     // Reads the rest of an element that holds character data only, leaving these in content_.
     template <std::size_t Size>
     bool characters(const char (&closingTag)[Size]) {
-        isEscaped_ = false;
         content_ = {};
+        isEscaped_ = false;
+        isAscii_ = true;
         const Form form = finishTag();
         return form == Form::empty || (form == Form::open && text() && close(closingTag));
     }
@@ -147,6 +149,7 @@ private:
 
     bool text();
     bool skipReference();
+    bool isWellFormed() const { return isAscii_ || isUtf8(content_); }
 
     bool report(Value value) {
         if (depth_ == 1 && isWanted_)
@@ -157,7 +160,8 @@ private:
     bool reportNumber(std::optional<double> number) { return number && report(Value(*number)); }
 
     bool reportText() {
-        return report({isEscaped_ ? Value::Kind::escapedText : Value::Kind::utf8Text, content_});
+        return isWellFormed() &&
+               report({isEscaped_ ? Value::Kind::escapedText : Value::Kind::utf8Text, content_});
     }
 
     bool container(Container kind);
@@ -168,6 +172,7 @@ private:
 
     std::string_view content_;
     bool isEscaped_ = false;
+    bool isAscii_ = true;
     bool isWanted_ = false;
     std::array<Container, deepest> open_;
     std::size_t depth_ = 0;
@@ -259,27 +264,11 @@ bool XmlReader::contents() {
 }
 
 bool XmlReader::key() {
-    if (!skip("<key"))
-        return false;
-    if (depth_ == 1 && plainKey())
-        return close("</key");
-    if (!characters("</key"))
+    if (!skip("<key") || !characters("</key"))
         return false;
     if (depth_ == 1)
-        isWanted_ = sink_.select(isEscaped_ ? unescapedXml(content_) : content_);
-    return true;
-}
-
-// Most keys are written as they are, and those that the sink wants are surely well-formed.
-bool XmlReader::plainKey() {
-    const std::string_view content = rest().substr(0, rest().find('<'));
-    if (!content.starts_with('>') || content.find('&') != content.npos)
-        return false;
-    isWanted_ = sink_.select(content.substr(1));
-    if (!isWanted_ && !isUtf8(content))
-        return false;
-    at_ += content.size();
-    return true;
+        isWanted_ = sink_.select(isEscaped_ ? unescapedXml(content_) : content_, Encoding::utf8);
+    return (isWanted_ && !isEscaped_) || isWellFormed();
 }
 
 bool XmlReader::value() {
@@ -334,7 +323,8 @@ bool XmlReader::text() {
         at_ += std::countr_zero(markup) / 8;
         if (*at_ == '<' && !at("<![CDATA[")) {
             content_ = {begin, static_cast<std::size_t>(at_ - begin)};
-            return (seen & eachByte(0x80)) == 0 || isUtf8(content_);
+            isAscii_ = (seen & eachByte(0x80)) == 0;
+            return true;
         }
         if (!(*at_ == '&' ? skipReference() : skipPast(sectionEnd)))
             return false;

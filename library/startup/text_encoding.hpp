@@ -6,6 +6,8 @@
 
 namespace wentra::startup {
 
+enum class Encoding { utf8, utf16BigEndian, utf16LittleEndian };
+
 /// Whether every byte is below 0x80.
 bool isAscii(std::string_view bytes);
 
@@ -15,14 +17,14 @@ bool isUtf8(std::string_view bytes);
 /// The text of UTF-8 bytes; each byte that is not part of well-formed UTF-8 becomes U+FFFD.
 std::u16string utf16FromUtf8(std::string_view bytes);
 
-enum class ByteOrder { littleEndian, bigEndian };
-
 /// The text of UTF-16 bytes, kept as it is, lone surrogates included. An odd last byte is ignored.
-std::u16string utf16FromBytes(std::string_view bytes, ByteOrder order);
+std::u16string utf16FromBytes(std::string_view bytes, Encoding encoding);
 
-/// The text of UTF-16 bytes as UTF-8, written to `storage`, which only ever grows. Lone surrogates
-/// become U+FFFD and an odd last byte is ignored.
-std::string_view convertToUtf8(std::string_view bytes, ByteOrder order, std::string& storage);
+/// UTF-16 bytes, most significant first.
+std::string bigEndianUtf16(std::u16string_view text);
+
+/// The UTF-16 text as UTF-8; lone surrogates become U+FFFD.
+std::string utf8FromUtf16(std::u16string_view text);
 
 /// Appends a character (at most U+10FFFF) as UTF-8.
 void appendUtf8(char32_t character, std::string& utf8);

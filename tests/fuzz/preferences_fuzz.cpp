@@ -29,12 +29,7 @@ void requireSame(const Preferences& left, const Preferences& right, std::string_
 }
 
 std::string utf16Document(std::string_view utf8) {
-    std::string bytes = "\xFE\xFF";
-    for (const char16_t unit : utf16FromUtf8(utf8)) {
-        bytes.push_back(static_cast<char>(unit >> 8));
-        bytes.push_back(static_cast<char>(unit & 0xFF));
-    }
-    return bytes;
+    return bigEndianUtf16(u"\uFEFF" + utf16FromUtf8(utf8));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "library/startup/text_encoding.hpp"
 
 #include <bit>
+#include <charconv>
 #include <cstdint>
 #include <map>
 #include <string>
@@ -37,7 +38,13 @@ inline std::string xmlPropertyList(const WrittenEntries& entries) {
     const Overloaded element{
         [](bool on) { return std::string(on ? "<true/>" : "<false/>"); },
         [](std::int64_t number) { return "<integer>" + std::to_string(number) + "</integer>"; },
-        [](double number) { return "<real>" + std::to_string(number) + "</real>"; },
+        [](double number) {
+            std::string digits(32, '\0');
+            char* begin = digits.data();
+            digits.resize(static_cast<std::size_t>(
+                std::to_chars(begin, begin + digits.size(), number).ptr - begin));
+            return "<real>" + digits + "</real>";
+        },
         [](const std::string& text) { return "<string>" + text + "</string>"; },
     };
     std::string content;
@@ -67,11 +74,8 @@ inline std::string binaryHead(unsigned type, std::size_t count) {
 inline std::string binaryText(const std::string& utf8) {
     if (isAscii(utf8))
         return binaryHead(0x5, utf8.size()) + utf8;
-    std::string bytes;
     const std::u16string text = utf16FromUtf8(utf8);
-    for (const char16_t unit : text)
-        bytes += bigEndianBytes(unit, 2);
-    return binaryHead(0x6, text.size()) + bytes;
+    return binaryHead(0x6, text.size()) + bigEndianUtf16(text);
 }
 
 inline std::string binaryObject(const WrittenValue& value) {

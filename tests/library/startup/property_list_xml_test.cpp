@@ -192,13 +192,10 @@ TEST(PropertyListXml, ReadsNumbersOfEveryForm) {
 TEST(PropertyListXml, ReadsUtf16ByItsByteOrderMark) {
     const std::string document = xmlPropertyList({{"开启文字复制", true}, {"百度id", "😄"}});
     const std::u16string text = u"\uFEFF" + utf16FromUtf8(document);
-    std::string big;
+    const std::string big = bigEndianUtf16(text);
     std::string little;
-    for (const char16_t unit : text) {
-        const std::string bytes = bigEndianBytes(unit, 2);
-        big += bytes;
-        little.append(bytes.rbegin(), bytes.rend());
-    }
+    for (std::size_t index = 0; index < big.size(); index += 2)
+        little += {big[index + 1], big[index]};
     for (const std::string& bytes : {big, little}) {
         const Preferences preferences = Preferences::parse(bytes);
         EXPECT_TRUE(preferences.on(keys.copyOnLongPress));
