@@ -1,0 +1,12 @@
+// The phone's error numbers, as far as they are asked about.
+#pragma once
+
+extern "C" int* __error();
+
+#define errno (*__error())
+
+#define EINTR 4
+#define EBUSY 16
+#define EINVAL 22
+#define ERANGE 34
+#define ETIMEDOUT 60

@@ -1,0 +1,4 @@
+// Giving up the processor on the phone.
+#pragma once
+
+extern "C" int sched_yield();
