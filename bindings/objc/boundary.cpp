@@ -6,8 +6,6 @@
 #include "bindings/objc/exception_in_flight.hpp"
 #include "bindings/objc/pool.hpp"
 
-#include <exception>
-
 namespace objc {
 namespace {
 
@@ -22,13 +20,7 @@ ExceptionText describeCurrentException() {
         }
         return {object_getClassName(thrown.raw()), ""};
     }
-    try {
-        throw;
-    } catch (const std::exception& exception) {
-        return {"std::exception", exception.what()};
-    } catch (...) {
-        return {"unknown exception", ""};
-    }
+    return describeCxxExceptionInFlight();
 }
 
 void reportSwallowed(const char* where) noexcept {
