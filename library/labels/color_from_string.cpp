@@ -31,7 +31,8 @@ ui::Color fromText(objc::Object, ns::String text) { return colorFromString(text)
 ui::Color colorFromString(ns::String text) {
     const std::u16string characters = text.utf16();
     const ColourText parts = parseColourText(characters);
-    const double alpha = parts.alpha ? ns::String::from(*parts.alpha).floatValue() : 1.0F;
+    const double alpha =
+        parts.alpha ? static_cast<double>(ns::String::from(*parts.alpha).floatValue()) : 1;
     if (const ui::Color color = namedColour(parts.colour); color) {
         return color.withAlpha(alpha);
     }
