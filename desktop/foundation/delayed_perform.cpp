@@ -37,7 +37,8 @@ void schedule(objc::Object target, SEL selector, objc::Object argument, double d
     });
 }
 
-template <class Matches> void cancel(Matches matches) {
+template <class Matches>
+void cancel(Matches matches) {
     std::list<Delayed> cancelled; // let go of at the end: an object's death may come back here
     for (auto message = pending().begin(); message != pending().end();) {
         const auto next = std::next(message);
@@ -82,8 +83,8 @@ void cancelSome(objc::Next<void(objc::Object, SEL, objc::Object)>, objc::Object,
 void installDelayedPerform() {
     constexpr std::array changes{
         objc::hook<"NSObject", "performSelector:withObject:afterDelay:", &performAfter>(),
-        objc::hook<"NSObject", "performSelector:withObject:afterDelay:inModes:",
-                   &performAfterInModes>(),
+        objc::hook<"NSObject",
+                   "performSelector:withObject:afterDelay:inModes:", &performAfterInModes>(),
         objc::classHook<"NSObject", "cancelPreviousPerformRequestsWithTarget:", &cancelAll>(),
         objc::classHook<"NSObject",
                         "cancelPreviousPerformRequestsWithTarget:selector:object:", &cancelSome>(),

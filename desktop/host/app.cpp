@@ -13,7 +13,8 @@ std::span<const App* const> apps() {
 
 const App* appNamed(std::string_view name) {
     const auto all = apps();
-    const auto found = std::ranges::find(all, name, [](const App* app) { return std::string_view(app->name); });
+    const auto found =
+        std::ranges::find(all, name, [](const App* app) { return std::string_view(app->name); });
     return found == all.end() ? nullptr : *found;
 }
 

@@ -22,8 +22,7 @@ void setPasteboardText(const Json& text) {
         throw RequestError("\"set\" must be a string or null");
     }
     ui::Pasteboard::general().setString(
-        text.is_null() ? ns::String()
-                       : ns::String::fromUtf8(text.get_ref<const std::string&>()));
+        text.is_null() ? ns::String() : ns::String::fromUtf8(text.get_ref<const std::string&>()));
 }
 
 ns::PropertyListFormat formatArgument(const Json& request) {

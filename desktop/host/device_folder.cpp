@@ -13,8 +13,8 @@ namespace {
 std::filesystem::path freshFolder() {
     std::string pattern = std::filesystem::temp_directory_path() / "wentra-device-XXXXXX";
     if (mkdtemp(pattern.data()) == nullptr) {
-        throw std::filesystem::filesystem_error(
-            "cannot make a folder", pattern, std::error_code(errno, std::generic_category()));
+        throw std::filesystem::filesystem_error("cannot make a folder", pattern,
+                                                std::error_code(errno, std::generic_category()));
     }
     return pattern;
 }

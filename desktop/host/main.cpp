@@ -48,8 +48,8 @@ void listApplications() {
 }
 
 std::filesystem::path libraryFile(const Options& options) {
-    return options.library.value_or(
-        std::filesystem::read_symlink("/proc/self/exe").parent_path() / "../lib/Wentra.so");
+    return options.library.value_or(std::filesystem::read_symlink("/proc/self/exe").parent_path() /
+                                    "../lib/Wentra.so");
 }
 
 void loadLibrary(const std::filesystem::path& file) {
@@ -82,8 +82,8 @@ void runDevice(const App& app, const Options& options, Streams* automation) {
     if (automation != nullptr) {
         automate(*automation, values);
     } else {
-        std::fprintf(stderr, "Wentra host %s: %s (%s), device folder %s\n", WENTRA_VERSION, app.name,
-                     bundle.c_str(), device.path().c_str());
+        std::fprintf(stderr, "Wentra host %s: %s (%s), device folder %s\n", WENTRA_VERSION,
+                     app.name, bundle.c_str(), device.path().c_str());
         runUntilStopped();
     }
     ns::UserDefaults::standard().synchronize();

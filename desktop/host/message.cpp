@@ -17,11 +17,13 @@ namespace {
 
 /// Methods that take a list as long as the caller likes do not say so in their encoding.
 constexpr std::array<std::string_view, 14> variadic{
-    "stringWithFormat:",      "initWithFormat:",         "initWithFormat:locale:",
-    "appendFormat:",          "stringByAppendingFormat:", "localizedStringWithFormat:",
-    "predicateWithFormat:",   "raise:format:",           "arrayWithObjects:",
-    "setWithObjects:",        "orderedSetWithObjects:",  "initWithObjects:",
-    "initWithObjectsAndKeys:", "dictionaryWithObjectsAndKeys:"};
+    "stringWithFormat:",        "initWithFormat:",
+    "initWithFormat:locale:",   "appendFormat:",
+    "stringByAppendingFormat:", "localizedStringWithFormat:",
+    "predicateWithFormat:",     "raise:format:",
+    "arrayWithObjects:",        "setWithObjects:",
+    "orderedSetWithObjects:",   "initWithObjects:",
+    "initWithObjectsAndKeys:",  "dictionaryWithObjectsAndKeys:"};
 
 /// The encoding without the qualifiers in front of it.
 std::string_view unqualified(std::string_view type) {
@@ -29,7 +31,8 @@ std::string_view unqualified(std::string_view type) {
     return type;
 }
 
-template <class T> bool fits(const Json& value) {
+template <class T>
+bool fits(const Json& value) {
     if (value.is_number_unsigned()) {
         return value.get<std::uint64_t>() <=
                static_cast<std::uint64_t>(std::numeric_limits<T>::max());
@@ -62,9 +65,13 @@ public:
     [[nodiscard]] Json result() const;
 
 private:
-    template <class T> void store(const T& value) { invocation_.setArgument(&value, index_); }
+    template <class T>
+    void store(const T& value) {
+        invocation_.setArgument(&value, index_);
+    }
 
-    template <class T> void storeNumber(const Json& value) {
+    template <class T>
+    void storeNumber(const Json& value) {
         if constexpr (std::is_floating_point_v<T>) {
             require(value.is_number(), value);
         } else {
@@ -83,7 +90,8 @@ private:
     }
 
     /// Truth values and characters are both written as one byte.
-    template <class T> void storeByte(const Json& value) {
+    template <class T>
+    void storeByte(const Json& value) {
         if (value.is_boolean()) {
             store(static_cast<T>(value.get<bool>() ? 1 : 0));
         } else {
@@ -115,28 +123,57 @@ void Call::addScalar(std::string_view type, const Json& value) {
         return;
     }
     switch (type.empty() ? '\0' : type.front()) {
-    case '@': store(values_->toObject(value).raw()); break;
-    case '#': store(value.is_null() ? nullptr : values_->toClass(value)); break;
-    case ':': store(value.is_null() ? nullptr : values_->toSelector(value)); break;
+    case '@':
+        store(values_->toObject(value).raw());
+        break;
+    case '#':
+        store(value.is_null() ? nullptr : values_->toClass(value));
+        break;
+    case ':':
+        store(value.is_null() ? nullptr : values_->toSelector(value));
+        break;
     case 'B':
-    case 'C': storeByte<unsigned char>(value); break;
-    case 'c': storeByte<signed char>(value); break;
-    case 's': storeNumber<short>(value); break;
-    case 'S': storeNumber<unsigned short>(value); break;
-    case 'i': storeNumber<int>(value); break;
-    case 'I': storeNumber<unsigned int>(value); break;
+    case 'C':
+        storeByte<unsigned char>(value);
+        break;
+    case 'c':
+        storeByte<signed char>(value);
+        break;
+    case 's':
+        storeNumber<short>(value);
+        break;
+    case 'S':
+        storeNumber<unsigned short>(value);
+        break;
+    case 'i':
+        storeNumber<int>(value);
+        break;
+    case 'I':
+        storeNumber<unsigned int>(value);
+        break;
     case 'l':
-    case 'q': storeNumber<long>(value); break;
+    case 'q':
+        storeNumber<long>(value);
+        break;
     case 'L':
-    case 'Q': storeNumber<unsigned long>(value); break;
-    case 'f': storeNumber<float>(value); break;
-    case 'd': storeNumber<double>(value); break;
-    case '*': storeText(value); break;
+    case 'Q':
+        storeNumber<unsigned long>(value);
+        break;
+    case 'f':
+        storeNumber<float>(value);
+        break;
+    case 'd':
+        storeNumber<double>(value);
+        break;
+    case '*':
+        storeText(value);
+        break;
     case '^':
         require(value.is_null(), value);
         store(static_cast<void*>(nullptr));
         break;
-    default: require(false, value);
+    default:
+        require(false, value);
     }
 }
 
@@ -162,8 +199,10 @@ Json Call::result() const {
         return value;
     };
     switch (type.front()) {
-    case '@': return values_->toJson(objc::wrap(as(id{})));
-    case '#': return values_->toJson(objc::wrap(as(id{})));
+    case '@':
+        return values_->toJson(objc::wrap(as(id{})));
+    case '#':
+        return values_->toJson(objc::wrap(as(id{})));
     case ':': {
         const SEL name = as(SEL{});
         return name == nullptr ? Json() : Json{{"selector", sel_getName(name)}};
@@ -172,17 +211,26 @@ Json Call::result() const {
         const char* text = as(static_cast<const char*>(nullptr));
         return text == nullptr ? Json() : Json(text);
     }
-    case 's': return as(short{});
-    case 'S': return as(static_cast<unsigned short>(0));
-    case 'i': return as(int{});
-    case 'I': return as(0U);
+    case 's':
+        return as(short{});
+    case 'S':
+        return as(static_cast<unsigned short>(0));
+    case 'i':
+        return as(int{});
+    case 'I':
+        return as(0U);
     case 'l':
-    case 'q': return as(0L);
+    case 'q':
+        return as(0L);
     case 'L':
-    case 'Q': return as(0UL);
-    case 'f': return as(float{});
-    case 'd': return as(double{});
-    default: return as(static_cast<unsigned char>(0)) != 0;
+    case 'Q':
+        return as(0UL);
+    case 'f':
+        return as(float{});
+    case 'd':
+        return as(double{});
+    default:
+        return as(static_cast<unsigned char>(0)) != 0;
     }
 }
 
@@ -196,8 +244,8 @@ ns::MethodSignature signatureFor(objc::Object receiver, const std::string& selec
         throw RequestError(selector + " takes a list of any length, which cannot be passed");
     }
     if (!isAnswerable(unqualified(signature.returnType()))) {
-        throw RequestError("the result of " + selector + " has no JSON form: " +
-                           signature.returnType());
+        throw RequestError("the result of " + selector +
+                           " has no JSON form: " + signature.returnType());
     }
     return signature;
 }

@@ -1,4 +1,5 @@
-// The protocol's own ends of standard input and output, which nothing else in the process can reach.
+// The protocol's own ends of standard input and output, which nothing else in the process can
+// reach.
 #pragma once
 
 #include <deque>

@@ -41,8 +41,8 @@ Structure::Bytes Structure::fromJson(const Json& value) const {
     const auto fields = value.is_object() ? value.find(key) : value.end();
     if (!value.is_object() || fields == value.end() || !fields->is_array() ||
         fields->size() != fieldCount) {
-        throw RequestError(std::string("expected {\"") + key + "\":[" +
-                           std::to_string(fieldCount) + " numbers]}, got " + value.dump());
+        throw RequestError(std::string("expected {\"") + key + "\":[" + std::to_string(fieldCount) +
+                           " numbers]}, got " + value.dump());
     }
     Bytes bytes{};
     for (std::size_t i = 0; i < fieldCount; ++i) {
@@ -74,8 +74,8 @@ const Structure* structureOf(std::string_view encoding) {
 }
 
 const Structure* structureForKey(std::string_view key) {
-    const auto* found =
-        std::ranges::find(structures, key, [](const Structure& s) { return std::string_view(s.key); });
+    const auto* found = std::ranges::find(
+        structures, key, [](const Structure& s) { return std::string_view(s.key); });
     return found == structures.end() ? nullptr : found;
 }
 

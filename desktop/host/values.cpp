@@ -47,12 +47,16 @@ Json numberToJson(ns::Number number) {
     switch (*number.type()) {
     case 'B':
     case 'c':
-    case 'C': return number.boolValue();
+    case 'C':
+        return number.boolValue();
     case 'f':
-    case 'd': return number.doubleValue();
+    case 'd':
+        return number.doubleValue();
     case 'Q':
-    case 'L': return number.unsignedValue();
-    default: return number.integerValue();
+    case 'L':
+        return number.unsignedValue();
+    default:
+        return number.integerValue();
     }
 }
 
@@ -78,10 +82,10 @@ Values::Values()
                                              objc::selector<"initWithString:relativeToURL:">())) {}
 
 objc::Object Values::url(const std::string& address) const {
-    const auto made = objc::invoke<objc::Object>(
-        makeUrl_, ns::Url::sendClass<"alloc", objc::Object>().raw(),
-        objc::selector<"initWithString:relativeToURL:">(), ns::String::fromUtf8(address),
-        objc::Object());
+    const auto made =
+        objc::invoke<objc::Object>(makeUrl_, ns::Url::sendClass<"alloc", objc::Object>().raw(),
+                                   objc::selector<"initWithString:relativeToURL:">(),
+                                   ns::String::fromUtf8(address), objc::Object());
     if (!made) {
         throw RequestError("not a URL: " + address);
     }
@@ -121,8 +125,10 @@ void Values::fill(ns::MutableDictionary dictionary, const Json& entries) const {
 
 objc::Object Values::toObject(const Json& value) const {
     switch (value.type()) {
-    case Json::value_t::null: return nullptr;
-    case Json::value_t::boolean: return ns::Number::from(value.get<bool>());
+    case Json::value_t::null:
+        return nullptr;
+    case Json::value_t::boolean:
+        return ns::Number::from(value.get<bool>());
     case Json::value_t::string:
         return ns::String::fromUtf8(value.get_ref<const std::string&>());
     case Json::value_t::array: {
@@ -132,8 +138,10 @@ objc::Object Values::toObject(const Json& value) const {
         }
         return array;
     }
-    case Json::value_t::object: break;
-    default: return number(value);
+    case Json::value_t::object:
+        break;
+    default:
+        return number(value);
     }
     if (const auto handle = value.find("object"); handle != value.end()) {
         const auto found = handles_.object(
@@ -155,8 +163,8 @@ objc::Object Values::toObject(const Json& value) const {
     if (const Json* base64 = lone(value, "data")) {
         return data(*base64);
     }
-    if (value.size() == 1 && (lone(value, "selector") != nullptr ||
-                              structureForKey(value.begin().key()) != nullptr)) {
+    if (value.size() == 1 &&
+        (lone(value, "selector") != nullptr || structureForKey(value.begin().key()) != nullptr)) {
         throw RequestError("not an object: " + value.dump());
     }
     const auto dictionary = ns::MutableDictionary::make();

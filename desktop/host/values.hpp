@@ -7,7 +7,8 @@
 
 namespace desktop::host {
 
-/// Converts between JSON and objects; what JSON has no form for is known by its handle. Main thread.
+/// Converts between JSON and objects; what JSON has no form for is known by its handle. Main
+/// thread.
 class Values {
 public:
     /// Remembers how URLs are made, so that no hook of a library loaded later takes part in it.
@@ -17,7 +18,8 @@ public:
     /// an unknown handle or class, and for what is no object, such as a structure.
     [[nodiscard]] objc::Object toObject(const Json& value) const;
     /// Like `toObject`, but an object of that kind. Throws RequestError.
-    template <class Kind> [[nodiscard]] Kind toKind(const Json& value) const {
+    template <class Kind>
+    [[nodiscard]] Kind toKind(const Json& value) const {
         const auto found = toObject(value).as<Kind>();
         if (!found) {
             throw RequestError(std::string("expected a ") + Kind::className.data() + ", got " +

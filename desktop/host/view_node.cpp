@@ -16,7 +16,8 @@ namespace {
 
 /// Whether the object has a getter of that name whose result's encoding begins with one of `types`:
 /// classes bring these getters each for themselves, and need not mean the same by them.
-template <objc::Literal Getter> bool answers(objc::Object object, std::string_view types) {
+template <objc::Literal Getter>
+bool answers(objc::Object object, std::string_view types) {
     const Method method =
         class_getInstanceMethod(object_getClass(object.raw()), objc::selector<Getter>());
     const char* encoding = method != nullptr ? method_getTypeEncoding(method) : nullptr;
@@ -24,7 +25,8 @@ template <objc::Literal Getter> bool answers(objc::Object object, std::string_vi
 }
 
 /// The getter's result; nothing when there is no such getter, nil for an object of another kind.
-template <objc::Literal Getter, class Kind> std::optional<Kind> object(objc::Object owner) {
+template <objc::Literal Getter, class Kind>
+std::optional<Kind> object(objc::Object owner) {
     return answers<Getter>(owner, "@")
                ? std::optional(owner.send<Getter, objc::Object>().template as<Kind>())
                : std::nullopt;
@@ -71,13 +73,15 @@ void addObject(Json& node, const char* key, objc::Object owner) {
     }
 }
 
-template <objc::Literal Getter> void addFlag(Json& node, const char* key, objc::Object owner) {
+template <objc::Literal Getter>
+void addFlag(Json& node, const char* key, objc::Object owner) {
     if (answers<Getter>(owner, "BcC")) {
         node[key] = owner.send<Getter, bool>();
     }
 }
 
-template <objc::Literal Getter> void addCount(Json& node, const char* key, objc::Object owner) {
+template <objc::Literal Getter>
+void addCount(Json& node, const char* key, objc::Object owner) {
     if (answers<Getter>(owner, "qQlL")) {
         node[key] = owner.send<Getter, unsigned long>();
     }

@@ -55,7 +55,8 @@ constexpr std::array<Condition, 6> conditions{{
     {"class", &isString, &isOfClass},
     {"text", &isString, [](ui::View v, const Json& w) { return hasText(textOf(v), w); }},
     {"title", &isString, [](ui::View v, const Json& w) { return hasText(titleOf(v), w); }},
-    {"label", &isString, [](ui::View v, const Json& w) { return hasText(v.accessibilityLabel(), w); }},
+    {"label", &isString,
+     [](ui::View v, const Json& w) { return hasText(v.accessibilityLabel(), w); }},
     {"tag", [](const Json& wanted) { return wanted.is_number_integer(); },
      [](ui::View v, const Json& w) { return w == v.tag(); }},
     {"visible", [](const Json& wanted) { return wanted.is_boolean(); },
@@ -86,9 +87,8 @@ std::vector<Wanted> read(const Json& where) {
 }
 
 void search(ui::View view, const std::vector<Wanted>& wanted, std::vector<ui::View>& found) {
-    if (std::ranges::all_of(wanted, [view](const Wanted& one) {
-            return one.condition->holds(view, *one.value);
-        })) {
+    if (std::ranges::all_of(
+            wanted, [view](const Wanted& one) { return one.condition->holds(view, *one.value); })) {
         found.push_back(view);
     }
     for (const objc::Object child : view.subviews()) {

@@ -6,8 +6,8 @@
 namespace desktop::host {
 
 /// The nodes of the views that meet every condition of `where` ({"class":…, "text":…,
-/// "visible":…}), in tree order, window by window. Throws RequestError for a condition that does not
-/// exist or has a value of the wrong kind.
+/// "visible":…}), in tree order, window by window. Throws RequestError for a condition that does
+/// not exist or has a value of the wrong kind.
 [[nodiscard]] Json findNodes(Values& values, const Json& where);
 
 } // namespace desktop::host

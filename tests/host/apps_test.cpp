@@ -24,8 +24,9 @@ TEST(Apps, HaveTheClassesThatTellThemApart) {
     EXPECT_EQ(settings.message(window, "rootViewController").at("class"), "PSSplitViewController");
     for (const char* name : {"chat", "plain"}) {
         HostProcess host = automatedHost({"--app", name});
-        EXPECT_EQ(host.error({{"do", "send"}, {"to", {{"class", "YYLabel"}}}, {"selector", "class"}}),
-                  "no such class: YYLabel");
+        EXPECT_EQ(
+            host.error({{"do", "send"}, {"to", {{"class", "YYLabel"}}}, {"selector", "class"}}),
+            "no such class: YYLabel");
         EXPECT_GE(count(host, {{"class", "UILabel"}, {"visible", true}}), 2U) << name;
     }
 }
@@ -69,12 +70,11 @@ TEST_F(Content, MayBeEmpty) {
 }
 
 TEST_F(Content, ThatIsMalformedIsToldWithStatusTwo) {
-    for (const char* text :
-         {"", "[]", "{", R"({"titel":"x"})", R"({"title":7})", R"({"cards":{}})", R"({"cards":[7]})",
-          R"({"list":[7]})", R"({"labels":[{"text":"x"}]})",
-          R"({"labels":[{"text":"x","frame":[1,2,3]}]})",
-          R"({"labels":[{"text":"x","frame":[1,2,3,"4"]}]})",
-          R"({"labels":[{"text":"x","frame":[1,2,3,4],"size":"big"}]})"}) {
+    for (const char* text : {"", "[]", "{", R"({"titel":"x"})", R"({"title":7})", R"({"cards":{}})",
+                             R"({"cards":[7]})", R"({"list":[7]})", R"({"labels":[{"text":"x"}]})",
+                             R"({"labels":[{"text":"x","frame":[1,2,3]}]})",
+                             R"({"labels":[{"text":"x","frame":[1,2,3,"4"]}]})",
+                             R"({"labels":[{"text":"x","frame":[1,2,3,4],"size":"big"}]})"}) {
         HostProcess host = tests::hostWith(options(text));
         EXPECT_EQ(host.wait(), 2) << text;
         EXPECT_NE(host.errors().find("content.json"), std::string::npos) << host.errors();

@@ -9,8 +9,7 @@ using nlohmann::json;
 using support::HostProcess;
 using support::TemporaryFolder;
 
-constexpr const char* preferenceFile =
-    "var/mobile/Library/Preferences/cn.zerk.hovtanprefs.plist";
+constexpr const char* preferenceFile = "var/mobile/Library/Preferences/cn.zerk.hovtanprefs.plist";
 
 class Device : public testing::Test {
 protected:
@@ -100,10 +99,10 @@ TEST_F(Device, DefaultsLastAndBelongToTheirBundle) {
 TEST_F(Device, DefaultsAreWrittenWithoutBeingAskedTo) {
     HostProcess host = start({"--app", "plain"});
     host.result({{"do", "defaults"}, {"key", "a"}, {"set", 1}});
-    EXPECT_NE(support::readFile(root.path() /
-                                "var/mobile/Library/Preferences/com.example.plain.plist")
-                  .find("<key>a</key>"),
-              std::string::npos);
+    EXPECT_NE(
+        support::readFile(root.path() / "var/mobile/Library/Preferences/com.example.plain.plist")
+            .find("<key>a</key>"),
+        std::string::npos);
 }
 
 TEST_F(Device, DefaultsRefuseWhatIsNoPropertyList) {

@@ -61,8 +61,7 @@ TEST_F(Time, WhatAnExceptionInterruptsIsTold) {
 
 TEST_F(Time, WaitingEndsWhenTheViewIsThere) {
     host.message(label, "setText:", {"here"});
-    const json found =
-        host.result({{"do", "wait"}, {"for", {{"text", "here"}}}, {"seconds", 30}});
+    const json found = host.result({{"do", "wait"}, {"for", {{"text", "here"}}}, {"seconds", 30}});
     EXPECT_EQ(found.at(0).at("object"), label.at("object"));
 }
 
@@ -75,16 +74,13 @@ TEST_F(Time, WaitingRunsWhatOtherThreadsHandToTheMainThread) {
     EXPECT_EQ(found.size(), 1U);
 }
 
-TEST_F(Time, LogLinesAreEventsAndGoToStandardError) {
-    const json exception = host.message(
-        {{"class", "NSException"}}, "exceptionWithName:reason:userInfo:", {"Name", "reason", nullptr});
-    EXPECT_EQ(exception.at("class"), "NSException");
-    // Foundation itself complains about a run loop mode of this kind, or a bad base URL, in its log.
-    host.message({{"class", "NSNotificationCenter"}}, "defaultCenter");
+TEST_F(Time, SwallowedExceptionsAreEvents) {
     const json center = host.message({{"class", "NSNotificationCenter"}}, "defaultCenter");
-    host.message(center, "postNotificationName:object:userInfo:",
-                 {"WentraExceptionSwallowed", nullptr,
-                  {{"where", "UILabel setText:"}, {"name", "NSRangeException"}, {"reason", "far"}}});
+    host.message(
+        center, "postNotificationName:object:userInfo:",
+        {"WentraExceptionSwallowed",
+         nullptr,
+         {{"where", "UILabel setText:"}, {"name", "NSRangeException"}, {"reason", "far"}}});
     const json expected = json::parse(
         R"([{"kind":"exception","where":"UILabel setText:","name":"NSRangeException","reason":"far"}])");
     EXPECT_EQ(host.result({{"do", "wait"}, {"for", {{"event", "exception"}}}, {"seconds", 30}}),
@@ -92,6 +88,18 @@ TEST_F(Time, LogLinesAreEventsAndGoToStandardError) {
     EXPECT_EQ(host.result({{"do", "events"}, {"keep", true}}), expected);
     EXPECT_EQ(host.result({{"do", "events"}}), expected);
     EXPECT_EQ(host.result({{"do", "events"}}), json::array());
+}
+
+TEST_F(Time, LogLinesAreEventsAndGoToStandardError) {
+    // Foundation logs that it cannot write there.
+    host.message("text", "writeToFile:atomically:", {"/nonexistent/folder/file", true});
+    const json events = host.result({{"do", "events"}});
+    ASSERT_EQ(events.size(), 1U);
+    EXPECT_EQ(events.at(0).at("kind"), "log");
+    const std::string line = events.at(0).at("text");
+    EXPECT_NE(line.find("/nonexistent/folder/file"), std::string::npos) << line;
+    EXPECT_EQ(line.find("host["), std::string::npos) << line;
+    EXPECT_NE(host.errors().find(line), std::string::npos) << host.errors();
 }
 
 } // namespace

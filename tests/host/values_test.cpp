@@ -22,11 +22,30 @@ protected:
 
 TEST_F(Values, ObjectsComeBackAsTheyWere) {
     for (const char* text : {
-             R"("")", R"("你好，😀")", R"("a\u0000b")", R"("line\nbreak")", "true", "false", "0", "1",
-             "-1", "9223372036854775807", "-9223372036854775808", "18446744073709551615", "2.5",
-             "1e300", "[]", "{}", R"([1,[true,"x"],{"a":{"b":[2.5]}}])", R"({"url":"https://a.b/c?d=e#f"})",
-             R"({"date":1700000000.5})", R"({"data":"AAECAw=="})", R"({"data":""})",
-             R"({"class":"UILabel"})", "[null]", R"({"中文":"键"})",
+             R"("")",
+             R"("你好，😀")",
+             R"("a\u0000b")",
+             R"("line\nbreak")",
+             "true",
+             "false",
+             "0",
+             "1",
+             "-1",
+             "9223372036854775807",
+             "-9223372036854775808",
+             "18446744073709551615",
+             "2.5",
+             "1e300",
+             "[]",
+             "{}",
+             R"([1,[true,"x"],{"a":{"b":[2.5]}}])",
+             R"({"url":"https://a.b/c?d=e#f"})",
+             R"({"date":1700000000.5})",
+             R"({"data":"AAECAw=="})",
+             R"({"data":""})",
+             R"({"class":"UILabel"})",
+             "[null]",
+             R"({"中文":"键"})",
          }) {
         const json value = json::parse(text);
         const json back = roundTrip(value);
@@ -52,8 +71,8 @@ TEST_F(Values, ScalarsAreConvertedByTheMethodsTypes) {
     EXPECT_EQ(host.message("a", "isEqual:", {nullptr}), false);
     EXPECT_EQ(host.message({{"class", "NSNumber"}}, "numberWithDouble:", {3}), 3.0);
     EXPECT_EQ(host.message({{"class", "NSNumber"}}, "numberWithBool:", {true}), true);
-    EXPECT_EQ(host.message({{"class", "NSNumber"}}, "numberWithUnsignedLongLong:",
-                           {18446744073709551615ULL}),
+    EXPECT_EQ(host.message({{"class", "NSNumber"}},
+                           "numberWithUnsignedLongLong:", {18446744073709551615ULL}),
               18446744073709551615ULL);
 }
 
@@ -73,8 +92,7 @@ TEST_F(Values, ClassesAndSelectorsAreValues) {
 
 TEST_F(Values, StructuresGoInAndComeOut) {
     const json view = host.message({{"class", "UIView"}}, "new");
-    for (const auto& [setter, getter, text] :
-         std::vector<std::array<const char*, 3>>{
+    for (const auto& [setter, getter, text] : std::vector<std::array<const char*, 3>>{
              {"setFrame:", "frame", R"({"rect":[1,2.5,30,40]})"},
              {"setCenter:", "center", R"({"point":[7,-8.25]})"},
              {"setTransform:", "transform", R"({"transform":[2,0,0,2,5,6]})"}}) {

@@ -80,7 +80,8 @@ TEST_F(Views, ConditionsMustAllHold) {
     EXPECT_EQ(count({{"text", "unique"}, {"tag", 78}}), 0U);
     EXPECT_EQ(count({{"text", "unique"}, {"class", "UIWindow"}}), 0U);
     EXPECT_EQ(count({{"class", "NoSuchClass"}}), 0U);
-    EXPECT_FALSE(host.result({{"do", "find"}, {"where", {{"tag", 77}}}}).at(0).contains("children"));
+    EXPECT_FALSE(
+        host.result({{"do", "find"}, {"where", {{"tag", 77}}}}).at(0).contains("children"));
 }
 
 TEST_F(Views, AViewIsVisibleWhereSomethingOfItCanBeSeen) {

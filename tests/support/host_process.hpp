@@ -30,7 +30,8 @@ void writeFile(const std::filesystem::path& file, const std::string& content);
 /// Empty when there is no such file.
 [[nodiscard]] std::string readFile(const std::filesystem::path& file);
 
-/// The program's standard input, output and error are ours; it is killed at the end if it still runs.
+/// The program's standard input, output and error are ours; it is killed at the end if it still
+/// runs.
 class HostProcess {
 public:
     /// Starts `program` with these arguments.

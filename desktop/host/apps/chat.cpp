@@ -19,7 +19,8 @@ struct Message {
 constexpr std::array conversation{
     Message{Sender::other, "周末去爬山吗？"},
     Message{Sender::self, "Sure! What time do we meet?"},
-    Message{Sender::other, "早上七点半在地铁站 B 口集合，记得带水和防晒霜，山上风大，最好再加一件外套。"},
+    Message{Sender::other,
+            "早上七点半在地铁站 B 口集合，记得带水和防晒霜，山上风大，最好再加一件外套。"},
     Message{Sender::self, "好的，我带三明治 🥪"},
     Message{Sender::other, "Perfect. I'll bring the map and some fruit."},
     Message{Sender::self, "Name: Bob 也会来"},
@@ -32,15 +33,16 @@ constexpr double padding = 12;
 double addBubble(ui::View page, double top, const Message& message) {
     const bool isOwn = message.sender == Sender::self;
     const double width = page.bounds().size.width;
-    const auto label = dressed(ui::Label::withFrame({}), message.text,
-                               {.color = isOwn ? ui::Color::white() : ui::Color::black(), .lines = 0});
+    const auto label =
+        dressed(ui::Label::withFrame({}), message.text,
+                {.color = isOwn ? ui::Color::white() : ui::Color::black(), .lines = 0});
     const double widest = width * 0.72 - 2 * padding;
     const CGSize text = label.sizeThatFits({widest, 0});
     const CGSize size{text.width + 2 * padding, text.height + 2 * 8};
     label.setFrame({{padding, 8}, text});
 
-    const auto bubble = ui::View::withFrame(
-        {{isOwn ? width - margin - size.width : margin, top}, size});
+    const auto bubble =
+        ui::View::withFrame({{isOwn ? width - margin - size.width : margin, top}, size});
     bubble.layer().setCornerRadius(18);
     bubble.setBackgroundColor(isOwn ? ui::Color::systemBlue()
                                     : ui::Color::rgba(0.914, 0.914, 0.922, 1));

@@ -1,5 +1,5 @@
-// The notes application: cards of stacked labels, a list of the application's own labels, and labels
-// placed by their frames.
+// The notes application: cards of stacked labels, a list of the application's own labels, and
+// labels placed by their frames.
 #include "desktop/host/app.hpp"
 #include "desktop/host/apps/notes_content.hpp"
 #include "desktop/host/apps/screen_parts.hpp"
@@ -85,9 +85,8 @@ void Page::addBoard(const std::vector<NotesContent::PlacedLabel>& labels) {
     }
     const auto board = nextCard(bottom + padding);
     for (const auto& [text, frame, size] : labels) {
-        board.addSubview(dressed(
-            ui::Label::withFrame({{frame[0], frame[1]}, {frame[2], frame[3]}}), text,
-            {.size = size}));
+        board.addSubview(dressed(ui::Label::withFrame({{frame[0], frame[1]}, {frame[2], frame[3]}}),
+                                 text, {.size = size}));
     }
 }
 
@@ -98,23 +97,20 @@ void launch() {
     view.setFrame({{}, screen});
     view.setBackgroundColor(pageColor());
     const double top = addNavigationBar(view, content().title);
-    const auto scroll =
-        ui::ScrollView::withFrame({{0, top}, {screen.width, screen.height - top}});
+    const auto scroll = ui::ScrollView::withFrame({{0, top}, {screen.width, screen.height - top}});
     view.addSubview(scroll);
     Page page(scroll);
     std::ranges::for_each(content().cards, [&page](const auto& card) { page.addCard(card); });
-    page.addList(content().list);
     page.addBoard(content().labels);
+    page.addList(content().list);
     page.finish();
     showInWindow(controller);
 }
 
 } // namespace
 
-const App notesApp{"notes", "com.example.notes", [] { YYLabel::registerClass(); },
-                   [](const std::filesystem::path& file) {
-                       content() = NotesContent::fromFile(file);
-                   },
-                   &launch};
+const App notesApp{
+    "notes", "com.example.notes", [] { YYLabel::registerClass(); },
+    [](const std::filesystem::path& file) { content() = NotesContent::fromFile(file); }, &launch};
 
 } // namespace desktop::host

@@ -36,9 +36,8 @@ constexpr std::array<double, 3> red{1, 0.231, 0.188};
 constexpr std::array<double, 3> indigo{0.345, 0.337, 0.839};
 constexpr std::array<double, 3> grey{0.557, 0.557, 0.576};
 
-constexpr std::array network{
-    Row{"飞行模式", "关闭", orange}, Row{"无线局域网", "Home-5G", blue},
-    Row{"蓝牙", "打开", blue}, Row{"蜂窝网络", "", green}};
+constexpr std::array network{Row{"飞行模式", "关闭", orange}, Row{"无线局域网", "Home-5G", blue},
+                             Row{"蓝牙", "打开", blue}, Row{"蜂窝网络", "", green}};
 constexpr std::array attention{Row{"通知", "", red}, Row{"声音与触感", "", red},
                                Row{"专注模式", "", indigo}, Row{"Screen Time", "2h 14m", indigo}};
 constexpr std::array device{Row{"通用", "", grey}, Row{"显示与亮度", "自动", blue},
@@ -60,15 +59,15 @@ void addRow(ui::View card, double top, const Row& row) {
     card.addSubview(
         dressed(TableViewLabel::withFrame({{textLeft, top}, {width / 2, rowHeight}}), row.title));
     constexpr double arrowWidth = 8;
-    const auto arrow =
-        dressed(TableViewLabel::withFrame({{width - margin - arrowWidth, top}, {arrowWidth, rowHeight}}),
-                "›", {.size = 20, .color = ui::Color::rgba(0.77, 0.77, 0.78, 1)});
+    const auto arrow = dressed(
+        TableViewLabel::withFrame({{width - margin - arrowWidth, top}, {arrowWidth, rowHeight}}),
+        "›", {.size = 20, .color = ui::Color::rgba(0.77, 0.77, 0.78, 1)});
     card.addSubview(arrow);
     const double valueLeft = textLeft + width / 2;
-    const auto value = dressed(
-        TableViewLabel::withFrame(
-            {{valueLeft, top}, {width - valueLeft - margin - arrowWidth - 8, rowHeight}}),
-        row.value, {.color = ui::Color::secondaryLabel()});
+    const auto value =
+        dressed(TableViewLabel::withFrame(
+                    {{valueLeft, top}, {width - valueLeft - margin - arrowWidth - 8, rowHeight}}),
+                row.value, {.color = ui::Color::secondaryLabel()});
     value.setTextAlignment(ui::TextAlignment::right);
     card.addSubview(value);
     if (top > 0) {
@@ -112,9 +111,9 @@ private:
         page.setFrame(ui::Screen::main().bounds());
         page.setBackgroundColor(pageColor());
         double top = addNavigationBar(page, "设置") + margin / 2;
-        for (const std::span<const Row> group : {std::span<const Row>(network),
-                                                 std::span<const Row>(attention),
-                                                 std::span<const Row>(device)}) {
+        for (const std::span<const Row> group :
+             {std::span<const Row>(network), std::span<const Row>(attention),
+              std::span<const Row>(device)}) {
             top = addGroup(page, top, group);
         }
     }

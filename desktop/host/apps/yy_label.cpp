@@ -29,9 +29,9 @@ void YYLabel::drawRect(CGRect) {
     const CGRect bounds = self().bounds();
     if (Canvas* canvas = currentCanvas(); canvas != nullptr) {
         const TextLayout text = layout(bounds.size);
-        text.draw(canvas->context(),
-                  {bounds.origin.x,
-                   bounds.origin.y + (bounds.size.height - text.size().height) / 2});
+        text.draw(
+            canvas->context(),
+            {bounds.origin.x, bounds.origin.y + (bounds.size.height - text.size().height) / 2});
     }
 }
 

@@ -1,4 +1,5 @@
-// Foundation's notification centre with blocks of ours, and its main queue on the desktop's run loop.
+// Foundation's notification centre with blocks of ours, and its main queue on the desktop's run
+// loop.
 #include "bindings/foundation/notification_center.hpp"
 #include "bindings/objc/pool.hpp"
 #include "desktop/runtime/event_log.hpp"
@@ -24,8 +25,8 @@ TEST(NotificationCenter, CallsABlockAtOnceOrOnTheMainQueue) {
     };
     const objc::Object direct =
         center.observe(u"DesktopTest"_ns, nullptr, nullptr, recorder("at once"));
-    const objc::Object queued = center.observe(
-        u"DesktopTest"_ns, nullptr, ns::OperationQueue::mainQueue(), recorder("queued"));
+    const objc::Object queued = center.observe(u"DesktopTest"_ns, nullptr,
+                                               ns::OperationQueue::mainQueue(), recorder("queued"));
     center.post(u"DesktopTest"_ns, nullptr);
     desktop::run_loop::runUntilIdle();
     std::ranges::sort(calls);

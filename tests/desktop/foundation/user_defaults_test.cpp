@@ -82,9 +82,9 @@ TEST(PropertyListCopy, RefusesWhatIsNone) {
     withNumberKey.set(u"x"_ns, ns::Number::from(1LL));
     const auto endless = ns::MutableArray::make();
     endless.add(endless);
-    for (const objc::Object list : {objc::Object(), objc::Object(ns::Null::null()),
-                                    objc::Object(withNull), objc::Object(withNumberKey),
-                                    objc::Object(endless)}) {
+    for (const objc::Object list :
+         {objc::Object(), objc::Object(ns::Null::null()), objc::Object(withNull),
+          objc::Object(withNumberKey), objc::Object(endless)}) {
         EXPECT_FALSE(propertyListCopy(list));
     }
     endless.send<"removeAllObjects">();
