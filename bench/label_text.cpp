@@ -1,0 +1,81 @@
+// One label text through the whole chain of hooks, against reading the preference file alone and
+// against the plain approach, which lets Foundation read the file.
+#include "bench/support/phone.hpp"
+
+#include "bindings/foundation/dictionary.hpp"
+#include "bindings/foundation/number.hpp"
+#include "bindings/objc/pool.hpp"
+#include "bindings/uikit/label.hpp"
+#include "library/startup/preferences.hpp"
+
+#include <benchmark/benchmark.h>
+
+#include <array>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace ns::literals;
+using bench::PlistForm;
+
+/// open, fstat, read, close: what any approach that reads anew has to pay.
+void plainRead(benchmark::State& state, PlistForm form) {
+    const std::string& path = bench::preferenceFile(form);
+    std::array<char, 65536> buffer{};
+    for (auto _ : state) {
+        const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+        struct stat status {};
+        fstat(file, &status);
+        benchmark::DoNotOptimize(read(file, buffer.data(), buffer.size()));
+        close(file);
+    }
+}
+
+void preferences(benchmark::State& state, PlistForm form) {
+    bench::preferenceFile(form);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(wentra::startup::Preferences::read());
+    }
+}
+
+/// "label 7" has a rule of every kind; "Name: Bob" has none and is tried as a prefix too.
+void setText(benchmark::State& state, PlistForm form, bool ruled) {
+    bench::startPhone();
+    bench::preferenceFile(form);
+    const objc::Pool pool;
+    const auto label = ui::Label::withFrame({{0, 0}, {100, 20}});
+    const ns::String text = ruled ? u"label 7"_ns : u"Name: Bob"_ns;
+    for (auto _ : state) {
+        const objc::Pool inner;
+        label.setText(text);
+    }
+}
+
+/// What the plain approach adds: the file read by Foundation, and the ten switches taken from it.
+void foundationRead(benchmark::State& state) {
+    bench::startPhone();
+    const ns::String path = ns::String::fromUtf8(bench::preferenceFile(PlistForm::xml));
+    const std::array switches{u"kqwzgs"_ns, u"kqwzdx"_ns, u"kqwzgd"_ns, u"kqwzkd"_ns, u"kqhxyd"_ns,
+                              u"kqzxyd"_ns, u"kqxstm"_ns, u"kqxgzt"_ns, u"kqdxzq"_ns, u"kqxydx"_ns};
+    for (auto _ : state) {
+        const objc::Pool inner;
+        const auto dictionary = ns::Dictionary::withContentsOfFile(path);
+        for (const ns::String key : switches) {
+            benchmark::DoNotOptimize(dictionary.get(key).assume<ns::Number>().boolValue());
+        }
+    }
+}
+
+BENCHMARK_CAPTURE(plainRead, xml, PlistForm::xml);
+BENCHMARK_CAPTURE(plainRead, binary, PlistForm::binary);
+BENCHMARK_CAPTURE(preferences, xml, PlistForm::xml);
+BENCHMARK_CAPTURE(preferences, binary, PlistForm::binary);
+BENCHMARK_CAPTURE(setText, xml_with_rules, PlistForm::xml, true);
+BENCHMARK_CAPTURE(setText, binary_with_rules, PlistForm::binary, true);
+BENCHMARK_CAPTURE(setText, xml_without_rules, PlistForm::xml, false);
+BENCHMARK_CAPTURE(setText, binary_without_rules, PlistForm::binary, false);
+BENCHMARK(foundationRead);
+
+} // namespace

@@ -1,0 +1,121 @@
+// Setting up the phone that benchmarks run on.
+#include "bench/support/phone.hpp"
+
+#include "bindings/objc/pool.hpp"
+#include "desktop/deviceroot/deviceroot.hpp"
+#include "desktop/foundation/foundation.hpp"
+#include "desktop/uikit/uikit.hpp"
+#include "library/labels/stored_rules.hpp"
+#include "library/startup/key_table.hpp"
+#include "library/startup/preference_keys.hpp"
+#include "library/startup/root_path.hpp"
+#include "tests/library/startup/property_list_writer.hpp"
+#include "tests/library/startup/temporary_folder.hpp"
+
+#include <bit>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <dlfcn.h>
+#include <filesystem>
+#include <fstream>
+#include <unistd.h>
+
+namespace bench {
+namespace {
+
+using namespace wentra;
+
+/// Every known key, and others up to 150; the label switches are among the switches that are on.
+startup::WrittenEntries entries() {
+    constexpr std::size_t keyCount = 150;
+    constexpr std::size_t labelKeys = 10;
+    startup::WrittenEntries entries;
+    using Keys = std::array<startup::Key, startup::knownKeyCount>;
+    for (const startup::Key& key : std::bit_cast<Keys>(startup::keys)) {
+        entries.emplace_back(key.name(), entries.size() < labelKeys);
+    }
+    while (entries.size() < keyCount) {
+        entries.emplace_back("otherKey" + std::to_string(entries.size()), true);
+    }
+    return entries;
+}
+
+const startup::TemporaryFolder& deviceRoot() {
+    static const startup::TemporaryFolder folder;
+    return folder;
+}
+
+void storeRules() {
+    constexpr int textRules = 1000;
+    constexpr int otherRules = 100;
+    labels::RuleSet rules;
+    for (const labels::RuleKind kind : labels::storingOrder) {
+        const int count = kind == labels::RuleKind::text ? textRules : otherRules;
+        for (int rule = 0; rule < count; ++rule) {
+            const std::string number = std::to_string(rule);
+            rules[kind].assign(u"label " + std::u16string(number.begin(), number.end()), u"16");
+        }
+    }
+    labels::storeRuleSet(rules);
+}
+
+std::size_t residentBytes() {
+    std::ifstream file("/proc/self/statm");
+    std::size_t total = 0;
+    std::size_t resident = 0;
+    file >> total >> resident;
+    return resident * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+}
+
+} // namespace
+
+const std::string& preferenceFile(PlistForm form) {
+    static const std::string path = [] {
+        std::filesystem::create_directories(deviceRoot().path() /
+                                            "var/mobile/Library/Preferences");
+        deviceroot_set(deviceRoot().path().c_str());
+        return startup::preferencePath();
+    }();
+    std::ofstream(path, std::ios::binary)
+        << (form == PlistForm::xml ? startup::xmlPropertyList(entries())
+                                   : startup::binaryPropertyList(entries()));
+    return path;
+}
+
+void startPlatform() {
+    static const bool started = [] {
+        preferenceFile(PlistForm::xml);
+        static const objc::Pool pool; // for as long as the process measures
+        desktop::foundation::install("com.example.bench");
+        desktop::uikit::registerClasses();
+        desktop::uikit::startApplication({390, 844, 3});
+        storeRules();
+        return true;
+    }();
+    static_cast<void>(started);
+}
+
+Loading loadLibrary() {
+    using namespace std::chrono;
+    const std::size_t before = residentBytes();
+    const auto start = steady_clock::now();
+    if (dlopen(WENTRA_PATH, RTLD_NOW | RTLD_LOCAL) == nullptr) {
+        std::fprintf(stderr, "cannot load the library: %s\n", dlerror());
+        std::exit(EXIT_FAILURE);
+    }
+    const duration<double, std::milli> taken = steady_clock::now() - start;
+    return {taken.count(), residentBytes() - before,
+            static_cast<std::size_t>(std::filesystem::file_size(WENTRA_PATH))};
+}
+
+void startPhone() {
+    static const bool loaded = [] {
+        startPlatform();
+        loadLibrary();
+        return true;
+    }();
+    static_cast<void>(loaded);
+}
+
+} // namespace bench
