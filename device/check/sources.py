@@ -1,0 +1,178 @@
+"""Reads the C++ sources for the classes and messages of the platform that they name."""
+import re
+from dataclasses import dataclass, field
+from pathlib import Path
+
+
+@dataclass(frozen=True)
+class Use:
+    """A message that is sent or hooked; `cls` is None where the receiver may be anything."""
+    place: str
+    cls: str | None
+    side: str  # "-" or "+"
+    selector: str
+    types: tuple[str | None, ...] | None = None  # result and arguments; None: not told
+    hooked: bool = False
+
+
+@dataclass
+class Sources:
+    classes: dict[str, str] = field(default_factory=dict)  # class -> superclass
+    own_classes: set[str] = field(default_factory=set)
+    own_methods: set[tuple[str, str]] = field(default_factory=set)  # side, selector
+    uses: list[Use] = field(default_factory=list)
+
+
+def balanced(text, start, brackets):
+    """The text inside the bracket pair that opens at `start`, and the position behind it."""
+    depth = 0
+    for at in range(start, len(text)):
+        if text[at] == brackets[0]:
+            depth += 1
+        elif text[at] == brackets[1]:
+            depth -= 1
+            if depth == 0:
+                return text[start + 1:at], at + 1
+    return text[start + 1:], len(text)
+
+
+def split(text):
+    """The parts between the commas that stand in no brackets."""
+    parts, depth, start = [], 0, 0
+    for at, character in enumerate(text):
+        depth += (character in "<({") - (character in ">)}")
+        if character == "," and depth == 0:
+            parts.append(text[start:at].strip())
+            start = at + 1
+    parts.append(text[start:].strip())
+    return [part for part in parts if part]
+
+
+class Reader:
+    def __init__(self, root, folders):
+        paths = sorted(p for f in folders for p in Path(root, f).rglob("*.[ch]pp"))
+        self.files = {str(p.relative_to(root)):
+                      re.sub(r"//[^\n]*", "", p.read_text(encoding="utf-8")) for p in paths}
+        self.encodings = {"Object": "@", "id": "@"}
+        self.kinds = {}
+        self.found = Sources()
+
+    def read(self):
+        for text in self.files.values():
+            self.read_types(text)
+        for name, text in self.files.items():
+            self.read_own(text)
+            self.read_messages(name, text)
+            self.read_hooks(name, text)
+        return self.found
+
+    def read_types(self, text):
+        for kind, cls in re.findall(r'struct (\w+) : objc::Kind<\s*\w+,\s*"([^"]+)"', text):
+            self.kinds[kind] = cls
+            self.encodings[kind] = "@"
+        for name, code in re.findall(r'WENTRA_ENCODES\(([^,]+), "([^"]+)"\)', text):
+            self.encodings[name] = code
+        for name, code in re.findall(
+                r'struct (?:objc::)?Encoding<([\w:]+)> {\s*static constexpr Literal value = "([^"]+)"',
+                text):
+            self.encodings[name.split("::")[-1]] = code
+        for name, base in re.findall(r"enum class (\w+) : ([\w ]+?)\s*{", text):
+            self.encodings[name] = {"long": "q", "unsigned long": "Q"}.get(base.strip())
+
+    def encode(self, type_text):
+        """The encoding of a C++ type as it is written in the sources; None when unknown."""
+        name = re.sub(r"\[\[\w+\]\]", "", type_text).strip()
+        if name in self.encodings:
+            return self.encodings[name]
+        name = re.sub(r"^const (?!char|void)|&$", "", name).strip()
+        if re.match(r"(objc::)?Block<", name):
+            return "@?"
+        if re.match(r"(objc::)?(Strong|Copied)<", name):
+            return "@"
+        if pointer := re.match(r"(const )?(double|char16_t|unsigned char)\*$", name):
+            return "^" + self.encodings[pointer[2]]
+        return self.encodings.get(name) or self.encodings.get(name.split("::")[-1])
+
+    def read_own(self, text):
+        for kind in re.findall(r"objc::Peer<\s*\w+,\s*([\w:]+)", text):
+            self.found.own_classes.add(self.kinds[kind.split("::")[-1]])
+        for factory, name in re.findall(r'objc::(\w+)<"([^"]+)",\s*&', text):
+            if factory in ("method", "classMethod", "property", "flag"):
+                self.own("+" if factory == "classMethod" else "-", name)
+                self.own("-", f"set{name[:1].upper()}{name[1:]}:")
+        for kind, selector in re.findall(
+                r'objc::(addition|classAddition)<"[^"]+",\s*"([^"]+)"', text):
+            self.own("+" if kind == "classAddition" else "-", selector)
+        for other in re.findall(r'objc::exchange<"[^"]+",\s*"[^"]+",\s*"([^"]+)"', text):
+            self.own("-", other)
+
+    def own(self, side, selector):
+        self.found.own_methods.add((side, selector))
+
+    def read_messages(self, file, text):
+        kinds = []  # the handle types' bodies: begin, end, class
+        for match in re.finditer(r'struct (\w+) : objc::Kind<([^{]*)> {', text):
+            parts = split(match[2])
+            superkind = parts[2].split("::")[-1] if len(parts) > 2 else None
+            cls = parts[1].strip('"')
+            self.found.classes[cls] = self.kinds[superkind] if superkind else "NSObject"
+            kinds.append((match.start(), balanced(text, match.end() - 1, "{}")[1], cls))
+        for match in re.finditer(r'\b(sendClass|sendSuper|send|make|super)(?=<")', text):
+            arguments, end = balanced(text, match.end(), "<>")
+            parts = split(arguments)
+            called = split(balanced(text, end, "()")[0])
+            place = f"{file}:{text.count(chr(10), 0, match.start()) + 1}"
+            before = text[:match.start()].rstrip()
+            cls = next((c for b, e, c in kinds if b < match.start() < e), None)
+            if cls is None:
+                member = re.findall(r"\b(?:\w+::)?(\w+)::\w+\([^(){}]*\)(?: const)? {", before)
+                cls = self.kinds.get(member[-1]) if member else None
+            word = match[1]
+            if scope := re.search(r"(\w+)::(?:template )?$", before):
+                cls = self.kinds.get(scope[1])
+                called = called if cls else called[1 + (word == "sendSuper"):]
+            elif before.endswith((".", "->", ".template")):
+                cls = None
+            result = "@" if word == "make" else self.encode(parts[1] if len(parts) > 1 else "void")
+            if word in ("super", "sendSuper"):
+                cls = None
+            self.found.uses.append(Use(
+                place, cls, "+" if word == "sendClass" else "-", parts[0].strip('"'),
+                (result, *(self.encode_argument(a, before) for a in called))))
+        for match in re.finditer(r'\b(?:selector<"([^"]+)">\(|sel_registerName\("([^"]+)"\))', text):
+            place = f"{file}:{text.count(chr(10), 0, match.start()) + 1}"
+            self.found.uses.append(Use(place, None, "-", match[1] or match[2]))
+        for cls in re.findall(r'objc_(?:getClass|lookUpClass)\("([^"]+)"\)', text):
+            self.found.classes.setdefault(cls, "NSObject")
+
+    def encode_argument(self, argument, before):
+        if cast := re.match(r"static_cast<(.*)>\(", argument):
+            return self.encode(cast[1])
+        if re.fullmatch(r"\d+UL", argument):
+            return "Q"
+        signatures = re.findall(r"\(([^(){};]*)\)(?: const)?(?: noexcept)? {", before)
+        for parameter in split(signatures[-1]) if signatures else []:
+            declared = re.fullmatch(r"(.*[ *&])(\w+)", parameter.split("=")[0].strip())
+            if declared and declared[2] == argument:
+                return self.encode(declared[1])
+        return None
+
+    def read_hooks(self, file, text):
+        for match in re.finditer(r"\bobjc::(hook|classHook|exchange)<", text):
+            parts = split(balanced(text, match.end() - 1, "<>")[0])
+            if len(parts) < 3 or not parts[0].startswith('"'):
+                continue
+            cls, selector = parts[0].strip('"'), parts[1].strip('"')
+            place = f"{file}:{text.count(chr(10), 0, match.start()) + 1}"
+            self.found.classes.setdefault(cls, "")
+            self.found.uses.append(Use(place, cls, "+" if match[1] == "classHook" else "-",
+                                       selector, self.replacement_types(text, parts[-1]), True))
+
+    def replacement_types(self, text, replacement):
+        name = replacement.lstrip("&").split("::")[-1]
+        definition = re.search(rf"\b{name}\(\s*(?:objc::)?Next(?=<)", text)
+        if definition is None:
+            return None
+        signature = balanced(text, definition.end(), "<>")[0]
+        result, arguments = signature.split("(", 1)
+        return tuple(self.encode(t) for t in [result, *split(arguments.rsplit(")", 1)[0])])
