@@ -5,10 +5,10 @@
 
 #ifdef __APPLE__
 
-#include <cstdlib>
-#include <cxxabi.h>
-#include <memory>
-#include <typeinfo>
+#    include <cstdlib>
+#    include <cxxabi.h>
+#    include <memory>
+#    include <typeinfo>
 
 extern "C" {
 // Every Objective-C exception type has this table; the first two words are not part of it.
@@ -19,8 +19,7 @@ namespace objc {
 
 Object exceptionInFlight() {
     const std::type_info* type = abi::__cxa_current_exception_type();
-    if (type == nullptr ||
-        *reinterpret_cast<const void* const*>(type) != &objc_ehtype_vtable[2]) {
+    if (type == nullptr || *reinterpret_cast<const void* const*>(type) != &objc_ehtype_vtable[2]) {
         return nullptr;
     }
     void* thrown = abi::__cxa_current_primary_exception();
