@@ -3,6 +3,7 @@
 
 #include "desktop/foundation/bundle.hpp"
 #include "desktop/foundation/delayed_perform.hpp"
+#include "desktop/foundation/timer.hpp"
 #include "desktop/foundation/user_defaults.hpp"
 
 #include "bindings/objc/pool.hpp"
@@ -15,6 +16,7 @@ void install(const std::string& bundleIdentifier) {
     installBundle(identifier);
     installUserDefaults(identifier);
     installDelayedPerform();
+    installTimers();
 }
 
 } // namespace desktop::foundation

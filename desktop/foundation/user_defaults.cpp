@@ -37,6 +37,17 @@ objc::Object lent(objc::Object value) {
     return value.send<"retain", objc::Object>().send<"autorelease", objc::Object>();
 }
 
+/// Raises the platform's exception for what is no property list.
+objc::Object snapshotOf(objc::Object value) {
+    const objc::Object snapshot = propertyListCopy(value);
+    if (!snapshot) {
+        ns::Exception::with(u"NSInvalidArgumentException"_ns,
+                            u"Attempt to insert non-property list object into user defaults"_ns)
+            .raise();
+    }
+    return snapshot;
+}
+
 } // namespace
 
 ns::UserDefaults DeviceUserDefaults::init() {
@@ -45,6 +56,7 @@ ns::UserDefaults DeviceUserDefaults::init() {
 
 void DeviceUserDefaults::load(ns::String bundleIdentifier) {
     const fs::path file = fs::path(folder) / (bundleIdentifier.utf8() + ".plist");
+    bundleIdentifier_ = bundleIdentifier;
     file_ = ns::String::fromUtf8(file.string());
     const auto data = ns::Data::withContentsOfFile(file_);
     if (const auto saved = data ? ns::PropertyList::from(data).as<ns::Dictionary>() : nullptr;
@@ -64,12 +76,7 @@ void DeviceUserDefaults::set(objc::Object value, ns::String key) {
         remove(key);
         return;
     }
-    const objc::Object snapshot = propertyListCopy(value);
-    if (!snapshot) {
-        ns::Exception::with(u"NSInvalidArgumentException"_ns,
-                            u"Attempt to insert non-property list object into user defaults"_ns)
-            .raise();
-    }
+    const objc::Object snapshot = snapshotOf(value);
     {
         const std::scoped_lock lock(mutex_);
         values_.set(snapshot, key);
@@ -97,6 +104,39 @@ ns::Dictionary DeviceUserDefaults::representation() const {
     all.addEntries(fallbacks_);
     all.addEntries(values_);
     return all;
+}
+
+ns::Dictionary DeviceUserDefaults::domain(ns::String name) const {
+    if (!bundleIdentifier_.isEqual(name)) {
+        return nullptr;
+    }
+    const std::shared_lock lock(mutex_);
+    const objc::Strong<ns::Dictionary> snapshot = objc::Copied<ns::Dictionary>(values_);
+    return lent(snapshot).assume<ns::Dictionary>();
+}
+
+void DeviceUserDefaults::setDomain(ns::Dictionary values, ns::String name) {
+    if (bundleIdentifier_.isEqual(name)) {
+        replaceAll(snapshotOf(values).as<ns::Dictionary>());
+    }
+}
+
+void DeviceUserDefaults::removeDomain(ns::String name) {
+    if (bundleIdentifier_.isEqual(name)) {
+        replaceAll(nullptr);
+    }
+}
+
+void DeviceUserDefaults::replaceAll(ns::Dictionary values) {
+    const auto replacement = ns::MutableDictionary::make();
+    if (values) {
+        replacement.addEntries(values);
+    }
+    {
+        const std::scoped_lock lock(mutex_);
+        values_ = replacement;
+    }
+    changed();
 }
 
 void DeviceUserDefaults::changed() {

@@ -27,6 +27,9 @@ public:
             objc::method<"registerDefaults:", &DeviceUserDefaults::registerDefaults>(),
             objc::method<"dictionaryRepresentation", &DeviceUserDefaults::representation>(),
             objc::method<"synchronize", &DeviceUserDefaults::synchronize>(),
+            objc::method<"persistentDomainForName:", &DeviceUserDefaults::domain>(),
+            objc::method<"setPersistentDomain:forName:", &DeviceUserDefaults::setDomain>(),
+            objc::method<"removePersistentDomainForName:", &DeviceUserDefaults::removeDomain>(),
         };
     }
 
@@ -41,6 +44,11 @@ private:
     void registerDefaults(ns::Dictionary fallbacks);
     [[nodiscard]] ns::Dictionary representation() const;
     bool synchronize();
+    // A domain is what a bundle identifier's file holds; others than the application's are empty.
+    [[nodiscard]] ns::Dictionary domain(ns::String name) const;
+    void setDomain(ns::Dictionary values, ns::String name);
+    void removeDomain(ns::String name);
+    void replaceAll(ns::Dictionary values);
     void changed();
     bool write();
 
@@ -48,6 +56,7 @@ private:
     std::recursive_mutex writing_;
     objc::Strong<ns::MutableDictionary> values_ = ns::MutableDictionary::make();
     objc::Strong<ns::MutableDictionary> fallbacks_ = ns::MutableDictionary::make();
+    objc::Strong<ns::String> bundleIdentifier_;
     objc::Strong<ns::String> file_;
     bool unwritten_ = false;
 };

@@ -114,6 +114,20 @@ TEST_F(Device, DefaultsRefuseWhatIsNoPropertyList) {
     EXPECT_EQ(host.result({{"do", "defaults"}, {"key", "a"}}), nullptr);
 }
 
+TEST_F(Device, TheApplicationsDomainIsWhatItsDefaultsHold) {
+    HostProcess host = start({"--bundle", "com.example.one"});
+    const json defaults = host.message({{"class", "NSUserDefaults"}}, "standardUserDefaults");
+    host.message(defaults, "setObject:forKey:", {"x", "a"});
+    EXPECT_EQ(host.message(defaults, "persistentDomainForName:", {"com.example.one"}),
+              json({{"a", "x"}}));
+    EXPECT_EQ(host.message(defaults, "persistentDomainForName:", {"com.example.two"}), nullptr);
+    host.message(defaults, "setPersistentDomain:forName:", {{{"b", 2}}, "com.example.one"});
+    host.message(defaults, "setPersistentDomain:forName:", {{{"c", 3}}, "com.example.two"});
+    EXPECT_EQ(host.message(defaults, "dictionaryRepresentation"), json({{"b", 2}}));
+    host.message(defaults, "removePersistentDomainForName:", {"com.example.one"});
+    EXPECT_EQ(host.result({{"do", "defaults"}, {"key", "b"}}), nullptr);
+}
+
 TEST_F(Device, TheBundleIsTheOneThatWasAskedFor) {
     HostProcess host = start({"--app", "plain", "--bundle", "org.example.other"});
     const json bundle = host.message({{"class", "NSBundle"}}, "mainBundle");

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <csignal>
-#include <cstdlib>
 
 namespace {
 
@@ -142,26 +141,22 @@ TEST(Protocol, ATerminationSignalEndsWell) {
     EXPECT_EQ(host.wait(), 0);
 }
 
-/// How many of the hosts' own folders are in the folder.
-std::ptrdiff_t deviceFolders(const std::filesystem::path& folder) {
-    return std::ranges::count_if(
-        std::filesystem::directory_iterator(folder), [](const auto& entry) {
+TEST(Protocol, AFreshDeviceFolderIsRemovedAtTheEnd) {
+    const auto hasDeviceFolder = [](const HostProcess& host) {
+        const std::filesystem::directory_iterator files(host.temporaryFolder());
+        return std::ranges::any_of(files, [](const auto& entry) {
             return entry.path().filename().string().starts_with("wentra-device-");
         });
-}
-
-TEST(Protocol, AFreshDeviceFolderIsRemovedAtTheEnd) {
-    const support::TemporaryFolder temporary;
-    setenv("TMPDIR", temporary.path().c_str(), 1);
+    };
     HostProcess host = automatedHost({"--app", "plain"});
-    HostProcess broken = hostWith({"--automation", "--library", "/nonexistent/library.so"});
-    unsetenv("TMPDIR");
     host.result({{"do", "preferences"}, {"set", {{"key", 1}}}});
-    EXPECT_GE(deviceFolders(temporary.path()), 1);
+    EXPECT_TRUE(hasDeviceFolder(host));
     host.result({{"do", "quit"}});
     EXPECT_EQ(host.wait(), 0);
+    EXPECT_FALSE(hasDeviceFolder(host));
+    HostProcess broken = hostWith({"--automation", "--library", "/nonexistent/library.so"});
     EXPECT_EQ(broken.wait(), 1);
-    EXPECT_EQ(deviceFolders(temporary.path()), 0);
+    EXPECT_FALSE(hasDeviceFolder(broken));
 }
 
 } // namespace

@@ -30,7 +30,9 @@ std::pair<int, int> makePipe() {
 
 /// In the child: becomes the program.
 [[noreturn]] void become(const char* program, std::vector<std::string> arguments, int input,
-                         int output, const std::filesystem::path& errors) {
+                         int output, const std::filesystem::path& folder) {
+    const std::filesystem::path errors = folder / "errors";
+    setenv("TMPDIR", (folder / "tmp").c_str(), 1);
     dup2(input, STDIN_FILENO);
     dup2(output, STDOUT_FILENO);
     dup2(open(errors.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600), STDERR_FILENO);
@@ -67,11 +69,12 @@ std::string readFile(const std::filesystem::path& file) {
 
 HostProcess::HostProcess(const char* program, const std::vector<std::string>& arguments) {
     std::signal(SIGPIPE, SIG_IGN); // the host may be gone when we write
+    std::filesystem::create_directory(temporaryFolder());
     const auto [theirInput, ourInput] = makePipe();
     const auto [ourOutput, theirOutput] = makePipe();
     process_ = fork();
     if (process_ == 0) {
-        become(program, arguments, theirInput, theirOutput, folder_.path() / "errors");
+        become(program, arguments, theirInput, theirOutput, folder_.path());
     }
     close(theirInput);
     close(theirOutput);

@@ -34,7 +34,8 @@ void writeFile(const std::filesystem::path& file, const std::string& content);
 /// runs.
 class HostProcess {
 public:
-    /// Starts `program` with these arguments.
+    /// Starts `program` with these arguments; its temporary files lie in a folder that ends with
+    /// it.
     HostProcess(const char* program, const std::vector<std::string>& arguments);
     HostProcess(const HostProcess&) = delete;
     HostProcess& operator=(const HostProcess&) = delete;
@@ -63,6 +64,7 @@ public:
     int wait();
     /// What the process has written to standard error, complete once it has ended.
     [[nodiscard]] std::string errors() const;
+    [[nodiscard]] std::filesystem::path temporaryFolder() const { return folder_.path() / "tmp"; }
     /// Standard output up to its end.
     [[nodiscard]] std::string rest();
 

@@ -42,10 +42,10 @@ TEST_F(UserDefaults, AnswerTheTypedGettersOfThePlatform) {
     defaults.set(ns::Number::from(2.5), u"number"_ns);
     defaults.set(u"text"_ns, u"text"_ns);
     defaults.set(ns::MutableDictionary::make(), u"map"_ns);
-    EXPECT_TRUE(defaults.send<"boolForKey:", bool>(u"flag"_ns));
-    EXPECT_FALSE(defaults.send<"boolForKey:", bool>(u"none"_ns));
-    EXPECT_EQ(defaults.send<"doubleForKey:", double>(u"number"_ns), 2.5);
-    EXPECT_EQ(defaults.send<"integerForKey:", long>(u"number"_ns), 2);
+    EXPECT_TRUE((defaults.send<"boolForKey:", bool>(u"flag"_ns)));
+    EXPECT_FALSE((defaults.send<"boolForKey:", bool>(u"none"_ns)));
+    EXPECT_EQ((defaults.send<"doubleForKey:", double>(u"number"_ns)), 2.5);
+    EXPECT_EQ((defaults.send<"integerForKey:", long>(u"number"_ns)), 2);
     EXPECT_TRUE((defaults.send<"stringForKey:", objc::Object>(u"text"_ns)).isEqual(u"text"_ns));
     EXPECT_TRUE((defaults.send<"dictionaryForKey:", objc::Object>(u"map"_ns)));
     EXPECT_FALSE((defaults.send<"dictionaryForKey:", objc::Object>(u"text"_ns)));
