@@ -3,6 +3,7 @@
 
 #include "desktop/foundation/bundle.hpp"
 #include "desktop/foundation/delayed_perform.hpp"
+#include "desktop/foundation/main_operation_queue.hpp"
 #include "desktop/foundation/timer.hpp"
 #include "desktop/foundation/user_defaults.hpp"
 
@@ -17,6 +18,7 @@ void install(const std::string& bundleIdentifier) {
     installUserDefaults(identifier);
     installDelayedPerform();
     installTimers();
+    installMainOperationQueue();
 }
 
 } // namespace desktop::foundation

@@ -2,9 +2,9 @@
 #include "desktop/foundation/timer.hpp"
 
 #include "bindings/objc/hook.hpp"
+#include "bindings/objc/hook_primitive.hpp"
 #include "bindings/objc/pool.hpp"
 
-#include <array>
 #include <utility>
 
 namespace desktop::foundation {
@@ -26,9 +26,7 @@ ns::Timer scheduleTarget(TargetScheduler, objc::Object, double interval, objc::O
 }
 
 using TimerBlock = objc::Block<void(ns::Timer)>;
-using BlockScheduler = objc::Next<ns::Timer(double, bool, TimerBlock)>;
-ns::Timer scheduleBlock(BlockScheduler, objc::Object, double interval, bool repeats,
-                        TimerBlock block) {
+ns::Timer scheduleBlock(Class, SEL, double interval, objc::Boolean repeats, TimerBlock block) {
     const auto timer = ClockTimerKind::make();
     // The block may still be on its maker's stack.
     ClockTimer::of(timer).start(interval, repeats,
@@ -81,16 +79,15 @@ void ClockTimer::invalidate() {
 
 void installTimers() {
     ClockTimer::registerClass();
-    constexpr std::array changes{
+    objc::install(
         objc::classHook<"NSTimer",
                         "scheduledTimerWithTimeInterval:target:selector:userInfo:repeats:",
-                        &scheduleTarget>(),
-        objc::classHook<"NSTimer",
-                        "scheduledTimerWithTimeInterval:repeats:block:", &scheduleBlock>(),
-    };
-    for (const objc::Change& change : changes) {
-        objc::install(change);
-    }
+                        &scheduleTarget>());
+    // Foundation was compiled without blocks and writes their type differently: a hook that
+    // compares the types would refuse.
+    MSHookMessageEx(object_getClass(objc::object(ns::Timer::classObject())),
+                    objc::selector<"scheduledTimerWithTimeInterval:repeats:block:">(),
+                    reinterpret_cast<IMP>(&scheduleBlock), nullptr);
 }
 
 } // namespace desktop::foundation

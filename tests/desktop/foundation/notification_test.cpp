@@ -1,38 +1,68 @@
 // Foundation's notification centre with blocks of ours, and its main queue on the desktop's run
 // loop.
 #include "bindings/foundation/notification_center.hpp"
+#include "bindings/foundation/thread.hpp"
 #include "bindings/objc/pool.hpp"
+#include "desktop/foundation/main_operation_queue.hpp"
 #include "desktop/runtime/event_log.hpp"
 #include "desktop/runtime/run_loop.hpp"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
-#include <vector>
+#include <thread>
 
 namespace {
 
 using namespace ns::literals;
 
-TEST(NotificationCenter, CallsABlockAtOnceOrOnTheMainQueue) {
-    const objc::Pool pool;
-    const auto center = ns::NotificationCenter::defaultCenter();
-    std::vector<std::string> calls;
-    const auto recorder = [&calls](const char* name) {
-        return objc::Block<void(ns::Notification)>::from(
-            [&calls, name](ns::Notification) { calls.emplace_back(name); });
-    };
-    const objc::Object direct =
-        center.observe(u"DesktopTest"_ns, nullptr, nullptr, recorder("at once"));
-    const objc::Object queued = center.observe(u"DesktopTest"_ns, nullptr,
-                                               ns::OperationQueue::mainQueue(), recorder("queued"));
+class MainOperationQueue : public testing::Test {
+protected:
+    static void SetUpTestSuite() { desktop::foundation::installMainOperationQueue(); }
+    ~MainOperationQueue() override { center.send<"removeObserver:">(observer); }
+
+    void observe() {
+        observer = center.observe(
+            u"DesktopTest"_ns, nullptr, ns::OperationQueue::mainQueue(),
+            objc::Block<void(ns::Notification)>::from([this](ns::Notification notification) {
+                ++calls;
+                EXPECT_TRUE(ns::Thread::isMainThread());
+                EXPECT_TRUE(notification.name().isEqualToString(u"DesktopTest"_ns));
+            }));
+    }
+
+    objc::Pool pool;
+    ns::NotificationCenter center = ns::NotificationCenter::defaultCenter();
+    objc::Object observer;
+    int calls = 0;
+};
+
+TEST_F(MainOperationQueue, CallsObserversAtOnceOnTheMainThread) {
+    observe();
     center.post(u"DesktopTest"_ns, nullptr);
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(MainOperationQueue, CallsObserversInTheirTurnForOtherThreads) {
+    observe();
+    std::thread([this] {
+        const objc::Pool inner;
+        center.post(u"DesktopTest"_ns, nullptr);
+    }).join();
+    EXPECT_EQ(calls, 0);
     desktop::run_loop::runUntilIdle();
-    std::ranges::sort(calls);
-    EXPECT_EQ(calls, (std::vector<std::string>{"at once", "queued"}));
-    center.send<"removeObserver:">(direct);
-    center.send<"removeObserver:">(queued);
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(MainOperationQueue, RunsOperationsInTheirTurn) {
+    ns::OperationQueue::mainQueue().send<"addOperationWithBlock:">(
+        objc::Block<void()>::from([this] {
+            ++calls;
+            EXPECT_TRUE(ns::Thread::isMainThread());
+        }));
+    EXPECT_EQ(calls, 0);
+    desktop::run_loop::runUntilIdle();
+    EXPECT_EQ(calls, 1);
 }
 
 TEST(EventLog, KeepsTheLatestInOrder) {

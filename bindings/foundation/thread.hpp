@@ -1,0 +1,14 @@
+// NSThread.
+#pragma once
+
+#include "bindings/objc/kind.hpp"
+
+namespace ns {
+
+struct Thread : objc::Kind<Thread, "NSThread"> {
+    using Kind::Kind;
+
+    static bool isMainThread() { return sendClass<"isMainThread", bool>(); }
+};
+
+} // namespace ns
