@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds and runs every benchmark; arguments go to Google Benchmark: ./dev bench [--benchmark_…].
+# Builds and runs every benchmark and prints the ratios: ./dev bench [--benchmark_…].
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -11,3 +11,4 @@ for benchmark in build/release/bin/bench/*; do
     printf '\n== %s\n' "$name"
     "$benchmark" --benchmark_out="$results/$name.json" --benchmark_out_format=json "$@"
 done
+scripts/bench_ratios.py "$results"

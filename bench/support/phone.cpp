@@ -72,8 +72,9 @@ std::size_t residentBytes() {
 
 const std::string& preferenceFile(PlistForm form) {
     static const std::string path = [] {
+        // The rootless layout, as on most phones.
         std::filesystem::create_directories(deviceRoot().path() /
-                                            "var/mobile/Library/Preferences");
+                                            "var/jb/var/mobile/Library/Preferences");
         deviceroot_set(deviceRoot().path().c_str());
         return startup::preferencePath();
     }();

@@ -53,8 +53,12 @@ const char* fallbackBootIdentifier() { return "00000000-0000-0000-0000-000000000
 char* fallbackJbrootPath(const char* path, char* buffer) {
     if (path == nullptr)
         return nullptr;
-    const bool unchanged = path[0] != '/' || (beginsWith(path, "/var/mobile") && hasMarkerFolder());
-    return join(unchanged ? "" : libroot_dyn_get_jbroot_prefix(), path, buffer);
+    if (path[0] != '/')
+        return join("", path, buffer);
+    const char* prefix = libroot_dyn_get_jbroot_prefix();
+    // User data is not moved on devices with the marker. Without a prefix there is nothing to ask.
+    const bool moves = *prefix != '\0' && !(beginsWith(path, "/var/mobile") && hasMarkerFolder());
+    return join(moves ? prefix : "", path, buffer);
 }
 
 char* fallbackRootfsPath(const char* path, char* buffer) {

@@ -1,0 +1,50 @@
+#!/usr/bin/env python3
+"""Prints the ratios that the benchmarks are about, from the results of one run of ./dev bench."""
+
+import json
+import pathlib
+import sys
+
+# What is measured, against what, and the aim.
+RATIOS = [
+    ("one wrapped message / by hand", "wrapped", "handCast", "at most 1.1"),
+    ("reading preferences / plain read, XML", "preferences/xml", "plainRead/xml", "at most 2"),
+    ("reading preferences / plain read, binary", "preferences/binary", "plainRead/binary",
+     "at most 2"),
+    ("label text without rules / plain read, XML", "setText/xml_without_rules", "plainRead/xml",
+     "at most 3"),
+    ("label text without rules / plain read, binary", "setText/binary_without_rules",
+     "plainRead/binary", "at most 3"),
+    ("label text with nine rules / plain read, XML", "setText/xml_with_rules", "plainRead/xml",
+     "at most 3"),
+    ("label text with nine rules / plain read, binary", "setText/binary_with_rules",
+     "plainRead/binary", "at most 3"),
+]
+
+
+def read(folder):
+    benchmarks = {}
+    for file in sorted(pathlib.Path(folder).glob("*.json")):
+        for result in json.loads(file.read_text())["benchmarks"]:
+            benchmarks[result["name"]] = result
+    return benchmarks
+
+
+def main():
+    results = read(sys.argv[1])
+    time = {name: result["cpu_time"] for name, result in results.items()}
+    print(f"\n{'':58}ratio  aim")
+    for title, what, against, aim in RATIOS:
+        print(f"{title:58}{time[what] / time[against]:5.2f}  {aim}")
+    # The plain approach is our chain with Foundation's reading of the file in place of ours.
+    ours = time["setText/xml_with_rules"]
+    plain = ours - time["preferences/xml"] + time["foundationRead"]
+    print(f"{'label text with Foundation reading the file / ours':58}{plain / ours:5.2f}  at least 8")
+    loading = next(result for name, result in results.items() if name.startswith("loading/"))
+    print(f"\nloading the library: {loading['real_time']:.2f} ms,"
+          f" {loading['residentBytes'] / 1024:.0f} KiB resident,"
+          f" {loading['fileBytes'] / 1024:.0f} KiB on disk with debugging information")
+
+
+if __name__ == "__main__":
+    main()
