@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs the missing Debian packages of the given groups: build (default), format, lint, fuzz.
+# Installs the missing Debian packages of the given groups: build (default), format, lint, fuzz, package.
 set -euo pipefail
 
 # Group, package, and what the package is needed for.
@@ -30,6 +30,11 @@ lint   clang-tidy               finds faults in the sources
 lint   shellcheck               finds faults in the scripts
 fuzz   clang                    compiles the fuzz targets
 fuzz   libclang-rt-14-dev       the fuzzer and the sanitizers of clang
+package clang-19                compiles for the phone
+package lld-19                  links and signs for the phone
+package llvm-19                 archives for the phone
+package libc++-19-dev           the headers of the C++ library for the phone
+package libc++abi-19-dev        the header of the C++ ABI for the phone
 '
 
 fail() {

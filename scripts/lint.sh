@@ -25,7 +25,7 @@ tidy() {
 scripts/install.sh build format lint
 status=0
 printf '== shellcheck\n'
-shellcheck dev .ci/run scripts/*.sh tests/scripts/*.sh || status=1
+shellcheck dev .ci/run scripts/*.sh tests/{scripts,device}/*.sh || status=1
 [[ "${1:-}" == --scripts ]] && exit "$status"
 
 printf '== clang-format\n'

@@ -31,10 +31,10 @@ run "$root/dev" nonsense
 [[ "$output" == *'unknown word: nonsense'*Usage* ]] || fail 'an unknown word is not named'
 [[ -z "$("$root/dev" nonsense 2>/dev/null || true)" ]] || fail 'the complaint is on standard output'
 
-run "$root/dev" package
-[[ $status == 1 ]] || fail "./dev package exits with $status instead of 1"
-run "$root/dev" run --nonsense
-[[ $status == 2 ]] || fail "./dev run with an unknown argument exits with $status instead of 2"
+for word in run package; do
+    run "$root/dev" "$word" --nonsense
+    [[ $status == 2 ]] || fail "./dev $word with an unknown argument exits with $status instead of 2"
+done
 
 folder="$(mktemp -d)"
 trap 'rm -r "$folder"' EXIT

@@ -1,0 +1,106 @@
+#!/usr/bin/env bash
+# Checks that the library check notices what a phone would not load, or what would harm its host.
+set -euo pipefail
+root="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
+command -v clang++-19 ld64.lld-19 >/dev/null || exit 77
+folder="$(mktemp -d)"
+trap 'rm -r "$folder"' EXIT
+cd "$folder"
+
+fail() {
+    printf 'FAILED: %s\n%s\n' "$1" "$output" >&2
+    exit 1
+}
+
+reset() {
+    rm -rf ./*
+    mkdir stubs
+    cat >stubs/Foundation.tbd <<'STUB'
+--- !tapi-tbd
+tbd-version: 4
+targets: [ arm64-ios ]
+install-name: '/System/Library/Frameworks/Foundation.framework/Foundation'
+exports:
+  - targets: [ arm64-ios ]
+    symbols:
+      - _NSLog # 2.0
+      - dyld_stub_binder # 3.1
+...
+STUB
+    cat >library.cpp <<'SOURCE'
+extern "C" void NSLog(void* format, ...);
+[[gnu::constructor]] static void start() { NSLog(nullptr); }
+SOURCE
+    target=arm64-apple-ios14.5
+    name=@rpath/Wentra.dylib
+    tables=-no_fixup_chains
+    signing=-adhoc_codesign
+    stripping=(-Xlinker -S -Xlinker -x)
+    paths=(/var/jb/Library/Frameworks /var/jb/usr/lib @loader_path/.jbroot/Library/Frameworks
+        @loader_path/.jbroot/usr/lib /Library/Frameworks /usr/lib)
+}
+
+# check: links the library and checks it; leaves $status and $output.
+check() {
+    clang++-19 -target "$target" -Os -fvisibility=hidden -c library.cpp
+    clang++-19 -target "$target" -dynamiclib -fuse-ld=lld -nostdlib library.o stubs/*.tbd \
+        -Wl,-install_name,"$name" "${paths[@]/#/-Wl,-rpath,}" -Wl,"$tables" -Wl,"$signing" \
+        "${stripping[@]}" -o Wentra.dylib
+    check_library
+}
+
+check_library() {
+    status=0
+    output="$("$root/device/check/binary.py" Wentra.dylib stubs 2>&1)" || status=$?
+}
+
+# refuse PATTERN: the library as it is now has a fault that the pattern names.
+refuse() {
+    check
+    [[ $status == 1 && "$output" == *"$1"* ]] || fail "accepted, or not named: $1"
+    reset
+}
+
+reset
+check
+[[ $status == 0 ]] || fail 'a library without a fault is refused'
+
+printf '\xff' | dd of=Wentra.dylib bs=1 seek=4000 conv=notrunc status=none
+check_library
+[[ $status == 1 && "$output" == *'signature holds'* ]] || fail 'a changed library is accepted'
+
+target=arm64-apple-ios15.0
+refuse 'for iOS, from 14.5'
+target=x86_64-apple-ios14.5-simulator
+sed -i 's/arm64-ios/x86_64-ios-simulator/' stubs/*.tbd
+refuse 'plain arm64'
+name=$folder/Wentra.dylib
+refuse 'names itself by no path'
+paths=("${paths[@]:1}")
+refuse "jailbreak's libraries"
+signing=-no_adhoc_codesign
+refuse 'signature holds'
+tables=-fixup_chains
+refuse 'classic form'
+stripping=()
+refuse 'symbols are stripped'
+printf 'extern "C" [[gnu::visibility("default")]] int wentra() { return 1; }\n' >>library.cpp
+refuse 'exports nothing'
+printf '[[gnu::constructor]] static void again() { NSLog(nullptr); }\n' >>library.cpp
+refuse 'one initialiser'
+printf 'extern const char* path; const char* path = "/home/somebody/file";' >>library.cpp
+printf '[[gnu::constructor]] static void more() { NSLog((void*)path); }\n' >>library.cpp
+refuse 'machine that built it'
+sed -i "s/nullptr)/(void*)\"\/var\/jb\/Library\/File\")/" library.cpp
+refuse "jailbreak's root"
+sed -i 's/_NSLog/__Z5NSLogPvz/' stubs/*.tbd
+sed -i 's/extern "C" void NSLog(void\* format/void NSLog(void* format/' library.cpp
+refuse 'nothing of the C++ library'
+sed -i "s|/System/Library/Frameworks|/opt/Frameworks|" stubs/*.tbd
+refuse 'only libraries of the phone'
+sed -i 's/# 2.0/# 15.0/' stubs/*.tbd
+refuse '_NSLog only since iOS 15.0'
+sed -i 's/ # 2.0//' stubs/*.tbd
+refuse '_NSLog without the iOS version'
+sed -i 's/^      - _NSLog.*/&\n      - _NSLogv # 2.0/' stubs/*.tbd
+refuse '_NSLogv is used by nothing'
