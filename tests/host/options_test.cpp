@@ -8,34 +8,33 @@ namespace {
 using support::HostProcess;
 using tests::hostWith;
 
-struct BadLine {
-    std::vector<std::string> options;
-    std::string told;
-};
-
-class BadOptions : public testing::TestWithParam<BadLine> {};
-
-TEST_P(BadOptions, AreToldOnStandardErrorWithStatusTwo) {
-    HostProcess host = hostWith(GetParam().options);
-    EXPECT_EQ(host.rest(), "");
-    EXPECT_EQ(host.wait(), 2);
-    EXPECT_NE(host.errors().find("usage: "), std::string::npos);
-    EXPECT_NE(host.errors().find(GetParam().told), std::string::npos) << host.errors();
+TEST(Options, WrongOnesAreToldOnStandardErrorWithStatusTwo) {
+    struct Case {
+        std::vector<std::string> options;
+        const char* told;
+    };
+    for (const auto& [options, told] : {
+             Case{{"--bogus"}, "--bogus"},
+             Case{{"stray"}, "stray"},
+             Case{{"--app", "nobody"}, "nobody"},
+             Case{{"--app"}, "--app"},
+             Case{{"--clock", "sundial"}, "sundial"},
+             Case{{"--size", "390x844"}, "390x844"},
+             Case{{"--size", "0x844@3"}, "0x844@3"},
+             Case{{"--size", "nanx844@3"}, "nanx844@3"},
+             Case{{"--size", "1e9x844@3"}, "1e9x844@3"},
+             Case{{"--size", "390x844@3x"}, "390x844@3x"},
+             Case{{"--no-library", "--library", "x.so"}, "--no-library"},
+             Case{{"--app", "plain", "--content", "x.json"}, "--content"},
+             Case{{"--content", "/nonexistent.json"}, "/nonexistent.json"},
+         }) {
+        HostProcess host = hostWith(options);
+        EXPECT_EQ(host.rest(), "") << told;
+        EXPECT_EQ(host.wait(), 2) << told;
+        EXPECT_NE(host.errors().find("usage: "), std::string::npos) << told;
+        EXPECT_NE(host.errors().find(told), std::string::npos) << host.errors();
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    All, BadOptions,
-    testing::Values(BadLine{{"--bogus"}, "--bogus"}, BadLine{{"stray"}, "stray"},
-                    BadLine{{"--app", "nobody"}, "nobody"}, BadLine{{"--app"}, "--app"},
-                    BadLine{{"--clock", "sundial"}, "sundial"},
-                    BadLine{{"--size", "390x844"}, "390x844"},
-                    BadLine{{"--size", "0x844@3"}, "0x844@3"},
-                    BadLine{{"--size", "nanx844@3"}, "nanx844@3"},
-                    BadLine{{"--size", "1e9x844@3"}, "1e9x844@3"},
-                    BadLine{{"--size", "390x844@3x"}, "390x844@3x"},
-                    BadLine{{"--no-library", "--library", "x.so"}, "--no-library"},
-                    BadLine{{"--app", "plain", "--content", "x.json"}, "--content"},
-                    BadLine{{"--content", "/nonexistent.json"}, "/nonexistent.json"}));
 
 TEST(Options, HelpAndListGoToStandardOutput) {
     HostProcess help = hostWith({"--help"});
