@@ -10,7 +10,7 @@ if [[ "${1:-}" == --check ]]; then
 fi
 files=("$@")
 if [[ $# == 0 ]]; then
-    mapfile -t files < <(find "$root"/{bindings,library,desktop,tests,bench} -name '*.[ch]pp')
+    mapfile -t files < <(find "$root"/{bindings,library,desktop,device,tests,bench} -name '*.[ch]pp')
 fi
 
 "$root/scripts/install.sh" format

@@ -1,6 +1,5 @@
 // How the C++ library fails on a phone: as an exception that every border knows how to report.
 #include "bindings/foundation/exception.hpp"
-#include "bindings/objc/pool.hpp"
 
 #include <__verbose_abort>
 #include <array>

@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# Compiles the phone's parts of the C++ library for Linux, in the phone's configuration, and runs them.
+set -euo pipefail
+root="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
+headers=/usr/lib/llvm-19/include/c++/v1
+command -v clang++-19 >/dev/null && [[ -d "$headers" ]] || exit 77
+folder="$(mktemp -d)"
+trap 'rm -r "$folder"' EXIT
+
+clang++-19 -std=c++20 -O1 -fexceptions -fno-rtti -fno-c++-static-destructors -I"$root" \
+    -nostdinc++ -isystem "$root/device/headers/configuration" -isystem "$headers" \
+    -fvisibility-global-new-delete=force-hidden -D_LIBCPP_DISABLE_VISIBILITY_ANNOTATIONS \
+    "$root"/device/runtime/*.cpp "$root/desktop/runtime/exceptions.cpp" \
+    "$root/tests/device/runtime_program.cpp" \
+    -nostdlib++ -lgnustep-base -lobjc -lstdc++ -rdynamic -o "$folder/program"
+"$folder/program"
