@@ -1,5 +1,6 @@
 // The dynamic loader's list of loaded images.
 #include <cstdint>
+#include <filesystem>
 #include <link.h>
 #include <string>
 #include <vector>
@@ -12,7 +13,12 @@ const std::vector<std::string>& images() {
     names.clear();
     dl_iterate_phdr(
         [](dl_phdr_info* info, std::size_t, void* out) {
-            static_cast<std::vector<std::string>*>(out)->emplace_back(info->dlpi_name);
+            // Linux leaves the executable's own name empty.
+            std::error_code ignored;
+            static_cast<std::vector<std::string>*>(out)->emplace_back(
+                info->dlpi_name[0] != '\0'
+                    ? std::string(info->dlpi_name)
+                    : std::filesystem::read_symlink("/proc/self/exe", ignored).string());
             return 0;
         },
         &names);
@@ -25,8 +31,7 @@ extern "C" {
 
 std::uint32_t _dyld_image_count() { return static_cast<std::uint32_t>(images().size()); }
 
-/// The image's path, null past the end; valid until the next call on this thread. The executable
-/// itself has the empty name on Linux.
+/// The image's path, null past the end; valid until the next call on this thread.
 const char* _dyld_get_image_name(std::uint32_t index) {
     const auto& names = images();
     return index < names.size() ? names[index].c_str() : nullptr;

@@ -57,6 +57,7 @@ void registerClasses() {
 }
 
 void startApplication(ScreenSize size) {
+    const objc::Pool pool;
     const CGSize points{size.width, size.height};
     ScreenGeometry::current() = {points, size.scale, safeAreaOf(points)};
     ui::Application::shared();

@@ -1,0 +1,27 @@
+// UIKit in the test's own process.
+#pragma once
+
+#include "bindings/objc/pool.hpp"
+#include "desktop/uikit/uikit.hpp"
+
+#include <gtest/gtest.h>
+
+namespace tests {
+
+/// Registers the classes once; a pool around each test.
+class UIKitTest : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        static const bool once = [] {
+            desktop::uikit::registerClasses();
+            desktop::uikit::startApplication({390, 844, 3});
+            return true;
+        }();
+        static_cast<void>(once);
+    }
+
+private:
+    objc::Pool pool_;
+};
+
+} // namespace tests
