@@ -11,7 +11,8 @@ changed_sources() {
     {
         git diff --name-only --diff-filter=d "$(git merge-base "$main" HEAD)"
         git ls-files --others --exclude-standard
-    } | grep '\.[ch]pp$' | grep -v '^device/' | sort -u # the desktop's build does not compile device/
+    } | grep '\.[ch]pp$' | sort -u |
+        grep -Ev '^device/|_program\.cpp$' # what the desktop's build does not compile
 }
 
 tidy() {

@@ -97,9 +97,12 @@ class Reader:
         for kind in re.findall(r"objc::Peer<\s*\w+,\s*([\w:]+)", text):
             self.found.own_classes.add(self.kinds[kind.split("::")[-1]])
         for factory, name in re.findall(r'objc::(\w+)<"([^"]+)",\s*&', text):
-            if factory in ("method", "classMethod", "property", "flag"):
+            capitalised = name[:1].upper() + name[1:]
+            if factory in ("method", "classMethod"):
                 self.own("+" if factory == "classMethod" else "-", name)
-                self.own("-", f"set{name[:1].upper()}{name[1:]}:")
+            elif factory in ("property", "flag"):
+                self.own("-", f"is{capitalised}" if factory == "flag" else name)
+                self.own("-", f"set{capitalised}:")
         for kind, selector in re.findall(
                 r'objc::(addition|classAddition)<"[^"]+",\s*"([^"]+)"', text):
             self.own("+" if kind == "classAddition" else "-", selector)
