@@ -42,6 +42,8 @@ def check_use(classes, found, use):
     own = (use.side, use.selector) in found.own_methods
     if use.cls is not None and use.cls not in classes and use.cls not in found.own_classes:
         return []  # the class itself is reported
+    if use.hooked and (use.types is None or None in use.types):
+        return [f"{what}: the replacement's types cannot be read here"]
     reached = candidates(classes, use)
     if not reached:
         return [] if own else [f"{what}: no such method in the table"]

@@ -48,6 +48,10 @@ def split(text):
     return [part for part in parts if part]
 
 
+def place(file, text, match):
+    return f"{file}:{text.count(chr(10), 0, match.start()) + 1}"
+
+
 class Reader:
     def __init__(self, root, folders):
         paths = sorted(p for f in folders for p in Path(root, f).rglob("*.[ch]pp"))
@@ -112,39 +116,43 @@ class Reader:
     def own(self, side, selector):
         self.found.own_methods.add((side, selector))
 
-    def read_messages(self, file, text):
-        kinds = []  # the handle types' bodies: begin, end, class
+    def read_kinds(self, text):
+        """The bodies of the handle types: begin, end, class."""
         for match in re.finditer(r'struct (\w+) : objc::Kind<([^{]*)> {', text):
             parts = split(match[2])
             superkind = parts[2].split("::")[-1] if len(parts) > 2 else None
             cls = parts[1].strip('"')
             self.found.classes[cls] = self.kinds[superkind] if superkind else "NSObject"
-            kinds.append((match.start(), balanced(text, match.end() - 1, "{}")[1], cls))
+            yield match.start(), balanced(text, match.end() - 1, "{}")[1], cls
+
+    def receiver(self, word, before, enclosing):
+        """The class that a message goes to, told by what stands before it."""
+        if word in ("super", "sendSuper") or before.endswith((".", "->", ".template")):
+            return None
+        if scope := re.search(r"(\w+)::(?:template )?$", before):
+            return self.kinds.get(scope[1])
+        if enclosing:
+            return enclosing
+        member = re.findall(r"\b(?:\w+::)?(\w+)::\w+\([^(){}]*\)(?: const)? {", before)
+        return self.kinds.get(member[-1]) if member else None
+
+    def read_messages(self, file, text):
+        bodies = list(self.read_kinds(text))
         for match in re.finditer(r'\b(sendClass|sendSuper|send|make|super)(?=<")', text):
-            arguments, end = balanced(text, match.end(), "<>")
-            parts = split(arguments)
-            called = split(balanced(text, end, "()")[0])
-            place = f"{file}:{text.count(chr(10), 0, match.start()) + 1}"
-            before = text[:match.start()].rstrip()
-            cls = next((c for b, e, c in kinds if b < match.start() < e), None)
-            if cls is None:
-                member = re.findall(r"\b(?:\w+::)?(\w+)::\w+\([^(){}]*\)(?: const)? {", before)
-                cls = self.kinds.get(member[-1]) if member else None
-            word = match[1]
-            if scope := re.search(r"(\w+)::(?:template )?$", before):
-                cls = self.kinds.get(scope[1])
-                called = called if cls else called[1 + (word == "sendSuper"):]
-            elif before.endswith((".", "->", ".template")):
-                cls = None
-            result = "@" if word == "make" else self.encode(parts[1] if len(parts) > 1 else "void")
-            if word in ("super", "sendSuper"):
-                cls = None
+            word, before = match[1], text[:match.start()].rstrip()
+            enclosing = next((c for b, e, c in bodies if b < match.start() < e), None)
+            inside, end = balanced(text, match.end(), "<>")
+            selector, result = (split(inside) + ["void"])[:2]
+            arguments = split(balanced(text, end, "()")[0])
+            if before.endswith("objc::"):  # the free functions take the receiver first
+                arguments = arguments[2 if word == "sendSuper" else 1:]
             self.found.uses.append(Use(
-                place, cls, "+" if word == "sendClass" else "-", parts[0].strip('"'),
-                (result, *(self.encode_argument(a, before) for a in called))))
+                place(file, text, match), self.receiver(word, before, enclosing),
+                "+" if word == "sendClass" else "-", selector.strip('"'),
+                ("@" if word == "make" else self.encode(result),
+                 *(self.encode_argument(argument, before) for argument in arguments))))
         for match in re.finditer(r'\b(?:selector<"([^"]+)">\(|sel_registerName\("([^"]+)"\))', text):
-            place = f"{file}:{text.count(chr(10), 0, match.start()) + 1}"
-            self.found.uses.append(Use(place, None, "-", match[1] or match[2]))
+            self.found.uses.append(Use(place(file, text, match), None, "-", match[1] or match[2]))
         for cls in re.findall(r'objc_(?:getClass|lookUpClass)\("([^"]+)"\)', text):
             self.found.classes.setdefault(cls, "NSObject")
 
@@ -166,10 +174,10 @@ class Reader:
             if len(parts) < 3 or not parts[0].startswith('"'):
                 continue
             cls, selector = parts[0].strip('"'), parts[1].strip('"')
-            place = f"{file}:{text.count(chr(10), 0, match.start()) + 1}"
             self.found.classes.setdefault(cls, "")
-            self.found.uses.append(Use(place, cls, "+" if match[1] == "classHook" else "-",
-                                       selector, self.replacement_types(text, parts[-1]), True))
+            self.found.uses.append(Use(
+                place(file, text, match), cls, "+" if match[1] == "classHook" else "-", selector,
+                self.replacement_types(text, parts[-1]), True))
 
     def replacement_types(self, text, replacement):
         name = replacement.lstrip("&").split("::")[-1]

@@ -49,5 +49,7 @@ refuse library/scratchpad/scratch_pad_hook.cpp 's/"viewDidLoad"/"viewDidLaod"/' 
 refuse library/labels/label_text_hooks.cpp \
     's/void withholdOneText(objc::Next<void(ns::String)>/void withholdOneText(objc::Next<void(bool)>/' \
     '-[UILabel setText:]: types v B'
+refuse library/labels/label_text_hooks.cpp 's/&withholdOneText/\&somethingElsewhere/' \
+    "-[UILabel setText:]: the replacement's types cannot be read"
 refuse device/interface.txt 's/^WKWebView : UIView 8.0/WKWebView : UIView 15.0/' \
     'class WKWebView: only since iOS 15.0'
