@@ -9,7 +9,7 @@
 #include "library/startup/key_table.hpp"
 #include "library/startup/preference_keys.hpp"
 #include "library/startup/root_path.hpp"
-#include "tests/library/startup/property_list_writer.hpp"
+#include "tests/library/startup/property_list/property_list_writer.hpp"
 #include "tests/library/startup/temporary_folder.hpp"
 
 #include <bit>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "library/startup/preference_keys.hpp"
-#include "library/startup/text_encoding.hpp"
+#include "library/startup/property_list/text_encoding.hpp"
 
 #include <cstddef>
 #include <string_view>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "library/startup/key_table.hpp"
-#include "library/startup/padded_bytes.hpp"
-#include "library/startup/property_list.hpp"
+#include "library/startup/property_list/padded_bytes.hpp"
+#include "library/startup/property_list/property_list.hpp"
 
 #include <array>
 #include <optional>

@@ -3,7 +3,7 @@
 
 #include "desktop/deviceroot/deviceroot.hpp"
 #include "tests/library/startup/fresh_process.hpp"
-#include "tests/library/startup/property_list_writer.hpp"
+#include "tests/library/startup/property_list/property_list_writer.hpp"
 #include "tests/library/startup/temporary_folder.hpp"
 
 #include <gtest/gtest.h>

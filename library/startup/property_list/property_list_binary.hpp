@@ -1,8 +1,8 @@
 // Reads binary property lists.
 #pragma once
 
-#include "library/startup/padded_bytes.hpp"
-#include "library/startup/property_list.hpp"
+#include "library/startup/property_list/padded_bytes.hpp"
+#include "library/startup/property_list/property_list.hpp"
 
 namespace wentra::startup {
 

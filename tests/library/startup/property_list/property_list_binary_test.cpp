@@ -1,6 +1,6 @@
 // Tests what counts as a binary property list and what its objects mean.
 #include "library/startup/preferences.hpp"
-#include "tests/library/startup/property_list_writer.hpp"
+#include "tests/library/startup/property_list/property_list_writer.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // Scans decimal numbers and integers of either base without the C library's locale.
-#include "library/startup/decimal_number.hpp"
+#include "library/startup/property_list/decimal_number.hpp"
 
 #include <algorithm>
 #include <array>

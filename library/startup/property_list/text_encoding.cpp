@@ -1,8 +1,8 @@
 // Decodes and encodes UTF-8 and UTF-16, one character at a time.
-#include "library/startup/text_encoding.hpp"
+#include "library/startup/property_list/text_encoding.hpp"
 
-#include "library/startup/byte_word.hpp"
-#include "library/startup/utf8_character.hpp"
+#include "library/startup/property_list/byte_word.hpp"
+#include "library/startup/property_list/utf8_character.hpp"
 
 #include <cstddef>
 

@@ -1,5 +1,5 @@
 // Opens, measures and reads a regular file.
-#include "library/startup/file_reading.hpp"
+#include "library/startup/property_list/file_reading.hpp"
 
 #include <cerrno>
 #include <fcntl.h>

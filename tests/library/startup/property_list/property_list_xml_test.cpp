@@ -1,6 +1,6 @@
 // Tests what counts as an XML property list and what its elements mean.
 #include "library/startup/preferences.hpp"
-#include "tests/library/startup/property_list_writer.hpp"
+#include "tests/library/startup/property_list/property_list_writer.hpp"
 
 #include <gtest/gtest.h>
 

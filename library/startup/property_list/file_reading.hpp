@@ -1,7 +1,7 @@
 // Reads a whole file without ever waiting for one.
 #pragma once
 
-#include "library/startup/padded_bytes.hpp"
+#include "library/startup/property_list/padded_bytes.hpp"
 
 #include <cstddef>
 #include <optional>
