@@ -19,9 +19,6 @@ struct Dictionary : objc::Kind<Dictionary, "NSDictionary"> {
         return send<"objectForKey:", objc::Object>(key);
     }
     [[nodiscard]] Array allKeys() const;
-    bool writeToFile(String path, bool atomically) const {
-        return send<"writeToFile:atomically:", bool>(path, atomically);
-    }
 };
 
 struct MutableDictionary : objc::Kind<MutableDictionary, "NSMutableDictionary", Dictionary> {

@@ -3,6 +3,7 @@
 
 #include "desktop/foundation/bundle.hpp"
 #include "desktop/foundation/delayed_perform.hpp"
+#include "desktop/foundation/dictionary_files.hpp"
 #include "desktop/foundation/main_operation_queue.hpp"
 #include "desktop/foundation/timer.hpp"
 #include "desktop/foundation/user_defaults.hpp"
@@ -16,6 +17,7 @@ void install(const std::string& bundleIdentifier) {
     const auto identifier = ns::String::fromUtf8(bundleIdentifier);
     installBundle(identifier);
     installUserDefaults(identifier);
+    installDictionaryFiles();
     installDelayedPerform();
     installTimers();
     installMainOperationQueue();

@@ -1,0 +1,32 @@
+// Reading binary property lists into dictionaries.
+#include "desktop/foundation/dictionary_files.hpp"
+
+#include "bindings/foundation/dictionary.hpp"
+#include "bindings/foundation/property_list.hpp"
+#include "bindings/objc/hook.hpp"
+
+namespace desktop::foundation {
+namespace {
+
+using Reader = objc::Next<ns::Dictionary(ns::String)>;
+ns::Dictionary read(Reader next, objc::Object, ns::String path) {
+    if (const ns::Dictionary dictionary = next(path); dictionary) {
+        return dictionary;
+    }
+    const auto data = ns::Data::withContentsOfFile(path);
+    const auto entries = data ? ns::PropertyList::from(data).as<ns::Dictionary>() : nullptr;
+    if (!entries) {
+        return nullptr;
+    }
+    const auto changeable = ns::MutableDictionary::make(); // the mutable class may be asked as well
+    changeable.addEntries(entries);
+    return changeable;
+}
+
+} // namespace
+
+void installDictionaryFiles() {
+    objc::install(objc::classHook<"NSDictionary", "dictionaryWithContentsOfFile:", &read>());
+}
+
+} // namespace desktop::foundation
