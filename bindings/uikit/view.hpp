@@ -9,6 +9,8 @@
 
 namespace ui {
 
+struct Event;
+struct GestureRecognizer;
 struct Window;
 
 struct View : objc::Kind<View, "UIView", Responder> {
@@ -40,6 +42,12 @@ struct View : objc::Kind<View, "UIView", Responder> {
     void setUserInteractionEnabled(bool enabled) const {
         send<"setUserInteractionEnabled:">(enabled);
     }
+    [[nodiscard]] bool isUserInteractionEnabled() const {
+        return send<"isUserInteractionEnabled", bool>();
+    }
+    [[nodiscard]] bool isMultipleTouchEnabled() const {
+        return send<"isMultipleTouchEnabled", bool>();
+    }
 
     [[nodiscard]] View superview() const { return send<"superview", View>(); }
     /// Back to front; a snapshot.
@@ -53,6 +61,14 @@ struct View : objc::Kind<View, "UIView", Responder> {
     [[nodiscard]] ns::Array gestureRecognizers() const {
         return send<"gestureRecognizers", ns::Array>();
     }
+    /// The view keeps the recognizer; it leaves the view that had it before. These two are defined
+    /// with the recognizers, in gesture_recognizer.hpp.
+    void addGestureRecognizer(GestureRecognizer recognizer) const;
+    void removeGestureRecognizer(GestureRecognizer recognizer) const;
+    /// The front-most view inside this one that takes touches at the point (in this view's
+    /// coordinates), or nil. The event may be nil. Defined with the events, in event.hpp.
+    [[nodiscard]] View hitTest(CGPoint point, Event event) const;
+    [[nodiscard]] bool pointInside(CGPoint point, Event event) const;
 
     void layoutSubviews() const { send<"layoutSubviews">(); }
     void setNeedsLayout() const { send<"setNeedsLayout">(); }

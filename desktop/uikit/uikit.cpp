@@ -7,21 +7,29 @@
 #include "desktop/uikit/color.hpp"
 #include "desktop/uikit/compositor.hpp"
 #include "desktop/uikit/control.hpp"
+#include "desktop/uikit/event.hpp"
 #include "desktop/uikit/font.hpp"
+#include "desktop/uikit/gesture_recognizer.hpp"
 #include "desktop/uikit/image.hpp"
 #include "desktop/uikit/image_view.hpp"
 #include "desktop/uikit/label.hpp"
+#include "desktop/uikit/long_press_gesture_recognizer.hpp"
 #include "desktop/uikit/menu_controller.hpp"
 #include "desktop/uikit/navigation_bar.hpp"
 #include "desktop/uikit/navigation_item.hpp"
+#include "desktop/uikit/pan_gesture_recognizer.hpp"
 #include "desktop/uikit/pasteboard.hpp"
+#include "desktop/uikit/pinch_gesture_recognizer.hpp"
 #include "desktop/uikit/responder.hpp"
 #include "desktop/uikit/screen.hpp"
 #include "desktop/uikit/scroll_view.hpp"
 #include "desktop/uikit/stack_view.hpp"
 #include "desktop/uikit/status_bar.hpp"
+#include "desktop/uikit/swipe_gesture_recognizer.hpp"
+#include "desktop/uikit/tap_gesture_recognizer.hpp"
 #include "desktop/uikit/text_field.hpp"
 #include "desktop/uikit/text_view.hpp"
+#include "desktop/uikit/touch.hpp"
 #include "desktop/uikit/view.hpp"
 #include "desktop/uikit/view_controller.hpp"
 #include "desktop/uikit/window.hpp"
@@ -53,7 +61,9 @@ void registerClasses() {
     const objc::Pool pool;
     registerAll<Color, UIFont, UIImage, Layer, Screen, WindowScene, Pasteboard, NavigationItem,
                 MenuController, Responder, Application, ViewController, View, Window, Label,
-                ImageView, ScrollView, StackView, NavigationBar, Control, TextField, TextView>();
+                ImageView, ScrollView, StackView, NavigationBar, Control, TextField, TextView,
+                Touch, Event, GestureRecognizer, TapGestureRecognizer, LongPressGestureRecognizer,
+                PanGestureRecognizer, PinchGestureRecognizer, SwipeGestureRecognizer>();
 }
 
 void startApplication(ScreenSize size) {

@@ -29,6 +29,7 @@ std::vector<objc::MethodRow> View::methods() {
         objc::property<"contentMode", &View::contentMode_>(),
         objc::property<"autoresizingMask", &View::autoresizingMask_>(),
         objc::flag<"userInteractionEnabled", &View::userInteractionEnabled_>(),
+        objc::flag<"multipleTouchEnabled", &View::multipleTouchEnabled_>(),
         objc::property<"accessibilityLabel", &View::accessibilityLabel_>(),
         objc::property<"accessibilityIdentifier", &View::accessibilityIdentifier_>(),
         objc::method<"superview", &View::superview_>(),
@@ -66,6 +67,9 @@ std::vector<objc::MethodRow> View::methods() {
         objc::method<"gestureRecognizers", &View::gestureRecognizers>(),
         objc::method<"addGestureRecognizer:", &View::addGestureRecognizer>(),
         objc::method<"removeGestureRecognizer:", &View::removeGestureRecognizer>(),
+        objc::method<"gestureRecognizerShouldBegin:", &View::gestureRecognizerShouldBegin>(),
+        objc::method<"hitTest:withEvent:", &View::hitTest>(),
+        objc::method<"pointInside:withEvent:", &View::pointInside>(),
     };
 }
 
@@ -73,6 +77,7 @@ View::~View() {
     for (const auto& child : subviews_) {
         of(child).superview_ = nullptr;
     }
+    releaseRecognizers();
 }
 
 ui::View View::initWithFrame(CGRect frame) {
@@ -102,19 +107,5 @@ ui::Color View::tintColor() const {
     }
     return superview_.tintColor();
 }
-
-ns::Array View::gestureRecognizers() const {
-    return recognizers_ ? recognizers_.copied() : ns::Array();
-}
-
-void View::addGestureRecognizer(objc::Object recognizer) {
-    if (!recognizers_) {
-        recognizers_ = ns::MutableArray::make();
-    }
-    recognizers_.remove(recognizer);
-    recognizers_.add(recognizer);
-}
-
-void View::removeGestureRecognizer(objc::Object recognizer) { recognizers_.remove(recognizer); }
 
 } // namespace desktop

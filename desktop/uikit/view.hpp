@@ -1,6 +1,8 @@
 // UIView: the tree of views, their geometry and their layout.
 #pragma once
 
+#include "bindings/uikit/event.hpp"
+#include "bindings/uikit/gesture_recognizer.hpp"
 #include "bindings/uikit/view.hpp"
 #include "bindings/uikit/window.hpp"
 
@@ -88,8 +90,12 @@ private:
     void autoresize(CGSize former, CGSize current);
 
     [[nodiscard]] ns::Array gestureRecognizers() const;
-    void addGestureRecognizer(objc::Object recognizer);
-    void removeGestureRecognizer(objc::Object recognizer);
+    void addGestureRecognizer(ui::GestureRecognizer recognizer);
+    void removeGestureRecognizer(ui::GestureRecognizer recognizer);
+    void releaseRecognizers();
+    [[nodiscard]] bool gestureRecognizerShouldBegin(ui::GestureRecognizer) const { return true; }
+    [[nodiscard]] ui::View hitTest(CGPoint point, ui::Event event) const;
+    [[nodiscard]] bool pointInside(CGPoint point, ui::Event event) const;
 
     objc::Strong<ca::Layer> layer_;
     std::vector<objc::Strong<ui::View>> subviews_;
@@ -104,6 +110,7 @@ private:
     long contentMode_ = 0;
     unsigned long autoresizingMask_ = 0;
     bool userInteractionEnabled_ = true;
+    bool multipleTouchEnabled_ = false;
     bool needsLayout_ = true;
 };
 
