@@ -49,6 +49,33 @@ double secondsArgument(const Json& request, const char* name) {
     return seconds;
 }
 
+double secondsArgument(const Json& request, const char* name, double missing) {
+    return argument(request, name) == nullptr ? missing : secondsArgument(request, name);
+}
+
+const Json& listArgument(const Json& request, const char* name) {
+    const Json& value = anyArgument(request, name);
+    if (!value.is_array() || value.empty()) {
+        refuse(name, "a list that is not empty");
+    }
+    return value;
+}
+
+std::size_t countArgument(const Json& request, const char* name, std::size_t missing,
+                          std::size_t most) {
+    const Json* value = argument(request, name);
+    if (value == nullptr) {
+        return missing;
+    }
+    // A count that is not unsigned is negative or a fraction.
+    const auto count = value->is_number_unsigned() ? value->get<std::uint64_t>() : 0;
+    if (count < 1 || count > most) {
+        throw RequestError(std::string("\"") + name + "\" must be a whole number from 1 to " +
+                           std::to_string(most));
+    }
+    return count;
+}
+
 bool flagArgument(const Json& request, const char* name) {
     const Json* value = argument(request, name);
     if (value != nullptr && !value->is_boolean()) {

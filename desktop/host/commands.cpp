@@ -25,10 +25,15 @@ struct Row {
     Command command;
 };
 
-constexpr std::array<Row, 11> table{{
+constexpr std::array<Row, 16> table{{
     {"send", &send},
     {"tree", &tree},
     {"find", &find},
+    {"tap", &tap},
+    {"press", &press},
+    {"slide", &slide},
+    {"pinch", &pinch},
+    {"touch", &touch},
     {"pasteboard", &pasteboard},
     {"preferences", &preferences},
     {"defaults", &defaults},

@@ -24,6 +24,12 @@ using Command = Json (*)(Session& session, const Json& request);
 [[nodiscard]] Json send(Session& session, const Json& request);
 [[nodiscard]] Json tree(Session& session, const Json& request);
 [[nodiscard]] Json find(Session& session, const Json& request);
+// Fingers on the screen.
+[[nodiscard]] Json tap(Session& session, const Json& request);
+[[nodiscard]] Json press(Session& session, const Json& request);
+[[nodiscard]] Json slide(Session& session, const Json& request);
+[[nodiscard]] Json pinch(Session& session, const Json& request);
+[[nodiscard]] Json touch(Session& session, const Json& request);
 // What the device keeps.
 [[nodiscard]] Json pasteboard(Session& session, const Json& request);
 [[nodiscard]] Json preferences(Session& session, const Json& request);

@@ -51,8 +51,7 @@ Json wait(Session& session, const Json& request) {
     using Seconds = std::chrono::duration<double>;
     const Json& wanted = objectArgument(request, "for");
     constexpr double patience = 10;
-    const Seconds limit(
-        argument(request, "seconds") == nullptr ? patience : secondsArgument(request, "seconds"));
+    const Seconds limit(secondsArgument(request, "seconds", patience));
     const auto start = Clock::now();
     for (;;) {
         run_loop::runUntilIdle();

@@ -3,6 +3,7 @@
 
 #include "bindings/uikit/font.hpp"
 #include "desktop/host/text.hpp"
+#include "desktop/uikit/gesture_recognizer.hpp"
 
 #include <algorithm>
 #include <array>
@@ -88,7 +89,9 @@ void addCount(Json& node, const char* key, objc::Object owner) {
 }
 
 Json recognizerNode(objc::Object recognizer) {
-    Json node{{"class", object_getClassName(recognizer.raw())}};
+    const SEL action = GestureRecognizer::of(recognizer).action();
+    Json node{{"class", object_getClassName(recognizer.raw())},
+              {"action", action != nullptr ? Json(sel_getName(action)) : Json()}};
     if (answers<"minimumPressDuration">(recognizer, "d")) {
         node["minimumPressDuration"] = recognizer.send<"minimumPressDuration", double>();
     }

@@ -29,7 +29,7 @@ TEST(Protocol, BadLinesAreRefusedAndTheHostGoesOn) {
                                          "{}",
                                          R"({"do":7})",
                                          R"({"do":"dance"})",
-                                         R"({"do":"tap","at":[1,1]})",
+                                         R"({"do":"hover","at":[1,1]})",
                                          "{\"do\":\"\xff\"}",
                                          R"({"do":"\ud800"})",
                                          std::string(1, '\0'),
