@@ -4,6 +4,7 @@
 #include "desktop/drawing/canvas.hpp"
 #include "desktop/quartzcore/layer.hpp"
 #include "desktop/uikit/application.hpp"
+#include "desktop/uikit/button.hpp"
 #include "desktop/uikit/color.hpp"
 #include "desktop/uikit/compositor.hpp"
 #include "desktop/uikit/control.hpp"
@@ -61,9 +62,10 @@ void registerClasses() {
     const objc::Pool pool;
     registerAll<Color, UIFont, UIImage, Layer, Screen, WindowScene, Pasteboard, NavigationItem,
                 MenuController, Responder, Application, ViewController, View, Window, Label,
-                ImageView, ScrollView, StackView, NavigationBar, Control, TextField, TextView,
-                Touch, Event, GestureRecognizer, TapGestureRecognizer, LongPressGestureRecognizer,
-                PanGestureRecognizer, PinchGestureRecognizer, SwipeGestureRecognizer>();
+                ImageView, ScrollView, StackView, NavigationBar, Control, Button, TextField,
+                TextView, Touch, Event, GestureRecognizer, TapGestureRecognizer,
+                LongPressGestureRecognizer, PanGestureRecognizer, PinchGestureRecognizer,
+                SwipeGestureRecognizer>();
 }
 
 void startApplication(ScreenSize size) {

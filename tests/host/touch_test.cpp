@@ -66,6 +66,19 @@ TEST_F(TouchCommands, TapsAndTouchesAreCounted) {
                             {"touches", 2}}}));
 }
 
+TEST_F(TouchCommands, AButtonSendsItsAction) {
+    const json button = host.message({{"class", "UIButton"}}, "buttonWithType:", {1});
+    host.message(button, "setTitle:forState:", {"Go", 0});
+    host.message(button, "setFrame:", {{{"rect", {0, 0, 50, 50}}}});
+    host.message(button, "addTarget:action:forControlEvents:",
+                 {marker, {{"selector", "removeFromSuperview"}}, 64});
+    host.message(view, "addSubview:", {button});
+    const json found = host.result({{"do", "find"}, {"where", {{"title", "Go"}}}});
+    ASSERT_EQ(found.size(), 1U);
+    act({{"do", "tap"}, {"on", found.at(0)}});
+    EXPECT_TRUE(acted());
+}
+
 TEST_F(TouchCommands, APressTakesItsTime) {
     const json press = recognizer("UILongPressGestureRecognizer");
     host.message(press, "setMinimumPressDuration:", {1.5});

@@ -1,0 +1,30 @@
+// UIButton.
+#pragma once
+
+#include "bindings/uikit/control.hpp"
+#include "bindings/uikit/label.hpp"
+
+namespace ui {
+
+/// The platform's numbers.
+enum class ButtonType : long { custom = 0, system = 1 };
+
+struct Button : objc::Kind<Button, "UIButton", Control> {
+    using Kind::Kind;
+
+    static Button ofType(ButtonType type) { return sendClass<"buttonWithType:", Button>(type); }
+    void setTitle(ns::String title, unsigned long state) const {
+        send<"setTitle:forState:">(title, state);
+    }
+    /// The title set for that state, or else for the normal one; nil when there is none.
+    [[nodiscard]] ns::String titleFor(unsigned long state) const {
+        return send<"titleForState:", ns::String>(state);
+    }
+    void setTitleColor(Color color, unsigned long state) const {
+        send<"setTitleColor:forState:">(color, state);
+    }
+    [[nodiscard]] Label titleLabel() const { return send<"titleLabel", Label>(); }
+    void setContentEdgeInsets(UIEdgeInsets insets) const { send<"setContentEdgeInsets:">(insets); }
+};
+
+} // namespace ui
