@@ -66,8 +66,8 @@ struct Trampoline;
 template <auto Member, class R, class... A>
 struct Trampoline<Member, R(A...)> {
     using Owner = typename MemberType<decltype(Member)>::Owner;
-    static Passed<Lent<R>> call(id self, SEL name, Passed<Lent<A>>... arguments) {
-        auto body = [&]() -> Passed<Lent<R>> {
+    static Passed<R> call(id self, SEL name, Passed<A>... arguments) {
+        auto body = [&]() -> Passed<R> {
             return std::invoke(Member, Owner::of(wrap(self)), received<Lent<A>>(arguments)...);
         };
         if constexpr (Owner::border == Boundary::contained) {
@@ -83,7 +83,7 @@ template <auto Member, auto Changed>
 struct Assignment {
     using Owner = typename MemberType<decltype(Member)>::Owner;
     using Value = typename MemberType<decltype(Member)>::Value;
-    static void call(id self, SEL, Passed<Lent<Value>> value) {
+    static void call(id self, SEL, Passed<Value> value) {
         Owner& peer = Owner::of(wrap(self));
         peer.*Member = received<Lent<Value>>(value);
         if constexpr (!std::is_null_pointer_v<decltype(Changed)>) {
@@ -118,7 +118,7 @@ struct ClassTrampoline;
 template <auto Function, class R, class... A>
 struct ClassTrampoline<Function, R (*)(Class, A...)> {
     using Signature = Lent<R>(A...);
-    static Passed<Lent<R>> call(Class self, SEL, Passed<Lent<A>>... arguments) {
+    static Passed<R> call(Class self, SEL, Passed<A>... arguments) {
         return Function(self, received<Lent<A>>(arguments)...);
     }
 };

@@ -1,41 +1,12 @@
 // Message sends: typed, nil-safe, at the cost of a C call through the looked-up implementation.
 #pragma once
 
+#include "bindings/objc/passing.hpp"
 #include "bindings/objc/selector.hpp"
 
 #include <type_traits>
 
 namespace objc {
-
-template <class T>
-class Strong;
-
-/// How a C++ type travels in a message. Plain values and handles go as they are.
-template <class T>
-struct Passing {
-    using Type = T;
-};
-template <>
-struct Passing<bool> {
-    using Type = Boolean;
-};
-/// An owning reference lends its object.
-template <class T>
-struct Passing<Strong<T>> {
-    using Type = T;
-};
-template <class T>
-using Passed = typename Passing<std::remove_cvref_t<T>>::Type;
-
-/// From the travelling form back to the C++ type.
-template <class T>
-constexpr T received(Passed<T> value) {
-    if constexpr (std::is_same_v<T, bool>) {
-        return value != 0;
-    } else {
-        return value;
-    }
-}
 
 /// The C function type of a method.
 template <class Result, class... Arguments>

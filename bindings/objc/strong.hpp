@@ -53,25 +53,5 @@ public:
     Copied(Kind original)
         : Strong<Kind>(Strong<Kind>::adopt(original.template send<"copy", Kind>())) {}
 };
-template <class Kind>
-struct Passing<Copied<Kind>> {
-    using Type = Kind;
-};
-
-/// The handle that an owning or plain reference type lends.
-template <class T>
-struct Lending {
-    using Type = T;
-};
-template <class Kind>
-struct Lending<Strong<Kind>> {
-    using Type = Kind;
-};
-template <class Kind>
-struct Lending<Copied<Kind>> {
-    using Type = Kind;
-};
-template <class T>
-using Lent = typename Lending<std::remove_cvref_t<T>>::Type;
 
 } // namespace objc
