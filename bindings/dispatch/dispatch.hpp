@@ -43,6 +43,8 @@ std::pair<void*, dispatch_function_t> parcel(Body body) {
 
 } // namespace detail
 
+// NOLINTBEGIN(clang-analyzer-cplusplus.NewDeleteLeaks): the queue owns the parcel.
+
 /// Runs `body` on `queue` as soon as it is its turn. What it throws is reported and ends there.
 template <class Body>
 void async(dispatch_queue_t queue, Body body) {
@@ -56,5 +58,7 @@ void after(std::int64_t nanoseconds, dispatch_queue_t queue, Body body) {
     const auto [context, work] = detail::parcel(std::move(body));
     dispatch_after_f(dispatch_time(0, nanoseconds), queue, context, work);
 }
+
+// NOLINTEND(clang-analyzer-cplusplus.NewDeleteLeaks)
 
 } // namespace dispatch

@@ -312,7 +312,7 @@ bool XmlReader::text() {
     const char* begin = at_;
     std::uint64_t seen = 0;
     while (at_ < end_) {
-        const std::uint64_t word = littleEndian<std::uint64_t>(at_);
+        const auto word = littleEndian<std::uint64_t>(at_);
         const std::uint64_t markup = matches(word, '<') | matches(word, '&');
         if (markup == 0) {
             seen |= word;
