@@ -169,7 +169,9 @@ bool DeviceUserDefaults::write() {
     // Not under the lock: Foundation itself asks for user defaults while it writes.
     std::error_code failure; // the write itself tells
     fs::create_directories(folder, failure);
-    return ns::PropertyList::data(snapshot, ns::PropertyListFormat::xml).writeToFile(file_, true);
+    // Binary, as on the phone; GNUstep's XML would spoil characters beyond the first plane.
+    return ns::PropertyList::data(snapshot, ns::PropertyListFormat::binary)
+        .writeToFile(file_, true);
 }
 
 void installUserDefaults(ns::String bundleIdentifier) {

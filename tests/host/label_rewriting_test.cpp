@@ -183,11 +183,11 @@ TEST(LabelRewriting, AppliesToWhatTheApplicationShowsFromItsStart) {
     const std::vector<std::string> options{"--app", "chat", "--root", root.path().string()};
     {
         Phone phone(options);
-        phone.saveRules("Name===名字\n周末去爬山吗？===Hiking?");
+        phone.saveRules("Name===名字\n周末去爬山吗？===Hiking? 😀");
     }
     Phone phone(options);
     EXPECT_EQ(phone.result({{"do", "find"}, {"where", {{"text", "名字: Bob 也会来"}}}}).size(), 1U);
-    EXPECT_EQ(phone.result({{"do", "find"}, {"where", {{"text", "Hiking?"}}}}).size(), 1U);
+    EXPECT_EQ(phone.result({{"do", "find"}, {"where", {{"text", "Hiking? 😀"}}}}).size(), 1U);
     EXPECT_TRUE(phone.swallowed().empty());
 }
 
