@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds everything, or only the targets given: ./dev build [PRESET [TARGET…]] (release, sanitize, fuzz).
+# Builds everything, or only the targets given: ./dev build [PRESET [TARGET…]] (release, quick, sanitize, fuzz).
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds and runs every test: ./dev test [PRESET [CTEST ARGUMENTS]] (release, sanitize).
+# Builds and runs every test: ./dev test [PRESET [CTEST ARGUMENTS]] (release, quick, sanitize).
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
