@@ -1,8 +1,7 @@
 // NSArray and NSMutableArray.
 #pragma once
 
-#include "bindings/objc/kind.hpp"
-#include "bindings/objc/strong.hpp"
+#include "bindings/foundation/string.hpp"
 
 #include <iterator>
 
@@ -18,6 +17,10 @@ struct Array : objc::Kind<Array, "NSArray"> {
     [[nodiscard]] objc::Object first() const { return count() == 0 ? nullptr : at(0); }
     [[nodiscard]] bool contains(objc::Object element) const {
         return send<"containsObject:", bool>(element);
+    }
+    /// The descriptions of the elements with the separator between them.
+    [[nodiscard]] String joined(String separator) const {
+        return send<"componentsJoinedByString:", String>(separator);
     }
     /// A fresh array with the same elements, safe to walk while the original changes.
     [[nodiscard]] Array copied() const { return sendClass<"arrayWithArray:", Array>(*this); }
@@ -44,6 +47,9 @@ struct MutableArray : objc::Kind<MutableArray, "NSMutableArray", Array> {
         send<"insertObject:atIndex:">(element, index);
     }
     void remove(objc::Object element) const { send<"removeObjectIdenticalTo:">(element); }
+    /// Every element that is equal to this one.
+    void removeEqual(objc::Object element) const { send<"removeObject:">(element); }
+    void removeAll() const { send<"removeAllObjects">(); }
 };
 
 } // namespace ns

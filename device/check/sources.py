@@ -71,7 +71,7 @@ class Reader:
         return self.found
 
     def read_types(self, text):
-        for kind, cls in re.findall(r'struct (\w+) : objc::Kind<\s*\w+,\s*"([^"]+)"', text):
+        for kind, cls in re.findall(r'struct (\w+)\s+: objc::Kind<\s*\w+,\s*"([^"]+)"', text):
             self.kinds[kind] = cls
             self.encodings[kind] = "@"
         for name, code in re.findall(r'WENTRA_ENCODES\(([^,]+), "([^"]+)"\)', text):
@@ -118,7 +118,7 @@ class Reader:
 
     def read_kinds(self, text):
         """The bodies of the handle types: begin, end, class."""
-        for match in re.finditer(r'struct (\w+) : objc::Kind<([^{]*)> {', text):
+        for match in re.finditer(r'struct (\w+)\s+: objc::Kind<([^{]*)> {', text):
             parts = split(match[2])
             superkind = parts[2].split("::")[-1] if len(parts) > 2 else None
             cls = parts[1].strip('"')

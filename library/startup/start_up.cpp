@@ -12,6 +12,7 @@
 #include "library/labels/rule_editor_hooks.hpp"
 #include "library/labels/yy_label.hpp"
 #include "library/scratchpad/scratch_pad_hook.hpp"
+#include "library/toolbox/floating_view_controller.hpp"
 #include "library/toolbox/view_model.hpp"
 
 #include <array>
@@ -32,6 +33,7 @@ void install() {
 /// the methods that our categories add to the platform's.
 void declareClasses() {
     labels::registerYYLabel();
+    toolbox::registerFloatingViewController();
     toolbox::registerViewModel();
     install<&labels::colourCategory>();
     install<&labels::ruleEditorCategory>();
