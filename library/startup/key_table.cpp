@@ -1,8 +1,8 @@
 // Makes the perfect hash tables of the known preference keys, one for each encoding of names.
 #include "library/startup/key_table.hpp"
 
-#include "library/startup/property_list/byte_word.hpp"
-#include "library/startup/property_list/utf8_character.hpp"
+#include "library/common/byte_word.hpp"
+#include "library/common/utf8_character.hpp"
 
 #include <algorithm>
 #include <array>

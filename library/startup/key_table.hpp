@@ -1,8 +1,8 @@
 // Finds the place of a known preference key through a hash table made at compile time.
 #pragma once
 
+#include "library/common/text_encoding.hpp"
 #include "library/startup/preference_keys.hpp"
-#include "library/startup/property_list/text_encoding.hpp"
 
 #include <cstddef>
 #include <string_view>

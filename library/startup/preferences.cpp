@@ -1,10 +1,10 @@
 // Reads the preference file and finds values in it.
 #include "library/startup/preferences.hpp"
 
+#include "library/common/text_encoding.hpp"
 #include "library/startup/property_list/file_reading.hpp"
 #include "library/startup/property_list/property_list_binary.hpp"
 #include "library/startup/property_list/property_list_xml.hpp"
-#include "library/startup/property_list/text_encoding.hpp"
 #include "library/startup/root_path.hpp"
 
 #include <utility>

@@ -1,6 +1,6 @@
 // Fuzzes the preference reader: any bytes are survived, and UTF-16 says what its UTF-8 form says.
+#include "library/common/text_encoding.hpp"
 #include "library/startup/preferences.hpp"
-#include "library/startup/property_list/text_encoding.hpp"
 
 #include <cmath>
 #include <cstddef>

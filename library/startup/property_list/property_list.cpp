@@ -1,8 +1,8 @@
 // Turns the values of a property list into switches, numbers and texts.
 #include "library/startup/property_list/property_list.hpp"
 
+#include "library/common/text_encoding.hpp"
 #include "library/startup/property_list/decimal_number.hpp"
-#include "library/startup/property_list/text_encoding.hpp"
 #include "library/startup/property_list/xml_text.hpp"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // A property list seen as the entries of its top dictionary, handed over one after the other.
 #pragma once
 
-#include "library/startup/property_list/text_encoding.hpp"
+#include "library/common/text_encoding.hpp"
 
 #include <cstdint>
 #include <string>

@@ -1,8 +1,8 @@
 // Checks the objects of a binary property list and walks its top dictionary.
 #include "library/startup/property_list/property_list_binary.hpp"
 
-#include "library/startup/property_list/byte_word.hpp"
-#include "library/startup/property_list/text_encoding.hpp"
+#include "library/common/byte_word.hpp"
+#include "library/common/text_encoding.hpp"
 
 #include <array>
 #include <bit>

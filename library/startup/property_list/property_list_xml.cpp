@@ -1,9 +1,9 @@
 // A single pass over an XML property list, checking all of it and keeping only the top entries.
 #include "library/startup/property_list/property_list_xml.hpp"
 
-#include "library/startup/property_list/byte_word.hpp"
+#include "library/common/byte_word.hpp"
+#include "library/common/text_encoding.hpp"
 #include "library/startup/property_list/decimal_number.hpp"
-#include "library/startup/property_list/text_encoding.hpp"
 #include "library/startup/property_list/xml_text.hpp"
 
 #include <array>

@@ -1,7 +1,7 @@
 // Resolves the references and CDATA sections of XML's character data.
 #include "library/startup/property_list/xml_text.hpp"
 
-#include "library/startup/property_list/text_encoding.hpp"
+#include "library/common/text_encoding.hpp"
 
 #include <charconv>
 #include <cstdint>

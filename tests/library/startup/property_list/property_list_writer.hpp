@@ -1,7 +1,7 @@
 // Writes property lists of both forms for tests and measurements.
 #pragma once
 
-#include "library/startup/property_list/text_encoding.hpp"
+#include "library/common/text_encoding.hpp"
 
 #include <bit>
 #include <charconv>

@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <utility>
 
-namespace wentra::startup {
+namespace wentra {
 
 /// The bytes at `bytes`, as many as the word has, as a number, least significant byte first.
 template <typename Word>
@@ -31,4 +31,4 @@ constexpr std::uint64_t bigEndian(const char* bytes, std::size_t size) {
     return word >> (64 - 8 * size);
 }
 
-} // namespace wentra::startup
+} // namespace wentra

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string_view>
 
-namespace wentra::startup {
+namespace wentra {
 
 constexpr bool isSurrogate(char32_t unit) { return unit >= 0xD800 && unit <= 0xDFFF; }
 
@@ -46,4 +46,4 @@ constexpr Utf8Character decodeUtf8(std::string_view bytes) {
     return sound ? Utf8Character{character, 4} : Utf8Character{};
 }
 
-} // namespace wentra::startup
+} // namespace wentra

@@ -1,10 +1,10 @@
-// Converts between the Unicode encodings that property lists are written in.
+// Converts between the Unicode encodings.
 #pragma once
 
 #include <string>
 #include <string_view>
 
-namespace wentra::startup {
+namespace wentra {
 
 enum class Encoding { utf8, utf16BigEndian, utf16LittleEndian };
 
@@ -29,4 +29,4 @@ std::string utf8FromUtf16(std::u16string_view text);
 /// Appends a character (at most U+10FFFF) as UTF-8.
 void appendUtf8(char32_t character, std::string& utf8);
 
-} // namespace wentra::startup
+} // namespace wentra

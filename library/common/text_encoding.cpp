@@ -1,12 +1,12 @@
 // Decodes and encodes UTF-8 and UTF-16, one character at a time.
-#include "library/startup/property_list/text_encoding.hpp"
+#include "library/common/text_encoding.hpp"
 
-#include "library/startup/property_list/byte_word.hpp"
-#include "library/startup/property_list/utf8_character.hpp"
+#include "library/common/byte_word.hpp"
+#include "library/common/utf8_character.hpp"
 
 #include <cstddef>
 
-namespace wentra::startup {
+namespace wentra {
 namespace {
 
 constexpr std::uint64_t highBits = 0x8080808080808080U;
@@ -112,4 +112,4 @@ void appendUtf8(char32_t character, std::string& utf8) {
     }
 }
 
-} // namespace wentra::startup
+} // namespace wentra
