@@ -12,7 +12,7 @@ public:
     static auto methods() {
         return std::array{
             objc::method<"initWithImage:", &ImageView::initWithImage>(),
-            objc::property<"image", &ImageView::image_>(),
+            objc::property<"image", &ImageView::image_, &ImageView::redraw>(),
             objc::method<"drawRect:", &ImageView::drawRect>(),
             objc::method<"sizeThatFits:", &ImageView::sizeThatFits>(),
             objc::method<"intrinsicContentSize", &ImageView::intrinsicContentSize>(),
@@ -21,6 +21,7 @@ public:
 
 private:
     ui::ImageView initWithImage(ui::Image image);
+    void redraw() { self().setNeedsDisplay(); }
     void drawRect(CGRect dirty);
     [[nodiscard]] CGSize sizeThatFits(CGSize) const { return image_.size(); }
     [[nodiscard]] CGSize intrinsicContentSize() const;

@@ -50,9 +50,13 @@ void Label::setFont(ui::Font font) {
     changed();
 }
 
-void Label::setTextColor(ui::Color color) { textColor_ = color ? color : ui::Color::label(); }
+void Label::setTextColor(ui::Color color) {
+    textColor_ = color ? color : ui::Color::label();
+    self().setNeedsDisplay();
+}
 
 void Label::changed() {
+    self().setNeedsDisplay();
     // Whoever arranges this label has to look at it again.
     if (const ui::View superview = self().superview(); superview) {
         superview.setNeedsLayout();

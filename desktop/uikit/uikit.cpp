@@ -1,12 +1,10 @@
 // Setting UIKit up, and drawing the screen.
 #include "desktop/uikit/uikit.hpp"
 
-#include "desktop/drawing/canvas.hpp"
 #include "desktop/quartzcore/layer.hpp"
 #include "desktop/uikit/application.hpp"
 #include "desktop/uikit/button.hpp"
 #include "desktop/uikit/color.hpp"
-#include "desktop/uikit/compositor.hpp"
 #include "desktop/uikit/control.hpp"
 #include "desktop/uikit/event.hpp"
 #include "desktop/uikit/font.hpp"
@@ -23,9 +21,9 @@
 #include "desktop/uikit/pinch_gesture_recognizer.hpp"
 #include "desktop/uikit/responder.hpp"
 #include "desktop/uikit/screen.hpp"
+#include "desktop/uikit/screen_image.hpp"
 #include "desktop/uikit/scroll_view.hpp"
 #include "desktop/uikit/stack_view.hpp"
-#include "desktop/uikit/status_bar.hpp"
 #include "desktop/uikit/swipe_gesture_recognizer.hpp"
 #include "desktop/uikit/tap_gesture_recognizer.hpp"
 #include "desktop/uikit/text_field.hpp"
@@ -83,16 +81,9 @@ void layoutWindows() {
 
 void renderScreen(const std::string& pngFile) {
     const objc::Pool pool;
-    layoutWindows();
-    const ScreenGeometry& geometry = ScreenGeometry::current();
-    const Size size{geometry.size.width, geometry.size.height};
-    Canvas canvas(size, geometry.scale);
-    canvas.fill({0, 0, size.width, size.height}, {0, 0, 0, 1});
-    for (const ui::Window window : Application::shared().visibleWindows()) {
-        composite(window, canvas);
-    }
-    drawSystemOverlays(canvas, size);
-    if (!canvas.snapshot().savePng(pngFile)) {
+    ScreenImage screen(ScreenGeometry::current().scale);
+    screen.refresh();
+    if (!screen.snapshot().savePng(pngFile)) {
         throw std::runtime_error("cannot write " + pngFile);
     }
 }

@@ -3,6 +3,7 @@
 
 #include "bindings/uikit/application.hpp"
 #include "desktop/coregraphics/affine.hpp"
+#include "desktop/quartzcore/screen_changes.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -96,6 +97,8 @@ void View::setBounds(CGRect bounds) {
     layer().setBounds(bounds);
     resizeChildren(former);
 }
+
+void View::setNeedsDisplay() { ScreenChanges::shared().announce(); }
 
 void View::setAlpha(double alpha) {
     layer().opacity_ = static_cast<float>(std::isnan(alpha) ? 0 : std::clamp(alpha, 0.0, 1.0));

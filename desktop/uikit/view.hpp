@@ -79,9 +79,9 @@ private:
     [[nodiscard]] UIEdgeInsets safeAreaInsets() const;
 
     void layoutSubviews() {}
-    void setNeedsLayout() { needsLayout_ = true; }
+    void setNeedsLayout();
     void layoutIfNeeded();
-    void setNeedsDisplay() {}
+    void setNeedsDisplay();
     void drawRect(CGRect) {}
     [[nodiscard]] CGSize sizeThatFits(CGSize) const { return bounds().size; }
     void sizeToFit();

@@ -1,10 +1,16 @@
 // UIView's layout: passes over the tree, sizes to fit, autoresizing, the safe area.
+#include "desktop/quartzcore/screen_changes.hpp"
 #include "desktop/uikit/screen.hpp"
 #include "desktop/uikit/view.hpp"
 
 #include <algorithm>
 
 namespace desktop {
+
+void View::setNeedsLayout() {
+    needsLayout_ = true;
+    ScreenChanges::shared().announce(); // the layout is done before the next drawing
+}
 
 void View::layoutIfNeeded() {
     // A layout may ask for another one; a few rounds settle what can be settled.
@@ -31,7 +37,7 @@ void View::resizeChildren(CGSize former) {
     if (current == former) {
         return;
     }
-    needsLayout_ = true;
+    setNeedsLayout();
     for (const auto& child : subviews_) {
         of(child).autoresize(former, current);
     }

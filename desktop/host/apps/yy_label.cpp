@@ -11,7 +11,7 @@ namespace desktop::host {
 
 void YYLabel::setText(ns::String text) {
     text_ = text;
-    self().setNeedsDisplay();
+    redraw();
 }
 
 TextLayout YYLabel::layout(CGSize room) const {

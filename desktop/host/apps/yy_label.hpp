@@ -24,9 +24,9 @@ public:
     static auto methods() {
         return std::array{
             objc::property<"text", &YYLabel::text, &YYLabel::setText>(),
-            objc::property<"font", &YYLabel::font_>(),
-            objc::property<"textColor", &YYLabel::textColor_>(),
-            objc::property<"numberOfLines", &YYLabel::numberOfLines_>(),
+            objc::property<"font", &YYLabel::font_, &YYLabel::redraw>(),
+            objc::property<"textColor", &YYLabel::textColor_, &YYLabel::redraw>(),
+            objc::property<"numberOfLines", &YYLabel::numberOfLines_, &YYLabel::redraw>(),
             objc::method<"drawRect:", &YYLabel::drawRect>(),
             objc::method<"sizeThatFits:", &YYLabel::sizeThatFits>(),
         };
@@ -35,6 +35,7 @@ public:
 private:
     [[nodiscard]] ns::String text() const { return text_; }
     void setText(ns::String text);
+    void redraw() { self().setNeedsDisplay(); }
     void drawRect(CGRect dirty);
     [[nodiscard]] CGSize sizeThatFits(CGSize room) const;
     [[nodiscard]] TextLayout layout(CGSize room) const;
