@@ -3,6 +3,7 @@
 
 #include "bindings/coregraphics/geometry.hpp"
 #include "bindings/foundation/array.hpp"
+#include "bindings/objc/block.hpp"
 #include "bindings/quartzcore/layer.hpp"
 #include "bindings/uikit/color.hpp"
 #include "bindings/uikit/responder.hpp"
@@ -100,7 +101,36 @@ struct View : objc::Kind<View, "UIView", Responder> {
     void setAutoresizingMask(unsigned long mask) const { send<"setAutoresizingMask:">(mask); }
 
     static View withFrame(CGRect frame) { return make<"initWithFrame:">(frame); }
+
+    using Changes = objc::Block<void()>;
+    using Completion = objc::Block<void(bool finished)>;
+    /// What `changes` changes of views moves there in that many seconds; then `completion`, which
+    /// may be nil.
+    static void animate(double seconds, Changes changes, Completion completion = {}) {
+        sendClass<"animateWithDuration:animations:completion:">(seconds, changes, completion);
+    }
+    /// Options are those of `animation_options`.
+    static void animate(double seconds, double delay, unsigned long options, Changes changes,
+                        Completion completion = {}) {
+        sendClass<"animateWithDuration:delay:options:animations:completion:">(
+            seconds, delay, options, changes, completion);
+    }
+    static void performWithoutAnimation(Changes changes) {
+        sendClass<"performWithoutAnimation:">(changes);
+    }
 };
+
+/// How an animation runs; the platform's bits. The curves share two of them.
+namespace animation_options {
+inline constexpr unsigned long allowUserInteraction = 1U << 1U;
+inline constexpr unsigned long repeat = 1U << 3U;
+inline constexpr unsigned long autoreverse = 1U << 4U;
+inline constexpr unsigned long overrideInheritedDuration = 1U << 5U;
+inline constexpr unsigned long overrideInheritedCurve = 1U << 6U;
+inline constexpr unsigned long curveEaseIn = 1U << 16U;
+inline constexpr unsigned long curveEaseOut = 2U << 16U;
+inline constexpr unsigned long curveLinear = 3U << 16U;
+} // namespace animation_options
 
 /// What a view resizes by itself when its superview's size changes.
 namespace autoresizing {

@@ -1,10 +1,14 @@
-// A layer's geometry.
+// A layer's values, set and shown.
 #include "desktop/quartzcore/layer.hpp"
 
 #include "bindings/foundation/exception.hpp"
 #include "desktop/coregraphics/affine.hpp"
+#include "desktop/runtime/clock.hpp"
+#include "desktop/uikit/color.hpp"
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace desktop {
 namespace {
@@ -15,51 +19,97 @@ using namespace ns::literals;
     ns::Exception::with(u"CALayerInvalidGeometry"_ns, u"CALayer geometry contains NaN"_ns).raise();
 }
 
+ui::Color uiColor(CGColorRef color) { return objc::wrap<ui::Color>(reinterpret_cast<id>(color)); }
+
 } // namespace
 
 void Layer::setBounds(CGRect bounds) {
     if (hasNaN(bounds)) {
         raiseInvalidGeometry();
     }
-    bounds_ = standardised(bounds);
+    change<&LayerValues::bounds>(standardised(bounds));
 }
 
 void Layer::setPosition(CGPoint position) {
     if (std::isnan(position.x) || std::isnan(position.y)) {
         raiseInvalidGeometry();
     }
-    position_ = position;
-}
-
-CGAffineTransform Layer::toSuperlayer() const {
-    const CGPoint middle = centre(bounds_);
-    const CGAffineTransform toMiddle{1, 0, 0, 1, -middle.x, -middle.y};
-    const CGAffineTransform toPosition{1, 0, 0, 1, position_.x, position_.y};
-    return concatenated(concatenated(toMiddle, transform_), toPosition);
-}
-
-CGRect Layer::frame() const {
-    if (transform_ == CGAffineTransform()) {
-        // Without a round trip through the middle, a frame reads back as it was set.
-        return {{position_.x - bounds_.size.width / 2, position_.y - bounds_.size.height / 2},
-                bounds_.size};
-    }
-    return apply(toSuperlayer(), bounds_);
+    change<&LayerValues::position>(position);
 }
 
 void Layer::setFrame(CGRect frame) {
     const CGRect upright = standardised(frame);
     CGSize size = upright.size;
-    if (const auto inverse = inverted(transform_); inverse) {
+    if (const auto inverse = inverted(model_.transform); inverse) {
         size = apply(*inverse, CGRect{{0, 0}, size}).size;
     }
     const CGPoint position = centre(upright);
     setPosition(position);
-    setBounds({bounds_.origin, size});
+    setBounds({bounds().origin, size});
 }
 
-void Layer::setBorderColor(CGColorRef color) {
-    borderColor_ = objc::wrap<ui::Color>(reinterpret_cast<id>(color));
+void Layer::setBackgroundColor(CGColorRef color) {
+    backgroundColor_ = uiColor(color);
+    change<&LayerValues::backgroundColor>(Color::valueOf(backgroundColor_));
+}
+
+void Layer::setBorderColor(CGColorRef color) { borderColor_ = uiColor(color); }
+
+LayerValues Layer::presented() const {
+    LayerValues shown = model_;
+    if (!movements_.empty()) {
+        const double now = Clock::shared().now();
+        for (const Movement& movement : movements_) {
+            movement.blend(shown, movement.from, movement.animation->progress(now));
+        }
+    }
+    return shown;
+}
+
+ca::Layer Layer::presentationLayer() const {
+    const auto shown = ca::Layer::make();
+    Layer& peer = of(shown);
+    peer.model_ = presented();
+    peer.backgroundColor_ = Color::with(peer.model_.backgroundColor);
+    peer.borderColor_ = borderColor_;
+    peer.borderWidth_ = borderWidth_;
+    peer.hidden_ = hidden_;
+    peer.masksToBounds_ = masksToBounds_;
+    peer.contents_ = contents_;
+    return shown;
+}
+
+/// A value that moves already starts anew from where it is shown.
+void Layer::move(Movement::Blend blend, std::shared_ptr<Animation> animation) {
+    const LayerValues from = presented();
+    const auto former = std::ranges::find(movements_, blend, &Movement::blend);
+    if (former != movements_.end()) {
+        const auto replaced = former->animation;
+        movements_.erase(former);
+        if (std::ranges::find(movements_, replaced, &Movement::animation) == movements_.end()) {
+            replaced->handOver(*this);
+        }
+    }
+    animation->join(*this);
+    movements_.push_back({blend, from, std::move(animation)});
+}
+
+bool Layer::refusesTouches() const {
+    return std::ranges::any_of(
+        movements_, [](const Movement& movement) { return !movement.animation->allowsTouches(); });
+}
+
+void Layer::removeAllAnimations() {
+    for (const Movement& movement : std::exchange(movements_, {})) {
+        movement.animation->leave(*this);
+        ScreenChanges::shared().announce();
+    }
+}
+
+void Layer::forget(const Animation& animation) {
+    std::erase_if(movements_,
+                  [&](const Movement& one) { return one.animation.get() == &animation; });
+    ScreenChanges::shared().announce();
 }
 
 } // namespace desktop

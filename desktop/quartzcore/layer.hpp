@@ -5,10 +5,16 @@
 
 #include "bindings/uikit/color.hpp"
 #include "desktop/class.hpp"
+#include "desktop/quartzcore/animation/animation.hpp"
+#include "desktop/quartzcore/layer_values.hpp"
+#include "desktop/quartzcore/screen_changes.hpp"
+
+#include <vector>
 
 namespace desktop {
 
-/// Geometry and box of a view. The anchor point is the middle.
+/// Geometry and box of a view. What is set is so at once; what is shown follows in the time of the
+/// animation in whose block it was set.
 class Layer : public PlatformClass<Layer, ca::Layer> {
 public:
     static auto methods() {
@@ -16,42 +22,88 @@ public:
             objc::property<"bounds", &Layer::bounds, &Layer::setBounds>(),
             objc::property<"position", &Layer::position, &Layer::setPosition>(),
             objc::property<"frame", &Layer::frame, &Layer::setFrame>(),
-            objc::property<"affineTransform", &Layer::transform_>(),
-            objc::property<"opacity", &Layer::opacity_>(),
+            objc::property<"affineTransform", &Layer::transform, &Layer::setTransform>(),
+            objc::property<"opacity", &Layer::opacity, &Layer::setOpacity>(),
             objc::flag<"hidden", &Layer::hidden_>(),
-            objc::property<"cornerRadius", &Layer::cornerRadius_>(),
+            objc::property<"cornerRadius", &Layer::cornerRadius, &Layer::setCornerRadius>(),
+            objc::property<"backgroundColor", &Layer::backgroundColor,
+                           &Layer::setBackgroundColor>(),
             objc::property<"borderWidth", &Layer::borderWidth_>(),
             objc::property<"borderColor", &Layer::borderColor, &Layer::setBorderColor>(),
             objc::property<"masksToBounds", &Layer::masksToBounds_>(),
             objc::property<"contents", &Layer::contents_>(),
+            objc::method<"presentationLayer", &Layer::presentationLayer>(),
+            objc::method<"removeAllAnimations", &Layer::removeAllAnimations>(),
         };
     }
 
-    [[nodiscard]] CGRect bounds() const { return bounds_; }
-    void setBounds(CGRect bounds);
-    [[nodiscard]] CGPoint position() const { return position_; }
-    void setPosition(CGPoint position);
-    /// The smallest upright rectangle around the transformed bounds, in the superlayer.
-    [[nodiscard]] CGRect frame() const;
-    void setFrame(CGRect frame);
-    /// From the layer's own coordinates to its superlayer's.
-    [[nodiscard]] CGAffineTransform toSuperlayer() const;
+    ~Layer() { removeAllAnimations(); }
 
+    [[nodiscard]] CGRect bounds() const { return model_.bounds; }
+    void setBounds(CGRect bounds);
+    [[nodiscard]] CGPoint position() const { return model_.position; }
+    void setPosition(CGPoint position);
+    [[nodiscard]] CGRect frame() const { return model_.frame(); }
+    void setFrame(CGRect frame);
+    [[nodiscard]] CGAffineTransform transform() const { return model_.transform; }
+    void setTransform(CGAffineTransform transform) { change<&LayerValues::transform>(transform); }
+    [[nodiscard]] CGAffineTransform toSuperlayer() const { return model_.toSuperlayer(); }
+
+    [[nodiscard]] float opacity() const { return model_.opacity; }
+    void setOpacity(float opacity) { change<&LayerValues::opacity>(opacity); }
+    [[nodiscard]] double cornerRadius() const { return model_.cornerRadius; }
+    void setCornerRadius(double points) { change<&LayerValues::cornerRadius>(points); }
+    [[nodiscard]] CGColorRef backgroundColor() const { return backgroundColor_.cgColor(); }
+    void setBackgroundColor(CGColorRef color);
+    [[nodiscard]] ui::Color backgroundUIColor() const { return backgroundColor_; }
     [[nodiscard]] CGColorRef borderColor() const { return borderColor_.cgColor(); }
     void setBorderColor(CGColorRef color);
     [[nodiscard]] ui::Color borderUIColor() const { return borderColor_; }
 
-    CGAffineTransform transform_;
-    float opacity_ = 1;
+    /// What is shown now.
+    [[nodiscard]] LayerValues presented() const;
+    /// Whether it moves, in an animation that touches must not disturb.
+    [[nodiscard]] bool refusesTouches() const;
+    /// What moves arrives at once.
+    void removeAllAnimations();
+    /// The animation is over.
+    void forget(const Animation& animation);
+
     bool hidden_ = false;
-    double cornerRadius_ = 0;
     double borderWidth_ = 0;
     bool masksToBounds_ = false;
     objc::Strong<objc::Object> contents_;
 
 private:
-    CGRect bounds_;
-    CGPoint position_;
+    /// One value on its way: where it started, and how to tell where it is.
+    struct Movement {
+        using Blend = void (*)(LayerValues& shown, const LayerValues& from, double progress);
+        Blend blend;
+        LayerValues from;
+        std::shared_ptr<Animation> animation;
+    };
+
+    template <auto Member, class Value>
+    void change(const Value& value) {
+        if (model_.*Member == value) {
+            return;
+        }
+        if (auto animation = Animation::current(); animation) {
+            move(
+                [](LayerValues& shown, const LayerValues& from, double progress) {
+                    shown.*Member = blended(from.*Member, shown.*Member, progress);
+                },
+                std::move(animation));
+        }
+        model_.*Member = value;
+        ScreenChanges::shared().announce();
+    }
+    void move(Movement::Blend blend, std::shared_ptr<Animation> animation);
+    [[nodiscard]] ca::Layer presentationLayer() const;
+
+    LayerValues model_;
+    std::vector<Movement> movements_;
+    objc::Strong<ui::Color> backgroundColor_;
     objc::Strong<ui::Color> borderColor_;
 };
 

@@ -9,13 +9,13 @@
 namespace desktop {
 namespace {
 
-void drawContent(ui::View view, Canvas& canvas) {
+void drawContent(ui::View view, const LayerValues& shown, Canvas& canvas) {
     const View& peer = View::of(view);
     const Layer& layer = peer.layer();
-    const Rectangle box = rectangle(layer.bounds());
+    const Rectangle box = rectangle(shown.bounds);
     canvas.save();
     if (layer.masksToBounds_) {
-        canvas.clip(box, layer.cornerRadius_);
+        canvas.clip(box, shown.cornerRadius);
     }
     if (const Image* contents = UIImage::valueOf(layer.contents_.as<ui::Image>());
         contents != nullptr) {
@@ -36,26 +36,27 @@ void drawContent(ui::View view, Canvas& canvas) {
 
 void composite(ui::View view, Canvas& canvas) {
     const Layer& layer = View::of(view).layer();
-    if (layer.hidden_ || layer.opacity_ <= 0) {
+    const LayerValues shown = layer.presented();
+    if (layer.hidden_ || shown.opacity <= 0) {
         return;
     }
-    const CGAffineTransform t = layer.toSuperlayer();
+    const CGAffineTransform t = shown.toSuperlayer();
     canvas.save();
     if (canvas.concatenate({t.a, t.b, t.c, t.d, t.tx, t.ty})) {
-        const bool translucent = layer.opacity_ < 1;
+        const bool translucent = shown.opacity < 1;
         if (translucent) {
             canvas.beginGroup();
         }
-        const Rectangle box = rectangle(layer.bounds());
-        canvas.fill(box, Color::valueOf(View::of(view).backgroundColor()), layer.cornerRadius_);
-        drawContent(view, canvas);
+        const Rectangle box = rectangle(shown.bounds);
+        canvas.fill(box, shown.backgroundColor, shown.cornerRadius);
+        drawContent(view, shown, canvas);
         if (layer.borderWidth_ > 0) {
             const ui::Color border = layer.borderUIColor();
             canvas.stroke(box, Color::valueOf(border ? border : ui::Color::black()),
-                          layer.borderWidth_, layer.cornerRadius_);
+                          layer.borderWidth_, shown.cornerRadius);
         }
         if (translucent) {
-            canvas.endGroup(static_cast<double>(layer.opacity_));
+            canvas.endGroup(static_cast<double>(shown.opacity));
         }
     }
     canvas.restore();

@@ -4,6 +4,7 @@
 #include "bindings/uikit/application.hpp"
 #include "desktop/coregraphics/affine.hpp"
 #include "desktop/quartzcore/screen_changes.hpp"
+#include "desktop/uikit/view_animation.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -11,7 +12,7 @@
 namespace desktop {
 
 std::vector<objc::MethodRow> View::methods() {
-    return {
+    std::vector<objc::MethodRow> rows{
         objc::method<"init", &View::init>(),
         objc::method<"initWithFrame:", &View::initWithFrame>(),
         objc::method<"layer", &View::layerObject>(),
@@ -23,7 +24,7 @@ std::vector<objc::MethodRow> View::methods() {
         objc::method<"isHidden", &View::isHidden>(),
         objc::method<"setHidden:", &View::setHidden>(),
         objc::method<"isOpaque", &View::isOpaque>(),
-        objc::property<"backgroundColor", &View::backgroundColor_>(),
+        objc::property<"backgroundColor", &View::backgroundColor, &View::setBackgroundColor>(),
         objc::property<"clipsToBounds", &View::clipsToBounds, &View::setClipsToBounds>(),
         objc::property<"tintColor", &View::tintColor, &View::setTintColor>(),
         objc::property<"tag", &View::tag_>(),
@@ -72,6 +73,8 @@ std::vector<objc::MethodRow> View::methods() {
         objc::method<"hitTest:withEvent:", &View::hitTest>(),
         objc::method<"pointInside:withEvent:", &View::pointInside>(),
     };
+    std::ranges::copy(viewAnimationMethods(), std::back_inserter(rows));
+    return rows;
 }
 
 View::~View() {
@@ -101,7 +104,7 @@ void View::setBounds(CGRect bounds) {
 void View::setNeedsDisplay() { ScreenChanges::shared().announce(); }
 
 void View::setAlpha(double alpha) {
-    layer().opacity_ = static_cast<float>(std::isnan(alpha) ? 0 : std::clamp(alpha, 0.0, 1.0));
+    layer().setOpacity(static_cast<float>(std::isnan(alpha) ? 0 : std::clamp(alpha, 0.0, 1.0)));
 }
 
 ui::Color View::tintColor() const {

@@ -25,7 +25,7 @@ public:
     /// Back to front.
     [[nodiscard]] const std::vector<objc::Strong<ui::View>>& children() const { return subviews_; }
     [[nodiscard]] ui::View superview() const { return superview_; }
-    [[nodiscard]] ui::Color backgroundColor() const { return backgroundColor_; }
+    [[nodiscard]] ui::Color backgroundColor() const { return layer().backgroundUIColor(); }
 
     /// The controller whose view this is; it outlives that role, or takes it back.
     void setController(ui::Responder controller) { controller_ = controller; }
@@ -41,10 +41,11 @@ private:
     void setBounds(CGRect bounds);
     [[nodiscard]] CGPoint center() const { return layer().position(); }
     void setCenter(CGPoint center) { layer().setPosition(center); }
-    [[nodiscard]] CGAffineTransform transform() const { return layer().transform_; }
-    void setTransform(CGAffineTransform transform) { layer().transform_ = transform; }
-    [[nodiscard]] double alpha() const { return static_cast<double>(layer().opacity_); }
+    [[nodiscard]] CGAffineTransform transform() const { return layer().transform(); }
+    void setTransform(CGAffineTransform transform) { layer().setTransform(transform); }
+    [[nodiscard]] double alpha() const { return static_cast<double>(layer().opacity()); }
     void setAlpha(double alpha);
+    void setBackgroundColor(ui::Color color) { layer().setBackgroundColor(color.cgColor()); }
     [[nodiscard]] bool isHidden() const { return layer().hidden_; }
     void setHidden(bool hidden) { layer().hidden_ = hidden; }
     [[nodiscard]] bool clipsToBounds() const { return layer().masksToBounds_; }
@@ -101,7 +102,6 @@ private:
     std::vector<objc::Strong<ui::View>> subviews_;
     ui::View superview_;
     ui::Responder controller_;
-    objc::Strong<ui::Color> backgroundColor_;
     objc::Strong<ui::Color> tintColor_;
     objc::Copied<ns::String> accessibilityLabel_;
     objc::Copied<ns::String> accessibilityIdentifier_;

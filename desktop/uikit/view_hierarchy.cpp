@@ -101,6 +101,9 @@ void View::removeFromSuperview() {
 
 /// Tells a view and everything in it that they have come into a window, or (nil) left theirs.
 void View::announceWindow(ui::View view, ui::Window window) {
+    if (!window) {
+        of(view).layer().removeAllAnimations();
+    }
     view.send<"willMoveToWindow:">(window);
     view.send<"didMoveToWindow">();
     const auto children = of(view).subviews_; // a copy: the messages may change the tree

@@ -9,8 +9,8 @@ namespace desktop {
 
 ui::View View::hitTest(CGPoint point, ui::Event event) const {
     constexpr double faintest = 0.01;
-    if (isHidden() || alpha() < faintest || !self().isUserInteractionEnabled() ||
-        !self().pointInside(point, event)) {
+    if (isHidden() || alpha() < faintest || layer().refusesTouches() ||
+        !self().isUserInteractionEnabled() || !self().pointInside(point, event)) {
         return nullptr;
     }
     const auto children = subviews_; // a copy: a test may change the tree
