@@ -12,7 +12,7 @@
 namespace desktop::host {
 namespace {
 
-Json toJson(Values& values, const Event& event) {
+Json toJson(Values& values, const LoggedEvent& event) {
     Json entry = values.toJson(event.fields);
     entry["kind"] = event.kind;
     return entry;
@@ -20,7 +20,7 @@ Json toJson(Values& values, const Event& event) {
 
 Json eventsOfKind(Values& values, const std::string& kind) {
     Json list = Json::array();
-    for (const Event& event : EventLog::shared().events()) {
+    for (const LoggedEvent& event : EventLog::shared().events()) {
         if (event.kind == kind) {
             list.push_back(toJson(values, event));
         }
@@ -72,7 +72,7 @@ Json events(Session& session, const Json& request) {
     EventLog& log = EventLog::shared();
     const bool keep = flagArgument(request, "keep");
     Json list = Json::array();
-    for (const Event& event : keep ? log.events() : log.take()) {
+    for (const LoggedEvent& event : keep ? log.events() : log.take()) {
         list.push_back(toJson(session.values, event));
     }
     return list;

@@ -11,7 +11,7 @@ EventLog& EventLog::shared() {
 }
 
 void EventLog::record(std::string kind, ns::Dictionary fields) {
-    Event event{std::move(kind), objc::Copied<ns::Dictionary>(fields)};
+    LoggedEvent event{std::move(kind), objc::Copied<ns::Dictionary>(fields)};
     const std::scoped_lock lock(mutex_);
     events_.push_back(std::move(event));
     if (events_.size() > mostEvents) {
@@ -19,12 +19,12 @@ void EventLog::record(std::string kind, ns::Dictionary fields) {
     }
 }
 
-std::deque<Event> EventLog::events() const {
+std::deque<LoggedEvent> EventLog::events() const {
     const std::scoped_lock lock(mutex_);
     return events_;
 }
 
-std::deque<Event> EventLog::take() {
+std::deque<LoggedEvent> EventLog::take() {
     const std::scoped_lock lock(mutex_);
     return std::exchange(events_, {});
 }

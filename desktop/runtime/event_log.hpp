@@ -10,7 +10,7 @@
 namespace desktop {
 
 /// One happening: what kind of thing ("openURL"), and what is known of it under string keys.
-struct Event {
+struct LoggedEvent {
     std::string kind;
     objc::Strong<ns::Dictionary> fields;
 };
@@ -24,15 +24,15 @@ public:
     /// oldest are forgotten: perhaps nobody is watching.
     void record(std::string kind, ns::Dictionary fields);
     /// In order.
-    [[nodiscard]] std::deque<Event> events() const;
+    [[nodiscard]] std::deque<LoggedEvent> events() const;
     /// The events, in order; the log is empty then.
-    std::deque<Event> take();
+    std::deque<LoggedEvent> take();
 
     static constexpr std::size_t mostEvents = 10'000;
 
 private:
     mutable std::mutex mutex_;
-    std::deque<Event> events_;
+    std::deque<LoggedEvent> events_;
 };
 
 } // namespace desktop
