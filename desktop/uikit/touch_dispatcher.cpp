@@ -136,6 +136,8 @@ TouchDispatcher& TouchDispatcher::shared() {
     return *dispatcher;
 }
 
+ui::View TouchDispatcher::viewAt(CGPoint screenPoint) { return hitAt(screenPoint).view; }
+
 void TouchDispatcher::begin(std::span<const TouchPoint> points) {
     const objc::Pool pool;
     Touches fresh;

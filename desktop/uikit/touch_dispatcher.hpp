@@ -24,6 +24,8 @@ public:
     using Touches = std::vector<objc::Strong<ui::Touch>>;
 
     static TouchDispatcher& shared();
+    /// The view that a finger on that point of the screen would touch; nil for none.
+    [[nodiscard]] static ui::View viewAt(CGPoint screenPoint);
 
     [[nodiscard]] bool isDown(std::int64_t id) const { return touches_.contains(id); }
 

@@ -63,7 +63,7 @@ void registerClasses() {
                 ImageView, ScrollView, StackView, NavigationBar, Control, Button, TextField,
                 TextView, Touch, Event, GestureRecognizer, TapGestureRecognizer,
                 LongPressGestureRecognizer, PanGestureRecognizer, PinchGestureRecognizer,
-                SwipeGestureRecognizer>();
+                SwipeGestureRecognizer, ScrollPan>();
 }
 
 void startApplication(ScreenSize size) {
