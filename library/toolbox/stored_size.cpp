@@ -1,0 +1,14 @@
+// A size or its default.
+#include "library/toolbox/stored_size.hpp"
+
+#include <cmath>
+
+namespace wentra::toolbox {
+
+double storedSize(const startup::Preferences& preferences, const startup::Number& key,
+                  double standard) {
+    const double stored = preferences.number(key);
+    return stored == 0 || !std::isfinite(stored) ? standard : stored;
+}
+
+} // namespace wentra::toolbox
