@@ -13,6 +13,9 @@ struct Dictionary : objc::Kind<Dictionary, "NSDictionary"> {
     static Dictionary withContentsOfFile(String path) {
         return sendClass<"dictionaryWithContentsOfFile:", Dictionary>(path);
     }
+    static Dictionary with(objc::Object value, objc::Object key) {
+        return sendClass<"dictionaryWithObject:forKey:", Dictionary>(value, key);
+    }
     [[nodiscard]] unsigned long count() const { return send<"count", unsigned long>(); }
     /// The value under `key`, or nil.
     [[nodiscard]] objc::Object get(objc::Object key) const {
@@ -24,6 +27,9 @@ struct Dictionary : objc::Kind<Dictionary, "NSDictionary"> {
 struct MutableDictionary : objc::Kind<MutableDictionary, "NSMutableDictionary", Dictionary> {
     using Kind::Kind;
 
+    static MutableDictionary copyOf(Dictionary other) {
+        return sendClass<"dictionaryWithDictionary:", MutableDictionary>(other);
+    }
     void set(objc::Object value, objc::Object key) const { send<"setObject:forKey:">(value, key); }
     void remove(objc::Object key) const { send<"removeObjectForKey:">(key); }
     void addEntries(Dictionary other) const { send<"addEntriesFromDictionary:">(other); }

@@ -19,6 +19,9 @@ enum class LineBreakMode : long {
     truncatingMiddle = 5,
 };
 
+/// Where text stands whose size was adjusted; the platform's numbers.
+enum class BaselineAdjustment : long { alignBaselines = 0, alignCenters = 1, none = 2 };
+
 struct Label : objc::Kind<Label, "UILabel", View> {
     using Kind::Kind;
 
@@ -31,6 +34,9 @@ struct Label : objc::Kind<Label, "UILabel", View> {
     [[nodiscard]] Color textColor() const { return send<"textColor", Color>(); }
     void setTextColor(Color color) const { send<"setTextColor:">(color); }
     void setTextAlignment(TextAlignment alignment) const { send<"setTextAlignment:">(alignment); }
+    void setBaselineAdjustment(BaselineAdjustment adjustment) const {
+        send<"setBaselineAdjustment:">(adjustment);
+    }
     /// 0: as many as it takes.
     void setNumberOfLines(long lines) const { send<"setNumberOfLines:">(lines); }
     void setLineBreakMode(LineBreakMode mode) const { send<"setLineBreakMode:">(mode); }

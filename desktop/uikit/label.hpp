@@ -20,6 +20,7 @@ public:
             objc::property<"textColor", &Label::textColor, &Label::setTextColor>(),
             objc::property<"textAlignment", &Label::alignment_, &Label::changed>(),
             objc::property<"lineBreakMode", &Label::lineBreakMode_, &Label::changed>(),
+            objc::property<"baselineAdjustment", &Label::baselineAdjustment_>(),
             objc::property<"numberOfLines", &Label::numberOfLines_, &Label::changed>(),
             objc::property<"preferredMaxLayoutWidth", &Label::preferredWidth_, &Label::changed>(),
             objc::flag<"enabled", &Label::enabled_>(),
@@ -49,6 +50,8 @@ private:
     objc::Strong<ui::Color> textColor_;
     ui::TextAlignment alignment_ = ui::TextAlignment::natural;
     ui::LineBreakMode lineBreakMode_ = ui::LineBreakMode::truncatingTail;
+    // Text whose size was adjusted stands where other text does.
+    ui::BaselineAdjustment baselineAdjustment_ = ui::BaselineAdjustment::alignBaselines;
     long numberOfLines_ = 1;
     double preferredWidth_ = 0;
     bool enabled_ = true;

@@ -24,6 +24,7 @@
 #include "desktop/uikit/screen_image.hpp"
 #include "desktop/uikit/scroll_view.hpp"
 #include "desktop/uikit/stack_view.hpp"
+#include "desktop/uikit/string_drawing.hpp"
 #include "desktop/uikit/swipe_gesture_recognizer.hpp"
 #include "desktop/uikit/tap_gesture_recognizer.hpp"
 #include "desktop/uikit/text_field.hpp"
@@ -64,6 +65,7 @@ void registerClasses() {
                 TextView, Touch, Event, GestureRecognizer, TapGestureRecognizer,
                 LongPressGestureRecognizer, PanGestureRecognizer, PinchGestureRecognizer,
                 SwipeGestureRecognizer, ScrollPan>();
+    installStringDrawing();
 }
 
 void startApplication(ScreenSize size) {

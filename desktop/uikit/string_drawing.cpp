@@ -1,0 +1,39 @@
+// Measuring strings.
+#include "desktop/uikit/string_drawing.hpp"
+
+#include "bindings/objc/hook.hpp"
+#include "bindings/uikit/string_drawing.hpp"
+#include "desktop/drawing/text_layout.hpp"
+#include "desktop/uikit/font.hpp"
+
+namespace desktop {
+namespace {
+
+using namespace ns::literals;
+
+CGRect boundingRect(ns::String text, CGSize room, unsigned long options, ns::Dictionary attributes,
+                    objc::Object) {
+    constexpr double standardSize = 12; // where the attributes name no font
+    const auto font = attributes.get(u"NSFont"_ns).as<ui::Font>();
+    TextRun look;
+    look.font = UIFont::valueOf(font ? font : ui::Font::system(standardSize));
+    TextFrame frame;
+    frame.lineBreakMode = LineBreakMode::wordWrapping;
+    if ((options & ui::string_drawing::usesLineFragmentOrigin) != 0) {
+        frame.width = room.width;
+        frame.height = room.height;
+    } else {
+        frame.maximumLines = 1;
+    }
+    const Size size = TextLayout(text.utf16(), look, frame).size();
+    return {{}, {size.width, size.height}};
+}
+
+} // namespace
+
+void installStringDrawing() {
+    objc::install(objc::addition<"NSString", "boundingRectWithSize:options:attributes:context:",
+                                 &boundingRect>());
+}
+
+} // namespace desktop
