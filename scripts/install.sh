@@ -17,6 +17,9 @@ build  libharfbuzz-dev          measures fonts
 build  libfontconfig-dev        finds fonts
 build  libgdk-pixbuf-2.0-dev    reads JPEG pictures
 build  nlohmann-json3-dev       the JSON of the automation protocol
+build  libcurl4-openssl-dev     loads over HTTP and HTTPS
+build  libssl-dev               certificates and digests of the local services
+build  libboost1.81-dev         the web servers of the desktop
 build  libgtest-dev             unit tests
 build  libbenchmark-dev         benchmarks
 build  fonts-inter              Latin text

@@ -3,6 +3,7 @@
 
 #include "bindings/foundation/dictionary.hpp"
 #include "bindings/foundation/exception.hpp"
+#include "bindings/foundation/operation_queue.hpp"
 #include "bindings/objc/block.hpp"
 
 namespace ns {
@@ -13,12 +14,6 @@ struct Notification : objc::Kind<Notification, "NSNotification"> {
     [[nodiscard]] String name() const { return send<"name", String>(); }
     [[nodiscard]] objc::Object object() const { return send<"object", objc::Object>(); }
     [[nodiscard]] Dictionary userInfo() const { return send<"userInfo", Dictionary>(); }
-};
-
-struct OperationQueue : objc::Kind<OperationQueue, "NSOperationQueue"> {
-    using Kind::Kind;
-
-    static OperationQueue mainQueue() { return sendClass<"mainQueue", OperationQueue>(); }
 };
 
 struct NotificationCenter : objc::Kind<NotificationCenter, "NSNotificationCenter"> {

@@ -6,6 +6,7 @@
 #include "desktop/foundation/dictionary_files.hpp"
 #include "desktop/foundation/main_operation_queue.hpp"
 #include "desktop/foundation/timer.hpp"
+#include "desktop/foundation/url_session.hpp"
 #include "desktop/foundation/user_defaults.hpp"
 
 #include "bindings/objc/pool.hpp"
@@ -21,6 +22,7 @@ void install(const std::string& bundleIdentifier) {
     installDelayedPerform();
     installTimers();
     installMainOperationQueue();
+    installUrlSessions();
 }
 
 } // namespace desktop::foundation

@@ -1,0 +1,17 @@
+// The query of a request's target.
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace desktop::services::translation {
+
+/// The names and values after the "?" of a target such as "/path?q=a%20b&to=zh", decoded: "%XX" is
+/// a byte, "+" a space, a malformed escape stays as it is. Of equal names, the last one counts.
+std::map<std::string, std::string> queryOf(std::string_view target);
+
+/// The target without its query.
+std::string_view pathOf(std::string_view target);
+
+} // namespace desktop::services::translation

@@ -1,0 +1,47 @@
+// What Foundation makes of JSON.
+#include "bindings/foundation/dictionary.hpp"
+#include "bindings/foundation/json.hpp"
+#include "bindings/foundation/number.hpp"
+#include "bindings/objc/pool.hpp"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace ns::literals;
+
+objc::Object parsed(std::string_view text) {
+    return ns::JsonSerialization::object(ns::Data::from(text));
+}
+
+/// The value under "v" of `{"v":…}`.
+objc::Object value(const std::string& text) {
+    return parsed("{\"v\":" + text + "}").as<ns::Dictionary>().get(u"v"_ns);
+}
+
+TEST(Json, TextKeepsEveryCharacter) {
+    const objc::Pool pool;
+    EXPECT_EQ(value(R"("\u4f60\u597d")").assume<ns::String>().utf16(), u"你好");
+    EXPECT_EQ(value(R"("\ud83d\ude00 😀")").assume<ns::String>().utf16(), u"😀 😀");
+    EXPECT_EQ(value(R"("a\n\t\"\\\/b")").assume<ns::String>().utf16(), u"a\n\t\"\\/b");
+    EXPECT_EQ(value("\"\"").assume<ns::String>().utf16(), u"");
+}
+
+TEST(Json, NumbersKeepTheirValues) {
+    const objc::Pool pool;
+    EXPECT_EQ(value("-9007199254740991").assume<ns::Number>().integerValue(), -9007199254740991);
+    EXPECT_EQ(value("-0.25e2").assume<ns::Number>().doubleValue(), -25);
+    EXPECT_TRUE(value("true").assume<ns::Number>().boolValue());
+    EXPECT_TRUE(value("null").isKindOfClass(objc_lookUpClass("NSNull")));
+}
+
+TEST(Json, BrokenTextIsNil) {
+    const objc::Pool pool;
+    for (const char* text : {"", "{", "{\"a\":", "{\"a\":\"b", "[1", "<html>", "nul", "\xff\xfe{",
+                             "{\"a\":1", "[\"\\u12\"]"}) {
+        EXPECT_EQ(parsed(text), nullptr) << text;
+    }
+    EXPECT_EQ(ns::JsonSerialization::object(nullptr), nullptr);
+}
+
+} // namespace
