@@ -4,6 +4,10 @@
 #include "desktop/quartzcore/layer.hpp"
 #include "desktop/uikit/application.hpp"
 #include "desktop/uikit/button.hpp"
+#include "desktop/uikit/collection_view.hpp"
+#include "desktop/uikit/collection_view_cell.hpp"
+#include "desktop/uikit/collection_view_layout.hpp"
+#include "desktop/uikit/collections/index_path.hpp"
 #include "desktop/uikit/color.hpp"
 #include "desktop/uikit/control.hpp"
 #include "desktop/uikit/event.hpp"
@@ -59,12 +63,15 @@ UIEdgeInsets safeAreaOf(CGSize size) {
 
 void registerClasses() {
     const objc::Pool pool;
+    installIndexPaths();
     registerAll<Color, UIFont, UIImage, Layer, Screen, WindowScene, Pasteboard, NavigationItem,
                 MenuController, Responder, Application, ViewController, View, Window, Label,
                 ImageView, ScrollView, StackView, NavigationBar, Control, Button, TextField,
                 TextView, Touch, Event, GestureRecognizer, TapGestureRecognizer,
                 LongPressGestureRecognizer, PanGestureRecognizer, PinchGestureRecognizer,
-                SwipeGestureRecognizer, ScrollPan>();
+                SwipeGestureRecognizer, ScrollPan, CollectionViewLayoutAttributes,
+                CollectionViewLayout, CollectionViewFlowLayout, CollectionReusableView,
+                CollectionViewCell, CollectionView>();
     installStringDrawing();
 }
 

@@ -49,6 +49,7 @@ protected:
         window_.addSubview(scroll_);
         window_.layoutIfNeeded();
     }
+    ~ScrollViewTest() override { scroll_.send<"setDelegate:">(objc::Object()); }
     static void advance(double seconds) { desktop::run_loop::advance(seconds); }
     [[nodiscard]] double top() const { return scroll_.contentOffset().y; }
     [[nodiscard]] std::string heard() const {

@@ -1,0 +1,127 @@
+// UICollectionView: items of a data source as cells, of which only the visible ones exist.
+#pragma once
+
+#include "bindings/uikit/collection_view.hpp"
+#include "bindings/uikit/event.hpp"
+#include "bindings/uikit/touch.hpp"
+
+#include "desktop/class.hpp"
+#include "desktop/uikit/collection_view_layout.hpp"
+#include "desktop/uikit/collections/item_index.hpp"
+
+#include "bindings/objc/block.hpp"
+
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace desktop {
+
+class CollectionView : public PlatformClass<CollectionView, ui::CollectionView> {
+public:
+    static std::vector<objc::MethodRow> methods();
+
+    ~CollectionView();
+
+private:
+    using Cell = objc::Strong<ui::CollectionViewCell>;
+    using Updates = objc::Block<void()>;
+    using Completion = objc::Block<void(bool finished)>;
+
+    ui::CollectionView initWithLayout(CGRect frame, ui::CollectionViewLayout layout);
+    ui::CollectionView initWithFrame(CGRect frame);
+    void setDataSource(objc::Object source);
+    [[nodiscard]] objc::Object dataSource() const { return dataSource_; }
+    [[nodiscard]] objc::Object delegate() const { return self().send<"delegate", objc::Object>(); }
+    void setLayout(ui::CollectionViewLayout layout);
+    void setLayoutAnimated(ui::CollectionViewLayout layout, bool) { setLayout(layout); }
+    [[nodiscard]] ui::CollectionViewLayout layout() const { return layout_; }
+    void setBackgroundView(ui::View view);
+    [[nodiscard]] ui::View backgroundView() const { return backgroundView_; }
+
+    // Data.
+    [[nodiscard]] const std::vector<long>& counts();
+    [[nodiscard]] long numberOfSections() { return static_cast<long>(counts().size()); }
+    [[nodiscard]] long numberOfItems(long section);
+    [[nodiscard]] bool exists(ItemIndex index);
+    void reloadData();
+    void reloadItems(ns::Array paths);
+    void insertItems(ns::Array paths);
+    void deleteItems(ns::Array paths);
+    void reloadSections(objc::Object) { dataChanged(); }
+    void performBatchUpdates(Updates updates, Completion completion);
+    void dataChanged();
+
+    // Cells.
+    void registerCellClass(Class cls, ns::String identifier);
+    [[nodiscard]] ui::CollectionViewCell dequeue(ns::String identifier, ns::IndexPath path);
+    void layoutIsInvalid();
+    void layoutSubviews();
+    void showVisibleCells();
+    [[nodiscard]] Cell cellFromSource(ItemIndex index);
+    void putAway(ItemIndex index, const Cell& cell);
+    void putAllAway();
+    [[nodiscard]] ui::CollectionViewCell cellAt(ns::IndexPath path) const;
+    [[nodiscard]] ns::IndexPath pathForCell(ui::CollectionViewCell cell) const;
+    [[nodiscard]] ns::IndexPath pathAt(CGPoint point);
+    [[nodiscard]] ns::Array visibleCells() const;
+    [[nodiscard]] ns::Array visiblePaths() const;
+    [[nodiscard]] LayoutAttributes attributesAt(ns::IndexPath path);
+    void scrollTo(ns::IndexPath path, unsigned long position, bool animated);
+    void prepare();
+
+    // Selection and touches, in collection_view_selection.cpp.
+    [[nodiscard]] ns::Array selectedPaths() const;
+    void selectItem(ns::IndexPath path, bool animated, unsigned long position);
+    void deselectItem(ns::IndexPath path, bool animated);
+    void select(ItemIndex index);
+    void deselect(ItemIndex index);
+    void clearSelection();
+    void selectionAllowedChanged();
+    void touchesBegan(ns::Set touches, ui::Event event);
+    void touchesEnded(ns::Set touches, ui::Event event);
+    void touchesCancelled(ns::Set touches, ui::Event event);
+    void release();
+    void selectByTouch(ItemIndex index);
+    [[nodiscard]] std::optional<ItemIndex> itemUnder(ui::View view) const;
+    /// Asks the delegate about an item; yes when it has no opinion.
+    template <objc::Literal Name>
+    bool may(ItemIndex index) const;
+    template <objc::Literal Name, class... Arguments>
+    void tell(Arguments... arguments) const;
+
+    objc::Object dataSource_; // not retained, as on the phone
+    objc::Strong<ui::CollectionViewLayout> layout_;
+    objc::Strong<ui::View> backgroundView_;
+    std::optional<std::vector<long>> counts_; // of the sections' items, until the next reload
+    bool layoutIsCurrent_ = false;
+    CGSize latestSize_; // that the layout was made for
+    std::map<std::u16string, Class> cellClasses_;
+    std::map<std::u16string, std::vector<Cell>> unused_;
+    std::map<ItemIndex, Cell> visible_;
+    std::set<ItemIndex> selected_;
+    std::optional<ItemIndex> pressed_;
+    bool allowsSelection_ = true;
+    bool allowsMultipleSelection_ = false;
+};
+
+template <objc::Literal Name>
+bool CollectionView::may(ItemIndex index) const {
+    const objc::Object asked = delegate();
+    const SEL name = objc::selector<Name>();
+    return !asked || !asked.respondsToSelector(name) ||
+           objc::sendTo<bool>(asked.raw(), name, self(), index.path());
+}
+
+template <objc::Literal Name, class... Arguments>
+void CollectionView::tell(Arguments... arguments) const {
+    const objc::Object told = delegate();
+    const SEL name = objc::selector<Name>();
+    if (told && told.respondsToSelector(name)) {
+        objc::sendTo(told.raw(), name, self(), arguments...);
+    }
+}
+
+} // namespace desktop

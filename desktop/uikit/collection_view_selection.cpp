@@ -1,0 +1,183 @@
+// Collection views: what is selected, by the application and by touch, and scrolling to it.
+#include "desktop/uikit/collection_view.hpp"
+#include "desktop/uikit/scrolling/scroll_rules.hpp"
+
+#include <algorithm>
+#include <utility>
+
+namespace desktop {
+namespace {
+
+/// Where an item is to lie after scrolling; the platform's bits.
+namespace scroll_position {
+constexpr unsigned long top = 1U << 0U;
+constexpr unsigned long centeredVertically = 1U << 1U;
+constexpr unsigned long bottom = 1U << 2U;
+constexpr unsigned long left = 1U << 3U;
+constexpr unsigned long centeredHorizontally = 1U << 4U;
+constexpr unsigned long right = 1U << 5U;
+} // namespace scroll_position
+
+} // namespace
+
+void CollectionView::scrollTo(ns::IndexPath path, unsigned long position, bool animated) {
+    const auto attributes = attributesAt(path);
+    if (!attributes || position == 0) {
+        return;
+    }
+    const auto has = [position](unsigned long bit) { return (position & bit) != 0; };
+    const CGRect item = attributes.frame();
+    const auto& [former, room] = self().bounds();
+    const auto inset = self().send<"adjustedContentInset", UIEdgeInsets>();
+    const CGSize content = self().contentSize();
+    CGPoint offset = former;
+    if (has(scroll_position::top)) {
+        offset.y = item.origin.y - inset.top;
+    } else if (has(scroll_position::centeredVertically)) {
+        offset.y = item.origin.y + (item.size.height - room.height) / 2;
+    } else if (has(scroll_position::bottom)) {
+        offset.y = item.origin.y + item.size.height - room.height + inset.bottom;
+    }
+    if (has(scroll_position::left)) {
+        offset.x = item.origin.x - inset.left;
+    } else if (has(scroll_position::centeredHorizontally)) {
+        offset.x = item.origin.x + (item.size.width - room.width) / 2;
+    } else if (has(scroll_position::right)) {
+        offset.x = item.origin.x + item.size.width - room.width + inset.right;
+    }
+    const auto x = ScrollRange::of(content.width, room.width, inset.left, inset.right);
+    const auto y = ScrollRange::of(content.height, room.height, inset.top, inset.bottom);
+    self().send<"setContentOffset:animated:">(CGPoint{x.nearest(offset.x), y.nearest(offset.y)},
+                                              animated);
+}
+
+ns::Array CollectionView::selectedPaths() const {
+    const auto paths = ns::MutableArray::make();
+    for (const ItemIndex index : selected_) {
+        paths.add(index.path());
+    }
+    return paths;
+}
+
+void CollectionView::select(ItemIndex index) {
+    selected_.insert(index);
+    if (const auto shown = visible_.find(index); shown != visible_.end()) {
+        shown->second.send<"setSelected:">(objc::Boolean(true));
+    }
+}
+
+void CollectionView::deselect(ItemIndex index) {
+    selected_.erase(index);
+    if (const auto shown = visible_.find(index); shown != visible_.end()) {
+        shown->second.send<"setSelected:">(objc::Boolean(false));
+    }
+}
+
+void CollectionView::clearSelection() {
+    for (const ItemIndex index : std::set(selected_)) {
+        deselect(index);
+    }
+}
+
+void CollectionView::selectionAllowedChanged() {
+    if (!allowsSelection_ || (!allowsMultipleSelection_ && selected_.size() > 1)) {
+        clearSelection();
+    }
+}
+
+void CollectionView::selectItem(ns::IndexPath path, bool animated, unsigned long position) {
+    if (!path) {
+        clearSelection();
+        return;
+    }
+    const ItemIndex index = ItemIndex::of(path);
+    if (!allowsSelection_ || !exists(index)) {
+        return;
+    }
+    if (!allowsMultipleSelection_ && !selected_.contains(index)) {
+        clearSelection();
+    }
+    select(index);
+    scrollTo(path, position, animated);
+}
+
+void CollectionView::deselectItem(ns::IndexPath path, bool) {
+    if (path) {
+        deselect(ItemIndex::of(path));
+    }
+}
+
+/// The item whose cell the view is, or is in.
+std::optional<ItemIndex> CollectionView::itemUnder(ui::View view) const {
+    while (view && view.superview() != self()) {
+        view = view.superview();
+    }
+    for (const auto& [index, cell] : visible_) {
+        if (view && cell == view) {
+            return index;
+        }
+    }
+    return std::nullopt;
+}
+
+void CollectionView::touchesBegan(ns::Set touches, ui::Event event) {
+    super<"touchesBegan:withEvent:">(touches, event);
+    const auto touch = touches.allObjects().first().assume<ui::Touch>();
+    const auto index = itemUnder(touch.view());
+    if (pressed_ || !index || !allowsSelection_ ||
+        !may<"collectionView:shouldHighlightItemAtIndexPath:">(*index)) {
+        return;
+    }
+    pressed_ = index;
+    cellAt(index->path()).send<"setHighlighted:">(objc::Boolean(true));
+    tell<"collectionView:didHighlightItemAtIndexPath:">(index->path());
+}
+
+/// Ends the highlight.
+void CollectionView::release() {
+    if (const auto index = std::exchange(pressed_, std::nullopt); index) {
+        cellAt(index->path()).send<"setHighlighted:">(objc::Boolean(false));
+        tell<"collectionView:didUnhighlightItemAtIndexPath:">(index->path());
+    }
+}
+
+void CollectionView::touchesEnded(ns::Set touches, ui::Event event) {
+    super<"touchesEnded:withEvent:">(touches, event);
+    const auto index = pressed_;
+    release();
+    const auto touch = touches.allObjects().first().assume<ui::Touch>();
+    const auto cell = index ? cellAt(index->path()) : ui::CollectionViewCell();
+    if (cell && cell.pointInside(touch.locationIn(cell), event)) {
+        selectByTouch(*index);
+    }
+}
+
+void CollectionView::touchesCancelled(ns::Set touches, ui::Event event) {
+    super<"touchesCancelled:withEvent:">(touches, event);
+    release();
+}
+
+void CollectionView::selectByTouch(ItemIndex index) {
+    if (allowsMultipleSelection_ && selected_.contains(index)) {
+        if (may<"collectionView:shouldDeselectItemAtIndexPath:">(index)) {
+            deselect(index);
+            tell<"collectionView:didDeselectItemAtIndexPath:">(index.path());
+        }
+        return;
+    }
+    if (!may<"collectionView:shouldSelectItemAtIndexPath:">(index)) {
+        return;
+    }
+    if (!allowsMultipleSelection_) {
+        for (const ItemIndex former : std::set(selected_)) {
+            if (former != index) {
+                deselect(former);
+                tell<"collectionView:didDeselectItemAtIndexPath:">(former.path());
+            }
+        }
+    }
+    select(index);
+    tell<"collectionView:didSelectItemAtIndexPath:">(index.path());
+}
+
+} // namespace desktop
