@@ -32,6 +32,12 @@ struct NotificationCenter : objc::Kind<NotificationCenter, "NSNotificationCenter
         return send<"addObserverForName:object:queue:usingBlock:", objc::Object>(name, object,
                                                                                  queue, block);
     }
+    /// Sends `observer`, which is not retained, the message with each notification of that name (of
+    /// any object when `object` is nil).
+    void addObserver(objc::Object observer, SEL message, String name, objc::Object object) const {
+        send<"addObserver:selector:name:object:">(observer, message, name, object);
+    }
+    void removeObserver(objc::Object observer) const { send<"removeObserver:">(observer); }
 };
 
 } // namespace ns

@@ -3,6 +3,7 @@
 
 #include "bindings/coregraphics/color.hpp"
 #include "bindings/coregraphics/geometry.hpp"
+#include "bindings/coregraphics/image.hpp"
 #include "bindings/objc/kind.hpp"
 #include "bindings/objc/strong.hpp"
 
@@ -17,8 +18,11 @@ struct Layer : objc::Kind<Layer, "CALayer"> {
     void setBorderWidth(double points) const { send<"setBorderWidth:">(points); }
     void setBorderColor(CGColorRef color) const { send<"setBorderColor:">(color); }
     void setMasksToBounds(bool masks) const { send<"setMasksToBounds:">(masks); }
-    /// An image (or nil) drawn over the layer's bounds.
-    void setContents(objc::Object image) const { send<"setContents:">(image); }
+    /// An image (or null) drawn over the layer's bounds, which keeps it.
+    void setContents(CGImageRef image) const {
+        const auto contents = objc::wrap(reinterpret_cast<id>(image));
+        send<"setContents:">(contents);
+    }
 };
 
 } // namespace ca

@@ -3,6 +3,7 @@
 
 #include "bindings/coregraphics/geometry.hpp"
 #include "bindings/foundation/array.hpp"
+#include "bindings/foundation/set.hpp"
 #include "bindings/uikit/window.hpp"
 
 namespace ui {
@@ -13,6 +14,7 @@ struct Application : objc::Kind<Application, "UIApplication", Responder> {
     static Application shared() { return sendClass<"sharedApplication", Application>(); }
     /// Back to front.
     [[nodiscard]] ns::Array windows() const { return send<"windows", ns::Array>(); }
+    [[nodiscard]] ns::Set connectedScenes() const { return send<"connectedScenes", ns::Set>(); }
     [[nodiscard]] Window keyWindow() const { return send<"keyWindow", Window>(); }
 };
 

@@ -18,6 +18,11 @@ struct Color : objc::Kind<Color, "UIColor"> {
     }
     static Color black() { return sendClass<"blackColor", Color>(); }
     static Color white() { return sendClass<"whiteColor", Color>(); }
+    static Color red() { return sendClass<"redColor", Color>(); }
+    static Color orange() { return sendClass<"orangeColor", Color>(); }
+    static Color blue() { return sendClass<"blueColor", Color>(); }
+    static Color darkGray() { return sendClass<"darkGrayColor", Color>(); }
+    static Color lightGray() { return sendClass<"lightGrayColor", Color>(); }
     static Color clear() { return sendClass<"clearColor", Color>(); }
     static Color label() { return sendClass<"labelColor", Color>(); }
     static Color secondaryLabel() { return sendClass<"secondaryLabelColor", Color>(); }

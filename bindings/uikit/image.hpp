@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bindings/coregraphics/geometry.hpp"
+#include "bindings/coregraphics/image.hpp"
 #include "bindings/foundation/string.hpp"
 
 namespace ui {
@@ -13,6 +14,8 @@ struct Image : objc::Kind<Image, "UIImage"> {
     static Image withContentsOfFile(ns::String path) {
         return sendClass<"imageWithContentsOfFile:", Image>(path);
     }
+    /// Borrowed: valid as long as the image. Null for nil.
+    [[nodiscard]] CGImageRef cgImage() const { return send<"CGImage", CGImageRef>(); }
     /// In points.
     [[nodiscard]] CGSize size() const { return send<"size", CGSize>(); }
 };

@@ -14,6 +14,14 @@ struct Event;
 struct GestureRecognizer;
 struct Window;
 
+/// How content fits into a view of another size; the platform's numbers.
+enum class ContentMode : long {
+    scaleToFill = 0,
+    scaleAspectFit = 1,
+    scaleAspectFill = 2,
+    center = 4
+};
+
 struct View : objc::Kind<View, "UIView", Responder> {
     using Kind::Kind;
 
@@ -56,6 +64,7 @@ struct View : objc::Kind<View, "UIView", Responder> {
     /// Defined with the windows, in window.hpp.
     [[nodiscard]] Window window() const;
     void addSubview(View view) const { send<"addSubview:">(view); }
+    void bringSubviewToFront(View view) const { send<"bringSubviewToFront:">(view); }
     void insertSubview(View view, long index) const { send<"insertSubview:atIndex:">(view, index); }
     void removeFromSuperview() const { send<"removeFromSuperview">(); }
     [[nodiscard]] View viewWithTag(long tag) const { return send<"viewWithTag:", View>(tag); }
@@ -76,7 +85,8 @@ struct View : objc::Kind<View, "UIView", Responder> {
     void layoutIfNeeded() const { send<"layoutIfNeeded">(); }
     void setNeedsDisplay() const { send<"setNeedsDisplay">(); }
     void drawRect(CGRect dirty) const { send<"drawRect:">(dirty); }
-    [[nodiscard]] long contentMode() const { return send<"contentMode", long>(); }
+    [[nodiscard]] ContentMode contentMode() const { return send<"contentMode", ContentMode>(); }
+    void setContentMode(ContentMode mode) const { send<"setContentMode:">(mode); }
     [[nodiscard]] CGSize sizeThatFits(CGSize room) const {
         return send<"sizeThatFits:", CGSize>(room);
     }

@@ -16,6 +16,7 @@ public:
     static auto methods() {
         return std::array{
             objc::classMethod<"imageWithContentsOfFile:", &UIImage::withContentsOfFile>(),
+            objc::method<"CGImage", &UIImage::cgImage>(),
             objc::method<"size", &UIImage::size>(),
             objc::method<"scale", &UIImage::scale>(),
             copyIsSelf(),
@@ -27,6 +28,8 @@ public:
 
 private:
     static ui::Image withContentsOfFile(Class, ns::String path);
+    /// Here, the image itself.
+    [[nodiscard]] CGImageRef cgImage() const { return reinterpret_cast<CGImageRef>(self().raw()); }
     [[nodiscard]] CGSize size() const;
     [[nodiscard]] double scale() const { return value_ ? value_->scale() : 1; }
 

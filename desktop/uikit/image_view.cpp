@@ -11,13 +11,7 @@
 namespace desktop {
 namespace {
 
-/// The platform's numbers of the content modes that are told apart here.
-enum class ContentMode : long {
-    scaleToFill = 0,
-    scaleAspectFit = 1,
-    scaleAspectFill = 2,
-    center = 4
-};
+using ui::ContentMode;
 
 CGRect placed(CGSize image, CGRect bounds, ContentMode mode) {
     if (mode == ContentMode::scaleToFill || image.width <= 0 || image.height <= 0) {
@@ -48,8 +42,8 @@ void ImageView::drawRect(CGRect) {
     Canvas* canvas = currentCanvas();
     const Image* picture = UIImage::valueOf(image_);
     if (canvas != nullptr && picture != nullptr) {
-        const auto mode = static_cast<ContentMode>(self().contentMode());
-        canvas->draw(*picture, rectangle(placed(image_.size(), self().bounds(), mode)));
+        canvas->draw(*picture,
+                     rectangle(placed(image_.size(), self().bounds(), self().contentMode())));
     }
 }
 
