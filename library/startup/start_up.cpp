@@ -4,6 +4,7 @@
 #include "bindings/objc/hook.hpp"
 #include "bindings/objc/pool.hpp"
 #include "library/blocking/request_hooks.hpp"
+#include "library/common/draggable_view.hpp"
 #include "library/editing/edit_menu_hooks.hpp"
 #include "library/editing/text_gesture_hooks.hpp"
 #include "library/labels/color_from_string.hpp"
@@ -33,9 +34,12 @@ void install() {
 /// the methods that our categories add to the platform's.
 void declareClasses() {
     labels::registerYYLabel();
+    registerTrashButton();
     toolbox::registerFloatingViewController();
     toolbox::registerViewModel();
     install<&labels::colourCategory>();
+    install<&draggableCategory>();
+    install<&labels::longPressCopyCategory>();
     install<&labels::ruleEditorCategory>();
     install<&editing::menuItemCategory>();
     install<&editing::speechCategories>();

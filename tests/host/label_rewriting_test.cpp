@@ -1,5 +1,5 @@
 // Labels rewritten by the loaded library, seen through the host: rules and switches in, views out.
-#include "tests/support/host_process.hpp"
+#include "tests/host/phone.hpp"
 
 #include <gtest/gtest.h>
 
@@ -8,54 +8,8 @@
 
 namespace {
 
-using Json = nlohmann::json;
-
-/// A phone running an application with the library loaded.
-class Phone : public support::HostProcess {
-public:
-    explicit Phone(std::vector<std::string> options = {"--app", "plain"})
-        : HostProcess(HOST_PATH, withAutomation(std::move(options))) {}
-
-    Json make(const std::string& cls, const std::vector<double>& frame = {10, 20, 100, 30}) {
-        return message(message({{"class", cls}}, "alloc"), "initWithFrame:", {{{"rect", frame}}});
-    }
-    void saveRules(const std::string& text) {
-        const Json editor = make("UITextView");
-        message(editor, "setText:", {text});
-        message(editor, "saveRulesFromTextView:", {editor});
-    }
-    void turnOn(const std::vector<std::string>& switches) {
-        Json values = Json::object();
-        for (const std::string& key : switches) {
-            values[key] = true;
-        }
-        result({{"do", "preferences"}, {"set", values}});
-    }
-    /// The label after it was given the text.
-    Json shown(const Json& label, const Json& text) {
-        message(label, "setText:", {text});
-        return result({{"do", "tree"}, {"of", label}});
-    }
-    /// A fresh label's node after it was given the text.
-    Json label(const Json& text, const std::string& cls = "UILabel") {
-        return shown(make(cls), text);
-    }
-    std::vector<Json> swallowed() {
-        std::vector<Json> exceptions;
-        for (const Json& event : result({{"do", "events"}})) {
-            if (event["kind"] == "exception") {
-                exceptions.push_back(event);
-            }
-        }
-        return exceptions;
-    }
-
-private:
-    static std::vector<std::string> withAutomation(std::vector<std::string> options) {
-        options.emplace_back("--automation");
-        return options;
-    }
-};
+using tests::Json;
+using tests::Phone;
 
 TEST(LabelRewriting, ReplacesTextsWithoutAnySwitch) {
     Phone phone;

@@ -9,6 +9,7 @@
 #include "desktop/runtime/run_loop.hpp"
 #include "desktop/uikit/uikit.hpp"
 #include "library/blocking/request_hooks.hpp"
+#include "library/common/draggable_view.hpp"
 #include "library/editing/edit_menu_hooks.hpp"
 #include "library/editing/text_gesture_hooks.hpp"
 #include "library/labels/color_from_string.hpp"
@@ -29,11 +30,13 @@ namespace {
 using Tables = std::vector<std::span<const objc::Change>>;
 
 Tables allTables() {
-    return {labels::colourCategory(),    labels::ruleEditorCategory(),  editing::menuItemCategory(),
-            editing::speechCategories(), labels::longPressCopyLoad(),   labels::labelTextLoad(),
-            labels::yyLabelTextLoad(),   scratchpad::scratchPadHooks(), blocking::requestHooks(),
-            labels::containerHooks(),    labels::labelTextHooks(),      labels::cameraHooks(),
-            editing::editMenuHooks(),    editing::textGestureHooks()};
+    return {
+        draggableCategory(),           labels::longPressCopyCategory(), labels::colourCategory(),
+        labels::ruleEditorCategory(),  editing::menuItemCategory(),     editing::speechCategories(),
+        labels::longPressCopyLoad(),   labels::labelTextLoad(),         labels::yyLabelTextLoad(),
+        scratchpad::scratchPadHooks(), blocking::requestHooks(),        labels::containerHooks(),
+        labels::labelTextHooks(),      labels::cameraHooks(),           editing::editMenuHooks(),
+        editing::textGestureHooks()};
 }
 
 IMP implementation(const objc::Change& change) {

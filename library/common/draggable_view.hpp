@@ -1,0 +1,34 @@
+// UIView(makeDraggableAndZoomable): what every floating panel can do.
+#pragma once
+
+#include "bindings/objc/hook.hpp"
+#include "bindings/uikit/button.hpp"
+#include "bindings/uikit/pan_gesture_recognizer.hpp"
+
+#include <span>
+
+namespace wentra {
+
+/// A button whose touch area is a fixed square, whatever its size: views are dropped on it.
+struct TrashButton : objc::Kind<TrashButton, "TrashButton", ui::Button> {
+    using Kind::Kind;
+};
+
+/// The tag by which a dragged view finds the trash button among its neighbours.
+inline constexpr long trashTag = 99;
+
+/// Declares `TrashButton`.
+void registerTrashButton();
+
+/// `makeDraggableAndZoomable`, its variant with a trash button, and the gestures' actions
+/// `handlePan:`, `handlePinch:` and `handleDoubleTap:`, on UIView.
+std::span<const objc::Change> draggableCategory();
+
+/// Lets the view be dragged, pinched and zoomed by double taps.
+void makeDraggableAndZoomable(ui::View view);
+
+/// Moves a view's centre by how far its pan has come, in the coordinates of `space`, and lets the
+/// pan count from there.
+void moveAlong(ui::View view, ui::PanGestureRecognizer pan, ui::View space);
+
+} // namespace wentra
