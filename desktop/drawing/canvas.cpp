@@ -45,11 +45,6 @@ void addRoundedRectangle(cairo_t* context, const Rectangle& area, double wantedR
 
 double unit(double component) { return component > 0 ? std::min(component, 1.0) : 0; }
 
-void setColour(cairo_t* context, const Colour& colour) {
-    cairo_set_source_rgba(context, unit(colour.red), unit(colour.green), unit(colour.blue),
-                          unit(colour.alpha));
-}
-
 int pixels(double points, double scale) {
     const double count = std::ceil(points * scale - 1e-6);
     return count >= 1 ? static_cast<int>(std::min(count, double{Image::largestSide})) : 1;
@@ -104,7 +99,7 @@ void Canvas::fill(const Rectangle& area, const Colour& colour, double cornerRadi
         return;
     cairo_new_path(context());
     addRoundedRectangle(context(), *visible, cornerRadius);
-    setColour(context(), colour);
+    setColour(colour);
     cairo_fill(context());
 }
 
@@ -118,7 +113,7 @@ void Canvas::stroke(const Rectangle& area, const Colour& colour, double lineWidt
                            visible->height - width};
     cairo_new_path(context());
     addRoundedRectangle(context(), middle, cornerRadius - width / 2);
-    setColour(context(), colour);
+    setColour(colour);
     cairo_set_line_width(context(), width);
     cairo_stroke(context());
 }
@@ -149,9 +144,14 @@ void Canvas::drawShadow(const Rectangle& area, const Colour& colour, Size offset
     if (!shape)
         return;
     const double radius = blurRadius > 0 && std::isfinite(blurRadius) ? blurRadius : 0;
-    setColour(context(), colour);
+    setColour(colour);
     paintBlurred(context(), *shape, radius,
                  [&](cairo_t* target) { addRoundedRectangle(target, *shape, cornerRadius); });
+}
+
+void Canvas::setColour(const Colour& colour) {
+    cairo_set_source_rgba(context(), unit(colour.red), unit(colour.green), unit(colour.blue),
+                          unit(colour.alpha));
 }
 
 void Canvas::beginGroup() { cairo_push_group(context()); }

@@ -19,6 +19,7 @@ struct AffineTransform {
     double d = 1;
     double tx = 0;
     double ty = 0;
+    bool operator==(const AffineTransform&) const = default;
 };
 
 /// One thread at a time. Rectangles with a negative or NaN measure draw nothing, edges far away are
@@ -52,6 +53,9 @@ public:
     /// deviation of the blur.
     void drawShadow(const Rectangle& area, const Colour& colour, Size offset, double blurRadius,
                     double cornerRadius = 0);
+
+    /// The source of what is drawn by the context's own words.
+    void setColour(const Colour& colour);
 
     /// What is drawn until the matching `endGroup` is composed as one, with that opacity.
     void beginGroup();

@@ -27,7 +27,11 @@ void Layer::setBounds(CGRect bounds) {
     if (hasNaN(bounds)) {
         raiseInvalidGeometry();
     }
-    change<&LayerValues::bounds>(standardised(bounds));
+    const CGRect upright = standardised(bounds);
+    if (upright != model_.bounds) {
+        setNeedsDisplay(); // views draw for the bounds that they have
+    }
+    change<&LayerValues::bounds>(upright);
 }
 
 void Layer::setPosition(CGPoint position) {
@@ -53,7 +57,32 @@ void Layer::setBackgroundColor(CGColorRef color) {
     change<&LayerValues::backgroundColor>(Color::valueOf(backgroundColor_));
 }
 
-void Layer::setBorderColor(CGColorRef color) { borderColor_ = uiColor(color); }
+void Layer::setBorderColor(CGColorRef color) {
+    borderColor_ = uiColor(color);
+    changed();
+}
+
+void Layer::setHidden(bool hidden) {
+    hidden_ = hidden;
+    changed();
+}
+
+void Layer::setMasksToBounds(bool masks) {
+    masksToBounds_ = masks;
+    changed();
+}
+
+void Layer::setNeedsDisplay() {
+    contentStamp_ = nextStamp();
+    changed();
+}
+
+void Layer::changed() { ScreenChanges::shared().announce(); }
+
+std::uint64_t Layer::nextStamp() {
+    static std::uint64_t latest = reservedStamps;
+    return ++latest;
+}
 
 LayerValues Layer::presented() const {
     LayerValues shown = model_;

@@ -24,14 +24,15 @@ public:
             objc::property<"frame", &Layer::frame, &Layer::setFrame>(),
             objc::property<"affineTransform", &Layer::transform, &Layer::setTransform>(),
             objc::property<"opacity", &Layer::opacity, &Layer::setOpacity>(),
-            objc::flag<"hidden", &Layer::hidden_>(),
+            objc::flag<"hidden", &Layer::hidden_, &Layer::changed>(),
             objc::property<"cornerRadius", &Layer::cornerRadius, &Layer::setCornerRadius>(),
             objc::property<"backgroundColor", &Layer::backgroundColor,
                            &Layer::setBackgroundColor>(),
-            objc::property<"borderWidth", &Layer::borderWidth_>(),
+            objc::property<"borderWidth", &Layer::borderWidth_, &Layer::changed>(),
             objc::property<"borderColor", &Layer::borderColor, &Layer::setBorderColor>(),
-            objc::property<"masksToBounds", &Layer::masksToBounds_>(),
-            objc::property<"contents", &Layer::contents_>(),
+            objc::property<"masksToBounds", &Layer::masksToBounds_, &Layer::changed>(),
+            objc::property<"contents", &Layer::contents_, &Layer::setNeedsDisplay>(),
+            objc::method<"setNeedsDisplay", &Layer::setNeedsDisplay>(),
             objc::method<"presentationLayer", &Layer::presentationLayer>(),
             objc::method<"removeAllAnimations", &Layer::removeAllAnimations>(),
         };
@@ -60,6 +61,22 @@ public:
     void setBorderColor(CGColorRef color);
     [[nodiscard]] ui::Color borderUIColor() const { return borderColor_; }
 
+    [[nodiscard]] bool isHidden() const { return hidden_; }
+    void setHidden(bool hidden);
+    [[nodiscard]] double borderWidth() const { return borderWidth_; }
+    /// Whether what lies in the layer ends at its bounds.
+    [[nodiscard]] bool masksToBounds() const { return masksToBounds_; }
+    void setMasksToBounds(bool masks);
+    /// An image, or nil.
+    [[nodiscard]] objc::Object contents() const { return contents_; }
+
+    /// What the layer's view draws, or its image, is another one now.
+    void setNeedsDisplay();
+    /// Differs from that of every other content, and from those that this layer has had before.
+    [[nodiscard]] std::uint64_t contentStamp() const { return contentStamp_; }
+    /// Stamps up to here are never given to a layer.
+    static constexpr std::uint64_t reservedStamps = 15;
+
     /// What is shown now.
     [[nodiscard]] LayerValues presented() const;
     /// Whether it moves, in an animation that touches must not disturb.
@@ -68,11 +85,6 @@ public:
     void removeAllAnimations();
     /// The animation is over.
     void forget(const Animation& animation);
-
-    bool hidden_ = false;
-    double borderWidth_ = 0;
-    bool masksToBounds_ = false;
-    objc::Strong<objc::Object> contents_;
 
 private:
     /// One value on its way: where it started, and how to tell where it is.
@@ -101,10 +113,18 @@ private:
     void move(Movement::Blend blend, std::shared_ptr<Animation> animation);
     [[nodiscard]] ca::Layer presentationLayer() const;
 
+    static std::uint64_t nextStamp();
+    void changed();
+
     LayerValues model_;
+    bool hidden_ = false;
+    double borderWidth_ = 0;
+    bool masksToBounds_ = false;
+    std::uint64_t contentStamp_ = nextStamp();
     std::vector<Movement> movements_;
     objc::Strong<ui::Color> backgroundColor_;
     objc::Strong<ui::Color> borderColor_;
+    objc::Strong<objc::Object> contents_;
 };
 
 } // namespace desktop

@@ -1,6 +1,7 @@
 // The application object and its list of windows.
 #include "desktop/uikit/application.hpp"
 
+#include "desktop/quartzcore/screen_changes.hpp"
 #include "desktop/uikit/window.hpp"
 
 #include <algorithm>
@@ -28,10 +29,12 @@ void Application::show(ui::Window window) {
     const auto place = std::ranges::find_if(
         windows_, [level](ui::Window other) { return Window::of(other).level() > level; });
     windows_.insert(place, window);
+    ScreenChanges::shared().announce();
 }
 
 void Application::forget(ui::Window window) {
     std::erase(windows_, window);
+    ScreenChanges::shared().announce();
     if (keyWindow_ == window) {
         keyWindow_ = nullptr;
     }

@@ -1,65 +1,148 @@
-// Compositing: transforms, opacity, clipping and borders of each view's layer.
+// Walking the views: transforms, opacity, clipping and borders of each view's layer.
 #include "desktop/uikit/compositor.hpp"
 
+#include "desktop/coregraphics/affine.hpp"
 #include "desktop/coregraphics/graphics_context.hpp"
+#include "desktop/uikit/application.hpp"
 #include "desktop/uikit/color.hpp"
 #include "desktop/uikit/image.hpp"
+#include "desktop/uikit/screen.hpp"
+#include "desktop/uikit/status_bar.hpp"
 #include "desktop/uikit/view.hpp"
 
 namespace desktop {
 namespace {
 
-void drawContent(ui::View view, const LayerValues& shown, Canvas& canvas) {
-    const View& peer = View::of(view);
-    const Layer& layer = peer.layer();
-    const Rectangle box = rectangle(shown.bounds);
-    canvas.save();
-    if (layer.masksToBounds_) {
-        canvas.clip(box, shown.cornerRadius);
-    }
-    if (const Image* contents = UIImage::valueOf(layer.contents_.as<ui::Image>());
-        contents != nullptr) {
-        canvas.draw(*contents, box);
-    }
-    {
-        const CurrentCanvas current(canvas);
-        view.drawRect(layer.bounds());
-    }
-    const auto children = peer.children(); // a copy: drawing may change the tree
-    for (const auto& child : children) {
-        composite(child, canvas);
-    }
-    canvas.restore();
+// Stamps that no layer has.
+constexpr std::uint64_t screenStamp = 1;
+constexpr std::uint64_t statusBarStamp = 2;
+constexpr std::uint64_t homeIndicatorStamp = 3;
+
+AffineTransform affine(const CGAffineTransform& t) { return {t.a, t.b, t.c, t.d, t.tx, t.ty}; }
+
+Size screenSize() {
+    const CGSize size = ScreenGeometry::current().size;
+    return {size.width, size.height};
 }
+
+/// Whether its class has a way to draw that is not UIView's, which draws nothing.
+bool drawsItself(ui::View view) {
+    const SEL draw = objc::selector<"drawRect:">();
+    return objc::lookUp(view.raw(), draw) !=
+           class_getMethodImplementation(View::registeredClass(), draw);
+}
+
+class Walk {
+public:
+    Walk(Composition& result, double scale) : result_(result), list_(result.list), scale_(scale) {}
+
+    void screen() {
+        const CGAffineTransform points{scale_, 0, 0, scale_, 0, 0};
+        const Size size = screenSize();
+        const PlacedBox everything{affine(points), {0, 0, size.width, size.height}};
+        list_.add({.stamp = screenStamp, .shape = everything, .colour = {0, 0, 0, 1}});
+        for (const ui::Window window : Application::shared().visibleWindows()) {
+            add(window, points, DisplayGroup::none);
+        }
+        list_.add({.kind = DisplayItem::Kind::content,
+                   .stamp = statusBarStamp,
+                   .shape = {affine(points), statusBarArea(size)}});
+        const Rectangle indicator = homeIndicatorArea(size);
+        list_.add({.stamp = homeIndicatorStamp,
+                   .shape = {affine(points), indicator, indicator.height / 2},
+                   .colour = systemInk});
+    }
+
+private:
+    void add(ui::View view, const CGAffineTransform& parent, int group) {
+        const View& peer = View::of(view);
+        const Layer& layer = peer.layer();
+        const LayerValues shown = layer.presented();
+        const CGAffineTransform place = concatenated(shown.toSuperlayer(), parent);
+        if (layer.isHidden() || !(shown.opacity > 0) || !inverted(place)) {
+            return;
+        }
+        const PlacedBox shape{affine(place), rectangle(shown.bounds), shown.cornerRadius};
+        DisplayItem item{.group = group, .stamp = layer.contentStamp(), .shape = shape};
+        if (shown.opacity < 1) {
+            item.group = list_.addGroup({.kind = DisplayGroup::Kind::opacity,
+                                         .parent = group,
+                                         .stamp = item.stamp,
+                                         .opacity = static_cast<double>(shown.opacity)});
+        }
+        addFill(item, shown.backgroundColor);
+        addInside(view, item, place);
+        addBorder(item, layer);
+    }
+
+    void addFill(DisplayItem item, const Colour& colour) {
+        item.colour = colour;
+        if (colour.alpha > 0) {
+            list_.add(item);
+        }
+    }
+
+    /// The view's own drawing, and its subviews.
+    void addInside(ui::View view, DisplayItem item, const CGAffineTransform& place) {
+        const View& peer = View::of(view);
+        if (peer.layer().masksToBounds()) {
+            item.group = list_.addGroup({.kind = DisplayGroup::Kind::clip,
+                                         .parent = item.group,
+                                         .stamp = item.stamp,
+                                         .shape = item.shape});
+            if (list_.groups.back().extents.isEmpty()) {
+                return;
+            }
+        }
+        if (drawsItself(view) || peer.layer().contents()) {
+            item.kind = DisplayItem::Kind::content;
+            list_.add(item);
+            result_.views.emplace(item.stamp, view);
+        }
+        for (const auto& child : peer.children()) {
+            add(child, place, item.group);
+        }
+    }
+
+    void addBorder(DisplayItem item, const Layer& layer) {
+        if (layer.borderWidth() > 0) {
+            const ui::Color colour = layer.borderUIColor();
+            item.kind = DisplayItem::Kind::border;
+            item.colour = Color::valueOf(colour ? colour : ui::Color::black());
+            item.lineWidth = layer.borderWidth();
+            list_.add(item);
+        }
+    }
+
+    Composition& result_;
+    DisplayList& list_;
+    double scale_;
+};
 
 } // namespace
 
-void composite(ui::View view, Canvas& canvas) {
-    const Layer& layer = View::of(view).layer();
-    const LayerValues shown = layer.presented();
-    if (layer.hidden_ || shown.opacity <= 0) {
+void Composition::draw(std::uint64_t stamp, Canvas& canvas) const {
+    if (stamp == statusBarStamp) {
+        drawStatusBar(canvas, screenSize());
         return;
     }
-    const CGAffineTransform t = shown.toSuperlayer();
-    canvas.save();
-    if (canvas.concatenate({t.a, t.b, t.c, t.d, t.tx, t.ty})) {
-        const bool translucent = shown.opacity < 1;
-        if (translucent) {
-            canvas.beginGroup();
-        }
-        const Rectangle box = rectangle(shown.bounds);
-        canvas.fill(box, shown.backgroundColor, shown.cornerRadius);
-        drawContent(view, shown, canvas);
-        if (layer.borderWidth_ > 0) {
-            const ui::Color border = layer.borderUIColor();
-            canvas.stroke(box, Color::valueOf(border ? border : ui::Color::black()),
-                          layer.borderWidth_, shown.cornerRadius);
-        }
-        if (translucent) {
-            canvas.endGroup(static_cast<double>(shown.opacity));
-        }
+    const auto view = views.find(stamp);
+    if (view == views.end()) {
+        return;
     }
-    canvas.restore();
+    const Layer& layer = View::of(view->second).layer();
+    if (const Image* image = UIImage::valueOf(layer.contents().as<ui::Image>()); image != nullptr) {
+        canvas.draw(*image, rectangle(layer.bounds()));
+    }
+    const CurrentCanvas current(canvas);
+    view->second.drawRect(layer.bounds());
+}
+
+Composition composition(PixelRectangle screen, double scale) {
+    Composition result;
+    result.list.screen = screen;
+    Walk(result, scale).screen();
+    return result;
 }
 
 } // namespace desktop

@@ -1,14 +1,27 @@
-// Draws a tree of views onto a canvas.
+// From trees of views to what is to be seen of them.
 #pragma once
 
 #include "bindings/uikit/view.hpp"
 
-#include "desktop/drawing/canvas.hpp"
+#include "desktop/drawing/display/display_list.hpp"
+
+#include <unordered_map>
 
 namespace desktop {
 
-/// Draws the view and all that is in it, back to front, in its superview's coordinates. Hidden and
-/// fully transparent views draw nothing.
-void composite(ui::View view, Canvas& canvas);
+/// Everything on the screen, and the views whose drawings are contents in the list, by stamp.
+struct Composition {
+    DisplayList list;
+    /// Drawing one view may remove another: none dies before all are drawn.
+    std::unordered_map<std::uint64_t, objc::Strong<ui::View>> views;
+
+    /// Draws the content of that stamp.
+    void draw(std::uint64_t stamp, Canvas& canvas) const;
+};
+
+/// The visible windows as they are shown now, with the system's marks over them, on a screen of so
+/// many pixels at `scale` pixels a point. Hidden and fully transparent views, and those whose
+/// transform flattens them, show nothing.
+[[nodiscard]] Composition composition(PixelRectangle screen, double scale);
 
 } // namespace desktop

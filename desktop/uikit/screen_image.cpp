@@ -1,14 +1,14 @@
 // Drawing the screen's windows, and the system's marks over them.
 #include "desktop/uikit/screen_image.hpp"
 
-#include "desktop/uikit/application.hpp"
+#include "desktop/drawing/display/painter.hpp"
 #include "desktop/uikit/compositor.hpp"
 #include "desktop/uikit/screen.hpp"
-#include "desktop/uikit/status_bar.hpp"
 #include "desktop/uikit/uikit.hpp"
 
 #include "bindings/objc/pool.hpp"
 
+#include <cmath>
 #include <utility>
 
 namespace desktop {
@@ -22,7 +22,7 @@ Size screenSize() {
 } // namespace
 
 ScreenImage::ScreenImage(double scale)
-    : canvas_(screenSize(), scale),
+    : canvas_(screenSize(), scale), scale_(scale > 0 && std::isfinite(scale) ? scale : 1),
       ticket_(ScreenChanges::shared().listen([this] { becomeStale(); })) {}
 
 ScreenImage::~ScreenImage() { ScreenChanges::shared().leave(ticket_); }
@@ -41,31 +41,25 @@ std::vector<PixelRectangle> ScreenImage::refresh() {
     uikit::layoutWindows();
     stale_ = false; // what drawing itself changes is for the next time
     ScreenChanges::shared().await();
-    const Size size = screenSize();
-    canvas_.fill({0, 0, size.width, size.height}, {0, 0, 0, 1});
-    for (const ui::Window window : Application::shared().visibleWindows()) {
-        composite(window, canvas_);
-    }
-    drawSystemOverlays(canvas_, size);
-    return {{0, 0, width(), height()}};
+    Composition wanted = composition({0, 0, width(), height()}, scale_);
+    // When drawing fails half way, nobody knows what is shown, and the next time draws everything.
+    const DisplayList shown = std::exchange(shown_, {});
+    const PixelArea area = differences(shown, wanted.list);
+    paint(wanted.list, area, surface(), contents_,
+          [&wanted](std::uint64_t stamp, Canvas& canvas) { wanted.draw(stamp, canvas); });
+    shown_ = std::move(wanted.list);
+    return area.rectangles();
 }
 
 const unsigned char* ScreenImage::pixels() const {
-    cairo_surface_t* surface = cairo_get_target(canvas_.context());
-    cairo_surface_flush(surface);
-    return cairo_image_surface_get_data(surface);
+    cairo_surface_flush(surface());
+    return cairo_image_surface_get_data(surface());
 }
 
-int ScreenImage::width() const {
-    return cairo_image_surface_get_width(cairo_get_target(canvas_.context()));
-}
+int ScreenImage::width() const { return cairo_image_surface_get_width(surface()); }
 
-int ScreenImage::height() const {
-    return cairo_image_surface_get_height(cairo_get_target(canvas_.context()));
-}
+int ScreenImage::height() const { return cairo_image_surface_get_height(surface()); }
 
-int ScreenImage::stride() const {
-    return cairo_image_surface_get_stride(cairo_get_target(canvas_.context()));
-}
+int ScreenImage::stride() const { return cairo_image_surface_get_stride(surface()); }
 
 } // namespace desktop

@@ -2,21 +2,13 @@
 #pragma once
 
 #include "desktop/drawing/canvas.hpp"
+#include "desktop/drawing/display/content_store.hpp"
 #include "desktop/quartzcore/screen_changes.hpp"
 
 #include <functional>
 #include <vector>
 
 namespace desktop {
-
-/// A rectangle of whole pixels, (0, 0) at the top left of the screen.
-struct PixelRectangle {
-    int x = 0;
-    int y = 0;
-    int width = 0;
-    int height = 0;
-    bool operator==(const PixelRectangle&) const = default;
-};
 
 /// A picture of the screen that redraws what has changed. Main thread; several may exist, at
 /// different scales.
@@ -49,8 +41,12 @@ public:
 
 private:
     void becomeStale();
+    [[nodiscard]] cairo_surface_t* surface() const { return cairo_get_target(canvas_.context()); }
 
     Canvas canvas_;
+    double scale_;
+    DisplayList shown_;
+    ContentStore contents_;
     std::function<void()> whenStale_;
     bool stale_ = true;
     ScreenChanges::Ticket ticket_;

@@ -9,7 +9,7 @@
 namespace desktop {
 namespace {
 
-constexpr Colour ink{0, 0, 0, 1};
+constexpr Colour ink = systemInk;
 
 // All places are for the bar of a phone with a notch, 47 points high.
 constexpr double middle = 25;
@@ -64,14 +64,21 @@ void drawBattery(Canvas& canvas, double left) {
 
 } // namespace
 
-void drawSystemOverlays(Canvas& canvas, Size screen) {
+Rectangle statusBarArea(Size screen) {
+    constexpr double height = 47;
+    return {0, 0, screen.width, height};
+}
+
+void drawStatusBar(Canvas& canvas, Size screen) {
     drawTime(canvas);
     drawSignal(canvas, screen.width - 82);
     drawWireless(canvas, screen.width - 59);
     drawBattery(canvas, screen.width - 40);
-    constexpr double indicatorWidth = 134;
-    canvas.fill({(screen.width - indicatorWidth) / 2, screen.height - 13, indicatorWidth, 5}, ink,
-                2.5);
+}
+
+Rectangle homeIndicatorArea(Size screen) {
+    constexpr double width = 134;
+    return {(screen.width - width) / 2, screen.height - 13, width, 5};
 }
 
 } // namespace desktop

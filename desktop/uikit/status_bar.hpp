@@ -5,7 +5,14 @@
 
 namespace desktop {
 
-/// Draws both over the application's windows, for a screen of that size in points.
-void drawSystemOverlays(Canvas& canvas, Size screen);
+/// Where the status bar draws, on a screen of that size in points.
+[[nodiscard]] Rectangle statusBarArea(Size screen);
+void drawStatusBar(Canvas& canvas, Size screen);
+
+/// The home indicator, a bar with round ends.
+[[nodiscard]] Rectangle homeIndicatorArea(Size screen);
+
+/// The colour of both.
+inline constexpr Colour systemInk{0, 0, 0, 1};
 
 } // namespace desktop

@@ -3,7 +3,6 @@
 
 #include "bindings/uikit/application.hpp"
 #include "desktop/coregraphics/affine.hpp"
-#include "desktop/quartzcore/screen_changes.hpp"
 #include "desktop/uikit/view_animation.hpp"
 
 #include <algorithm>
@@ -100,8 +99,6 @@ void View::setBounds(CGRect bounds) {
     layer().setBounds(bounds);
     resizeChildren(former);
 }
-
-void View::setNeedsDisplay() { ScreenChanges::shared().announce(); }
 
 void View::setAlpha(double alpha) {
     layer().setOpacity(static_cast<float>(std::isnan(alpha) ? 0 : std::clamp(alpha, 0.0, 1.0)));

@@ -46,10 +46,10 @@ private:
     [[nodiscard]] double alpha() const { return static_cast<double>(layer().opacity()); }
     void setAlpha(double alpha);
     void setBackgroundColor(ui::Color color) { layer().setBackgroundColor(color.cgColor()); }
-    [[nodiscard]] bool isHidden() const { return layer().hidden_; }
-    void setHidden(bool hidden) { layer().hidden_ = hidden; }
-    [[nodiscard]] bool clipsToBounds() const { return layer().masksToBounds_; }
-    void setClipsToBounds(bool clips) { layer().masksToBounds_ = clips; }
+    [[nodiscard]] bool isHidden() const { return layer().isHidden(); }
+    void setHidden(bool hidden) { layer().setHidden(hidden); }
+    [[nodiscard]] bool clipsToBounds() const { return layer().masksToBounds(); }
+    void setClipsToBounds(bool clips) { layer().setMasksToBounds(clips); }
     [[nodiscard]] ui::Color tintColor() const;
     void setTintColor(ui::Color color) { tintColor_ = color; }
     [[nodiscard]] bool isOpaque() const { return true; }
@@ -82,7 +82,7 @@ private:
     void layoutSubviews() {}
     void setNeedsLayout();
     void layoutIfNeeded();
-    void setNeedsDisplay();
+    void setNeedsDisplay() { layer().setNeedsDisplay(); }
     void drawRect(CGRect) {}
     [[nodiscard]] CGSize sizeThatFits(CGSize) const { return bounds().size; }
     void sizeToFit();

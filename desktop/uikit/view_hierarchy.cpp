@@ -1,6 +1,7 @@
 // UIView's place in the tree: superviews, subviews, order, and coordinates between views.
 #include "bindings/uikit/view_controller.hpp"
 #include "desktop/coregraphics/affine.hpp"
+#include "desktop/quartzcore/screen_changes.hpp"
 #include "desktop/uikit/view.hpp"
 
 #include <algorithm>
@@ -50,6 +51,7 @@ void View::bringToFront(ui::View view) {
     if (const std::size_t index = indexOf(view); index < subviews_.size()) {
         std::rotate(subviews_.begin() + static_cast<std::ptrdiff_t>(index),
                     subviews_.begin() + static_cast<std::ptrdiff_t>(index) + 1, subviews_.end());
+        ScreenChanges::shared().announce();
     }
 }
 
@@ -57,6 +59,7 @@ void View::sendToBack(ui::View view) {
     if (const std::size_t index = indexOf(view); index < subviews_.size()) {
         std::rotate(subviews_.begin(), subviews_.begin() + static_cast<std::ptrdiff_t>(index),
                     subviews_.begin() + static_cast<std::ptrdiff_t>(index) + 1);
+        ScreenChanges::shared().announce();
     }
 }
 
