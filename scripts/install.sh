@@ -20,6 +20,7 @@ build  nlohmann-json3-dev       the JSON of the automation protocol
 build  libcurl4-openssl-dev     loads over HTTP and HTTPS
 build  libssl-dev               certificates and digests of the local services
 build  libboost1.81-dev         the web servers of the desktop
+build  libespeak-ng-dev         speaks
 build  libgtest-dev             unit tests
 build  libbenchmark-dev         benchmarks
 build  fonts-inter              Latin text

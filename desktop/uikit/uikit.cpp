@@ -1,6 +1,7 @@
 // Setting UIKit up, and drawing the screen.
 #include "desktop/uikit/uikit.hpp"
 
+#include "desktop/avfaudio/speech_synthesizer.hpp"
 #include "desktop/quartzcore/layer.hpp"
 #include "desktop/uikit/application.hpp"
 #include "desktop/uikit/button.hpp"
@@ -73,6 +74,7 @@ void registerClasses() {
                 CollectionViewLayout, CollectionViewFlowLayout, CollectionReusableView,
                 CollectionViewCell, CollectionView>();
     installStringDrawing();
+    registerSpeechClasses();
 }
 
 void startApplication(ScreenSize size) {
