@@ -4,6 +4,7 @@
 #include "desktop/quartzcore/animation/animation.hpp"
 #include "desktop/quartzcore/layer_values.hpp"
 #include "desktop/runtime/clock.hpp"
+#include "desktop/uikit/constraints/view_constraints.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -21,7 +22,7 @@ double finite(double value, double otherwise) { return std::isfinite(value) ? va
 
 std::vector<objc::MethodRow> ScrollView::methods() {
     using Self = ScrollView;
-    return {
+    std::vector<objc::MethodRow> rows{
         objc::method<"initWithFrame:", &Self::initWithFrame>(),
         objc::method<"setBounds:", &Self::setBounds>(),
         objc::method<"layoutSubviews", &Self::layoutSubviews>(),
@@ -58,6 +59,8 @@ std::vector<objc::MethodRow> ScrollView::methods() {
         objc::method<"gestureRecognizerShouldBegin:", &Self::gestureRecognizerShouldBegin>(),
         objc::method<"handlePan:", &Self::handlePan>(),
     };
+    std::ranges::copy(ViewConstraints::scrollViewMethods(), std::back_inserter(rows));
+    return rows;
 }
 
 ui::ScrollView ScrollView::initWithFrame(CGRect frame) {

@@ -10,6 +10,8 @@
 #include "desktop/uikit/collection_view_layout.hpp"
 #include "desktop/uikit/collections/index_path.hpp"
 #include "desktop/uikit/color.hpp"
+#include "desktop/uikit/constraints/layout_anchor.hpp"
+#include "desktop/uikit/constraints/layout_guide.hpp"
 #include "desktop/uikit/control.hpp"
 #include "desktop/uikit/event.hpp"
 #include "desktop/uikit/font.hpp"
@@ -65,14 +67,14 @@ UIEdgeInsets safeAreaOf(CGSize size) {
 void registerClasses() {
     const objc::Pool pool;
     installIndexPaths();
-    registerAll<Color, UIFont, UIImage, Layer, Screen, WindowScene, Pasteboard, NavigationItem,
-                MenuController, Responder, Application, ViewController, View, Window, Label,
-                ImageView, ScrollView, StackView, NavigationBar, Control, Button, TextField,
-                TextView, Touch, Event, GestureRecognizer, TapGestureRecognizer,
-                LongPressGestureRecognizer, PanGestureRecognizer, PinchGestureRecognizer,
-                SwipeGestureRecognizer, ScrollPan, CollectionViewLayoutAttributes,
-                CollectionViewLayout, CollectionViewFlowLayout, CollectionReusableView,
-                CollectionViewCell, CollectionView>();
+    registerAll<
+        Color, UIFont, UIImage, Layer, Screen, WindowScene, Pasteboard, NavigationItem,
+        MenuController, Responder, Application, ViewController, View, Window, Label, ImageView,
+        ScrollView, StackView, NavigationBar, Control, Button, TextField, TextView, Touch, Event,
+        GestureRecognizer, TapGestureRecognizer, LongPressGestureRecognizer, PanGestureRecognizer,
+        PinchGestureRecognizer, SwipeGestureRecognizer, ScrollPan, CollectionViewLayoutAttributes,
+        CollectionViewLayout, CollectionViewFlowLayout, CollectionReusableView, CollectionViewCell,
+        CollectionView, LayoutConstraint, LayoutGuide, LayoutAnchor, XAnchor, YAnchor, Dimension>();
     installStringDrawing();
     registerSpeechClasses();
 }

@@ -3,6 +3,7 @@
 
 #include "bindings/uikit/application.hpp"
 #include "desktop/coregraphics/affine.hpp"
+#include "desktop/uikit/constraints/view_constraints.hpp"
 #include "desktop/uikit/view_animation.hpp"
 
 #include <algorithm>
@@ -73,14 +74,24 @@ std::vector<objc::MethodRow> View::methods() {
         objc::method<"pointInside:withEvent:", &View::pointInside>(),
     };
     std::ranges::copy(viewAnimationMethods(), std::back_inserter(rows));
+    std::ranges::copy(ViewConstraints::methods(), std::back_inserter(rows));
     return rows;
 }
+
+View::View() : layer_(ca::Layer::make()) {}
 
 View::~View() {
     for (const auto& child : subviews_) {
         of(child).superview_ = nullptr;
     }
     releaseRecognizers();
+}
+
+ViewConstraints& View::constraints() {
+    if (!constraints_) {
+        constraints_ = std::make_unique<ViewConstraints>(self());
+    }
+    return *constraints_;
 }
 
 ui::View View::initWithFrame(CGRect frame) {

@@ -10,15 +10,18 @@
 #include "desktop/class.hpp"
 #include "desktop/quartzcore/layer.hpp"
 
+#include <memory>
 #include <vector>
 
 namespace desktop {
+
+class ViewConstraints;
 
 class View : public PlatformClass<View, ui::View> {
 public:
     static std::vector<objc::MethodRow> methods();
 
-    View() : layer_(ca::Layer::make()) {}
+    View();
     ~View();
 
     [[nodiscard]] Layer& layer() const { return Layer::of(layer_); }
@@ -26,6 +29,9 @@ public:
     [[nodiscard]] const std::vector<objc::Strong<ui::View>>& children() const { return subviews_; }
     [[nodiscard]] ui::View superview() const { return superview_; }
     [[nodiscard]] ui::Color backgroundColor() const { return layer().backgroundUIColor(); }
+
+    /// Its part in constraints, made when it is first asked for.
+    [[nodiscard]] ViewConstraints& constraints();
 
     /// The controller whose view this is; it outlives that role, or takes it back.
     void setController(ui::Responder controller) { controller_ = controller; }
@@ -82,6 +88,7 @@ private:
     void layoutSubviews() {}
     void setNeedsLayout();
     void layoutIfNeeded();
+    void layOut();
     void setNeedsDisplay() { layer().setNeedsDisplay(); }
     void drawRect(CGRect) {}
     [[nodiscard]] CGSize sizeThatFits(CGSize) const { return bounds().size; }
@@ -106,6 +113,7 @@ private:
     objc::Copied<ns::String> accessibilityLabel_;
     objc::Copied<ns::String> accessibilityIdentifier_;
     objc::Strong<ns::MutableArray> recognizers_;
+    std::unique_ptr<ViewConstraints> constraints_;
     long tag_ = 0;
     long contentMode_ = 0;
     unsigned long autoresizingMask_ = 0;

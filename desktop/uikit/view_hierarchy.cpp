@@ -2,6 +2,7 @@
 #include "bindings/uikit/view_controller.hpp"
 #include "desktop/coregraphics/affine.hpp"
 #include "desktop/quartzcore/screen_changes.hpp"
+#include "desktop/uikit/constraints/view_constraints.hpp"
 #include "desktop/uikit/view.hpp"
 
 #include <algorithm>
@@ -90,6 +91,7 @@ void View::removeFromSuperview() {
     }
     const objc::Strong<ui::View> kept = self();
     const bool wasInWindow = static_cast<bool>(window());
+    ViewConstraints::dropAcross(self());
     superview_.send<"willRemoveSubview:">(self());
     self().send<"willMoveToSuperview:">(ui::View());
     View& parent = of(superview_);

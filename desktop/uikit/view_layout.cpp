@@ -1,5 +1,6 @@
 // UIView's layout: passes over the tree, sizes to fit, autoresizing, the safe area.
 #include "desktop/quartzcore/screen_changes.hpp"
+#include "desktop/uikit/constraints/layout_engine.hpp"
 #include "desktop/uikit/screen.hpp"
 #include "desktop/uikit/view.hpp"
 
@@ -9,12 +10,33 @@ namespace desktop {
 
 void View::setNeedsLayout() {
     needsLayout_ = true;
+    layout_engine::invalidate();
     ScreenChanges::shared().announce(); // the layout is done before the next drawing
 }
 
+namespace {
+
+// A layout may ask for another one; a few rounds settle what can be settled.
+constexpr int rounds = 4;
+
+} // namespace
+
 void View::layoutIfNeeded() {
-    // A layout may ask for another one; a few rounds settle what can be settled.
-    constexpr int rounds = 4;
+    static bool isUnderWay = false;
+    if (isUnderWay) {
+        layOut(); // constraints are solved for the whole tree at once
+        return;
+    }
+    struct Pass {
+        Pass() { isUnderWay = true; }
+        ~Pass() { isUnderWay = false; }
+    } const pass;
+    for (int round = 0; round < rounds && (layout_engine::update(self()) || round == 0); ++round) {
+        layOut();
+    }
+}
+
+void View::layOut() {
     for (int round = 0; needsLayout_ && round < rounds; ++round) {
         needsLayout_ = false;
         self().layoutSubviews();
