@@ -53,6 +53,8 @@ std::string serialised(const Json& response) {
     return response.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
+} // namespace
+
 std::string answer(Session& session, const std::string& line) {
     const objc::Pool pool;
     Json response{{"ok", false}};
@@ -72,8 +74,6 @@ std::string answer(Session& session, const std::string& line) {
     return serialised(response);
 }
 
-} // namespace
-
 void automate(Streams& streams, Values& values) {
     Session session{values};
     while (!session.quits && !isStopRequested()) {
@@ -87,6 +87,9 @@ void automate(Streams& streams, Values& values) {
             return;
         }
         runWhatIsDue();
+        if (isStopRequested()) { // the wake-up of a stop is lost while work runs
+            return;
+        }
         run_loop::sleep(streams.input(), std::numeric_limits<double>::infinity());
         streams.receive();
     }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/host/values.hpp"
+#include "desktop/runtime/event_log.hpp"
 
 #include <string_view>
 
@@ -38,5 +39,7 @@ using Command = Json (*)(Session& session, const Json& request);
 [[nodiscard]] Json advance(Session& session, const Json& request);
 [[nodiscard]] Json wait(Session& session, const Json& request);
 [[nodiscard]] Json events(Session& session, const Json& request);
+/// An event as the protocol tells it.
+[[nodiscard]] Json toJson(Values& values, const LoggedEvent& event);
 
 } // namespace desktop::host

@@ -15,10 +15,7 @@ namespace {
 
 std::atomic<bool> stopRequested{false};
 
-void requestStop(int) {
-    stopRequested = true;
-    MainQueue::shared().wake(); // only writes to a descriptor
-}
+void requestStop(int) { stop(); }
 
 } // namespace
 
@@ -30,6 +27,11 @@ void watchForStop() {
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
         sigaction(signal, &action, nullptr);
     }
+}
+
+void stop() {
+    stopRequested = true;
+    MainQueue::shared().wake(); // only writes to a descriptor
 }
 
 bool isStopRequested() { return stopRequested; }
@@ -44,9 +46,11 @@ void runWhatIsDue() {
 }
 
 void runUntilStopped() {
+    runWhatIsDue();
+    // Asked right before sleeping: while work runs, the wake-up of a stop is lost.
     while (!isStopRequested()) {
-        runWhatIsDue();
         run_loop::sleep(-1, std::numeric_limits<double>::infinity());
+        runWhatIsDue();
     }
 }
 

@@ -7,6 +7,9 @@ namespace desktop::host {
 /// ends it at once.
 void watchForStop();
 
+/// Asks the process to stop. Any thread.
+void stop();
+
 /// Any thread.
 [[nodiscard]] bool isStopRequested();
 

@@ -12,12 +12,6 @@
 namespace desktop::host {
 namespace {
 
-Json toJson(Values& values, const LoggedEvent& event) {
-    Json entry = values.toJson(event.fields);
-    entry["kind"] = event.kind;
-    return entry;
-}
-
 Json eventsOfKind(Values& values, const std::string& kind) {
     Json list = Json::array();
     for (const LoggedEvent& event : EventLog::shared().events()) {
@@ -40,6 +34,12 @@ Json present(Values& values, const Json& wanted) {
 }
 
 } // namespace
+
+Json toJson(Values& values, const LoggedEvent& event) {
+    Json entry = values.toJson(event.fields);
+    entry["kind"] = event.kind;
+    return entry;
+}
 
 Json advance(Session&, const Json& request) {
     run_loop::advance(secondsArgument(request, "seconds"));

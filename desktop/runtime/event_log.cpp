@@ -11,12 +11,24 @@ EventLog& EventLog::shared() {
 }
 
 void EventLog::record(std::string kind, ns::Dictionary fields) {
-    LoggedEvent event{std::move(kind), objc::Copied<ns::Dictionary>(fields)};
-    const std::scoped_lock lock(mutex_);
-    events_.push_back(std::move(event));
-    if (events_.size() > mostEvents) {
-        events_.pop_front();
+    const LoggedEvent event{std::move(kind), objc::Copied<ns::Dictionary>(fields)};
+    std::function<void(const LoggedEvent&)> watcher;
+    {
+        const std::scoped_lock lock(mutex_);
+        watcher = watcher_;
+        events_.push_back(event);
+        if (events_.size() > mostEvents) {
+            events_.pop_front();
+        }
     }
+    if (watcher) { // not under the lock: it may record something itself
+        watcher(event);
+    }
+}
+
+void EventLog::whenRecorded(std::function<void(const LoggedEvent&)> watcher) {
+    const std::scoped_lock lock(mutex_);
+    watcher_ = std::move(watcher);
 }
 
 std::deque<LoggedEvent> EventLog::events() const {

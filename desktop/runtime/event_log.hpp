@@ -4,6 +4,7 @@
 #include "bindings/foundation/dictionary.hpp"
 
 #include <deque>
+#include <functional>
 #include <mutex>
 #include <string>
 
@@ -23,6 +24,9 @@ public:
     /// Appends an event; `fields`, of property-list values, is copied. Beyond `mostEvents`, the
     /// oldest are forgotten: perhaps nobody is watching.
     void record(std::string kind, ns::Dictionary fields);
+    /// From now on `watcher` is called with each event that is recorded, on the recording thread;
+    /// null: nobody watches.
+    void whenRecorded(std::function<void(const LoggedEvent&)> watcher);
     /// In order.
     [[nodiscard]] std::deque<LoggedEvent> events() const;
     /// The events, in order; the log is empty then.
@@ -33,6 +37,7 @@ public:
 private:
     mutable std::mutex mutex_;
     std::deque<LoggedEvent> events_;
+    std::function<void(const LoggedEvent&)> watcher_;
 };
 
 } // namespace desktop
