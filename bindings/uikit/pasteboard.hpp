@@ -13,6 +13,7 @@ struct Pasteboard : objc::Kind<Pasteboard, "UIPasteboard"> {
     [[nodiscard]] ns::String string() const { return send<"string", ns::String>(); }
     /// Posts UIPasteboardChangedNotification; nil empties the pasteboard.
     void setString(ns::String text) const { send<"setString:">(text); }
+    [[nodiscard]] Image image() const { return send<"image", Image>(); }
     void setImage(Image image) const { send<"setImage:">(image); }
 };
 

@@ -11,10 +11,14 @@
 #include "bindings/objc/pool.hpp"
 #include "desktop/foundation/foundation.hpp"
 #include "desktop/uikit/uikit.hpp"
+#include "desktop/viewer/access.hpp"
+#include "desktop/viewer/listener.hpp"
+#include "desktop/viewer/phone.hpp"
+#include "desktop/viewer/supervisor.hpp"
 
 #include <cstdio>
 #include <dlfcn.h>
-#include <optional>
+#include <functional>
 
 namespace {
 
@@ -69,42 +73,66 @@ void launch(const App& app, const Options& options) {
     app.launch();
 }
 
-void runDevice(const App& app, const Options& options, Streams* automation) {
-    const DeviceFolder device(options.root);
-    watchForStop();
-    Clock::shared().setMode(options.clockMode());
-    const std::string bundle = options.bundle.value_or(app.bundleIdentifier);
-    foundation::install(bundle);
-    recordHappenings();
-    uikit::registerClasses();
-    Values values; // before the library can change how its parts are made
-    launch(app, options);
-    if (automation != nullptr) {
-        automate(*automation, values);
-    } else {
-        std::fprintf(stderr, "Wentra host %s: %s (%s), device folder %s\n", WENTRA_VERSION,
-                     app.name, bundle.c_str(), device.path().c_str());
-        runUntilStopped();
-    }
-    ns::UserDefaults::standard().synchronize();
-}
-
-int run(const Options& options) {
-    const App& app = chosenApp(options);
-    readContent(app, options);
-    std::optional<Streams> streams;
-    if (options.automation) {
-        streams.emplace();
-    }
+/// Brings the device and the application up, lets `drive` run the main thread, and saves what is
+/// to be saved. Gives the exit status.
+int runDevice(const App& app, const Options& options, const std::function<void(Values&)>& drive) {
     const objc::Pool pool;
     try {
-        runDevice(app, options, streams ? &*streams : nullptr);
+        watchForStop();
+        Clock::shared().setMode(options.clockMode());
+        foundation::install(options.bundle.value_or(app.bundleIdentifier));
+        recordHappenings();
+        uikit::registerClasses();
+        Values values; // before the library can change how its parts are made
+        launch(app, options);
+        drive(values);
+        ns::UserDefaults::standard().synchronize();
         return EXIT_SUCCESS;
     } catch (...) {
         const objc::ExceptionText text = objc::describeCurrentException();
         std::fprintf(stderr, "host: %s: %s\n", text.name.c_str(), text.reason.c_str());
         return EXIT_FAILURE;
     }
+}
+
+int runForScript(const App& app, const Options& options) {
+    Streams streams;
+    const DeviceFolder device(options.root);
+    return runDevice(app, options, [&](Values& values) { automate(streams, values); });
+}
+
+int runAlone(const App& app, const Options& options) {
+    const DeviceFolder device(options.root);
+    std::fprintf(stderr, "Wentra host %s: %s, device folder %s\n", WENTRA_VERSION, app.name,
+                 device.path().c_str());
+    return runDevice(app, options, [](Values&) { runUntilStopped(); });
+}
+
+int runForPage(const App& app, const Options& options) {
+    const viewer::Listener listener(options.port);
+    const viewer::Door door{listener.socket(), viewer::freshToken()};
+    const DeviceFolder device(options.root);
+    std::printf("Wentra %s, data folder %s\nhttp://127.0.0.1:%u/%s/\n", WENTRA_VERSION,
+                device.path().c_str(), unsigned{listener.port()}, door.token.c_str());
+    return viewer::supervise(app.name, [&](const viewer::Start& start) {
+        Options asked = options;
+        if (start.application != app.name) {
+            asked.bundle.reset(); // it was given for the first application
+        }
+        return runDevice(*appNamed(start.application), asked, [&](Values& values) {
+            const viewer::Phone phone(door, start, device.path(), values);
+            runUntilStopped();
+        });
+    });
+}
+
+int run(const Options& options) {
+    const App& app = chosenApp(options);
+    readContent(app, options);
+    if (options.automation) {
+        return runForScript(app, options);
+    }
+    return options.viewer ? runForPage(app, options) : runAlone(app, options);
 }
 
 } // namespace
@@ -124,5 +152,8 @@ int main(int count, char** words) {
     } catch (const UsageError& error) {
         std::fprintf(stderr, "%shost: %s\n", usage, error.what());
         return usageFailure;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "host: %s\n", error.what());
+        return EXIT_FAILURE;
     }
 }

@@ -5,13 +5,14 @@
 #include <array>
 #include <cmath>
 #include <cstdlib>
+#include <limits>
 
 namespace desktop::host {
 
 const char* const usage =
     "usage: host [--app NAME] [--bundle ID] [--root DIR] [--library FILE | --no-library]\n"
-    "            [--clock virtual|real] [--automation] [--size WxH@S] [--content FILE]\n"
-    "            [--list-apps] [--help]\n";
+    "            [--clock virtual|real] [--automation | --viewer [--port N]]\n"
+    "            [--size WxH@S] [--content FILE] [--list-apps] [--help]\n";
 
 namespace {
 
@@ -70,12 +71,21 @@ Clock::Mode parseClock(const std::string& text) {
     throw UsageError("--clock " + text + ": neither virtual nor real");
 }
 
+std::uint16_t parsePort(const std::string& text) {
+    const char* at = text.c_str();
+    const double port = measure(at, '\0', std::numeric_limits<std::uint16_t>::max());
+    if (std::isnan(port) || port != std::floor(port)) {
+        throw UsageError("--port " + text + ": not a number from 1 to 65535");
+    }
+    return static_cast<std::uint16_t>(port);
+}
+
 struct Option {
     const char* name;
     void (*read)(Options& options, Words& words);
 };
 
-constexpr std::array<Option, 12> table{{
+constexpr std::array<Option, 14> table{{
     {"--app", [](Options& o, Words& w) { o.application = w.value("--app"); }},
     {"--bundle", [](Options& o, Words& w) { o.bundle = w.value("--bundle"); }},
     {"--root", [](Options& o, Words& w) { o.root = w.value("--root"); }},
@@ -83,6 +93,8 @@ constexpr std::array<Option, 12> table{{
     {"--no-library", [](Options& o, Words&) { o.loadsLibrary = false; }},
     {"--clock", [](Options& o, Words& w) { o.clock = parseClock(w.value("--clock")); }},
     {"--automation", [](Options& o, Words&) { o.automation = true; }},
+    {"--viewer", [](Options& o, Words&) { o.viewer = true; }},
+    {"--port", [](Options& o, Words& w) { o.port = parsePort(w.value("--port")); }},
     {"--size", [](Options& o, Words& w) { o.screen = parseScreen(w.value("--size")); }},
     {"--content", [](Options& o, Words& w) { o.content = w.value("--content"); }},
     {"--list-apps", [](Options& o, Words&) { o.listsApplications = true; }},
@@ -105,6 +117,12 @@ Options parseOptions(std::span<const char* const> words) {
     }
     if (options.library && !options.loadsLibrary) {
         throw UsageError("--no-library contradicts --library");
+    }
+    if (options.viewer && options.automation) {
+        throw UsageError("--viewer contradicts --automation");
+    }
+    if (options.port != 0 && !options.viewer) {
+        throw UsageError("--port is for --viewer");
     }
     return options;
 }

@@ -3,6 +3,7 @@
 
 #include "desktop/runtime/clock.hpp"
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <span>
@@ -30,6 +31,9 @@ struct Options {
     /// None: virtual under automation, else real.
     std::optional<Clock::Mode> clock;
     bool automation = false;
+    /// Shows the phone in a browser page, at this port of the loopback address (0: a free one).
+    bool viewer = false;
+    std::uint16_t port = 0;
     ScreenShape screen;
     /// The file with the screen's texts.
     std::optional<std::filesystem::path> content;

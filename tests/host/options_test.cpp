@@ -26,6 +26,12 @@ TEST(Options, WrongOnesAreToldOnStandardErrorWithStatusTwo) {
              Case{{"--size", "390x844@3x"}, "390x844@3x"},
              Case{{"--no-library", "--library", "x.so"}, "--no-library"},
              Case{{"--app", "plain", "--content", "x.json"}, "--content"},
+             Case{{"--viewer", "--automation"}, "--automation"},
+             Case{{"--port", "8080"}, "--viewer"},
+             Case{{"--viewer", "--port", "0"}, "--port 0"},
+             Case{{"--viewer", "--port", "65536"}, "65536"},
+             Case{{"--viewer", "--port", "80.5"}, "80.5"},
+             Case{{"--viewer", "--port", "nan"}, "nan"},
              Case{{"--content", "/nonexistent.json"}, "/nonexistent.json"},
          }) {
         HostProcess host = hostWith(options);

@@ -1,0 +1,42 @@
+// Listening to the event log.
+#include "desktop/viewer/event_feed.hpp"
+
+#include "bindings/objc/pool.hpp"
+#include "desktop/runtime/main_queue.hpp"
+
+namespace desktop::viewer {
+
+EventFeed::EventFeed(host::Values& values, std::function<void(const host::Json&)> tell)
+    : values_(values), tell_(std::move(tell)), self_(std::make_shared<EventFeed*>(this)) {
+    EventLog::shared().whenRecorded([weak = std::weak_ptr(self_)](const LoggedEvent& event) {
+        MainQueue::shared().add([weak, event] {
+            if (const auto self = weak.lock()) {
+                (*self)->add(event);
+            }
+        });
+    });
+}
+
+EventFeed::~EventFeed() { EventLog::shared().whenRecorded(nullptr); }
+
+void EventFeed::add(const LoggedEvent& event) {
+    const objc::Pool pool;
+    host::Json entry = host::toJson(values_, event);
+    entry["number"] = ++last_;
+    tell_(events_.emplace_back(std::move(entry)));
+    if (events_.size() > mostEvents) {
+        events_.pop_front();
+    }
+}
+
+std::string EventFeed::fileOf(const std::string& number) const {
+    for (const host::Json& event : events_) {
+        if (std::to_string(event.at("number").get<std::uint64_t>()) == number) {
+            const auto file = event.find("file");
+            return file != event.end() && file->is_string() ? file->get<std::string>() : "";
+        }
+    }
+    return {};
+}
+
+} // namespace desktop::viewer

@@ -1,0 +1,96 @@
+// @ts-check
+// The connection with the phone: one WebSocket, opened again whenever it is lost.
+
+/** The server closes with this code when another page takes over. */
+const takenOver = 4001;
+const retryMilliseconds = 700;
+
+/**
+ * Dispatches a CustomEvent for each message of the phone, named by its type, with the message as
+ * its detail; "frame" with the bytes of a frame; and "state" with "connecting", "connected" or
+ * "taken" whenever that changes.
+ */
+export class Connection extends EventTarget {
+    /** @type {WebSocket | null} */
+    #socket = null;
+    /** @type {Map<number, {resolve: (result: any) => void, reject: (error: Error) => void}>} */
+    #asked = new Map();
+    #lastId = 0;
+
+    open() {
+        this.#tell("state", "connecting");
+        const address = new URL("socket", location.href);
+        address.protocol = "ws:";
+        const socket = new WebSocket(address);
+        socket.binaryType = "arraybuffer";
+        socket.onmessage = ({ data }) => this.#receive(data);
+        socket.onopen = () => this.#tell("state", "connected");
+        socket.onclose = ({ code }) => this.#closed(code);
+        this.#socket = socket;
+    }
+
+    /** Sends a message; it is lost while there is no connection. */
+    send(/** @type {object} */ message) {
+        if (this.#socket?.readyState === WebSocket.OPEN) {
+            this.#socket.send(JSON.stringify(message));
+        }
+    }
+
+    /**
+     * Carries out a command of the automation protocol.
+     * @param {string} command
+     * @param {object} [given] its arguments
+     * @returns {Promise<any>} its result; rejected with what the phone says against it
+     */
+    ask(command, given = {}) {
+        return new Promise((resolve, reject) => {
+            if (this.#socket?.readyState !== WebSocket.OPEN) {
+                reject(new Error("not connected"));
+                return;
+            }
+            const id = ++this.#lastId;
+            this.#asked.set(id, { resolve, reject });
+            this.send({ type: "ask", request: { do: command, ...given, id } });
+        });
+    }
+
+    #receive(/** @type {string | ArrayBuffer} */ data) {
+        if (data instanceof ArrayBuffer) {
+            this.#tell("frame", data);
+            return;
+        }
+        const message = JSON.parse(data);
+        if (message.type === "answer") {
+            this.#answered(message.response);
+        } else {
+            this.#tell(message.type, message);
+        }
+    }
+
+    #answered(/** @type {{id: number, ok: boolean, result?: any, error?: string}} */ response) {
+        const waiting = this.#asked.get(response.id);
+        this.#asked.delete(response.id);
+        if (response.ok) {
+            waiting?.resolve(response.result);
+        } else {
+            waiting?.reject(new Error(response.error));
+        }
+    }
+
+    #closed(/** @type {number} */ code) {
+        for (const { reject } of this.#asked.values()) {
+            reject(new Error("the connection was lost"));
+        }
+        this.#asked.clear();
+        if (code === takenOver) {
+            this.#tell("state", "taken");
+        } else {
+            this.#tell("state", "connecting");
+            setTimeout(() => this.open(), retryMilliseconds);
+        }
+    }
+
+    #tell(/** @type {string} */ name, /** @type {any} */ detail) {
+        this.dispatchEvent(new CustomEvent(name, { detail }));
+    }
+}

@@ -1,0 +1,193 @@
+// @ts-check
+// Puts the page together.
+import { Connection } from "./connection.js";
+import { element } from "./element.js";
+import { Fingers } from "./fingers.js";
+import { showHelp } from "./help.js";
+import { typeInto } from "./keyboard.js";
+import { applicationsPanel } from "./panels/applications.js";
+import { eventsPanel } from "./panels/events.js";
+import { pasteboardPanel } from "./panels/pasteboard.js";
+import { preferencesPanel } from "./panels/preferences.js";
+import { rulesPanel } from "./panels/rules.js";
+import { Screen } from "./screen.js";
+import { language, switchLanguage, word } from "./words.js";
+
+/** @template {HTMLElement} T @param {string} id @returns {T} */
+const part = (id) => /** @type {T} */ (document.getElementById(id));
+
+/** A panel, and what it has to be told: that the phone came up, or that it comes into view. */
+/** @typedef {{panel: HTMLElement, welcome?: (phone: any) => void, refresh?: () => any}} Panel */
+
+const connection = new Connection();
+const screen = new Screen(part("screen"), connection);
+const field = /** @type {HTMLTextAreaElement} */ (part("keyboard"));
+
+/** Shows the words of the page that stand in its HTML. */
+function showWords() {
+    document.documentElement.lang = language === "zh" ? "zh-CN" : "en";
+    for (const worded of document.querySelectorAll("[data-word]")) {
+        worded.textContent = word(worded.getAttribute("data-word") ?? "");
+    }
+    for (const labelled of document.querySelectorAll("[data-label]")) {
+        labelled.setAttribute("aria-label", word(labelled.getAttribute("data-label") ?? ""));
+    }
+}
+
+/** Tabs as assistive technology knows them: arrows move, one tab is in the order of Tab. */
+function makeTabs(/** @type {Record<string, Panel>} */ panels) {
+    const tabs = Object.keys(panels).map((name) =>
+        element(
+            "button",
+            { role: "tab", id: `tab-${name}`, "aria-controls": `panel-${name}`, onclick: () => choose(name) },
+            word(name),
+        ),
+    );
+    const choose = (/** @type {string} */ chosen) => {
+        for (const tab of tabs) {
+            const isChosen = tab.id === `tab-${chosen}`;
+            tab.setAttribute("aria-selected", String(isChosen));
+            tab.tabIndex = isChosen ? 0 : -1;
+        }
+        for (const [name, { panel }] of Object.entries(panels)) {
+            panel.hidden = name !== chosen;
+        }
+        sessionStorage.setItem("panel", chosen);
+        attempt(panels[chosen].refresh);
+    };
+    for (const [name, { panel }] of Object.entries(panels)) {
+        panel.id = `panel-${name}`;
+        panel.setAttribute("role", "tabpanel");
+        panel.setAttribute("aria-labelledby", `tab-${name}`);
+    }
+    part("tabs").replaceChildren(...tabs);
+    part("tabs").onkeydown = ({ key }) => {
+        const step = key === "ArrowRight" ? 1 : key === "ArrowLeft" ? -1 : 0;
+        const present = tabs.findIndex((tab) => tab === document.activeElement);
+        if (step !== 0 && present >= 0) {
+            const next = tabs[(present + step + tabs.length) % tabs.length];
+            next.focus();
+            next.click();
+        }
+    };
+    part("panels").replaceChildren(...Object.values(panels).map(({ panel }) => panel));
+    const remembered = sessionStorage.getItem("panel") ?? "";
+    choose(remembered in panels ? remembered : Object.keys(panels)[0]);
+}
+
+/** Does what may fail and tells if it does. */
+async function attempt(/** @type {(() => any) | undefined} */ work) {
+    try {
+        await work?.();
+    } catch (error) {
+        if (connectionState === "connected") {
+            tell(word("failed") + /** @type {Error} */ (error).message);
+        }
+    }
+}
+
+function tell(/** @type {string} */ text) {
+    const note = part("note");
+    note.textContent = text;
+    note.hidden = false;
+    setTimeout(() => {
+        note.hidden = true;
+    }, 6000);
+}
+
+let connectionState = "connecting";
+/** @type {any} */
+let phone = null;
+/** @type {any[]} */
+let events = [];
+/** @type {Record<string, Panel>} */
+let panels = {};
+
+function showState() {
+    const veil = part("veil");
+    veil.hidden = connectionState === "connected";
+    part("veil-text").textContent = word(connectionState === "taken" ? "taken" : "connecting");
+    part("take-back").hidden = connectionState !== "taken";
+}
+
+function showPage() {
+    const eventList = eventsPanel();
+    panels = {
+        applications: applicationsPanel(connection),
+        preferences: preferencesPanel(connection),
+        rules: rulesPanel(connection),
+        pasteboard: pasteboardPanel(connection),
+        events: eventList,
+    };
+    showWords();
+    showState();
+    makeTabs(panels);
+    eventList.add(events);
+    if (phone) {
+        panels.applications.welcome?.(phone);
+    }
+    connection.removeEventListener("events", showEvents);
+    showEvents = (event) => {
+        const added = /** @type {CustomEvent} */ (event).detail.events;
+        events = events.concat(added).slice(-1000);
+        eventList.add(added);
+    };
+    connection.addEventListener("events", showEvents);
+}
+
+/** @type {(event: Event) => void} */
+let showEvents = () => {};
+
+function fitScreen() {
+    const room = part("stage").getBoundingClientRect();
+    const frame = 28; // the phone's edge, on both sides
+    screen.fitInto(room.width - frame, room.height - frame);
+}
+
+connection.addEventListener("state", (event) => {
+    connectionState = /** @type {CustomEvent} */ (event).detail;
+    showState();
+});
+connection.addEventListener("welcome", (event) => {
+    phone = /** @type {CustomEvent} */ (event).detail;
+    events = [];
+    document.title = `${word(phone.application)} — Wentra`;
+    showPage();
+    fitScreen();
+});
+connection.addEventListener("refused", (event) => {
+    tell(word("failed") + /** @type {CustomEvent} */ (event).detail.why);
+});
+
+new Fingers(part("glass"), part("marks"), screen, connection);
+typeInto(field, part("help"), connection);
+part("glass").addEventListener("pointerdown", () => field.focus({ preventScroll: true }));
+part("take-back").onclick = () => connection.open();
+part("help").onclick = showHelp;
+part("language").onclick = () => {
+    switchLanguage();
+    showPage();
+};
+field.addEventListener("focus", () => {
+    part("typing").textContent = word("typingOn");
+});
+field.addEventListener("blur", () => {
+    part("typing").textContent = word("typingOff");
+});
+window.addEventListener("keydown", (event) => {
+    const types = event.target instanceof HTMLInputElement || event.target instanceof HTMLTextAreaElement;
+    if (event.key === "?" && !types) {
+        showHelp();
+    }
+});
+window.addEventListener("focus", () => {
+    const shown = Object.values(panels).find(({ panel }) => !panel.hidden);
+    attempt(shown?.refresh);
+});
+new ResizeObserver(fitScreen).observe(part("stage"));
+
+showPage();
+connection.open();
+
+// For the browser's console and for tests.
+Object.assign(window, { wentra: { connection, screen } });

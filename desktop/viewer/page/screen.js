@@ -1,0 +1,111 @@
+// @ts-check
+// The phone's screen on a canvas: as sharp as the display allows, drawn patch by patch.
+
+/** @typedef {import("./connection.js").Connection} Connection */
+
+/**
+ * Reads a frame; frame.hpp tells its form.
+ * @param {ArrayBuffer} bytes
+ */
+export function readFrame(bytes) {
+    const view = new DataView(bytes);
+    const frame = {
+        number: view.getUint32(0, true),
+        width: view.getUint16(4, true),
+        height: view.getUint16(6, true),
+        /** @type {{x: number, y: number, png: Blob}[]} */
+        patches: [],
+    };
+    for (let at = 8; at < bytes.byteLength;) {
+        const length = view.getUint32(at + 8, true);
+        const png = new Blob([new Uint8Array(bytes, at + 12, length)], { type: "image/png" });
+        frame.patches.push({ x: view.getUint16(at, true), y: view.getUint16(at + 2, true), png });
+        at += 12 + length;
+    }
+    return frame;
+}
+
+/** Keeps a canvas like the phone's screen, and as large as its surroundings allow. */
+export class Screen {
+    /** Points of the phone, as the phone tells them. */
+    size = { width: 390, height: 844 };
+    /** CSS pixels a point. */
+    zoom = 1;
+    /** How many frames have been drawn. */
+    frames = 0;
+
+    #canvas;
+    #connection;
+    #context;
+    #lastFrame = Promise.resolve();
+    #shownScale = 0;
+
+    /**
+     * @param {HTMLCanvasElement} canvas
+     * @param {Connection} connection
+     */
+    constructor(canvas, connection) {
+        this.#canvas = canvas;
+        this.#connection = connection;
+        const context = canvas.getContext("2d", { alpha: false });
+        if (!context) {
+            throw new Error("this browser draws no canvas");
+        }
+        this.#context = context;
+        connection.addEventListener("frame", (event) => {
+            const { detail } = /** @type {CustomEvent<ArrayBuffer>} */ (event);
+            this.#lastFrame = this.#lastFrame.then(() => this.#show(detail)).catch(console.error);
+        });
+        connection.addEventListener("welcome", (event) => {
+            this.size = /** @type {CustomEvent} */ (event).detail.screen;
+            this.#shownScale = 0;
+            this.fit();
+        });
+    }
+
+    /** Takes the room that there is, in CSS pixels, but not more than a point for a point. */
+    fitInto(/** @type {number} */ width, /** @type {number} */ height) {
+        this.zoom = Math.max(
+            0.3,
+            Math.min(1.25, width / this.size.width, height / this.size.height),
+        );
+        this.fit();
+    }
+
+    /** Asks for as many pixels as the display has for the canvas, but not more than a phone has. */
+    fit() {
+        const wanted = Math.min(3, Math.max(0.5, this.zoom * devicePixelRatio));
+        document.documentElement.style.setProperty("--zoom", String(this.zoom));
+        this.#canvas.style.width = `${this.size.width * this.zoom}px`;
+        this.#canvas.style.height = `${this.size.height * this.zoom}px`;
+        if (wanted !== this.#shownScale) {
+            this.#shownScale = wanted;
+            this.#connection.send({ type: "look", scale: wanted });
+        }
+    }
+
+    /** A point of the screen, from a place in the window. */
+    pointAt(/** @type {{clientX: number, clientY: number}} */ { clientX, clientY }) {
+        const box = this.#canvas.getBoundingClientRect();
+        const round = (/** @type {number} */ value) => Math.round(value * 100) / 100;
+        return {
+            x: round((clientX - box.left) / this.zoom),
+            y: round((clientY - box.top) / this.zoom),
+        };
+    }
+
+    async #show(/** @type {ArrayBuffer} */ bytes) {
+        const frame = readFrame(bytes);
+        const pictures = await Promise.all(frame.patches.map(({ png }) => createImageBitmap(png)));
+        if (this.#canvas.width !== frame.width || this.#canvas.height !== frame.height) {
+            this.#canvas.width = frame.width;
+            this.#canvas.height = frame.height;
+        }
+        frame.patches.forEach(({ x, y }, index) => {
+            this.#context.drawImage(pictures[index], x, y);
+            pictures[index].close();
+        });
+        this.frames += 1;
+        this.#connection.send({ type: "seen", picture: frame.number });
+    }
+}

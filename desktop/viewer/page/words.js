@@ -1,0 +1,99 @@
+// @ts-check
+// The page's words in Chinese and English.
+
+/** @typedef {"zh" | "en"} Language */
+
+/** @type {Record<string, [zh: string, en: string]>} */
+const words = {
+    phone: ["手机屏幕", "Phone screen"],
+    typing: ["键盘输入", "Typing"],
+    typingOn: ["正在向手机输入 · Esc 退出", "Typing goes to the phone · Esc leaves"],
+    typingOff: ["点按屏幕后即可输入", "Click the phone to type"],
+    screenshot: ["截图", "Screenshot"],
+    help: ["键盘与手势", "Keys and gestures"],
+    language: ["English", "中文"],
+    panels: ["面板", "Panels"],
+    applications: ["应用", "Apps"],
+    preferences: ["设置", "Preferences"],
+    rules: ["规则", "Rules"],
+    pasteboard: ["剪贴板", "Pasteboard"],
+    events: ["事件", "Events"],
+    connecting: ["正在连接手机…", "Connecting to the phone…"],
+    taken: ["手机已在另一个页面中打开", "The phone is open in another page"],
+    takeBack: ["在此页面继续使用", "Use it here"],
+    crashed: [
+        "应用刚刚崩溃，已经重新启动；原因见终端。",
+        "The application crashed and was started again; the terminal tells why.",
+    ],
+    applicationsHint: [
+        "切换应用会重新启动它；手机上的文件和设置保留。",
+        "Switching starts the application anew; the phone's files and settings stay.",
+    ],
+    open: ["打开", "Open"],
+    restart: ["重新启动", "Restart"],
+    running: ["运行中", "Running"],
+    version: ["版本", "Version"],
+    folder: ["数据文件夹", "Data folder"],
+    screen: ["屏幕", "Screen"],
+    notes: ["备忘录", "Notes"],
+    settings: ["系统设置", "Settings"],
+    chat: ["聊天", "Chat"],
+    plain: ["空白应用", "Plain"],
+    search: ["搜索设置", "Search preferences"],
+    preferencesHint: [
+        "改动立即写入手机的设置文件，应用下次读取时生效。",
+        "Changes are written to the phone's preference file at once; the next read sees them.",
+    ],
+    nothingFound: ["没有匹配的设置", "No preference matches"],
+    rulesHint: [
+        "此应用保存的文字替换规则；在手机上长按即可编辑。",
+        "The replacement rules that this application has stored; a long press on the phone edits them.",
+    ],
+    noRules: ["还没有规则", "No rules yet"],
+    text: ["文字", "Text"],
+    colour: ["颜色", "Colour"],
+    size: ["字号", "Font size"],
+    height: ["高度", "Height"],
+    width: ["宽度", "Width"],
+    horizontal: ["横向位移", "Horizontal"],
+    vertical: ["纵向位移", "Vertical"],
+    alpha: ["透明度", "Transparency"],
+    font: ["字体", "Font"],
+    pasteboardText: ["剪贴板上的文字", "Text on the pasteboard"],
+    pasteboardEmpty: ["剪贴板上没有文字", "There is no text on the pasteboard"],
+    newText: ["要放入剪贴板的文字", "Text to put on the pasteboard"],
+    putText: ["放入剪贴板", "Put on the pasteboard"],
+    putImage: ["放入图片…", "Put a picture…"],
+    pasteboardImage: ["剪贴板上的图片", "Picture on the pasteboard"],
+    noEvents: ["还没有事件", "Nothing has happened yet"],
+    eventsHint: [
+        "手机对外做的事：打开的网址、声音、朗读、分享、网络请求和日志。",
+        "What the phone did to the outside: opened addresses, sounds, speech, shares, requests and log lines.",
+    ],
+    allEvents: ["全部", "All"],
+    download: ["下载", "Download"],
+    close: ["关闭", "Close"],
+    failed: ["没有成功：", "That failed: "],
+};
+
+const stored = localStorage.getItem("language");
+
+/** @type {Language} */
+export let language =
+    stored === "zh" || stored === "en"
+        ? stored
+        : navigator.language.toLowerCase().startsWith("zh")
+            ? "zh"
+            : "en";
+
+/** The word in the language of the page; a name that is none is its own word. */
+export function word(/** @type {string} */ name) {
+    const both = words[name];
+    return both ? both[language === "zh" ? 0 : 1] : name;
+}
+
+/** Remembers the other language; the page is then to be shown anew. */
+export function switchLanguage() {
+    language = language === "zh" ? "en" : "zh";
+    localStorage.setItem("language", language);
+}

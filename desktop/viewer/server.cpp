@@ -1,0 +1,216 @@
+// Accepting connections, checking who asks, answering.
+#include "desktop/viewer/server.hpp"
+
+#include "desktop/viewer/access.hpp"
+#include "desktop/viewer/page_connection.hpp"
+
+#include <boost/asio/io_context.hpp>
+#include <boost/asio/post.hpp>
+#include <boost/beast/http.hpp>
+#include <boost/beast/websocket/rfc6455.hpp>
+
+#include <chrono>
+#include <map>
+#include <thread>
+
+namespace desktop::viewer {
+namespace {
+
+namespace asio = boost::asio;
+namespace beast = boost::beast;
+namespace http = beast::http;
+using asio::ip::tcp;
+using Failure = beast::error_code;
+using HttpResponse = http::response<http::string_body>;
+
+std::string_view view(beast::string_view text) { return {text.data(), text.size()}; }
+
+Answer refusal(http::status status, std::string why) {
+    return {static_cast<unsigned>(status), "text/plain; charset=utf-8", std::move(why) + "\n"};
+}
+
+/// What every answer says: nothing from elsewhere is run, shown or told.
+void secure(HttpResponse& response) {
+    response.set("Content-Security-Policy",
+                 "default-src 'none'; script-src 'self'; style-src 'self'; "
+                 "img-src 'self' blob: data:; media-src 'self' blob:; "
+                 "connect-src 'self' ws://127.0.0.1:* ws://localhost:*; "
+                 "base-uri 'none'; form-action 'none'; frame-ancestors 'none'");
+    response.set("X-Content-Type-Options", "nosniff");
+    response.set("Referrer-Policy", "no-referrer");
+    response.set(http::field::cache_control, "no-store");
+    response.set("Cross-Origin-Resource-Policy", "same-origin");
+    response.set("Cross-Origin-Opener-Policy", "same-origin");
+}
+
+} // namespace
+
+/// Everything that belongs to the server's thread.
+struct Server::Room {
+    class Visit;
+
+    Room(int socket, std::string secret, ServerListener told)
+        : acceptor(context, tcp::v4(), socket), token(std::move(secret)),
+          listener(std::move(told)) {}
+
+    void accept();
+    void welcome(tcp::socket socket, const HttpRequest& request);
+    /// The connection with that page, when it still is the present one.
+    [[nodiscard]] PageConnection* present(PageNumber number) const {
+        return page && page->number() == number ? page.get() : nullptr;
+    }
+
+    asio::io_context context{1};
+    tcp::acceptor acceptor;
+    std::string token;
+    ServerListener listener;
+    std::shared_ptr<PageConnection> page;
+    PageNumber pages = 0;
+    std::map<FetchNumber, std::shared_ptr<Visit>> waiting;
+    FetchNumber fetches = 0;
+    std::thread thread; // last: it uses all of the above
+};
+
+/// A connection that asks for files, one after the other.
+class Server::Room::Visit : public std::enable_shared_from_this<Visit> {
+public:
+    Visit(tcp::socket socket, Room& room) : stream_(std::move(socket)), room_(room) {}
+
+    void read() {
+        constexpr std::uint32_t longestHeader = 8192;
+        constexpr std::chrono::seconds patience(30);
+        parser_.emplace();
+        parser_->header_limit(longestHeader);
+        stream_.expires_after(patience);
+        http::async_read(stream_, buffer_, *parser_,
+                         [self = shared_from_this()](Failure failure, std::size_t) {
+                             if (!failure) {
+                                 self->respond(self->parser_->get());
+                             } else if (failure == http::error::body_limit ||
+                                        failure == http::error::header_limit ||
+                                        failure == http::error::unexpected_body) {
+                                 self->keepsAlive_ = false;
+                                 self->send(refusal(http::status::bad_request, "too much"));
+                             }
+                         });
+    }
+
+    void send(const Answer& answer) {
+        response_.emplace(http::int_to_status(answer.status), 11);
+        response_->set(http::field::content_type, answer.type);
+        secure(*response_);
+        response_->keep_alive(keepsAlive_);
+        response_->body() = answer.content;
+        response_->prepare_payload();
+        http::async_write(stream_, *response_,
+                          [self = shared_from_this()](Failure failure, std::size_t) {
+                              if (!failure && self->keepsAlive_) {
+                                  self->read();
+                              }
+                          });
+    }
+
+private:
+    void respond(const HttpRequest& request) {
+        keepsAlive_ = request.keep_alive();
+        const std::string_view host = view(request[http::field::host]);
+        const std::string target(view(request.target()));
+        if (!isLoopbackHost(host)) {
+            send(refusal(http::status::forbidden, "this address is for this machine only"));
+        } else if (const char* name = afterToken(target, room_.token); name == nullptr) {
+            send(refusal(http::status::forbidden,
+                         "this is not the address that was printed at the start"));
+        } else if (request.method() != http::verb::get) {
+            send(refusal(http::status::method_not_allowed, "only GET is known"));
+        } else if (std::string_view(name) == "socket") {
+            connect(request, host);
+        } else if (const auto file = pageFile(name)) {
+            send(*file);
+        } else {
+            room_.waiting.emplace(++room_.fetches, shared_from_this());
+            room_.listener.fetched(room_.fetches, name);
+        }
+    }
+
+    void connect(const HttpRequest& request, std::string_view host) {
+        if (!beast::websocket::is_upgrade(request)) {
+            send(refusal(http::status::bad_request, "this path is for WebSocket connections"));
+        } else if (!isSameOrigin(view(request[http::field::origin]), host)) {
+            send(refusal(http::status::forbidden, "the page came from elsewhere"));
+        } else {
+            room_.welcome(stream_.release_socket(), request);
+        }
+    }
+
+    beast::tcp_stream stream_;
+    Room& room_;
+    beast::flat_buffer buffer_;
+    std::optional<http::request_parser<http::empty_body>> parser_;
+    std::optional<HttpResponse> response_;
+    bool keepsAlive_ = false;
+};
+
+void Server::Room::accept() {
+    acceptor.async_accept([this](Failure failure, tcp::socket socket) {
+        if (!failure) {
+            socket.set_option(tcp::no_delay(true), failure);
+            std::make_shared<Visit>(std::move(socket), *this)->read();
+        }
+        if (acceptor.is_open()) {
+            accept();
+        }
+    });
+}
+
+void Server::Room::welcome(tcp::socket socket, const HttpRequest& request) {
+    if (page) {
+        page->yieldToAnother();
+    }
+    page = std::make_shared<PageConnection>(std::move(socket), ++pages, listener);
+    page->accept(request);
+}
+
+Server::Server(int socket, std::string token, ServerListener listener)
+    : room_(std::make_unique<Room>(socket, std::move(token), std::move(listener))) {
+    room_->accept();
+    room_->thread = std::thread([room = room_.get()] { room->context.run(); });
+}
+
+Server::~Server() {
+    room_->context.stop();
+    room_->thread.join();
+}
+
+void Server::send(PageNumber number, std::string text) {
+    asio::post(room_->context, [room = room_.get(), number, text = std::move(text)]() mutable {
+        if (PageConnection* page = room->present(number)) {
+            page->send(std::move(text));
+        }
+    });
+}
+
+void Server::send(PageNumber number, Bytes bytes) {
+    asio::post(room_->context, [room = room_.get(), number, bytes = std::move(bytes)]() mutable {
+        if (PageConnection* page = room->present(number)) {
+            page->send(std::move(bytes));
+        }
+    });
+}
+
+void Server::handled(PageNumber number) {
+    asio::post(room_->context, [room = room_.get(), number] {
+        if (PageConnection* page = room->present(number)) {
+            page->handled();
+        }
+    });
+}
+
+void Server::answer(FetchNumber fetch, Answer answer) {
+    asio::post(room_->context, [room = room_.get(), fetch, answer = std::move(answer)] {
+        if (const auto visit = room->waiting.extract(fetch)) {
+            visit.mapped()->send(answer);
+        }
+    });
+}
+
+} // namespace desktop::viewer

@@ -1,0 +1,43 @@
+// Children that end, crash or name their successors.
+#include "desktop/viewer/supervisor.hpp"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <cstdlib>
+
+namespace {
+
+using namespace desktop::viewer;
+
+TEST(Supervisor, GivesTheStatusOfAnOrdinaryEnd) {
+    EXPECT_EQ(supervise("one", [](const Start&) { return 0; }), 0);
+    EXPECT_EQ(supervise("one", [](const Start&) { return 3; }), 3);
+}
+
+TEST(Supervisor, StartsTheNamedSuccessor) {
+    const auto phone = [](const Start& start) {
+        if (start.application == "one") {
+            nameSuccessor(start, "two");
+            return 5;
+        }
+        return start.application == "two" && !start.afterCrash ? 7 : 8;
+    };
+    EXPECT_EQ(supervise("one", phone), 7);
+}
+
+TEST(Supervisor, StartsAgainAfterACrash) {
+    const auto phone = [](const Start& start) {
+        if (!start.afterCrash) {
+            raise(SIGKILL);
+        }
+        return start.application == "one" ? 9 : 8;
+    };
+    EXPECT_EQ(supervise("one", phone), 9);
+}
+
+TEST(Supervisor, GivesUpWhatCrashesAgainAndAgain) {
+    EXPECT_EQ(supervise("one", [](const Start&) { return raise(SIGKILL); }), EXIT_FAILURE);
+}
+
+} // namespace
