@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs the missing Debian packages of the given groups: build (default), format, lint, fuzz, package.
+# Installs the missing Debian packages of the given groups: build (default), browser, format, lint, fuzz, package.
 set -euo pipefail
 
 # Group, package, and what the package is needed for.
@@ -21,6 +21,7 @@ build  libcurl4-openssl-dev     loads over HTTP and HTTPS
 build  libssl-dev               certificates and digests of the local services
 build  libboost1.81-dev         the web servers of the desktop
 build  libespeak-ng-dev         speaks
+build  zlib1g-dev               packs the pictures for the browser page
 build  libgtest-dev             unit tests
 build  libbenchmark-dev         benchmarks
 build  fonts-inter              Latin text
@@ -29,6 +30,9 @@ build  fonts-noto-color-emoji   emoji
 build  fonts-dejavu-core        serif and monospaced faces
 build  fonts-dejavu-extra       italic and condensed faces
 build  python3                  runs the tour
+browser chromium                shows the page in tests
+browser nodejs                  runs the tests of the page
+browser npm                     fetches what those tests need
 format clang-format             formats the sources
 lint   clang-tidy               finds faults in the sources
 lint   shellcheck               finds faults in the scripts
@@ -46,8 +50,10 @@ fail() {
     exit 1
 }
 
+# By Debian, or, for a command of the package's name, from elsewhere.
 is_installed() {
-    [[ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" == installed ]]
+    [[ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" == installed ]] ||
+        command -v "$1" >/dev/null
 }
 
 as_root() {

@@ -1,18 +1,47 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and shows Wentra at work: ./dev run [--tour].
+# Installs what is missing, builds, and shows the phone in a browser page: ./dev run [--tour | --help | OPTIONS].
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-case "${1:---tour}" in
---tour) ;;
-*)
-    printf 'run: unknown argument: %s (only --tour is known)\n' "$1" >&2
+usage='usage: ./dev run [--app NAME] [--root DIR] [--port N]
+       ./dev run --tour
+
+Shows the phone in a browser page, at the address that is printed; Ctrl-C ends it.
+  --app NAME   the application that runs first (notes, settings, chat, plain; default: notes)
+  --root DIR   the folder that keeps the phone'"'"'s files (default: a fresh one, removed at the end)
+  --port N     the port of the loopback address, 1 to 65535 (default: a free one)
+  --tour       plays the main road without a browser and leaves screenshots
+  --help       prints this'
+
+refuse() {
+    printf '%s\nrun: %s\n' "$usage" "$1" >&2
     exit 2
-    ;;
-esac
+}
+
+tour=false
+options=()
+while [[ $# -gt 0 ]]; do
+    case "$1" in
+    --help | -h)
+        printf '%s\n' "$usage"
+        exit 0
+        ;;
+    --tour) tour=true ;;
+    --app | --root | --port)
+        [[ $# -ge 2 ]] || refuse "$1 needs a value"
+        options+=("$1" "$2")
+        shift
+        ;;
+    *) refuse "unknown argument: $1" ;;
+    esac
+    shift
+done
+if "$tour" && [[ ${#options[@]} -gt 0 ]]; then
+    refuse '--tour has no options'
+fi
 
 scripts/build.sh release host Wentra
-if [[ $# == 0 ]]; then
-    printf 'The interactive phone is still to come; this is the tour (./dev run --tour).\n'
+if "$tour"; then
+    exec python3 scripts/tour.py
 fi
-exec python3 scripts/tour.py
+exec build/release/bin/host --viewer "${options[@]}"

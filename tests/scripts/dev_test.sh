@@ -17,7 +17,7 @@ run() {
 run "$root/dev"
 [[ $status == 0 ]] || fail "./dev alone exits with $status"
 list="$output"
-for word in run build test bench fuzz host package format lint help; do
+for word in run build test browser bench fuzz host package format lint help; do
     grep -Eq "^  $word +[A-Z].*\.$" <<<"$list" || fail "the list does not describe $word"
 done
 run "$root/dev" help

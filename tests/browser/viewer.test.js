@@ -1,0 +1,226 @@
+// The phone in the page: seen, touched, taken over, lost and found again.
+import assert from "node:assert/strict";
+import { after, before, test } from "node:test";
+import { Host, openBrowser, Phone } from "./phone.js";
+
+/** @type {import("playwright-core").Browser} */
+let browser;
+/** @type {Host} */
+let host;
+
+before(async () => {
+    browser = await openBrowser();
+    host = await Host.start("--app", "plain");
+});
+
+after(async () => {
+    await browser?.close();
+    await host?.stop();
+});
+
+test("the screen shows the application", async () => {
+    const phone = await Phone.open(browser, host.address);
+    const label = await phone.showing("Hello, world");
+    assert.ok(await phone.coloursIn(label.rect) > 10, "the label's text is drawn");
+    assert.ok(await phone.coloursIn([10, 700, 40, 40]) < 3, "there is nothing at the bottom left");
+    assert.deepEqual(phone.complaints, []);
+    await phone.close();
+});
+
+test("what changes is drawn anew, and nothing while nothing changes", async () => {
+    const phone = await Phone.open(browser, host.address);
+    const [window] = await phone.tree();
+    const root = window.children[0];
+    const red = await phone.do("send", { to: { class: "UIColor" }, selector: "redColor" });
+    const drawn = await phone.frames();
+    await phone.do("send", { to: root, selector: "setBackgroundColor:", args: [red] });
+    await phone.page.waitForFunction((before) => window.wentra.screen.frames > before, drawn);
+    assert.deepEqual(await phone.colourAt([20, 700]), [255, 0, 0]);
+
+    const still = await phone.frames();
+    await phone.page.waitForTimeout(600);
+    assert.equal(await phone.frames(), still);
+    await phone.close();
+});
+
+/** A view of the class in front of everything else on the phone. */
+async function addView(phone, className, frame) {
+    const allocated = await phone.do("send", { to: { class: className }, selector: "alloc" });
+    const view = await phone.do("send", {
+        to: allocated, selector: "initWithFrame:", args: [{ rect: frame }],
+    });
+    const [window] = await phone.tree();
+    await phone.do("send", { to: window, selector: "addSubview:", args: [view] });
+    return view;
+}
+
+async function addRecognizer(phone, view, className, target, action) {
+    const allocated = await phone.do("send", { to: { class: className }, selector: "alloc" });
+    const recognizer = await phone.do("send", {
+        to: allocated, selector: "initWithTarget:action:", args: [target, { selector: action }],
+    });
+    await phone.do("send", { to: view, selector: "addGestureRecognizer:", args: [recognizer] });
+    return recognizer;
+}
+
+test("a click taps, and a held button presses", async () => {
+    const phone = await Phone.open(browser, host.address);
+    for (const [recognizer, act] of [
+        ["UITapGestureRecognizer", (point) => phone.tap(point)],
+        ["UILongPressGestureRecognizer", (point) => phone.press(point, 700)],
+    ]) {
+        const view = await addView(phone, "UIView", [100, 300, 80, 80]);
+        await addRecognizer(phone, view, recognizer, view, "removeFromSuperview");
+        await phone.tap([90, 290]); // beside it
+        assert.ok(await phone.do("send", { to: view, selector: "superview" }), recognizer);
+        await act([140, 340]);
+        await phone.page.waitForTimeout(100);
+        assert.equal(await phone.do("send", { to: view, selector: "superview" }), null, recognizer);
+    }
+    await phone.close();
+});
+
+test("dragging and the wheel scroll", async () => {
+    const phone = await Phone.open(browser, host.address);
+    const view = await addView(phone, "UIScrollView", [0, 200, 390, 500]);
+    await phone.do("send", { to: view, selector: "setContentSize:", args: [{ size: [390, 3000] }] });
+    const offset = async () => (await phone.do("send", { to: view, selector: "contentOffset" })).point[1];
+    const settled = async () => {
+        for (let before = NaN, now = await offset(); before !== now;) {
+            await phone.page.waitForTimeout(150);
+            [before, now] = [now, await offset()];
+        }
+        return offset();
+    };
+    await phone.drag([[200, 600], [200, 400]]);
+    const dragged = await settled();
+    assert.ok(dragged > 150, `dragged by ${dragged}`);
+    await phone.page.mouse.wheel(0, 100);
+    await phone.page.waitForTimeout(200);
+    assert.ok(await settled() > dragged + 90, "the wheel scrolls on");
+    await phone.do("send", { to: view, selector: "removeFromSuperview" });
+    await phone.close();
+});
+
+test("Alt makes two fingers", async () => {
+    const phone = await Phone.open(browser, host.address);
+    const view = await addView(phone, "UIView", [0, 200, 390, 500]);
+    await addRecognizer(phone, view, "UIPinchGestureRecognizer", view, "removeFromSuperview");
+    await phone.drag([[200, 600], [200, 400]]); // one finger pinches nothing
+    assert.ok(await phone.do("send", { to: view, selector: "superview" }));
+    await phone.pinch(100, 300);
+    await phone.page.waitForTimeout(100);
+    assert.equal(await phone.do("send", { to: view, selector: "superview" }), null);
+    await phone.close();
+});
+
+test("fingers that a page leaves on the screen are taken away", async () => {
+    const leaving = await Phone.open(browser, host.address);
+    const view = await addView(leaving, "UIView", [100, 300, 80, 80]);
+    await addRecognizer(leaving, view, "UILongPressGestureRecognizer", view, "removeFromSuperview");
+    await leaving.page.mouse.move(...await leaving.place([140, 340]));
+    await leaving.page.mouse.down();
+    await leaving.close();
+    const phone = await Phone.open(browser, host.address);
+    await phone.page.waitForTimeout(800); // the press would be long enough by now
+    assert.ok(await phone.do("find", { where: { class: "UIView" } }).then(
+        (nodes) => nodes.some(({ frame }) => frame[0] === 100)), "the press went on without a page");
+    await phone.tap([140, 340]); // the same finger comes down again
+    await phone.close();
+});
+
+test("only the printed address opens the phone", async () => {
+    const base = host.address.replace(/[0-9a-f]{32}\/$/, "");
+    const other = "0123456789abcdef".repeat(2);
+    for (const path of ["", `${other}/`, `${other}/main.js`, "main.js", "x".repeat(6000)]) {
+        assert.equal((await fetch(base + path)).status, 403, path.slice(0, 40));
+    }
+    for (const path of ["nothing", "../server.cpp", "%2e%2e/server.cpp", "file/1", "file/../x"]) {
+        const status = (await fetch(host.address + path)).status;
+        assert.ok(status === 404 || status === 403, `${path}: ${status}`);
+    }
+    const page = await fetch(host.address);
+    assert.equal(page.headers.get("x-content-type-options"), "nosniff");
+    assert.equal(page.headers.get("referrer-policy"), "no-referrer");
+    assert.match(page.headers.get("content-security-policy"), /default-src 'none'/);
+});
+
+test("a second page takes over, and the first can take the phone back", async () => {
+    const first = await Phone.open(browser, host.address);
+    const second = await Phone.open(browser, host.address);
+    await first.page.waitForSelector("#take-back:visible");
+    assert.equal(await second.page.isVisible("#veil"), false);
+    await first.page.click("#take-back");
+    await second.page.waitForSelector("#take-back:visible");
+    await first.showing("Hello, world");
+    await first.close();
+    await second.close();
+});
+
+test("a page that leaves in the middle of frames does no harm", async () => {
+    for (let round = 0; round < 5; ++round) {
+        const phone = await Phone.open(browser, host.address);
+        const [window] = await phone.tree();
+        for (let change = 0; change < 10; ++change) {
+            phone.do("send", { to: window, selector: "setNeedsDisplay" }).catch(() => {});
+        }
+        await phone.close();
+    }
+    const phone = await Phone.open(browser, host.address);
+    await phone.showing("Hello, world");
+    await phone.close();
+});
+
+test("preferences are written, and the pasteboard is set", async () => {
+    const phone = await Phone.open(browser, host.address, { locale: "zh-CN" });
+    await phone.page.click("#tab-preferences");
+    await phone.page.getByLabel("显示悬浮球", { exact: false }).check();
+    await phone.page.getByLabel("悬浮球长宽比").fill("48");
+    await phone.page.keyboard.press("Enter");
+    await phone.page.waitForTimeout(300);
+    assert.deepEqual(await phone.do("preferences"), { kqwzfc: true, 悬浮球长宽比: 48 });
+
+    await phone.page.click("#tab-pasteboard");
+    await phone.page.getByLabel("要放入剪贴板的文字").fill("复制 😀");
+    await phone.page.getByRole("button", { name: "放入剪贴板" }).click();
+    await phone.page.waitForTimeout(300);
+    assert.equal(await phone.do("pasteboard"), "复制 😀");
+
+    await phone.page.setInputFiles(
+        "input[type=file]", { name: "a.png", mimeType: "image/png", buffer: Buffer.from("no") });
+    await phone.page.waitForSelector("#note:visible");
+    const screenshot = await phone.page.screenshot();
+    await phone.page.setInputFiles(
+        "input[type=file]", { name: "a.png", mimeType: "image/png", buffer: screenshot });
+    await phone.page.waitForSelector(".content img");
+    assert.equal(await phone.do("pasteboard"), null);
+    await phone.close();
+});
+
+test("the screenshot has the pixels of the device", async () => {
+    const png = Buffer.from(await (await fetch(`${host.address}screenshot.png`)).arrayBuffer());
+    assert.deepEqual([png.readUInt32BE(16), png.readUInt32BE(20)], [1170, 2532]);
+});
+
+test("another application can be opened, a crash is survived, Ctrl-C ends all", async () => {
+    const own = await Host.start("--app", "plain");
+    const phone = await Phone.open(browser, own.address);
+    await phone.page.click("[data-application=chat]");
+    await phone.page.waitForFunction(() => document.title.startsWith("Chat"));
+    await phone.picture();
+    assert.notEqual((await phone.do("find", { where: { class: "UILabel" } })).length, 0);
+
+    process.kill(own.child(), "SIGSEGV");
+    await phone.page.waitForSelector("[role=alert].warning");
+    assert.match(await phone.page.title(), /^Chat/);
+
+    const child = own.child();
+    assert.equal(await own.stop(), 0);
+    assert.throws(() => process.kill(child, 0), "the child has ended too");
+    await phone.close();
+});
+
+test("a port that is taken is told, with what to do", async () => {
+    const { port } = new URL(host.address);
+    await assert.rejects(Host.start("--port", port), /port \d+ is taken; choose another/);
+});
