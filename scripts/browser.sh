@@ -13,4 +13,4 @@ fi
 printf '== the page'"'"'s scripts\n'
 tests/browser/node_modules/.bin/tsc -p desktop/viewer/page/jsconfig.json
 printf '== the page in a browser\n'
-WENTRA_HOST="$PWD/build/$preset/bin/host" node --test tests/browser/
+WENTRA_HOST="$PWD/build/$preset/bin/host" node --test tests/browser/*.test.js
