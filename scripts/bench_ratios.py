@@ -40,6 +40,8 @@ def main():
     ours = time["setText/xml_with_rules"]
     plain = ours - time["preferences/xml"] + time["foundationRead"]
     print(f"{'label text with Foundation reading the file / ours':58}{plain / ours:5.2f}  at least 8")
+    sessions, curl = (results[f"{name}/real_time"]["real_time"] for name in ("sessions", "curlTool"))
+    print(f"{'200 lines translated by URL sessions / by curl':58}{sessions / curl:5.2f}  at most 1.3")
     loading = next(result for name, result in results.items() if name.startswith("loading/"))
     print(f"\nloading the library: {loading['real_time']:.2f} ms,"
           f" {loading['residentBytes'] / 1024:.0f} KiB resident,"

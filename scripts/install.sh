@@ -24,6 +24,7 @@ build  libespeak-ng-dev         speaks
 build  zlib1g-dev               packs the pictures for the browser page
 build  libgtest-dev             unit tests
 build  libbenchmark-dev         benchmarks
+build  curl                     what URL sessions are measured against
 build  fonts-inter              Latin text
 build  fonts-noto-cjk           Chinese text
 build  fonts-noto-color-emoji   emoji

@@ -41,6 +41,7 @@
 #include "desktop/uikit/view_controller.hpp"
 #include "desktop/uikit/window.hpp"
 #include "desktop/uikit/window_scene.hpp"
+#include "desktop/webkit/web_view.hpp"
 
 #include "bindings/objc/pool.hpp"
 
@@ -77,6 +78,7 @@ void registerClasses() {
         CollectionView, LayoutConstraint, LayoutGuide, LayoutAnchor, XAnchor, YAnchor, Dimension>();
     installStringDrawing();
     registerSpeechClasses();
+    registerWebClasses();
 }
 
 void startApplication(ScreenSize size) {
