@@ -3,6 +3,12 @@
 
 #include "bindings/uikit/view.hpp"
 
+/// Where a scroll view is to come to rest, which its delegate may change.
+template <>
+struct objc::Encoding<CGPoint*> {
+    static constexpr Literal value = "^{CGPoint=dd}";
+};
+
 namespace ui {
 
 struct ScrollView : objc::Kind<ScrollView, "UIScrollView", View> {

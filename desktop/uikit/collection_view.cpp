@@ -125,7 +125,7 @@ bool CollectionView::exists(ItemIndex index) {
 }
 
 void CollectionView::reloadData() {
-    selected_.clear();
+    selection_.clear();
     pressed_.reset();
     dataChanged();
 }
@@ -135,57 +135,24 @@ void CollectionView::dataChanged() {
     putAllAway();
     counts_.reset();
     layoutIsInvalid();
-    std::erase_if(selected_, [this](ItemIndex index) { return !exists(index); });
+    selection_.keepOnly([this](ItemIndex index) { return exists(index); });
 }
 
 void CollectionView::reloadItems(ns::Array paths) {
-    for (const objc::Object path : paths) {
-        const ItemIndex index = ItemIndex::of(path.assume<ns::IndexPath>());
-        selected_.erase(index);
-        if (const auto shown = visible_.find(index); shown != visible_.end()) {
-            const Cell cell = shown->second;
-            visible_.erase(shown);
-            putAway(index, cell);
-        }
+    for (const ItemIndex index : indexesOf(paths)) {
+        selection_.remove(index);
+        putAway(index);
     }
     layoutIsInvalid();
 }
 
-namespace {
-
-std::set<ItemIndex> indexes(ns::Array paths) {
-    std::set<ItemIndex> result;
-    for (const objc::Object path : paths) {
-        result.insert(ItemIndex::of(path.assume<ns::IndexPath>()));
-    }
-    return result;
-}
-
-} // namespace
-
 void CollectionView::insertItems(ns::Array paths) {
-    for (const ItemIndex inserted : indexes(paths)) {
-        std::set<ItemIndex> moved;
-        for (const ItemIndex index : selected_) {
-            const bool behind = index.section == inserted.section && index.item >= inserted.item;
-            moved.insert({index.section, index.item + (behind ? 1 : 0)});
-        }
-        selected_ = std::move(moved);
-    }
+    selection_.itemsWereInserted(indexesOf(paths));
     dataChanged();
 }
 
 void CollectionView::deleteItems(ns::Array paths) {
-    const auto all = indexes(paths);
-    std::for_each(all.rbegin(), all.rend(), [this](ItemIndex deleted) {
-        selected_.erase(deleted);
-        std::set<ItemIndex> moved;
-        for (const ItemIndex index : selected_) {
-            const bool behind = index.section == deleted.section && index.item > deleted.item;
-            moved.insert({index.section, index.item - (behind ? 1 : 0)});
-        }
-        selected_ = std::move(moved);
-    });
+    selection_.itemsWereDeleted(indexesOf(paths));
     dataChanged();
 }
 
@@ -206,25 +173,22 @@ void CollectionView::performBatchUpdates(Updates updates, Completion completion)
 }
 
 void CollectionView::registerCellClass(Class cls, ns::String identifier) {
-    cellClasses_[identifier.utf16()] = cls;
+    cells_.registerClass(cls, identifier);
 }
 
 ui::CollectionViewCell CollectionView::dequeue(ns::String identifier, ns::IndexPath path) {
-    auto& unused = unused_[identifier.utf16()];
-    Cell cell;
-    if (!unused.empty()) {
-        cell = std::move(unused.back());
-        unused.pop_back();
-        cell.send<"prepareForReuse">();
-    } else if (const auto found = cellClasses_.find(identifier.utf16());
-               found != cellClasses_.end() && found->second != nullptr) {
-        cell = Cell::adopt(objc::send<"alloc", objc::Object>(objc::object(found->second))
-                               .send<"initWithFrame:", ui::CollectionViewCell>(CGRect()));
+    auto cell = cells_.takeUnused(identifier);
+    if (!cell) {
+        const Class cls = cells_.classFor(identifier);
+        if (cls == nullptr) {
+            ns::Exception::with(u"NSInternalInconsistencyException"_ns,
+                                u"no class is registered for that cell identifier"_ns)
+                .raise();
+        }
+        cell = objc::Strong<ui::CollectionViewCell>::adopt(
+            objc::send<"alloc", objc::Object>(objc::object(cls))
+                .send<"initWithFrame:", ui::CollectionViewCell>(CGRect()));
         CollectionReusableView::of(cell).setReuseIdentifier(identifier);
-    } else {
-        ns::Exception::with(u"NSInternalInconsistencyException"_ns,
-                            u"no class is registered for that cell identifier"_ns)
-            .raise();
     }
     if (const auto attributes = attributesAt(path); attributes) {
         cell.setFrame(attributes.frame()); // the data source may place things by it
@@ -265,68 +229,60 @@ void CollectionView::showVisibleCells() {
         const auto attributes = one.assume<LayoutAttributes>();
         wanted.emplace(ItemIndex::of(attributes.indexPath()), attributes);
     }
-    for (auto shown = visible_.begin(); shown != visible_.end();) {
-        if (wanted.contains(shown->first)) {
-            ++shown;
-            continue;
+    const auto formerly = cells_.shown(); // a copy: it is changed
+    for (const auto& [index, cell] : formerly) {
+        if (!wanted.contains(index)) {
+            putAway(index);
         }
-        const auto [index, cell] = *shown;
-        shown = visible_.erase(shown);
-        putAway(index, cell);
     }
     for (const auto& [index, attributes] : wanted) {
-        const auto shown = visible_.find(index);
-        const Cell cell = shown != visible_.end() ? shown->second : cellFromSource(index);
+        const auto shown = cells_.at(index);
+        const auto cell = shown ? shown : cellFromSource(index);
         if (!cell) {
             continue;
         }
-        visible_[index] = cell;
+        cells_.show(index, cell);
         cell.setFrame(attributes.frame());
         cell.setAlpha(attributes.alpha());
         cell.setHidden(attributes.isHidden());
     }
 }
 
-CollectionView::Cell CollectionView::cellFromSource(ItemIndex index) {
+ui::CollectionViewCell CollectionView::cellFromSource(ItemIndex index) {
     const ns::IndexPath path = index.path();
-    const Cell cell =
+    const auto cell =
         dataSource_.send<"collectionView:cellForItemAtIndexPath:", ui::CollectionViewCell>(self(),
                                                                                            path);
     if (cell) {
-        cell.send<"setSelected:">(objc::Boolean(selected_.contains(index)));
+        cell.send<"setSelected:">(objc::Boolean(selection_.contains(index)));
         cell.send<"setHighlighted:">(objc::Boolean(pressed_ == index));
-        self().insertSubview(cell, static_cast<long>(visible_.size()) + (backgroundView_ ? 1 : 0));
+        self().insertSubview(cell,
+                             static_cast<long>(cells_.shown().size()) + (backgroundView_ ? 1 : 0));
         tell<"collectionView:willDisplayCell:forItemAtIndexPath:">(cell.raw(), path);
     }
     return cell;
 }
 
-void CollectionView::putAway(ItemIndex index, const Cell& cell) {
-    cell.removeFromSuperview();
-    const auto identifier = cell.send<"reuseIdentifier", ns::String>();
-    if (identifier) {
-        unused_[identifier.utf16()].push_back(cell);
+void CollectionView::putAway(ItemIndex index) {
+    if (const auto cell = cells_.putAway(index); cell) {
+        tell<"collectionView:didEndDisplayingCell:forItemAtIndexPath:">(cell.raw(), index.path());
     }
-    tell<"collectionView:didEndDisplayingCell:forItemAtIndexPath:">(cell.raw(), index.path());
 }
 
 void CollectionView::putAllAway() {
-    for (const auto& [index, cell] : std::exchange(visible_, {})) {
-        putAway(index, cell);
+    const auto shown = cells_.shown(); // a copy: it is changed
+    for (const auto& [index, cell] : shown) {
+        putAway(index);
     }
 }
 
 ui::CollectionViewCell CollectionView::cellAt(ns::IndexPath path) const {
-    const auto found = path ? visible_.find(ItemIndex::of(path)) : visible_.end();
-    return found != visible_.end() ? static_cast<ui::CollectionViewCell>(found->second)
-                                   : ui::CollectionViewCell();
+    return path ? cells_.at(ItemIndex::of(path)) : ui::CollectionViewCell();
 }
 
 ns::IndexPath CollectionView::pathForCell(ui::CollectionViewCell cell) const {
-    const auto found = std::ranges::find(visible_, cell, [](const auto& entry) {
-        return static_cast<ui::CollectionViewCell>(entry.second);
-    });
-    return found != visible_.end() ? found->first.path() : ns::IndexPath();
+    const auto index = cells_.itemOf(cell, self());
+    return index ? index->path() : ns::IndexPath();
 }
 
 ns::IndexPath CollectionView::pathAt(CGPoint point) {
@@ -340,22 +296,6 @@ ns::IndexPath CollectionView::pathAt(CGPoint point) {
         }
     }
     return nullptr;
-}
-
-ns::Array CollectionView::visibleCells() const {
-    const auto cells = ns::MutableArray::make();
-    for (const auto& [index, cell] : visible_) {
-        cells.add(cell);
-    }
-    return cells;
-}
-
-ns::Array CollectionView::visiblePaths() const {
-    const auto paths = ns::MutableArray::make();
-    for (const auto& [index, cell] : visible_) {
-        paths.add(index.path());
-    }
-    return paths;
 }
 
 LayoutAttributes CollectionView::attributesAt(ns::IndexPath path) {

@@ -7,14 +7,12 @@
 
 #include "desktop/class.hpp"
 #include "desktop/uikit/collection_view_layout.hpp"
-#include "desktop/uikit/collections/item_index.hpp"
+#include "desktop/uikit/collections/cell_store.hpp"
+#include "desktop/uikit/collections/item_selection.hpp"
 
 #include "bindings/objc/block.hpp"
 
-#include <map>
 #include <optional>
-#include <set>
-#include <string>
 #include <vector>
 
 namespace desktop {
@@ -26,7 +24,6 @@ public:
     ~CollectionView();
 
 private:
-    using Cell = objc::Strong<ui::CollectionViewCell>;
     using Updates = objc::Block<void()>;
     using Completion = objc::Block<void(bool finished)>;
 
@@ -60,14 +57,14 @@ private:
     void layoutIsInvalid();
     void layoutSubviews();
     void showVisibleCells();
-    [[nodiscard]] Cell cellFromSource(ItemIndex index);
-    void putAway(ItemIndex index, const Cell& cell);
+    [[nodiscard]] ui::CollectionViewCell cellFromSource(ItemIndex index);
+    void putAway(ItemIndex index);
     void putAllAway();
     [[nodiscard]] ui::CollectionViewCell cellAt(ns::IndexPath path) const;
     [[nodiscard]] ns::IndexPath pathForCell(ui::CollectionViewCell cell) const;
     [[nodiscard]] ns::IndexPath pathAt(CGPoint point);
-    [[nodiscard]] ns::Array visibleCells() const;
-    [[nodiscard]] ns::Array visiblePaths() const;
+    [[nodiscard]] ns::Array visibleCells() const { return cells_.cells(); }
+    [[nodiscard]] ns::Array visiblePaths() const { return cells_.paths(); }
     [[nodiscard]] LayoutAttributes attributesAt(ns::IndexPath path);
     void scrollTo(ns::IndexPath path, unsigned long position, bool animated);
     void prepare();
@@ -85,7 +82,6 @@ private:
     void touchesCancelled(ns::Set touches, ui::Event event);
     void release();
     void selectByTouch(ItemIndex index);
-    [[nodiscard]] std::optional<ItemIndex> itemUnder(ui::View view) const;
     /// Asks the delegate about an item; yes when it has no opinion.
     template <objc::Literal Name>
     bool may(ItemIndex index) const;
@@ -98,10 +94,8 @@ private:
     std::optional<std::vector<long>> counts_; // of the sections' items, until the next reload
     bool layoutIsCurrent_ = false;
     CGSize latestSize_; // that the layout was made for
-    std::map<std::u16string, Class> cellClasses_;
-    std::map<std::u16string, std::vector<Cell>> unused_;
-    std::map<ItemIndex, Cell> visible_;
-    std::set<ItemIndex> selected_;
+    CellStore<ui::CollectionViewCell> cells_;
+    ItemSelection selection_;
     std::optional<ItemIndex> pressed_;
     bool allowsSelection_ = true;
     bool allowsMultipleSelection_ = false;

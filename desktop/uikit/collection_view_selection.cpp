@@ -53,34 +53,30 @@ void CollectionView::scrollTo(ns::IndexPath path, unsigned long position, bool a
 
 ns::Array CollectionView::selectedPaths() const {
     const auto paths = ns::MutableArray::make();
-    for (const ItemIndex index : selected_) {
+    for (const ItemIndex index : selection_.items()) {
         paths.add(index.path());
     }
     return paths;
 }
 
 void CollectionView::select(ItemIndex index) {
-    selected_.insert(index);
-    if (const auto shown = visible_.find(index); shown != visible_.end()) {
-        shown->second.send<"setSelected:">(objc::Boolean(true));
-    }
+    selection_.add(index);
+    cells_.at(index).send<"setSelected:">(objc::Boolean(true));
 }
 
 void CollectionView::deselect(ItemIndex index) {
-    selected_.erase(index);
-    if (const auto shown = visible_.find(index); shown != visible_.end()) {
-        shown->second.send<"setSelected:">(objc::Boolean(false));
-    }
+    selection_.remove(index);
+    cells_.at(index).send<"setSelected:">(objc::Boolean(false));
 }
 
 void CollectionView::clearSelection() {
-    for (const ItemIndex index : std::set(selected_)) {
+    for (const ItemIndex index : std::set(selection_.items())) {
         deselect(index);
     }
 }
 
 void CollectionView::selectionAllowedChanged() {
-    if (!allowsSelection_ || (!allowsMultipleSelection_ && selected_.size() > 1)) {
+    if (!allowsSelection_ || (!allowsMultipleSelection_ && selection_.items().size() > 1)) {
         clearSelection();
     }
 }
@@ -94,7 +90,7 @@ void CollectionView::selectItem(ns::IndexPath path, bool animated, unsigned long
     if (!allowsSelection_ || !exists(index)) {
         return;
     }
-    if (!allowsMultipleSelection_ && !selected_.contains(index)) {
+    if (!allowsMultipleSelection_ && !selection_.contains(index)) {
         clearSelection();
     }
     select(index);
@@ -107,23 +103,10 @@ void CollectionView::deselectItem(ns::IndexPath path, bool) {
     }
 }
 
-/// The item whose cell the view is, or is in.
-std::optional<ItemIndex> CollectionView::itemUnder(ui::View view) const {
-    while (view && view.superview() != self()) {
-        view = view.superview();
-    }
-    for (const auto& [index, cell] : visible_) {
-        if (view && cell == view) {
-            return index;
-        }
-    }
-    return std::nullopt;
-}
-
 void CollectionView::touchesBegan(ns::Set touches, ui::Event event) {
     super<"touchesBegan:withEvent:">(touches, event);
     const auto touch = touches.allObjects().first().assume<ui::Touch>();
-    const auto index = itemUnder(touch.view());
+    const auto index = cells_.itemOf(touch.view(), self());
     if (pressed_ || !index || !allowsSelection_ ||
         !may<"collectionView:shouldHighlightItemAtIndexPath:">(*index)) {
         return;
@@ -158,7 +141,7 @@ void CollectionView::touchesCancelled(ns::Set touches, ui::Event event) {
 }
 
 void CollectionView::selectByTouch(ItemIndex index) {
-    if (allowsMultipleSelection_ && selected_.contains(index)) {
+    if (allowsMultipleSelection_ && selection_.contains(index)) {
         if (may<"collectionView:shouldDeselectItemAtIndexPath:">(index)) {
             deselect(index);
             tell<"collectionView:didDeselectItemAtIndexPath:">(index.path());
@@ -169,7 +152,7 @@ void CollectionView::selectByTouch(ItemIndex index) {
         return;
     }
     if (!allowsMultipleSelection_) {
-        for (const ItemIndex former : std::set(selected_)) {
+        for (const ItemIndex former : std::set(selection_.items())) {
             if (former != index) {
                 deselect(former);
                 tell<"collectionView:didDeselectItemAtIndexPath:">(former.path());

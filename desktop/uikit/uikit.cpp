@@ -19,12 +19,14 @@
 #include "desktop/uikit/image.hpp"
 #include "desktop/uikit/image_view.hpp"
 #include "desktop/uikit/label.hpp"
+#include "desktop/uikit/list_controllers.hpp"
 #include "desktop/uikit/long_press_gesture_recognizer.hpp"
 #include "desktop/uikit/menu_controller.hpp"
 #include "desktop/uikit/navigation_bar.hpp"
 #include "desktop/uikit/navigation_item.hpp"
 #include "desktop/uikit/pan_gesture_recognizer.hpp"
 #include "desktop/uikit/pasteboard.hpp"
+#include "desktop/uikit/picker_view.hpp"
 #include "desktop/uikit/pinch_gesture_recognizer.hpp"
 #include "desktop/uikit/responder.hpp"
 #include "desktop/uikit/screen.hpp"
@@ -33,6 +35,7 @@
 #include "desktop/uikit/stack_view.hpp"
 #include "desktop/uikit/string_drawing.hpp"
 #include "desktop/uikit/swipe_gesture_recognizer.hpp"
+#include "desktop/uikit/table_view.hpp"
 #include "desktop/uikit/tap_gesture_recognizer.hpp"
 #include "desktop/uikit/text_field.hpp"
 #include "desktop/uikit/text_view.hpp"
@@ -68,14 +71,16 @@ UIEdgeInsets safeAreaOf(CGSize size) {
 void registerClasses() {
     const objc::Pool pool;
     installIndexPaths();
-    registerAll<
-        Color, UIFont, UIImage, Layer, Screen, WindowScene, Pasteboard, NavigationItem,
-        MenuController, Responder, Application, ViewController, View, Window, Label, ImageView,
-        ScrollView, StackView, NavigationBar, Control, Button, TextField, TextView, Touch, Event,
-        GestureRecognizer, TapGestureRecognizer, LongPressGestureRecognizer, PanGestureRecognizer,
-        PinchGestureRecognizer, SwipeGestureRecognizer, ScrollPan, CollectionViewLayoutAttributes,
-        CollectionViewLayout, CollectionViewFlowLayout, CollectionReusableView, CollectionViewCell,
-        CollectionView, LayoutConstraint, LayoutGuide, LayoutAnchor, XAnchor, YAnchor, Dimension>();
+    registerAll<Color, UIFont, UIImage, Layer, Screen, WindowScene, Pasteboard, NavigationItem,
+                MenuController, Responder, Application, ViewController, View, Window, Label,
+                ImageView, ScrollView, StackView, NavigationBar, Control, Button, TextField,
+                TextView, Touch, Event, GestureRecognizer, TapGestureRecognizer,
+                LongPressGestureRecognizer, PanGestureRecognizer, PinchGestureRecognizer,
+                SwipeGestureRecognizer, ScrollPan, CollectionViewLayoutAttributes,
+                CollectionViewLayout, CollectionViewFlowLayout, CollectionReusableView,
+                CollectionViewCell, CollectionView, LayoutConstraint, LayoutGuide, LayoutAnchor,
+                XAnchor, YAnchor, Dimension, PickerColumn, PickerView, TableViewCell, TableView,
+                TableViewController, CollectionViewController>();
     installStringDrawing();
     registerSpeechClasses();
     registerWebClasses();
