@@ -5,6 +5,7 @@
 #include "desktop/foundation/delayed_perform.hpp"
 #include "desktop/foundation/dictionary_files.hpp"
 #include "desktop/foundation/main_operation_queue.hpp"
+#include "desktop/foundation/refusing_protocol.hpp"
 #include "desktop/foundation/timer.hpp"
 #include "desktop/foundation/url_session.hpp"
 #include "desktop/foundation/user_defaults.hpp"
@@ -23,6 +24,7 @@ void install(const std::string& bundleIdentifier) {
     installTimers();
     installMainOperationQueue();
     installUrlSessions();
+    installRefusingProtocol();
 }
 
 } // namespace desktop::foundation

@@ -5,6 +5,7 @@
 #include "bindings/foundation/thread.hpp"
 #include "bindings/foundation/url_session.hpp"
 #include "bindings/objc/pool.hpp"
+#include "desktop/class.hpp"
 #include "desktop/foundation/foundation.hpp"
 #include "desktop/runtime/event_log.hpp"
 #include "desktop/runtime/run_loop.hpp"
@@ -164,6 +165,20 @@ TEST_F(UrlSession, NothingLeavesTheMachineNotEvenByARedirection) {
     EXPECT_EQ(answerers, "local nobody ");
 }
 
+TEST_F(UrlSession, NeitherDoesFoundationsOlderLoading) {
+    struct Connection : objc::Kind<Connection, "NSURLConnection"> {};
+    const auto load = [](const std::string& url, id* error) {
+        return Connection::sendClass<"sendSynchronousRequest:returningResponse:error:", ns::Data>(
+            ns::UrlRequest::withUrl(urlFrom(url)), static_cast<void*>(nullptr),
+            static_cast<void*>(error));
+    };
+    id error = nullptr;
+    EXPECT_EQ(load("https://example.com/", &error), nullptr);
+    EXPECT_EQ(objc::wrap<ns::Error>(error).code(), -1003);
+    const PlainServer server([](const std::string&) { return response("here"); });
+    EXPECT_EQ(bytesOf(load(server.url("/"), &error)), "here");
+}
+
 TEST_F(UrlSession, FollowsRedirectionsWithinLimits) {
     const PlainServer server([](const std::string& request) {
         if (request.starts_with("POST /form ")) {
@@ -295,6 +310,87 @@ TEST_F(UrlSession, DownloadsToAFileThatIsGoneAfterwards) {
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }
     EXPECT_NE(access(path.c_str(), F_OK), 0);
+}
+
+struct DelegateKind : objc::Kind<DelegateKind, "SessionTestDelegate"> {
+    using Kind::Kind;
+};
+
+/// Writes down what a session tells its delegate.
+class Delegate : public desktop::PlatformClass<Delegate, DelegateKind> {
+public:
+    static auto methods() {
+        return std::array{
+            objc::method<"URLSession:dataTask:didReceiveData:", &Delegate::data>(),
+            objc::method<"URLSession:downloadTask:didWriteData:totalBytesWritten:"
+                         "totalBytesExpectedToWrite:",
+                         &Delegate::wrote>(),
+            objc::method<"URLSession:downloadTask:didFinishDownloadingToURL:",
+                         &Delegate::downloaded>(),
+            objc::method<"URLSession:task:didCompleteWithError:", &Delegate::completed>(),
+            objc::method<"URLSession:didBecomeInvalidWithError:", &Delegate::invalid>(),
+        };
+    }
+    std::string told;
+    std::string bytes;
+    std::promise<void> over;
+
+private:
+    using Object = objc::Object;
+    void data(Object, Object, ns::Data data) { bytes += bytesOf(data); }
+    void wrote(Object, Object, long long, long long written, long long expected) {
+        if (written == expected) {
+            told += "all written, ";
+        }
+    }
+    void downloaded(Object, Object, ns::Url file) {
+        bytes = bytesOf(ns::Data::withContentsOfFile(file.send<"path", ns::String>()));
+        told += "downloaded, ";
+    }
+    void completed(Object, Object, ns::Error error) { told += error ? "failed, " : "completed, "; }
+    void invalid(Object, ns::Error) {
+        told += "invalid";
+        over.set_value();
+    }
+};
+
+class UrlSessionDelegate : public UrlSession {
+protected:
+    static void SetUpTestSuite() {
+        UrlSession::SetUpTestSuite();
+        Delegate::registerClass();
+    }
+    /// What the delegate was told by the time its session is invalid.
+    std::string told() {
+        session.finishTasksAndInvalidate();
+        Delegate::of(delegate).over.get_future().wait();
+        return Delegate::of(delegate).told;
+    }
+
+    const std::string content = std::string(300'000, 'x');
+    PlainServer server{[this](const std::string&) { return response(content); }};
+    DelegateKind delegate = DelegateKind::make();
+    ns::UrlSession session = ns::UrlSession::with(
+        ns::UrlSessionConfiguration::defaultConfiguration(), delegate, nullptr);
+};
+
+TEST_F(UrlSessionDelegate, GetsTheDataInOrderThenTheEnd) {
+    session.send<"dataTaskWithURL:", ns::UrlSessionTask>(urlFrom(server.url("/"))).resume();
+    EXPECT_EQ(told(), "completed, invalid");
+    EXPECT_EQ(Delegate::of(delegate).bytes, content);
+    EXPECT_ANY_THROW(static_cast<void>(session.downloadTask(urlFrom(server.url("/")))));
+}
+
+TEST_F(UrlSessionDelegate, GetsTheProgressOfADownloadAndItsFile) {
+    session.downloadTask(urlFrom(server.url("/"))).resume();
+    EXPECT_EQ(told(), "all written, downloaded, completed, invalid");
+    EXPECT_EQ(Delegate::of(delegate).bytes, content);
+}
+
+TEST_F(UrlSessionDelegate, HearsOfTasksThatInvalidationCancels) {
+    session.downloadTask(urlFrom(translationUrl("!late"))).resume();
+    session.invalidateAndCancel();
+    EXPECT_EQ(told(), "failed, invalid");
 }
 
 } // namespace
