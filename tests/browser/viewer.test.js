@@ -1,5 +1,6 @@
 // The phone in the page: seen, touched, taken over, lost and found again.
 import assert from "node:assert/strict";
+import { request } from "node:http";
 import { after, before, test } from "node:test";
 import { Host, openBrowser, Phone } from "./phone.js";
 
@@ -143,6 +144,95 @@ test("only the printed address opens the phone", async () => {
     assert.equal(page.headers.get("x-content-type-options"), "nosniff");
     assert.equal(page.headers.get("referrer-policy"), "no-referrer");
     assert.match(page.headers.get("content-security-policy"), /default-src 'none'/);
+});
+
+/** Asks as a program may, with any headers; the status. */
+function statusOf(address, headers) {
+    return new Promise((resolve, reject) => {
+        const asked = request(address, { headers }, (response) => {
+            response.resume();
+            resolve(response.statusCode);
+        });
+        asked.on("upgrade", (response, socket) => {
+            socket.destroy();
+            resolve(response.statusCode);
+        });
+        asked.on("error", reject);
+        asked.end();
+    });
+}
+
+test("pages from elsewhere and foreign names reach nothing", async () => {
+    const { host: own } = new URL(host.address);
+    const upgrade = {
+        Connection: "Upgrade", Upgrade: "websocket", "Sec-WebSocket-Version": "13",
+        "Sec-WebSocket-Key": "dGhlIHNhbXBsZSBub25jZQ==",
+    };
+    const socket = `${host.address}socket`;
+    assert.equal(await statusOf(host.address, { Host: "evil.example" }), 403);
+    assert.equal(await statusOf(socket, upgrade), 403);
+    assert.equal(await statusOf(socket, { ...upgrade, Origin: "http://evil.example" }), 403);
+    assert.equal(await statusOf(socket, { ...upgrade, Origin: `https://${own}` }), 403);
+    assert.equal(await statusOf(socket, { ...upgrade, Origin: `http://${own}` }), 101);
+});
+
+test("bad messages are refused, and the phone goes on", async () => {
+    const phone = await Phone.open(browser, host.address);
+    const answers = await phone.page.evaluate(async () => {
+        const open = () => new Promise((opened) => {
+            const socket = new WebSocket(new URL("socket", location.href).href.replace("http", "ws"));
+            socket.onopen = () => opened(socket);
+        });
+        const closed = (socket) => new Promise((done) => {
+            socket.onclose = ({ code }) => done(code);
+        });
+        const talking = await open();
+        const refusals = [];
+        talking.onmessage = ({ data }) => {
+            const message = typeof data === "string" ? JSON.parse(data) : {};
+            if (message.type === "refused") {
+                refusals.push(message.why);
+            }
+        };
+        const bad = [
+            "", "{", "null", "[".repeat(1e6), '{"type":"dance"}',
+            '{"type":"fingers","phase":"began","points":[[0,NaN,1]]}',
+            '{"type":"fingers","phase":"began","points":[[0,1e99,1]]}',
+            '{"type":"launch","application":"../../sh"}',
+        ];
+        bad.forEach((text) => talking.send(text));
+        // Fingers that never came down, and ten that never leave.
+        const all = [...Array(10).keys()].map((id) => [id, 10 * id, 500]);
+        for (const phase of ["moved", "ended", "began", "began"]) {
+            talking.send(JSON.stringify({ type: "fingers", phase, points: all }));
+        }
+        while (refusals.length < bad.length) {
+            await new Promise((soon) => setTimeout(soon, 20));
+        }
+        const binary = closed(talking);
+        talking.send(new Uint8Array(100));
+        const codes = [await binary];
+        const huge = await open();
+        const ended = closed(huge);
+        huge.send("x".repeat(25 << 20));
+        codes.push(await ended);
+        return { refusals: refusals.length, expected: bad.length, codes };
+    });
+    assert.equal(answers.refusals, answers.expected);
+    assert.deepEqual(answers.codes, [1003, 1009]);
+    await phone.page.reload();
+    await phone.showing("Hello, world");
+    await phone.close();
+});
+
+test("fingers on a touch screen are the phone's fingers", async () => {
+    const phone = await Phone.open(browser, host.address, { hasTouch: true });
+    const view = await addView(phone, "UIView", [100, 300, 80, 80]);
+    await addRecognizer(phone, view, "UITapGestureRecognizer", view, "removeFromSuperview");
+    await phone.page.touchscreen.tap(...await phone.place([140, 340]));
+    await phone.page.waitForTimeout(100);
+    assert.equal(await phone.do("send", { to: view, selector: "superview" }), null);
+    await phone.close();
 });
 
 test("a second page takes over, and the first can take the phone back", async () => {

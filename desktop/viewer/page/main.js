@@ -16,8 +16,15 @@ import { language, switchLanguage, word } from "./words.js";
 /** @template {HTMLElement} T @param {string} id @returns {T} */
 const part = (id) => /** @type {T} */ (document.getElementById(id));
 
-/** A panel, and what it has to be told: that the phone came up, or that it comes into view. */
-/** @typedef {{panel: HTMLElement, welcome?: (phone: any) => void, refresh?: () => any}} Panel */
+/**
+ * A panel, and what it has to be told: that the phone came up, or that it comes into view; a live
+ * one also now and then while it is in view.
+ * @typedef {object} Panel
+ * @property {HTMLElement} panel
+ * @property {(phone: any) => void} [welcome]
+ * @property {() => any} [refresh]
+ * @property {boolean} [isLive]
+ */
 
 const connection = new Connection();
 const screen = new Screen(part("screen"), connection);
@@ -180,10 +187,14 @@ window.addEventListener("keydown", (event) => {
         showHelp();
     }
 });
-window.addEventListener("focus", () => {
-    const shown = Object.values(panels).find(({ panel }) => !panel.hidden);
-    attempt(shown?.refresh);
-});
+const shownPanel = () => Object.values(panels).find(({ panel }) => !panel.hidden);
+window.addEventListener("focus", () => attempt(shownPanel()?.refresh));
+setInterval(() => {
+    const shown = shownPanel();
+    if (shown?.isLive && !document.hidden && connectionState === "connected") {
+        attempt(shown.refresh);
+    }
+}, 1500);
 new ResizeObserver(fitScreen).observe(part("stage"));
 
 showPage();

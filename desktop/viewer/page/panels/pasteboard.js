@@ -47,7 +47,8 @@ export function pasteboardPanel(connection) {
     };
 
     const putText = async () => {
-        await show(await connection.ask("pasteboard", { set: text.value }));
+        await connection.ask("pasteboard", { set: text.value });
+        await refresh();
     };
 
     const putPicture = async () => {
@@ -59,9 +60,21 @@ export function pasteboardPanel(connection) {
         }
     };
 
-    const refresh = async () => show(await connection.ask("pasteboard"));
+    let shown = -1;
 
-    return { panel, refresh };
+    const refresh = async () => {
+        const general = await connection.ask("send", {
+            to: { class: "UIPasteboard" },
+            selector: "generalPasteboard",
+        });
+        const changes = await connection.ask("send", { to: general, selector: "changeCount" });
+        if (changes !== shown) {
+            shown = changes;
+            await show(await connection.ask("pasteboard"));
+        }
+    };
+
+    return { panel, refresh, isLive: true };
 }
 
 /** @returns {Promise<string>} */

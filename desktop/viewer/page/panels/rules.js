@@ -50,6 +50,7 @@ export function rulesPanel(connection) {
 
     return {
         panel,
+        isLive: true,
         async refresh() {
             const maps = await Promise.all(
                 kinds.map(([, key]) => connection.ask("defaults", { key })),
