@@ -42,6 +42,10 @@ def main():
     print(f"{'label text with Foundation reading the file / ours':58}{plain / ours:5.2f}  at least 8")
     sessions, curl = (results[f"{name}/real_time"]["real_time"] for name in ("sessions", "curlTool"))
     print(f"{'200 lines translated by URL sessions / by curl':58}{sessions / curl:5.2f}  at most 1.3")
+    for kind in "caret_blinks", "panel_moves", "whole_screen":
+        frame = results[f"frame/{kind}"]
+        print(f"{'frame, ' + kind.replace('_', ' '):58}{frame['bytes'] / 1024:.1f} KiB,"
+              f" {frame['frames/s']:.0f} a second")
     loading = next(result for name, result in results.items() if name.startswith("loading/"))
     print(f"\nloading the library: {loading['real_time']:.2f} ms,"
           f" {loading['residentBytes'] / 1024:.0f} KiB resident,"

@@ -1,0 +1,111 @@
+// What the browser page is sent: bytes and processor time of small and large changes.
+#include "bench/support/phone.hpp"
+
+#include "bindings/objc/pool.hpp"
+#include "bindings/uikit/application.hpp"
+#include "bindings/uikit/label.hpp"
+#include "bindings/uikit/window.hpp"
+#include "desktop/uikit/screen_image.hpp"
+#include "desktop/viewer/frame.hpp"
+#include "desktop/viewer/patch.hpp"
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+using namespace desktop;
+using namespace desktop::viewer;
+using namespace ns::literals;
+
+constexpr double phoneScale = 3;
+
+/// A window full of labels, as a panel of the library is, and a caret on it.
+struct Scene {
+    Scene() {
+        const CGRect bounds = ui::Screen::main().bounds();
+        window = ui::Window::withFrame(bounds);
+        panel = ui::View::withFrame({{0, 60}, {390, 610}});
+        panel.setBackgroundColor(ui::Color::white());
+        for (int row = 0; row < 24; ++row) {
+            for (int column = 0; column < 4; ++column) {
+                const auto label =
+                    ui::Label::withFrame({{column * 96.0 + 6, row * 25.0 + 4}, {90, 22}});
+                label.setText(row % 2 == 0 ? u"选择 word"_ns : u"复制文本 12"_ns);
+                panel.addSubview(label);
+            }
+        }
+        caret = ui::View::withFrame({{100, 700}, {2, 20}});
+        caret.setBackgroundColor(ui::Color::blue());
+        window.addSubview(panel);
+        window.addSubview(caret);
+        window.makeKeyAndVisible();
+    }
+    static Scene& shared() {
+        bench::startPlatform();
+        static auto* scene = new Scene;
+        return *scene;
+    }
+
+    objc::Strong<ui::Window> window;
+    objc::Strong<ui::View> panel;
+    objc::Strong<ui::View> caret;
+};
+
+Bytes frameOf(ScreenImage& image, const std::vector<PixelRectangle>& regions) {
+    std::vector<Patch> patches;
+    for (const PixelRectangle& region : regions) {
+        patches.push_back(copied(image, region));
+    }
+    return encodeFrame(1, static_cast<std::uint16_t>(image.width()),
+                       static_cast<std::uint16_t>(image.height()), patches);
+}
+
+/// Changes the screen again and again, and makes the frames that a page would be sent.
+template <class Change>
+void measure(benchmark::State& state, Change change) {
+    const objc::Pool pool;
+    Scene& scene = Scene::shared();
+    ScreenImage image(phoneScale);
+    image.refresh();
+    std::size_t bytes = 0;
+    bool odd = false;
+    for (auto _ : state) {
+        change(scene, odd = !odd);
+        bytes += frameOf(image, image.refresh()).size();
+    }
+    state.counters["bytes"] =
+        benchmark::Counter(static_cast<double>(bytes), benchmark::Counter::kAvgIterations);
+    state.counters["frames/s"] =
+        benchmark::Counter(1, benchmark::Counter::kIsIterationInvariantRate);
+}
+
+void caretBlinks(benchmark::State& state) {
+    measure(state, [](const Scene& scene, bool odd) { scene.caret.setHidden(odd); });
+}
+
+void panelMoves(benchmark::State& state) {
+    measure(state, [](const Scene& scene, bool odd) {
+        scene.panel.setFrame({{0, odd ? 66.0 : 60.0}, {390, 610}});
+    });
+}
+
+/// Encoding alone, of the whole screen.
+void wholeScreen(benchmark::State& state) {
+    const objc::Pool pool;
+    Scene::shared();
+    ScreenImage image(phoneScale);
+    image.refresh();
+    std::size_t bytes = 0;
+    for (auto _ : state) {
+        bytes = frameOf(image, {{0, 0, image.width(), image.height()}}).size();
+    }
+    state.counters["bytes"] = static_cast<double>(bytes);
+    state.counters["frames/s"] =
+        benchmark::Counter(1, benchmark::Counter::kIsIterationInvariantRate);
+}
+
+BENCHMARK(caretBlinks)->Name("frame/caret_blinks");
+BENCHMARK(panelMoves)->Name("frame/panel_moves");
+BENCHMARK(wholeScreen)->Name("frame/whole_screen");
+
+} // namespace
