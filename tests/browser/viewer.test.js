@@ -247,6 +247,52 @@ test("a second page takes over, and the first can take the phone back", async ()
     await second.close();
 });
 
+test("a page that is slow gets the newest picture, not all of them", async () => {
+    const phone = await Phone.open(browser, host.address);
+    const counts = await phone.page.evaluate(async () => {
+        const soon = (milliseconds) => new Promise((done) => setTimeout(done, milliseconds));
+        const socket = new WebSocket(new URL("socket", location.href).href.replace("http", "ws"));
+        socket.binaryType = "arraybuffer";
+        const frames = [];
+        let id = 0;
+        const answers = new Map();
+        socket.onmessage = ({ data }) => {
+            if (data instanceof ArrayBuffer) {
+                frames.push(new DataView(data).getUint32(0, true));
+            } else {
+                const { type, response } = JSON.parse(data);
+                if (type === "answer") {
+                    answers.get(response.id)(response.result);
+                }
+            }
+        };
+        const ask = (request) => new Promise((done) => {
+            answers.set(++id, done);
+            socket.send(JSON.stringify({ type: "ask", request: { ...request, id } }));
+        });
+        await new Promise((opened) => {
+            socket.onopen = opened;
+        });
+        const [window] = await ask({ do: "tree" });
+        socket.send('{"type":"look","scale":1}');
+        for (let change = 0; change < 8; ++change) {
+            const alpha = 0.9 - 0.05 * change;
+            await ask({ do: "send", to: window.children[0], selector: "setAlpha:", args: [alpha] });
+            await soon(60);
+        }
+        const before = frames.length;
+        socket.send('{"type":"seen","picture":9}'); // it was not sent
+        await soon(200);
+        const lied = frames.length;
+        socket.send('{"type":"seen","picture":1}');
+        await soon(400);
+        await ask({ do: "send", to: window.children[0], selector: "setAlpha:", args: [1] });
+        return [before, lied, frames.length];
+    });
+    assert.deepEqual(counts, [2, 2, 3]);
+    await phone.close();
+});
+
 test("a page that leaves in the middle of frames does no harm", async () => {
     for (let round = 0; round < 5; ++round) {
         const phone = await Phone.open(browser, host.address);

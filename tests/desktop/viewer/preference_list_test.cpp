@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <bit>
 #include <fstream>
 #include <map>
 
@@ -29,10 +30,10 @@ Kinds listed() {
 
 /// The names in the library's table, which holds keys and nothing else.
 std::vector<std::string> known() {
+    using Keys = std::array<Key, sizeof(PreferenceKeys) / sizeof(Key)>;
     std::vector<std::string> names;
-    const auto* first = reinterpret_cast<const Key*>(&keys);
-    for (std::size_t i = 0; i < sizeof(PreferenceKeys) / sizeof(Key); ++i) {
-        names.emplace_back(first[i].name());
+    for (const Key& key : std::bit_cast<Keys>(keys)) {
+        names.emplace_back(key.name());
     }
     return names;
 }
