@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bindings/uikit/control.hpp"
+#include "bindings/uikit/image_view.hpp"
 #include "bindings/uikit/label.hpp"
 
 namespace ui {
@@ -23,8 +24,14 @@ struct Button : objc::Kind<Button, "UIButton", Control> {
     void setTitleColor(Color color, unsigned long state) const {
         send<"setTitleColor:forState:">(color, state);
     }
+    void setImage(Image image, unsigned long state) const {
+        send<"setImage:forState:">(image, state);
+    }
+    [[nodiscard]] ImageView imageView() const { return send<"imageView", ImageView>(); }
     [[nodiscard]] Label titleLabel() const { return send<"titleLabel", Label>(); }
     void setContentEdgeInsets(UIEdgeInsets insets) const { send<"setContentEdgeInsets:">(insets); }
+    void setTitleEdgeInsets(UIEdgeInsets insets) const { send<"setTitleEdgeInsets:">(insets); }
+    void setImageEdgeInsets(UIEdgeInsets insets) const { send<"setImageEdgeInsets:">(insets); }
 };
 
 } // namespace ui

@@ -1,11 +1,27 @@
-// UIImage.
+// UIImage, and how symbols are made images.
 #pragma once
 
 #include "bindings/coregraphics/geometry.hpp"
 #include "bindings/coregraphics/image.hpp"
 #include "bindings/foundation/string.hpp"
+#include "bindings/uikit/color.hpp"
 
 namespace ui {
+
+/// The platform's numbers.
+enum class SymbolWeight : long { regular = 4, medium = 5, semibold = 6, bold = 7 };
+/// Whether an image is drawn in its own colours or, as a shape, in the tint colour; `automatic` is
+/// the latter for symbols. The platform's numbers.
+enum class RenderingMode : long { automatic = 0, original = 1, shape = 2 };
+
+struct SymbolConfiguration : objc::Kind<SymbolConfiguration, "UIImageSymbolConfiguration"> {
+    using Kind::Kind;
+
+    static SymbolConfiguration of(double pointSize, SymbolWeight weight) {
+        return sendClass<"configurationWithPointSize:weight:", SymbolConfiguration>(pointSize,
+                                                                                    weight);
+    }
+};
 
 struct Image : objc::Kind<Image, "UIImage"> {
     using Kind::Kind;
@@ -16,8 +32,21 @@ struct Image : objc::Kind<Image, "UIImage"> {
     }
     /// Borrowed: valid as long as the image. Null for nil.
     [[nodiscard]] CGImageRef cgImage() const { return send<"CGImage", CGImageRef>(); }
+    /// The system's symbol of that name; nil when there is none.
+    static Image systemNamed(ns::String name) {
+        return sendClass<"systemImageNamed:", Image>(name);
+    }
+    static Image systemNamed(ns::String name, SymbolConfiguration configuration) {
+        return sendClass<"systemImageNamed:withConfiguration:", Image>(name, configuration);
+    }
     /// In points.
     [[nodiscard]] CGSize size() const { return send<"size", CGSize>(); }
+    [[nodiscard]] Image withTintColor(Color color) const {
+        return send<"imageWithTintColor:", Image>(color);
+    }
+    [[nodiscard]] Image withRenderingMode(RenderingMode mode) const {
+        return send<"imageWithRenderingMode:", Image>(mode);
+    }
 };
 
 } // namespace ui

@@ -40,6 +40,11 @@ struct Label : objc::Kind<Label, "UILabel", View> {
     /// 0: as many as it takes.
     void setNumberOfLines(long lines) const { send<"setNumberOfLines:">(lines); }
     void setLineBreakMode(LineBreakMode mode) const { send<"setLineBreakMode:">(mode); }
+    /// Text that is too wide is set smaller, down to the minimum scale.
+    void setAdjustsFontSizeToFitWidth(bool adjusts) const {
+        send<"setAdjustsFontSizeToFitWidth:">(adjusts);
+    }
+    void setMinimumScaleFactor(double factor) const { send<"setMinimumScaleFactor:">(factor); }
 };
 
 } // namespace ui

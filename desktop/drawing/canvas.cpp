@@ -137,6 +137,21 @@ void Canvas::draw(const Image& image, const Rectangle& area) {
     restore();
 }
 
+void Canvas::fillShape(const Image& image, const Rectangle& area, const Colour& colour) {
+    if (!drawable(area) || image.pixelWidth() == 0 || image.pixelHeight() == 0)
+        return;
+    save();
+    const bool placed = concatenate({.a = area.width / image.pixelWidth(),
+                                     .d = area.height / image.pixelHeight(),
+                                     .tx = area.x,
+                                     .ty = area.y});
+    if (placed) {
+        setColour(context(), colour);
+        cairo_mask_surface(context(), image.surface(), 0, 0);
+    }
+    restore();
+}
+
 void Canvas::drawShadow(const Rectangle& area, const Colour& colour, Size offset, double blurRadius,
                         double cornerRadius) {
     const auto shape =

@@ -49,6 +49,8 @@ public:
                 double cornerRadius = 0);
     /// Stretches the image over the rectangle.
     void draw(const Image& image, const Rectangle& area);
+    /// Fills the image's shape, stretched over the rectangle, with the colour.
+    void fillShape(const Image& image, const Rectangle& area, const Colour& colour);
     /// The blurred shadow of a filled rectangle, moved by `offset`; `blurRadius` is the standard
     /// deviation of the blur.
     void drawShadow(const Rectangle& area, const Colour& colour, Size offset, double blurRadius,

@@ -1,4 +1,4 @@
-// Buttons: titles and colours by state, and where the title lies.
+// Buttons: titles, images and colours by state.
 #include "desktop/uikit/button.hpp"
 
 #include <algorithm>
@@ -15,6 +15,9 @@ auto valueFor(const Values& values, unsigned long state) {
     return found != values.end() ? static_cast<Kind>(found->second) : Kind();
 }
 
+/// The grey of what cannot be used.
+ui::Color disabledColor() { return ui::Color::sendClass<"tertiaryLabelColor", ui::Color>(); }
+
 } // namespace
 
 std::vector<objc::MethodRow> Button::methods() {
@@ -27,8 +30,20 @@ std::vector<objc::MethodRow> Button::methods() {
         objc::method<"currentTitle", &Button::currentTitle>(),
         objc::method<"setTitleColor:forState:", &Button::setTitleColor>(),
         objc::method<"titleColorForState:", &Button::titleColorFor>(),
+        objc::method<"currentTitleColor", &Button::currentTitleColor>(),
+        objc::method<"setImage:forState:", &Button::setImage>(),
+        objc::method<"imageForState:", &Button::imageFor>(),
+        objc::method<"currentImage", &Button::currentImage>(),
+        objc::method<"setBackgroundImage:forState:", &Button::setBackgroundImage>(),
+        objc::method<"backgroundImageForState:", &Button::backgroundImageFor>(),
         objc::method<"titleLabel", &Button::label_>(),
+        objc::method<"imageView", &Button::imageView>(),
+        objc::method<"setTintColor:", &Button::setTintColor>(),
         objc::property<"contentEdgeInsets", &Button::insets_, &Button::insetsChanged>(),
+        objc::property<"titleEdgeInsets", &Button::titleInsets_, &Button::insetsChanged>(),
+        objc::property<"imageEdgeInsets", &Button::imageInsets_, &Button::insetsChanged>(),
+        objc::property<"adjustsImageWhenHighlighted", &Button::adjustsImageWhenHighlighted_>(),
+        objc::property<"adjustsImageWhenDisabled", &Button::adjustsImageWhenDisabled_>(),
         objc::method<"layoutSubviews", &Button::layoutSubviews>(),
         objc::method<"sizeThatFits:", &Button::sizeThatFits>(),
         objc::method<"intrinsicContentSize", &Button::intrinsicContentSize>(),
@@ -48,14 +63,31 @@ ui::Button Button::initWithFrame(CGRect frame) {
     label_ = ui::Label::withFrame({});
     label_.setFont(ui::Font::system(titleSize));
     label_.setTextAlignment(ui::TextAlignment::center);
+    label_.setLineBreakMode(ui::LineBreakMode::truncatingMiddle);
     self().addSubview(label_);
     return self();
 }
 
-void Button::setTitle(ns::String title, unsigned long state) {
-    titles_[state] = title;
+ui::ImageView Button::imageView() {
+    if (!imageView_) {
+        imageView_ = ui::ImageView::withImage(nullptr);
+        constexpr long aspectFit = 1;
+        imageView_.send<"setContentMode:">(aspectFit);
+        imageView_.setUserInteractionEnabled(false);
+        self().insertSubview(imageView_, backgroundView_ ? 1 : 0);
+    }
+    return imageView_;
+}
+
+void Button::contentChanged() {
     showState();
     self().setNeedsLayout();
+    self().superview().setNeedsLayout(); // the button's own size may be another one now
+}
+
+void Button::setTitle(ns::String title, unsigned long state) {
+    titles_[state] = title;
+    contentChanged();
 }
 
 ns::String Button::titleFor(unsigned long state) const { return valueFor(titles_, state); }
@@ -66,39 +98,90 @@ void Button::setTitleColor(ui::Color color, unsigned long state) {
 }
 
 ui::Color Button::titleColorFor(unsigned long state) const {
+    const bool isDisabled = (state & ui::control_state::disabled) != 0;
+    if (isDisabled && isSystem() && !colours_.contains(state)) {
+        return disabledColor();
+    }
     if (const ui::Color set = valueFor(colours_, state); set) {
         return set;
     }
-    if ((state & ui::control_state::disabled) != 0) {
-        return ui::Color::secondaryLabel();
+    return isSystem() ? self().tintColor() : ui::Color::white();
+}
+
+void Button::setImage(ui::Image image, unsigned long state) {
+    images_[state] = image;
+    contentChanged();
+}
+
+ui::Image Button::imageFor(unsigned long state) const { return valueFor(images_, state); }
+
+void Button::setBackgroundImage(ui::Image image, unsigned long state) {
+    backgrounds_[state] = image;
+    if (!backgroundView_) {
+        backgroundView_ = ui::ImageView::withImage(nullptr);
+        backgroundView_.setUserInteractionEnabled(false);
+        self().insertSubview(backgroundView_, 0);
     }
-    return type_ == ui::ButtonType::system ? self().tintColor() : ui::Color::white();
+    contentChanged();
+}
+
+ui::Image Button::backgroundImageFor(unsigned long state) const {
+    return valueFor(backgrounds_, state);
+}
+
+void Button::setTintColor(ui::Color color) {
+    super<"setTintColor:">(color);
+    showState();
 }
 
 void Button::showState() {
     const unsigned long state = self().state();
     constexpr double dimmed = 0.3;
     label_.setTextColor(titleColorFor(state));
-    label_.setAlpha(self().isHighlighted() ? dimmed : 1);
+    label_.setAlpha(self().isHighlighted() && isSystem() ? dimmed : 1);
     // Only a new title is set: a hook on the label may have changed what it shows.
     if (const ns::String title = titleFor(state); title != shown_) {
         shown_ = title;
         label_.setText(title);
     }
+    showImages(state);
+}
+
+void Button::showImages(unsigned long state) {
+    if (const ui::Image image = imageFor(state); image || imageView_) {
+        constexpr double dimmed = 0.3;
+        constexpr double darkened = 0.5;
+        const bool isDisabled = !self().isEnabled();
+        const ui::ImageView view = imageView();
+        view.setImage(image);
+        view.setTintColor(isDisabled ? disabledColor() : ui::Color());
+        const bool dims = (self().isHighlighted() && adjustsImageWhenHighlighted_) ||
+                          (isDisabled && !isSystem() && adjustsImageWhenDisabled_);
+        view.setAlpha(!dims ? 1 : isSystem() ? dimmed : darkened);
+    }
+    backgroundView_.setImage(backgroundImageFor(state));
+}
+
+ButtonContent Button::content() const {
+    ButtonContent content;
+    content.image = currentImage().size();
+    content.title = label_.text().length() > 0 ? label_.sizeThatFits({}) : CGSize();
+    content.contentInsets = insets_;
+    content.imageInsets = imageInsets_;
+    content.titleInsets = titleInsets_;
+    content.horizontal = self().send<"contentHorizontalAlignment", HorizontalAlignment>();
+    content.vertical = self().send<"contentVerticalAlignment", VerticalAlignment>();
+    return content;
 }
 
 void Button::layoutSubviews() {
     showState();
-    const CGRect bounds = self().bounds();
-    label_.setFrame({{bounds.origin.x + insets_.left, bounds.origin.y + insets_.top},
-                     {std::max(0.0, bounds.size.width - insets_.left - insets_.right),
-                      std::max(0.0, bounds.size.height - insets_.top - insets_.bottom)}});
+    const ButtonLayout layout = layOutButton(content(), self().bounds());
+    label_.setFrame(layout.title);
+    imageView_.setFrame(layout.image);
+    backgroundView_.setFrame(self().bounds());
 }
 
-CGSize Button::sizeThatFits(CGSize) const {
-    const CGSize title = label_.sizeThatFits({});
-    return {title.width + insets_.left + insets_.right,
-            title.height + insets_.top + insets_.bottom};
-}
+CGSize Button::sizeThatFits(CGSize) const { return buttonSize(content()); }
 
 } // namespace desktop

@@ -1,9 +1,10 @@
-// UIButton: a control with a title.
+// UIButton: a control with a title and an image.
 #pragma once
 
 #include "bindings/uikit/button.hpp"
 
 #include "desktop/class.hpp"
+#include "desktop/uikit/button_layout.hpp"
 
 #include <map>
 
@@ -14,6 +15,10 @@ public:
     static std::vector<objc::MethodRow> methods();
 
 private:
+    /// What is set for each state.
+    template <class Value>
+    using ByState = std::map<unsigned long, Value>;
+
     static ui::Button ofType(Class cls, ui::ButtonType type);
     ui::Button initWithFrame(CGRect frame);
     void setTitle(ns::String title, unsigned long state);
@@ -21,18 +26,38 @@ private:
     [[nodiscard]] ns::String currentTitle() const { return titleFor(self().state()); }
     void setTitleColor(ui::Color color, unsigned long state);
     [[nodiscard]] ui::Color titleColorFor(unsigned long state) const;
+    [[nodiscard]] ui::Color currentTitleColor() const { return titleColorFor(self().state()); }
+    void setImage(ui::Image image, unsigned long state);
+    [[nodiscard]] ui::Image imageFor(unsigned long state) const;
+    [[nodiscard]] ui::Image currentImage() const { return imageFor(self().state()); }
+    void setBackgroundImage(ui::Image image, unsigned long state);
+    [[nodiscard]] ui::Image backgroundImageFor(unsigned long state) const;
+    [[nodiscard]] ui::ImageView imageView();
+    void setTintColor(ui::Color color);
     void layoutSubviews();
     [[nodiscard]] CGSize sizeThatFits(CGSize room) const;
     [[nodiscard]] CGSize intrinsicContentSize() const { return sizeThatFits({}); }
     void insetsChanged() { self().setNeedsLayout(); }
+    void contentChanged();
     void showState();
+    void showImages(unsigned long state);
+    [[nodiscard]] ButtonContent content() const;
+    [[nodiscard]] bool isSystem() const { return type_ != ui::ButtonType::custom; }
 
     ui::ButtonType type_ = ui::ButtonType::custom;
     objc::Strong<ui::Label> label_;
+    objc::Strong<ui::ImageView> imageView_;
+    objc::Strong<ui::ImageView> backgroundView_;
     objc::Strong<ns::String> shown_;
-    std::map<unsigned long, objc::Copied<ns::String>> titles_;
-    std::map<unsigned long, objc::Strong<ui::Color>> colours_;
+    ByState<objc::Copied<ns::String>> titles_;
+    ByState<objc::Strong<ui::Color>> colours_;
+    ByState<objc::Strong<ui::Image>> images_;
+    ByState<objc::Strong<ui::Image>> backgrounds_;
     UIEdgeInsets insets_;
+    UIEdgeInsets titleInsets_;
+    UIEdgeInsets imageInsets_;
+    bool adjustsImageWhenHighlighted_ = true;
+    bool adjustsImageWhenDisabled_ = true;
 };
 
 } // namespace desktop

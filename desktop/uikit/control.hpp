@@ -35,6 +35,8 @@ private:
     void stateChanged() { self().setNeedsLayout(); }
 
     std::vector<Target> targets_;
+    long horizontal_ = 0;
+    long vertical_ = 0;
     bool enabled_ = true;
     bool selected_ = false;
     bool highlighted_ = false;

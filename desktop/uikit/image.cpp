@@ -1,5 +1,9 @@
-// UIImage's makers and measures.
+// UIImage's makers, measures and drawing.
 #include "desktop/uikit/image.hpp"
+
+#include "desktop/uikit/color.hpp"
+#include "desktop/uikit/screen.hpp"
+#include "desktop/uikit/symbol_configuration.hpp"
 
 namespace desktop {
 namespace {
@@ -27,8 +31,71 @@ ui::Image UIImage::withContentsOfFile(Class, ns::String path) {
     return image;
 }
 
+ui::Image UIImage::systemNamedInStyle(Class, ns::String name, ui::SymbolConfiguration style) {
+    const std::string symbolName = name.utf8();
+    auto picture =
+        symbol(symbolName, SymbolConfiguration::styleOf(style), ScreenGeometry::current().scale);
+    if (!picture) {
+        return nullptr;
+    }
+    const auto image = ui::Image::make();
+    of(image).value_ = std::move(picture);
+    of(image).symbolName_ = symbolName;
+    return image;
+}
+
+ui::Image UIImage::copied() const {
+    const auto image = ui::Image::make();
+    of(image).value_ = value_;
+    of(image).symbolName_ = symbolName_;
+    of(image).tint_ = tint_;
+    of(image).renderingMode_ = renderingMode_;
+    return image;
+}
+
+ui::Image UIImage::withTintAndMode(ui::Color color, ui::RenderingMode mode) const {
+    const ui::Image image = copied();
+    of(image).tint_ = color;
+    of(image).renderingMode_ = mode;
+    return image;
+}
+
+ui::Image UIImage::withRenderingMode(ui::RenderingMode mode) const {
+    const ui::Image image = copied();
+    of(image).renderingMode_ = mode;
+    return image;
+}
+
+ui::Image UIImage::inStyle(ui::SymbolConfiguration style) const {
+    if (!isSymbol()) {
+        return self();
+    }
+    const ui::Image image = systemNamedInStyle(nullptr, ns::String::fromUtf8(symbolName_), style);
+    of(image).tint_ = tint_;
+    of(image).renderingMode_ = renderingMode_;
+    return image;
+}
+
 const Image* UIImage::valueOf(ui::Image image) {
     return image && of(image).value_ ? &*of(image).value_ : nullptr;
+}
+
+void UIImage::draw(ui::Image image, Canvas& canvas, const Rectangle& area, ui::Color tint) {
+    const Image* picture = valueOf(image);
+    if (picture == nullptr) {
+        return;
+    }
+    using Mode = ui::RenderingMode;
+    const UIImage& peer = of(image);
+    const bool isShape = peer.renderingMode_ == Mode::shape ||
+                         (peer.renderingMode_ == Mode::automatic && peer.isSymbol());
+    if (peer.tint_ && peer.renderingMode_ != Mode::shape) {
+        canvas.fillShape(*picture, area, Color::valueOf(peer.tint_));
+    } else if (isShape) {
+        canvas.fillShape(*picture, area, Color::valueOf(tint));
+    } else {
+        canvas.draw(*picture, area);
+    }
 }
 
 CGSize UIImage::size() const {

@@ -40,10 +40,10 @@ ui::ImageView ImageView::initWithImage(ui::Image image) {
 
 void ImageView::drawRect(CGRect) {
     Canvas* canvas = currentCanvas();
-    const Image* picture = UIImage::valueOf(image_);
-    if (canvas != nullptr && picture != nullptr) {
-        canvas->draw(*picture,
-                     rectangle(placed(image_.size(), self().bounds(), self().contentMode())));
+    if (canvas != nullptr && image_) {
+        UIImage::draw(image_, *canvas,
+                      rectangle(placed(image_.size(), self().bounds(), self().contentMode())),
+                      self().tintColor());
     }
 }
 

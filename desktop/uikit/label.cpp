@@ -63,7 +63,7 @@ void Label::changed() {
     }
 }
 
-TextLayout Label::layout(double width, double height) const {
+TextLayout Label::layout(double width, double height, double scale) const {
     TextFrame frame;
     frame.width = width;
     frame.height = height;
@@ -72,8 +72,23 @@ TextLayout Label::layout(double width, double height) const {
     frame.maximumLines = static_cast<std::size_t>(std::max(0L, numberOfLines_));
     TextRun look;
     look.font = UIFont::valueOf(font_);
+    look.font.size *= scale;
     look.colour = Color::valueOf(textColor_);
     return {text_.utf16(), look, frame};
+}
+
+/// How much smaller the text is set so that its one line fits; as small as allowed if it does not.
+double Label::scaleFor(double width) const {
+    if (!adjusts_ || numberOfLines_ != 1) {
+        return 1;
+    }
+    const double whole = layout(TextFrame::unlimited, TextFrame::unlimited).size().width;
+    if (whole <= width) {
+        return 1;
+    }
+    // Measures are rounded up to a third of a point: a little less than in proportion fits.
+    constexpr double rounding = 1.0 / 3;
+    return std::clamp((width - rounding) / whole, std::clamp(minimumScale_, 0.0, 1.0), 1.0);
 }
 
 void Label::drawRect(CGRect) {
@@ -82,7 +97,8 @@ void Label::drawRect(CGRect) {
     if (canvas == nullptr || !text_) {
         return;
     }
-    const TextLayout layout = this->layout(bounds.size.width, bounds.size.height);
+    const TextLayout layout =
+        this->layout(bounds.size.width, bounds.size.height, scaleFor(bounds.size.width));
     const double top = (bounds.size.height - layout.size().height) / 2;
     // Text stands on whole pixels, as on the phone.
     const double scale = ScreenGeometry::current().scale;

@@ -23,6 +23,8 @@ public:
             objc::property<"baselineAdjustment", &Label::baselineAdjustment_>(),
             objc::property<"numberOfLines", &Label::numberOfLines_, &Label::changed>(),
             objc::property<"preferredMaxLayoutWidth", &Label::preferredWidth_, &Label::changed>(),
+            objc::property<"adjustsFontSizeToFitWidth", &Label::adjusts_, &Label::changed>(),
+            objc::property<"minimumScaleFactor", &Label::minimumScale_, &Label::changed>(),
             objc::flag<"enabled", &Label::enabled_>(),
             objc::flag<"highlighted", &Label::highlighted_>(),
             objc::method<"drawRect:", &Label::drawRect>(),
@@ -43,7 +45,8 @@ private:
     void drawRect(CGRect dirty);
     [[nodiscard]] CGSize sizeThatFits(CGSize room) const;
     [[nodiscard]] CGSize intrinsicContentSize() const;
-    [[nodiscard]] TextLayout layout(double width, double height) const;
+    [[nodiscard]] TextLayout layout(double width, double height, double scale = 1) const;
+    [[nodiscard]] double scaleFor(double width) const;
 
     objc::Copied<ns::String> text_;
     objc::Strong<ui::Font> font_;
@@ -54,6 +57,8 @@ private:
     ui::BaselineAdjustment baselineAdjustment_ = ui::BaselineAdjustment::alignBaselines;
     long numberOfLines_ = 1;
     double preferredWidth_ = 0;
+    double minimumScale_ = 0;
+    bool adjusts_ = false;
     bool enabled_ = true;
     bool highlighted_ = false;
 };

@@ -1,0 +1,77 @@
+// From the phone's names of symbols to those of the icon set.
+#include "desktop/drawing/symbol.hpp"
+
+#include <algorithm>
+#include <array>
+
+namespace desktop {
+namespace {
+
+struct Substitute {
+    std::string_view name;
+    std::string_view glyph;
+};
+
+/// Symbols that the set lacks, with the glyph that is nearest in meaning and shape.
+constexpr std::array substitutes{
+    Substitute{"app.badge.checkmark", "app_badge"},
+    Substitute{"arrow.down.forward.and.arrow.up.backward.circle", "arrow_down_right_arrow_up_left"},
+    Substitute{"arrow.triangle.2.circlepath", "arrow_2_circlepath"},
+    Substitute{"arrow.up.left.and.down.right.and.arrow.up.right.and.down.left", "move"},
+    Substitute{"chart.bar.doc.horizontal", "doc_chart"},
+    Substitute{"dongsign.square", "money_yen_circle"},
+    Substitute{"dot.viewfinder", "smallcircle_circle"},
+    Substitute{"faxmachine", "printer"},
+    Substitute{"gearshape", "gear_alt"},
+    Substitute{"gearshape.fill", "gear_alt_fill"},
+    Substitute{"line.3.horizontal", "line_horizontal_3"},
+    Substitute{"minus.magnifyingglass", "zoom_out"},
+    Substitute{"network", "globe"},
+    Substitute{"photo.artframe", "photo_on_rectangle"},
+    Substitute{"play.rectangle", "play_rectangle"},
+    Substitute{"plus.magnifyingglass", "zoom_in"},
+    Substitute{"safari", "compass"},
+    Substitute{"square.fill.text.grid.1x2", "rectangle_grid_1x2_fill"},
+    Substitute{"square.grid.3x3", "rectangle_split_3x3"},
+    Substitute{"square.grid.3x3.fill", "rectangle_split_3x3_fill"},
+};
+
+/// Words that the set spells in its own way.
+constexpr std::array words{
+    Substitute{"and", ""},
+    Substitute{"backward", "left"},
+    Substitute{"forward", "right"},
+    Substitute{"magnifyingglass", "search"},
+    Substitute{"questionmark", "question"},
+};
+
+std::string joined(std::string_view name, bool translate) {
+    std::string glyph;
+    while (!name.empty()) {
+        const std::size_t end = std::min(name.find('.'), name.size());
+        std::string_view word = name.substr(0, end);
+        const auto* own = std::ranges::find(words, word, &Substitute::name);
+        if (translate && own != words.end()) {
+            word = own->glyph;
+        }
+        glyph += glyph.empty() || word.empty() ? "" : "_";
+        glyph += word;
+        name.remove_prefix(std::min(end + 1, name.size()));
+    }
+    return glyph;
+}
+
+} // namespace
+
+std::vector<std::string> glyphNames(std::string_view name) {
+    if (name.find('_') != std::string_view::npos) {
+        return {}; // a name of the set, not of the phone
+    }
+    const auto* substitute = std::ranges::find(substitutes, name, &Substitute::name);
+    if (substitute != substitutes.end()) {
+        return {std::string(substitute->glyph)};
+    }
+    return {joined(name, false), joined(name, true)};
+}
+
+} // namespace desktop
