@@ -4,6 +4,9 @@
 #include "bindings/coregraphics/geometry.hpp"
 #include "bindings/foundation/array.hpp"
 #include "bindings/foundation/set.hpp"
+#include "bindings/foundation/dictionary.hpp"
+#include "bindings/foundation/url.hpp"
+#include "bindings/objc/block.hpp"
 #include "bindings/uikit/window.hpp"
 
 namespace ui {
@@ -15,6 +18,14 @@ struct Application : objc::Kind<Application, "UIApplication", Responder> {
     /// Back to front.
     [[nodiscard]] ns::Array windows() const { return send<"windows", ns::Array>(); }
     [[nodiscard]] ns::Set connectedScenes() const { return send<"connectedScenes", ns::Set>(); }
+    /// Hands the URL to the application that it belongs to. False when there is none.
+    bool openUrl(ns::Url url) const { return send<"openURL:", bool>(url); }
+    /// As above, and calls the completion, which may be nil, with how it went.
+    void openUrl(ns::Url url, ns::Dictionary options,
+                 objc::Block<void(bool opened)> completion) const {
+        send<"openURL:options:completionHandler:">(url, options, completion);
+    }
+    [[nodiscard]] bool canOpenUrl(ns::Url url) const { return send<"canOpenURL:", bool>(url); }
     [[nodiscard]] Window keyWindow() const { return send<"keyWindow", Window>(); }
 };
 

@@ -14,6 +14,7 @@ inline constexpr unsigned long touchDragOutside = 1U << 3U;
 inline constexpr unsigned long touchUpInside = 1U << 6U;
 inline constexpr unsigned long touchUpOutside = 1U << 7U;
 inline constexpr unsigned long touchCancel = 1U << 8U;
+inline constexpr unsigned long editingChanged = 1U << 17U;
 } // namespace control_events
 
 /// The states of a control; bits that may be combined.

@@ -43,6 +43,7 @@ struct View : objc::Kind<View, "UIView", Responder> {
     [[nodiscard]] Color backgroundColor() const { return send<"backgroundColor", Color>(); }
     void setBackgroundColor(Color color) const { send<"setBackgroundColor:">(color); }
     [[nodiscard]] Color tintColor() const { return send<"tintColor", Color>(); }
+    void setTintColor(Color color) const { send<"setTintColor:">(color); }
     void setClipsToBounds(bool clips) const { send<"setClipsToBounds:">(clips); }
     [[nodiscard]] bool clipsToBounds() const { return send<"clipsToBounds", bool>(); }
     [[nodiscard]] long tag() const { return send<"tag", long>(); }

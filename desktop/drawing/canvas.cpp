@@ -146,7 +146,7 @@ void Canvas::fillShape(const Image& image, const Rectangle& area, const Colour& 
                                      .tx = area.x,
                                      .ty = area.y});
     if (placed) {
-        setColour(context(), colour);
+        setColour(colour);
         cairo_mask_surface(context(), image.surface(), 0, 0);
     }
     restore();

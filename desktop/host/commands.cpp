@@ -25,7 +25,7 @@ struct Row {
     Command command;
 };
 
-constexpr std::array<Row, 16> table{{
+constexpr std::array<Row, 18> table{{
     {"send", &send},
     {"tree", &tree},
     {"find", &find},
@@ -34,6 +34,8 @@ constexpr std::array<Row, 16> table{{
     {"slide", &slide},
     {"pinch", &pinch},
     {"touch", &touch},
+    {"alert", &alert},
+    {"screens", &screens},
     {"pasteboard", &pasteboard},
     {"preferences", &preferences},
     {"defaults", &defaults},

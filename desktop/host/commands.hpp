@@ -31,6 +31,9 @@ using Command = Json (*)(Session& session, const Json& request);
 [[nodiscard]] Json slide(Session& session, const Json& request);
 [[nodiscard]] Json pinch(Session& session, const Json& request);
 [[nodiscard]] Json touch(Session& session, const Json& request);
+// The controllers that are shown.
+[[nodiscard]] Json alert(Session& session, const Json& request);
+[[nodiscard]] Json screens(Session& session, const Json& request);
 // What the device keeps.
 [[nodiscard]] Json pasteboard(Session& session, const Json& request);
 [[nodiscard]] Json preferences(Session& session, const Json& request);

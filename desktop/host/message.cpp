@@ -117,11 +117,6 @@ private:
 };
 
 void Call::addScalar(std::string_view type, const Json& value) {
-    if (type.starts_with("@?")) { // a block
-        require(value.is_null(), value);
-        store(id{});
-        return;
-    }
     switch (type.empty() ? '\0' : type.front()) {
     case '@':
         store(values_->toObject(value).raw());
@@ -234,8 +229,23 @@ Json Call::result() const {
     }
 }
 
+/// The method's signature; a block in it is seen as a pointer, because GNU libobjc ends the process
+/// over the encoding of a block.
+ns::MethodSignature signatureOf(objc::Object receiver, SEL name) {
+    const Method method = class_getInstanceMethod(object_getClass(receiver.raw()), name);
+    std::string types = method != nullptr ? method_getTypeEncoding(method) : "";
+    constexpr std::string_view block = "@?";
+    if (types.find(block) == std::string::npos) {
+        return ns::MethodSignature::of(receiver, name);
+    }
+    for (std::size_t at = 0; (at = types.find(block, at)) != std::string::npos;) {
+        types.replace(at, block.size(), "^v");
+    }
+    return ns::MethodSignature::withTypes(types.c_str());
+}
+
 ns::MethodSignature signatureFor(objc::Object receiver, const std::string& selector, SEL name) {
-    const auto signature = ns::MethodSignature::of(receiver, name);
+    const auto signature = signatureOf(receiver, name);
     if (!signature) {
         throw RequestError(std::string(object_getClassName(receiver.raw())) + " does not answer " +
                            selector);

@@ -2,6 +2,8 @@
 #include "desktop/uikit/application.hpp"
 
 #include "desktop/quartzcore/screen_changes.hpp"
+#include "desktop/runtime/event_log.hpp"
+#include "desktop/runtime/main_queue.hpp"
 #include "desktop/uikit/window.hpp"
 
 #include <algorithm>
@@ -30,6 +32,30 @@ void Application::show(ui::Window window) {
         windows_, [level](ui::Window other) { return Window::of(other).level() > level; });
     windows_.insert(place, window);
     ScreenChanges::shared().announce();
+}
+
+/// Every application is installed, as far as one can tell.
+bool Application::canOpenUrl(ns::Url url) const {
+    return url.send<"scheme", ns::String>().length() > 0;
+}
+
+bool Application::openUrl(ns::Url url) {
+    if (!canOpenUrl(url)) {
+        return false;
+    }
+    using namespace ns::literals;
+    EventLog::shared().record("openURL", ns::Dictionary::with(url.absoluteString(), u"url"_ns));
+    return true;
+}
+
+void Application::openUrlWithOptions(ns::Url url, ns::Dictionary,
+                                     objc::Block<void(bool opened)> completion) {
+    using Completion = objc::Block<void(bool opened)>;
+    const bool opened = openUrl(url);
+    if (completion) {
+        MainQueue::shared().add(
+            [opened, done = objc::Copied<Completion>(completion)] { done(opened); });
+    }
 }
 
 void Application::forget(ui::Window window) {

@@ -20,6 +20,9 @@ public:
             objc::method<"keyWindow", &Application::keyWindow>(),
             objc::method<"connectedScenes", &Application::connectedScenes>(),
             objc::method<"applicationState", &Application::applicationState>(),
+            objc::method<"canOpenURL:", &Application::canOpenUrl>(),
+            objc::method<"openURL:", &Application::openUrl>(),
+            objc::method<"openURL:options:completionHandler:", &Application::openUrlWithOptions>(),
             objc::property<"delegate", &Application::delegate_>(),
         };
     }
@@ -39,6 +42,10 @@ private:
     static ui::Application sharedApplication(Class);
     [[nodiscard]] ns::Array windows() const;
     [[nodiscard]] ns::Set connectedScenes() const { return ns::Set::with(scene_); }
+    [[nodiscard]] bool canOpenUrl(ns::Url url) const;
+    bool openUrl(ns::Url url);
+    void openUrlWithOptions(ns::Url url, ns::Dictionary options,
+                            objc::Block<void(bool opened)> completion);
     /// 0: active.
     [[nodiscard]] long applicationState() const { return 0; }
 

@@ -71,8 +71,7 @@ ui::Button Button::initWithFrame(CGRect frame) {
 ui::ImageView Button::imageView() {
     if (!imageView_) {
         imageView_ = ui::ImageView::withImage(nullptr);
-        constexpr long aspectFit = 1;
-        imageView_.send<"setContentMode:">(aspectFit);
+        imageView_.setContentMode(ui::ContentMode::scaleAspectFit);
         imageView_.setUserInteractionEnabled(false);
         self().insertSubview(imageView_, backgroundView_ ? 1 : 0);
     }

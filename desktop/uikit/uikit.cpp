@@ -3,6 +3,11 @@
 
 #include "desktop/avfaudio/speech_synthesizer.hpp"
 #include "desktop/quartzcore/layer.hpp"
+#include "desktop/safariservices/safari_view_controller.hpp"
+#include "desktop/uikit/activity/activity_view_controller.hpp"
+#include "desktop/uikit/alerts/alert_action.hpp"
+#include "desktop/uikit/alerts/alert_controller.hpp"
+#include "desktop/uikit/alerts/alert_view.hpp"
 #include "desktop/uikit/application.hpp"
 #include "desktop/uikit/button.hpp"
 #include "desktop/uikit/collection_view.hpp"
@@ -22,12 +27,17 @@
 #include "desktop/uikit/list_controllers.hpp"
 #include "desktop/uikit/long_press_gesture_recognizer.hpp"
 #include "desktop/uikit/menu_controller.hpp"
-#include "desktop/uikit/navigation_bar.hpp"
-#include "desktop/uikit/navigation_item.hpp"
+#include "desktop/uikit/navigation/bar_button_item.hpp"
+#include "desktop/uikit/navigation/navigation_bar.hpp"
+#include "desktop/uikit/navigation/navigation_controller.hpp"
+#include "desktop/uikit/navigation/navigation_item.hpp"
+#include "desktop/uikit/navigation/toolbar.hpp"
 #include "desktop/uikit/pan_gesture_recognizer.hpp"
 #include "desktop/uikit/pasteboard.hpp"
 #include "desktop/uikit/picker_view.hpp"
 #include "desktop/uikit/pinch_gesture_recognizer.hpp"
+#include "desktop/uikit/presentation/popover_presentation_controller.hpp"
+#include "desktop/uikit/presentation/transition_view.hpp"
 #include "desktop/uikit/responder.hpp"
 #include "desktop/uikit/screen.hpp"
 #include "desktop/uikit/screen_image.hpp"
@@ -35,6 +45,7 @@
 #include "desktop/uikit/stack_view.hpp"
 #include "desktop/uikit/string_drawing.hpp"
 #include "desktop/uikit/swipe_gesture_recognizer.hpp"
+#include "desktop/uikit/symbol_configuration.hpp"
 #include "desktop/uikit/table_view.hpp"
 #include "desktop/uikit/tap_gesture_recognizer.hpp"
 #include "desktop/uikit/text_field.hpp"
@@ -81,6 +92,11 @@ void registerClasses() {
                 CollectionViewCell, CollectionView, LayoutConstraint, LayoutGuide, LayoutAnchor,
                 XAnchor, YAnchor, Dimension, PickerColumn, PickerView, TableViewCell, TableView,
                 TableViewController, CollectionViewController>();
+    // Controllers, and what they are made of.
+    registerAll<SymbolConfiguration, BarButtonItem, PresentationController,
+                PopoverPresentationController, AlertAction, NavigationController, AlertController,
+                TransitionView, LayoutContainer, DimmingView, PopoverView, AlertView, Toolbar,
+                AlertRow, ActivityViewController, SafariViewController>();
     installStringDrawing();
     registerSpeechClasses();
     registerWebClasses();

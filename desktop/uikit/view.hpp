@@ -4,7 +4,7 @@
 #include "bindings/uikit/event.hpp"
 #include "bindings/uikit/gesture_recognizer.hpp"
 #include "bindings/uikit/view.hpp"
-#include "bindings/uikit/window.hpp"
+#include "bindings/uikit/view_controller.hpp"
 
 #include "bindings/foundation/string.hpp"
 #include "desktop/class.hpp"
@@ -34,7 +34,8 @@ public:
     [[nodiscard]] ViewConstraints& constraints();
 
     /// The controller whose view this is; it outlives that role, or takes it back.
-    void setController(ui::Responder controller) { controller_ = controller; }
+    void setController(ui::ViewController controller) { controller_ = controller; }
+    [[nodiscard]] ui::ViewController controller() const { return controller_; }
 
 private:
     ui::View initWithFrame(CGRect frame);
@@ -108,7 +109,7 @@ private:
     objc::Strong<ca::Layer> layer_;
     std::vector<objc::Strong<ui::View>> subviews_;
     ui::View superview_;
-    ui::Responder controller_;
+    ui::ViewController controller_;
     objc::Strong<ui::Color> tintColor_;
     objc::Copied<ns::String> accessibilityLabel_;
     objc::Copied<ns::String> accessibilityIdentifier_;

@@ -1,9 +1,9 @@
 // UIView's place in the tree: superviews, subviews, order, and coordinates between views.
-#include "bindings/uikit/view_controller.hpp"
 #include "desktop/coregraphics/affine.hpp"
 #include "desktop/quartzcore/screen_changes.hpp"
 #include "desktop/uikit/constraints/view_constraints.hpp"
 #include "desktop/uikit/view.hpp"
+#include "desktop/uikit/view_controller.hpp"
 
 #include <algorithm>
 
@@ -25,7 +25,8 @@ ui::Window View::window() const {
 }
 
 ui::Responder View::nextResponder() const {
-    return controller_ ? controller_ : static_cast<ui::Responder>(superview_);
+    return controller_ ? static_cast<ui::Responder>(controller_)
+                       : static_cast<ui::Responder>(superview_);
 }
 
 std::size_t View::indexOf(ui::View view) const {
@@ -108,6 +109,9 @@ void View::removeFromSuperview() {
 void View::announceWindow(ui::View view, ui::Window window) {
     if (!window) {
         of(view).layer().removeAllAnimations();
+    }
+    if (const ui::ViewController controller = of(view).controller(); controller) {
+        ViewController::of(controller).viewMovesTo(window);
     }
     view.send<"willMoveToWindow:">(window);
     view.send<"didMoveToWindow">();

@@ -3,6 +3,7 @@
 #include "desktop/uikit/constraints/layout_engine.hpp"
 #include "desktop/uikit/screen.hpp"
 #include "desktop/uikit/view.hpp"
+#include "desktop/uikit/view_controller.hpp"
 
 #include <algorithm>
 
@@ -39,7 +40,9 @@ void View::layoutIfNeeded() {
 void View::layOut() {
     for (int round = 0; needsLayout_ && round < rounds; ++round) {
         needsLayout_ = false;
+        controller_.send<"viewWillLayoutSubviews">();
         self().layoutSubviews();
+        controller_.send<"viewDidLayoutSubviews">();
     }
     const auto children = subviews_; // a copy: layout may change the tree
     for (const auto& child : children) {
@@ -102,20 +105,30 @@ void View::autoresize(CGSize former, CGSize current) {
     }
 }
 
+/// What the superview's safe area leaves out of this view, and what bars of a controller cover.
 UIEdgeInsets View::safeAreaInsets() const {
-    const ui::Window window = this->window();
-    if (!window) {
-        return {};
-    }
-    const CGRect screen = window.bounds();
-    const CGRect own = convertRectTo(bounds(), nullptr);
-    const UIEdgeInsets unsafe = ScreenGeometry::current().safeArea;
     const auto overlap = [](double unsafeEdge, double distance) {
         return std::max(0.0, unsafeEdge - std::max(0.0, distance));
     };
-    return {overlap(unsafe.top, own.origin.y), overlap(unsafe.left, own.origin.x),
-            overlap(unsafe.bottom, screen.size.height - own.origin.y - own.size.height),
-            overlap(unsafe.right, screen.size.width - own.origin.x - own.size.width)};
+    UIEdgeInsets insets;
+    if (self().as<ui::Window>()) {
+        insets = ScreenGeometry::current().safeArea;
+    } else if (superview_) {
+        const UIEdgeInsets outer = superview_.safeAreaInsets();
+        const CGRect room = superview_.bounds();
+        const CGRect own = frame();
+        const double left = own.origin.x - room.origin.x;
+        const double top = own.origin.y - room.origin.y;
+        insets = {overlap(outer.top, top), overlap(outer.left, left),
+                  overlap(outer.bottom, room.size.height - top - own.size.height),
+                  overlap(outer.right, room.size.width - left - own.size.width)};
+    }
+    if (controller_) {
+        const UIEdgeInsets bars = ViewController::of(controller_).barInsets();
+        insets = {insets.top + bars.top, insets.left + bars.left, insets.bottom + bars.bottom,
+                  insets.right + bars.right};
+    }
+    return insets;
 }
 
 } // namespace desktop

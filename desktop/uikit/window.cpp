@@ -25,9 +25,16 @@ void Window::setRootViewController(ui::ViewController controller) {
         rootController_.view().removeFromSuperview();
     }
     rootController_ = controller;
-    if (controller) {
-        controller.view().setFrame(self().bounds());
-        self().insertSubview(controller.view(), 0);
+    if (!self().isHidden()) {
+        showRootView();
+    }
+}
+
+/// The root controller's view comes into the window when the window shows.
+void Window::showRootView() {
+    if (rootController_ && !rootController_.presentedViewController()) {
+        rootController_.view().setFrame(self().bounds());
+        self().insertSubview(rootController_.view(), 0);
     }
 }
 
@@ -45,6 +52,7 @@ void Window::makeKeyAndVisible() {
 void Window::setHidden(bool hidden) {
     super<"setHidden:">(hidden);
     if (!hidden) {
+        showRootView();
         Application::shared().show(self());
     }
 }

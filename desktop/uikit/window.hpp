@@ -36,6 +36,7 @@ private:
     ui::Window initWithWindowScene(ui::WindowScene scene);
     [[nodiscard]] ui::ViewController rootViewController() const { return rootController_; }
     void setRootViewController(ui::ViewController controller);
+    void showRootView();
     [[nodiscard]] objc::Object screen() const;
     void setScreen(objc::Object) {}
     [[nodiscard]] bool isKeyWindow() const;

@@ -1,0 +1,142 @@
+// Commands about the controllers that are shown: which they are, and alerts.
+#include "desktop/host/arguments.hpp"
+#include "desktop/host/commands.hpp"
+#include "desktop/host/text.hpp"
+
+#include "bindings/uikit/alert_controller.hpp"
+#include "bindings/uikit/application.hpp"
+#include "bindings/uikit/navigation_controller.hpp"
+#include "desktop/uikit/alerts/alert_controller.hpp"
+
+#include <array>
+#include <vector>
+
+namespace desktop::host {
+namespace {
+
+/// A controller, what is pushed in it, and what it presents, from the back to the front.
+void collect(ui::ViewController controller, std::vector<ui::ViewController>& shown) {
+    if (!controller) {
+        return;
+    }
+    shown.push_back(controller);
+    if (const auto navigation = controller.as<ui::NavigationController>(); navigation) {
+        for (const objc::Object pushed : navigation.viewControllers()) {
+            collect(pushed.assume<ui::ViewController>(), shown);
+        }
+    }
+    // A controller inside of another one answers what that one presents.
+    if (!controller.parent()) {
+        collect(controller.presentedViewController(), shown);
+    }
+}
+
+std::vector<ui::ViewController> shownIn(ui::Window window) {
+    std::vector<ui::ViewController> shown;
+    collect(window.rootViewController(), shown);
+    return shown;
+}
+
+/// The front-most controller of the front-most window that ends in an alert; nil when none does.
+ui::AlertController frontAlert() {
+    const ns::Array windows = ui::Application::shared().windows();
+    for (unsigned long index = windows.count(); index > 0; --index) {
+        const auto shown = shownIn(windows.at(index - 1).assume<ui::Window>());
+        const auto alert =
+            shown.empty() ? ui::AlertController() : shown.back().as<ui::AlertController>();
+        if (alert) {
+            return alert;
+        }
+    }
+    return nullptr;
+}
+
+Json toJson(ns::String text) { return text ? Json(toUtf8(text)) : Json(); }
+
+Json alertNode(ui::AlertController alert) {
+    constexpr std::array actionStyles{"default", "cancel", "destructive"};
+    Json fields = Json::array();
+    for (const objc::Object one : alert.textFields()) {
+        const auto field = one.assume<ui::TextField>();
+        fields.push_back(
+            {{"placeholder", toJson(field.placeholder())}, {"text", toJson(field.text())}});
+    }
+    Json actions = Json::array();
+    for (const objc::Object one : alert.actions()) {
+        const auto action = one.assume<ui::AlertAction>();
+        actions.push_back({{"title", toJson(action.title())},
+                           {"style", actionStyles.at(static_cast<std::size_t>(action.style()))}});
+    }
+    return {{"style", alert.style() == ui::AlertStyle::alert ? "alert" : "actionSheet"},
+            {"title", toJson(alert.title())},
+            {"message", toJson(alert.message())},
+            {"fields", std::move(fields)},
+            {"actions", std::move(actions)}};
+}
+
+/// Puts the texts into the alert's fields, one after the other, as if they were typed.
+void fill(ui::AlertController alert, const Json& texts) {
+    const ns::Array fields = alert.textFields();
+    if (texts.size() > fields.count()) {
+        throw RequestError("the alert has " + std::to_string(fields.count()) + " fields");
+    }
+    for (const Json& text : texts) {
+        if (!text.is_string()) {
+            throw RequestError("\"fields\" must be texts");
+        }
+    }
+    for (unsigned long index = 0; index < texts.size(); ++index) {
+        const auto field = fields.at(index).assume<ui::TextField>();
+        field.setText(ns::String::fromUtf8(texts[index].get_ref<const std::string&>()));
+        field.sendActions(ui::control_events::editingChanged);
+    }
+}
+
+ui::AlertAction actionTitled(ui::AlertController alert, const std::string& title) {
+    for (const objc::Object one : alert.actions()) {
+        const auto action = one.assume<ui::AlertAction>();
+        if (action.title() && toUtf8(action.title()) == title) {
+            return action;
+        }
+    }
+    throw RequestError("the alert has no action " + title);
+}
+
+} // namespace
+
+Json alert(Session&, const Json& request) {
+    const objc::Strong<ui::AlertController> front = frontAlert();
+    const Json* fields = argument(request, "fields");
+    const bool chooses = argument(request, "choose") != nullptr;
+    if (!front) {
+        if (chooses || fields != nullptr) {
+            throw RequestError("there is no alert");
+        }
+        return nullptr;
+    }
+    const auto chosen =
+        chooses ? actionTitled(front, stringArgument(request, "choose")) : ui::AlertAction();
+    if (fields != nullptr) {
+        fill(front, listArgument(request, "fields"));
+    }
+    if (chosen && !chosen.isEnabled()) {
+        throw RequestError("the action is disabled");
+    }
+    Json node = alertNode(front);
+    if (chosen) {
+        AlertController::of(front).choose(chosen);
+    }
+    return node;
+}
+
+Json screens(Session&, const Json&) {
+    const ui::Application application = ui::Application::shared();
+    const ui::Window key = application.keyWindow();
+    Json names = Json::array();
+    for (const ui::ViewController controller : shownIn(key)) {
+        names.push_back(object_getClassName(controller.raw()));
+    }
+    return names;
+}
+
+} // namespace desktop::host

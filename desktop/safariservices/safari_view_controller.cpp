@@ -1,0 +1,77 @@
+// The bar, and telling of the page.
+#include "desktop/safariservices/safari_view_controller.hpp"
+
+#include "bindings/foundation/exception.hpp"
+#include "bindings/uikit/label.hpp"
+#include "bindings/uikit/navigation_bar.hpp"
+#include "desktop/runtime/event_log.hpp"
+#include "desktop/uikit/screen.hpp"
+
+namespace desktop {
+namespace {
+
+using namespace ns::literals;
+
+bool isWeb(ns::Url url) {
+    const ns::String scheme =
+        url.send<"scheme", ns::String>().send<"lowercaseString", ns::String>();
+    return scheme.isEqual(u"http"_ns) || scheme.isEqual(u"https"_ns);
+}
+
+void tellLoad(ns::Url url) {
+    const auto fields =
+        ns::MutableDictionary::copyOf(ns::Dictionary::with(url.absoluteString(), u"url"_ns));
+    fields.set(ns::MutableDictionary::make(), u"headers"_ns);
+    EventLog::shared().record("webLoad", fields);
+}
+
+} // namespace
+
+sf::SafariViewController SafariViewController::initWithUrl(ns::Url url) {
+    if (!isWeb(url)) {
+        ns::Exception::with(u"NSInvalidArgumentException"_ns,
+                            u"The specified URL has an unsupported scheme. Only HTTP and HTTPS "
+                            u"URLs are supported."_ns)
+            .raise();
+    }
+    super<"init", ui::ViewController>();
+    url_ = url;
+    self().setModalPresentationStyle(ui::ModalPresentation::fullScreen);
+    return self();
+}
+
+void SafariViewController::viewDidLoad() {
+    super<"viewDidLoad">();
+    constexpr double barHeight = 44;
+    const ui::View view = self().view();
+    const CGSize size = view.bounds().size;
+    const double top = ScreenGeometry::current().safeArea.top;
+    const auto item = ui::NavigationItem::withTitle(url_.send<"host", ns::String>());
+    item.setLeftBarButtonItem(ui::BarButtonItem::of(ui::BarButtonSystemItem::done, self(),
+                                                    objc::selector<"donePressed">()));
+    const auto bar = ui::NavigationBar::withFrame({{0, top}, {size.width, barHeight}});
+    bar.setAutoresizingMask(ui::autoresizing::flexibleWidth);
+    const auto items = ns::MutableArray::make();
+    items.add(item);
+    bar.setItems(items);
+    view.addSubview(bar);
+    constexpr double margin = 16;
+    const auto address = ui::Label::withFrame(
+        {{margin, top + barHeight + margin}, {size.width - 2 * margin, 3 * barHeight}});
+    address.setNumberOfLines(0);
+    address.setTextColor(ui::Color::secondaryLabel());
+    address.setText(url_.absoluteString());
+    view.addSubview(address);
+    tellLoad(url_);
+}
+
+void SafariViewController::donePressed() {
+    const objc::Strong<ui::ViewController> kept = self();
+    kept.dismiss(true);
+    if (constexpr auto finished = objc::selector<"safariViewControllerDidFinish:">;
+        delegate_ && delegate_.respondsToSelector(finished())) {
+        objc::sendTo(delegate_.raw(), finished(), self());
+    }
+}
+
+} // namespace desktop

@@ -1,0 +1,35 @@
+// SFSafariViewController: a web page with a bar to leave it by. The page itself is not loaded: what
+// would be loaded is shown, and told to whoever watches.
+#pragma once
+
+#include "bindings/safariservices/safari_view_controller.hpp"
+
+#include "desktop/class.hpp"
+
+namespace desktop {
+
+class SafariViewController : public PlatformClass<SafariViewController, sf::SafariViewController> {
+public:
+    static auto methods() {
+        return std::array{
+            objc::method<"initWithURL:", &SafariViewController::initWithUrl>(),
+            objc::property<"delegate", &SafariViewController::delegate_>(),
+            objc::property<"preferredControlTintColor", &SafariViewController::tint_>(),
+            objc::property<"preferredBarTintColor", &SafariViewController::barTint_>(),
+            objc::method<"viewDidLoad", &SafariViewController::viewDidLoad>(),
+            objc::method<"donePressed", &SafariViewController::donePressed>(),
+        };
+    }
+
+private:
+    sf::SafariViewController initWithUrl(ns::Url url);
+    void viewDidLoad();
+    void donePressed();
+
+    objc::Strong<ns::Url> url_;
+    objc::Strong<ui::Color> tint_;
+    objc::Strong<ui::Color> barTint_;
+    objc::Object delegate_;
+};
+
+} // namespace desktop

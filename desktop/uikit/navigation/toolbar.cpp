@@ -1,0 +1,74 @@
+// Toolbars: sharing the room among items and spaces.
+#include "desktop/uikit/navigation/toolbar.hpp"
+
+#include "desktop/uikit/navigation/bar_button_item.hpp"
+
+#include <algorithm>
+
+namespace desktop {
+namespace {
+
+constexpr double margin = 16;
+/// Between two items that no space keeps apart.
+constexpr double itemGap = 8;
+constexpr double flexible = -1;
+
+} // namespace
+
+std::vector<double> toolbarPlaces(const std::vector<double>& widths, double room) {
+    double taken = 0;
+    double flexibleCount = 0;
+    for (std::size_t item = 0; item < widths.size(); ++item) {
+        taken += std::max(0.0, widths[item]) + (item > 0 ? itemGap : 0);
+        flexibleCount += widths[item] < 0 ? 1 : 0;
+    }
+    const double share = flexibleCount > 0 ? std::max(0.0, room - taken) / flexibleCount : 0;
+    std::vector<double> places;
+    double next = 0;
+    for (const double width : widths) {
+        places.push_back(next);
+        next += (width < 0 ? share : width) + itemGap;
+    }
+    return places;
+}
+
+std::vector<objc::MethodRow> Toolbar::methods() {
+    return {
+        objc::property<"items", &Toolbar::items, &Toolbar::setItems>(),
+        objc::method<"setItems:animated:", &Toolbar::setItemsAnimated>(),
+        objc::property<"barTintColor", &Toolbar::barTintColor_>(),
+        objc::flag<"translucent", &Toolbar::translucent_>(),
+        objc::method<"layoutSubviews", &Toolbar::layoutSubviews>(),
+        objc::method<"sizeThatFits:", &Toolbar::sizeThatFits>(),
+    };
+}
+
+void Toolbar::setItems(ns::Array items) {
+    for (const objc::Object item : items_) {
+        BarButtonItem::of(item).view().removeFromSuperview();
+    }
+    items_ = items;
+    for (const objc::Object item : items_) {
+        self().addSubview(BarButtonItem::of(item).view());
+    }
+    self().setNeedsLayout();
+}
+
+void Toolbar::layoutSubviews() {
+    const double height = std::min(self().bounds().size.height, barHeight);
+    std::vector<double> widths;
+    for (const objc::Object item : items_) {
+        BarButtonItem& peer = BarButtonItem::of(item);
+        widths.push_back(peer.isFlexible() ? flexible : peer.width(height));
+    }
+    const auto places = toolbarPlaces(widths, self().bounds().size.width - 2 * margin);
+    for (std::size_t index = 0; index < places.size(); ++index) {
+        const ui::View view = BarButtonItem::of(items_.at(index)).view();
+        const double own = view.bounds().size.height;
+        const double tall = view.as<ui::Button>() || own <= 0 ? height : own;
+        view.setFrame(
+            {{margin + places[index], (height - tall) / 2}, {std::max(0.0, widths[index]), tall}});
+    }
+}
+
+} // namespace desktop

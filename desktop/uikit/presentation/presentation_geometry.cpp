@@ -1,0 +1,120 @@
+// The platform's places of sheets and popovers.
+#include "desktop/uikit/presentation/presentation_geometry.hpp"
+
+#include "bindings/uikit/popover_presentation_controller.hpp"
+#include "desktop/coregraphics/affine.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace desktop {
+namespace {
+
+namespace sides = ui::popover_arrow;
+
+/// As `std::clamp`, for bounds that may be the wrong way round: the lower one wins.
+double within(double value, double low, double high) {
+    return std::max(low, std::min(value, high));
+}
+
+bool isVertical(unsigned long side) { return side == sides::up || side == sides::down; }
+
+/// The room for the box when its arrow is on that side of it and points at the anchor.
+CGRect roomBeside(CGRect anchor, CGRect room, unsigned long side) {
+    const double left = room.origin.x;
+    const double top = room.origin.y;
+    const double right = left + room.size.width;
+    const double bottom = top + room.size.height;
+    constexpr double arrow = PopoverPlace::arrowHeight;
+    double from = 0;
+    switch (side) {
+    case sides::up:
+        from = within(anchor.origin.y + anchor.size.height + arrow, top, bottom);
+        return {{left, from}, {room.size.width, bottom - from}};
+    case sides::down:
+        from = within(anchor.origin.y - arrow, top, bottom);
+        return {{left, top}, {room.size.width, from - top}};
+    case sides::left:
+        from = within(anchor.origin.x + anchor.size.width + arrow, left, right);
+        return {{from, top}, {right - from, room.size.height}};
+    default:
+        from = within(anchor.origin.x - arrow, left, right);
+        return {{left, top}, {from - left, room.size.height}};
+    }
+}
+
+double share(CGSize content, CGRect room) {
+    return std::min(1.0, room.size.width / std::max(1.0, content.width)) *
+           std::min(1.0, room.size.height / std::max(1.0, content.height));
+}
+
+PopoverPlace placeOn(unsigned long side, CGRect anchor, CGSize content, CGRect room) {
+    const CGRect free = roomBeside(anchor, room, side);
+    const CGSize size{within(content.width, 0, free.size.width),
+                      within(content.height, 0, free.size.height)};
+    const CGPoint middle = centre(anchor);
+    const double right = free.origin.x + free.size.width - size.width;
+    const double bottom = free.origin.y + free.size.height - size.height;
+    CGPoint origin{within(middle.x - size.width / 2, free.origin.x, right),
+                   within(middle.y - size.height / 2, free.origin.y, bottom)};
+    PopoverPlace place;
+    place.side = side;
+    if (isVertical(side)) {
+        origin.y = side == sides::up ? free.origin.y : bottom;
+    } else {
+        origin.x = side == sides::left ? free.origin.x : right;
+    }
+    place.box = {origin, size};
+    // The arrow keeps clear of the rounded corners.
+    constexpr double clear = PopoverPlace::cornerRadius + PopoverPlace::arrowBase / 2;
+    constexpr double arrow = PopoverPlace::arrowHeight;
+    if (isVertical(side)) {
+        place.tip = {within(middle.x, origin.x + clear, origin.x + size.width - clear),
+                     side == sides::up ? origin.y - arrow : origin.y + size.height + arrow};
+    } else {
+        place.tip = {side == sides::left ? origin.x - arrow : origin.x + size.width + arrow,
+                     within(middle.y, origin.y + clear, origin.y + size.height - clear)};
+    }
+    return place;
+}
+
+} // namespace
+
+CGRect sheetFrame(CGRect screen, UIEdgeInsets safeArea) {
+    constexpr double gap = 10; // below the status bar
+    const double top = safeArea.top + gap;
+    return {{screen.origin.x, screen.origin.y + top},
+            {screen.size.width, std::max(0.0, screen.size.height - top)}};
+}
+
+CGRect PopoverPlace::frame() const {
+    CGRect all = box;
+    if (side == sides::up || side == sides::down) {
+        all.origin.y -= side == sides::up ? arrowHeight : 0;
+        all.size.height += arrowHeight;
+    } else {
+        all.origin.x -= side == sides::left ? arrowHeight : 0;
+        all.size.width += arrowHeight;
+    }
+    return all;
+}
+
+PopoverPlace popoverPlace(CGRect anchor, CGSize content, CGRect room,
+                          unsigned long permittedSides) {
+    constexpr std::array order{sides::up, sides::down, sides::left, sides::right};
+    unsigned long best = 0;
+    double bestShare = -1;
+    for (const unsigned long side : order) {
+        const double fits = share(content, roomBeside(anchor, room, side));
+        // With no permitted side at all, every side is.
+        const bool permitted = (permittedSides & sides::any) == 0 || (permittedSides & side) != 0;
+        if (permitted && fits > bestShare) {
+            best = side;
+            bestShare = fits;
+        }
+    }
+    return placeOn(best, anchor, content, room);
+}
+
+} // namespace desktop

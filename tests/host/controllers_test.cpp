@@ -1,0 +1,93 @@
+// Alerts and screens, as a script sees them.
+#include "tests/host/host.hpp"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using nlohmann::json;
+
+class ControllerCommands : public testing::Test {
+protected:
+    ControllerCommands() {
+        const json window = host.message(
+            host.message({{"class", "UIApplication"}}, "sharedApplication"), "keyWindow");
+        root = host.message(window, "rootViewController");
+    }
+    json alertWith(const char* title, int style) {
+        return host.message(
+            {{"class", "UIAlertController"}},
+            "alertControllerWithTitle:message:preferredStyle:", {title, "message", style});
+    }
+    void addAction(const json& alert, const char* title, int style) {
+        host.message(alert, "addAction:",
+                     {host.message({{"class", "UIAlertAction"}},
+                                   "actionWithTitle:style:handler:", {title, style, nullptr})});
+    }
+    void present(const json& controller) {
+        host.message(root,
+                     "presentViewController:animated:completion:", {controller, true, nullptr});
+    }
+
+    support::HostProcess host = tests::automatedHost({"--app", "notes"});
+    json root;
+};
+
+TEST_F(ControllerCommands, AnAlertIsDescribedFilledAndChosen) {
+    EXPECT_EQ(host.result({{"do", "alert"}}), nullptr);
+    const json alert = alertWith("Sure?", 1);
+    host.message(alert, "addTextFieldWithConfigurationHandler:", {nullptr});
+    addAction(alert, "OK", 0);
+    addAction(alert, "Remove", 2);
+    addAction(alert, "Cancel", 1);
+    present(alert);
+    EXPECT_EQ(host.result({{"do", "alert"}}),
+              (json{{"style", "alert"},
+                    {"title", "Sure?"},
+                    {"message", "message"},
+                    {"fields", {{{"placeholder", nullptr}, {"text", ""}}}},
+                    {"actions",
+                     {{{"title", "OK"}, {"style", "default"}},
+                      {{"title", "Remove"}, {"style", "destructive"}},
+                      {{"title", "Cancel"}, {"style", "cancel"}}}}}));
+    EXPECT_NE(host.error({{"do", "alert"}, {"choose", "Other"}}), "");
+    EXPECT_NE(host.error({{"do", "alert"}, {"fields", {"a", "b"}}}), "");
+    EXPECT_NE(host.error({{"do", "alert"}, {"fields", {1}}}), "");
+    const json fields = host.message(alert, "textFields");
+    const json before = host.result({{"do", "alert"}, {"choose", "OK"}, {"fields", {"typed"}}});
+    EXPECT_EQ(before.at("fields").at(0).at("text"), "typed");
+    EXPECT_EQ(host.message(fields.at(0), "text"), "typed");
+    EXPECT_EQ(host.result({{"do", "alert"}}), nullptr);
+    EXPECT_NE(host.error({{"do", "alert"}, {"choose", "OK"}}), "");
+}
+
+TEST_F(ControllerCommands, ADisabledActionIsRefused) {
+    const json sheet = alertWith("Sheet", 0);
+    addAction(sheet, "Off", 0);
+    present(sheet);
+    EXPECT_EQ(host.result({{"do", "alert"}}).at("style"), "actionSheet");
+    host.message(host.message(sheet, "actions").at(0), "setEnabled:", {false});
+    EXPECT_NE(host.error({{"do", "alert"}, {"choose", "Off"}}), "");
+}
+
+TEST_F(ControllerCommands, ScreensArePushedAndPresentedAlike) {
+    EXPECT_EQ(host.result({{"do", "screens"}}), json::array({"UIViewController"}));
+    const auto fresh = [this] { return host.message({{"class", "UIViewController"}}, "new"); };
+    const json navigation =
+        host.message(host.message({{"class", "UINavigationController"}}, "alloc"),
+                     "initWithRootViewController:", {fresh()});
+    present(navigation);
+    host.message(navigation, "pushViewController:animated:", {fresh(), true});
+    const json alert = alertWith("Front", 1);
+    host.message(navigation, "presentViewController:animated:completion:", {alert, true, nullptr});
+    EXPECT_EQ(host.result({{"do", "screens"}}),
+              json::array({"UIViewController", "UINavigationController", "UIViewController",
+                           "UIViewController", "UIAlertController"}));
+    host.message(root, "dismissViewControllerAnimated:completion:", {true, nullptr});
+    EXPECT_EQ(host.result({{"do", "screens"}}), json::array({"UIViewController"}));
+    host.result({{"do", "advance"}, {"seconds", 1}});
+    EXPECT_EQ(host.result({{"do", "find"}, {"where", {{"class", "UINavigationBar"}}}}).size(), 1U)
+        << "the application's own bar";
+}
+
+} // namespace
