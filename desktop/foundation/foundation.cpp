@@ -7,6 +7,7 @@
 #include "desktop/foundation/main_operation_queue.hpp"
 #include "desktop/foundation/refusing_protocol.hpp"
 #include "desktop/foundation/timer.hpp"
+#include "desktop/foundation/url.hpp"
 #include "desktop/foundation/url_session.hpp"
 #include "desktop/foundation/user_defaults.hpp"
 
@@ -23,6 +24,7 @@ void install(const std::string& bundleIdentifier) {
     installDelayedPerform();
     installTimers();
     installMainOperationQueue();
+    installUrls();
     installUrlSessions();
     installRefusingProtocol();
 }
