@@ -18,3 +18,7 @@ template <>
 struct objc::Encoding<ns::Range> {
     static constexpr Literal value = "{_NSRange=QQ}";
 };
+template <>
+struct objc::Encoding<ns::Range*> {
+    static constexpr Literal value = "^{_NSRange=QQ}";
+};

@@ -14,7 +14,10 @@ inline constexpr unsigned long touchDragOutside = 1U << 3U;
 inline constexpr unsigned long touchUpInside = 1U << 6U;
 inline constexpr unsigned long touchUpOutside = 1U << 7U;
 inline constexpr unsigned long touchCancel = 1U << 8U;
+inline constexpr unsigned long editingDidBegin = 1U << 16U;
 inline constexpr unsigned long editingChanged = 1U << 17U;
+inline constexpr unsigned long editingDidEnd = 1U << 18U;
+inline constexpr unsigned long editingDidEndOnExit = 1U << 19U;
 } // namespace control_events
 
 /// The states of a control; bits that may be combined.

@@ -3,6 +3,7 @@
 
 #include "bindings/uikit/font.hpp"
 #include "bindings/uikit/scroll_view.hpp"
+#include "bindings/uikit/text_storage.hpp"
 
 namespace ui {
 
@@ -15,6 +16,30 @@ struct TextView : objc::Kind<TextView, "UITextView", ScrollView> {
     void setText(ns::String text) const { send<"setText:">(text); }
     [[nodiscard]] Font font() const { return send<"font", Font>(); }
     void setFont(Font font) const { send<"setFont:">(font); }
+    void setTextColor(Color color) const { send<"setTextColor:">(color); }
+    [[nodiscard]] ns::AttributedString attributedText() const {
+        return send<"attributedText", ns::AttributedString>();
+    }
+    void setAttributedText(ns::AttributedString text) const { send<"setAttributedText:">(text); }
+    /// Edits of it are edits of the view.
+    [[nodiscard]] TextStorage textStorage() const { return send<"textStorage", TextStorage>(); }
+    [[nodiscard]] TextContainer textContainer() const {
+        return send<"textContainer", TextContainer>();
+    }
+    [[nodiscard]] LayoutManager layoutManager() const {
+        return send<"layoutManager", LayoutManager>();
+    }
+    [[nodiscard]] bool isEditable() const { return send<"isEditable", bool>(); }
+    void setEditable(bool editable) const { send<"setEditable:">(editable); }
+    /// In UTF-16 units.
+    [[nodiscard]] ns::Range selectedRange() const { return send<"selectedRange", ns::Range>(); }
+    void setSelectedRange(ns::Range range) const { send<"setSelectedRange:">(range); }
+    void scrollRangeToVisible(ns::Range range) const { send<"scrollRangeToVisible:">(range); }
+    void setTextContainerInset(UIEdgeInsets insets) const {
+        send<"setTextContainerInset:">(insets);
+    }
+    /// Not retained.
+    void setDelegate(objc::Object delegate) const { send<"setDelegate:">(delegate); }
 };
 
 } // namespace ui

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace desktop {
 namespace {
@@ -187,19 +188,38 @@ std::size_t Passage::unitAt(int byte) const {
     return unit > elided_.start ? unit + (elided_.end - elided_.start - 1) : unit;
 }
 
-std::vector<std::size_t> Passage::caretPositions() const {
+template <class Visitor>
+void Passage::visitPlaces(Visitor visit) const {
     int count = 0;
     const PangoLogAttr* attributes = pango_layout_get_log_attrs_readonly(layout_.get(), &count);
-    std::vector<std::size_t> positions;
     const char* const first = bytes_.c_str();
     const char* character = first;
     for (int index = 0; index < count; ++index) {
-        if (attributes[index].is_cursor_position || index == count - 1)
-            positions.push_back(unitAt(static_cast<int>(character - first)));
+        visit(unitAt(static_cast<int>(character - first)), attributes[index], index == count - 1);
         if (index < count - 1)
             character = g_utf8_next_char(character);
     }
+}
+
+std::vector<std::size_t> Passage::caretPositions() const {
+    std::vector<std::size_t> positions;
+    visitPlaces([&](std::size_t unit, const PangoLogAttr& place, bool isLast) {
+        if (place.is_cursor_position || isLast)
+            positions.push_back(unit);
+    });
     return positions;
+}
+
+std::vector<Stretch> Passage::words() const {
+    std::vector<Stretch> words;
+    std::optional<std::size_t> start;
+    visitPlaces([&](std::size_t unit, const PangoLogAttr& place, bool) {
+        if (place.is_word_end && start)
+            words.push_back({*std::exchange(start, std::nullopt), unit});
+        if (place.is_word_start)
+            start = unit;
+    });
+    return words;
 }
 
 } // namespace desktop

@@ -11,12 +11,6 @@
 
 namespace desktop {
 
-/// UTF-16 units from `start` up to `end`.
-struct Stretch {
-    std::size_t start = 0;
-    std::size_t end = 0;
-};
-
 /// How a passage is broken into lines.
 struct Breaking {
     /// Points; without one, lines end only where the text has a line break.
@@ -44,8 +38,13 @@ public:
 
     /// Where a caret can stand, in ascending order, both ends of the passage included.
     std::vector<std::size_t> caretPositions() const;
+    /// The words of the passage, in ascending order.
+    std::vector<Stretch> words() const;
 
 private:
+    /// Calls back with each place between characters, ends included: its unit, what Pango says.
+    template <class Visitor>
+    void visitPlaces(Visitor visit) const;
     void encode(const StyledText& text, Stretch part, bool singleLine);
     void apply(const StyledText& text);
 

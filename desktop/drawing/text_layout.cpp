@@ -110,6 +110,19 @@ Rectangle TextLayout::lineRectangle(std::size_t index) const {
     return {line.x, line.top, line.width, line.height};
 }
 
+Stretch TextLayout::lineUnits(std::size_t index) const {
+    const auto& lines = content_->set.lines;
+    if (index < lines.size())
+        return lines[index].units;
+    const std::size_t end = lines.empty() ? 0 : lines.back().units.end;
+    return {end, end};
+}
+
+std::size_t TextLayout::lineOf(std::size_t unit) const {
+    const auto& lines = content_->set.lines;
+    return lines.empty() ? 0 : static_cast<std::size_t>(&content_->lineWith(unit) - lines.data());
+}
+
 bool TextLayout::isTruncated() const { return content_->set.truncated; }
 
 Rectangle TextLayout::caretRectangle(std::size_t index) const {

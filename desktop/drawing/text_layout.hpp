@@ -29,6 +29,13 @@ enum class LineBreakMode {
     truncatingMiddle,
 };
 
+/// UTF-16 units from `start` up to `end`.
+struct Stretch {
+    std::size_t start = 0;
+    std::size_t end = 0;
+    bool operator==(const Stretch&) const = default;
+};
+
 /// A stretch of text that looks the same throughout.
 struct TextRun {
     static constexpr std::size_t toTheEnd = std::numeric_limits<std::size_t>::max();
@@ -86,6 +93,11 @@ public:
     std::size_t lineCount() const;
     /// Where a line's text is; empty for a line that does not exist.
     Rectangle lineRectangle(std::size_t line) const;
+    /// The UTF-16 units whose carets stand on a line, its line break included; an empty stretch at
+    /// the end for a line that does not exist.
+    Stretch lineUnits(std::size_t line) const;
+    /// The line that the caret before this unit stands on; 0 without lines.
+    std::size_t lineOf(std::size_t unit) const;
     /// Whether text was left out at the end or replaced by an ellipsis.
     bool isTruncated() const;
 

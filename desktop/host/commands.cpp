@@ -25,7 +25,7 @@ struct Row {
     Command command;
 };
 
-constexpr std::array<Row, 18> table{{
+constexpr std::array<Row, 21> table{{
     {"send", &send},
     {"tree", &tree},
     {"find", &find},
@@ -34,6 +34,9 @@ constexpr std::array<Row, 18> table{{
     {"slide", &slide},
     {"pinch", &pinch},
     {"touch", &touch},
+    {"type", &type},
+    {"key", &key},
+    {"menu", &menu},
     {"alert", &alert},
     {"screens", &screens},
     {"pasteboard", &pasteboard},

@@ -34,6 +34,10 @@ using Command = Json (*)(Session& session, const Json& request);
 // The controllers that are shown.
 [[nodiscard]] Json alert(Session& session, const Json& request);
 [[nodiscard]] Json screens(Session& session, const Json& request);
+// The keyboard and the edit menu.
+[[nodiscard]] Json type(Session& session, const Json& request);
+[[nodiscard]] Json key(Session& session, const Json& request);
+[[nodiscard]] Json menu(Session& session, const Json& request);
 // What the device keeps.
 [[nodiscard]] Json pasteboard(Session& session, const Json& request);
 [[nodiscard]] Json preferences(Session& session, const Json& request);

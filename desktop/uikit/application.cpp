@@ -4,9 +4,12 @@
 #include "desktop/quartzcore/screen_changes.hpp"
 #include "desktop/runtime/event_log.hpp"
 #include "desktop/runtime/main_queue.hpp"
+#include "desktop/uikit/first_responder.hpp"
+#include "desktop/uikit/text_effects_window.hpp"
 #include "desktop/uikit/window.hpp"
 
 #include <algorithm>
+#include <string_view>
 
 namespace desktop {
 
@@ -20,9 +23,35 @@ Application& Application::shared() { return of(sharedApplication(nullptr)); }
 ns::Array Application::windows() const {
     const auto array = ns::MutableArray::make();
     for (const ui::Window window : windows_) {
-        array.add(window);
+        if (!window.as<TextEffectsWindowKind>()) {
+            array.add(window); // the keyboard's is the system's
+        }
     }
     return array;
+}
+
+bool Application::sendAction(SEL action, objc::Object target, objc::Object sender,
+                             ui::Event event) {
+    if (action == nullptr) {
+        return false;
+    }
+    if (!target) {
+        target = first_responder::current().targetForAction(action, sender);
+    }
+    if (!target) {
+        target = sender.as<ui::Responder>().targetForAction(action, sender);
+    }
+    switch (std::ranges::count(std::string_view(sel_getName(action)), ':')) {
+    case 0:
+        objc::sendTo(target.raw(), action);
+        break;
+    case 1:
+        objc::sendTo(target.raw(), action, sender);
+        break;
+    default:
+        objc::sendTo(target.raw(), action, sender, event);
+    }
+    return static_cast<bool>(target);
 }
 
 void Application::show(ui::Window window) {

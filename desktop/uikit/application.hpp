@@ -3,6 +3,7 @@
 
 #include "bindings/foundation/set.hpp"
 #include "bindings/uikit/application.hpp"
+#include "bindings/uikit/event.hpp"
 #include "bindings/uikit/window_scene.hpp"
 
 #include "desktop/class.hpp"
@@ -23,6 +24,7 @@ public:
             objc::method<"canOpenURL:", &Application::canOpenUrl>(),
             objc::method<"openURL:", &Application::openUrl>(),
             objc::method<"openURL:options:completionHandler:", &Application::openUrlWithOptions>(),
+            objc::method<"sendAction:to:from:forEvent:", &Application::sendAction>(),
             objc::property<"delegate", &Application::delegate_>(),
         };
     }
@@ -46,6 +48,9 @@ private:
     bool openUrl(ns::Url url);
     void openUrlWithOptions(ns::Url url, ns::Dictionary options,
                             objc::Block<void(bool opened)> completion);
+    /// To nil: to the first responder, or else the sender, or whoever is next in its chain that
+    /// can perform the action. False when nobody can.
+    bool sendAction(SEL action, objc::Object target, objc::Object sender, ui::Event event);
     /// 0: active.
     [[nodiscard]] long applicationState() const { return 0; }
 

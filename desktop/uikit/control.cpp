@@ -1,10 +1,10 @@
 // Controls: following a touch, and sending actions.
 #include "desktop/uikit/control.hpp"
 
+#include "bindings/uikit/application.hpp"
 #include "desktop/uikit/tap_gesture_recognizer.hpp"
 
 #include <algorithm>
-#include <string_view>
 
 namespace desktop {
 namespace {
@@ -67,19 +67,8 @@ void Control::sendActions(unsigned long events, ui::Event event) {
 }
 
 void Control::sendAction(SEL action, objc::Object target, ui::Event event) {
-    for (ui::Responder next = self(); !target && next; next = next.nextResponder()) {
-        target = next.respondsToSelector(action) ? next : ui::Responder();
-    }
-    switch (std::ranges::count(std::string_view(sel_getName(action)), ':')) {
-    case 0:
-        objc::sendTo(target.raw(), action);
-        break;
-    case 1:
-        objc::sendTo(target.raw(), action, self());
-        break;
-    default:
-        objc::sendTo(target.raw(), action, self(), event);
-    }
+    ui::Application::shared().send<"sendAction:to:from:forEvent:", bool>(
+        action, target, static_cast<objc::Object>(self()), event);
 }
 
 void Control::touchesBegan(ns::Set, ui::Event event) {

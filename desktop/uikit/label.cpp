@@ -5,29 +5,12 @@
 #include "desktop/uikit/color.hpp"
 #include "desktop/uikit/font.hpp"
 #include "desktop/uikit/screen.hpp"
+#include "desktop/uikit/text_alignment.hpp"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace desktop {
-namespace {
-
-// In the order of the platform's numbers.
-constexpr std::array alignments{TextAlignment::left, TextAlignment::center, TextAlignment::right,
-                                TextAlignment::justified, TextAlignment::natural};
-constexpr std::array lineBreakModes{LineBreakMode::wordWrapping,   LineBreakMode::characterWrapping,
-                                    LineBreakMode::clipping,       LineBreakMode::truncatingHead,
-                                    LineBreakMode::truncatingTail, LineBreakMode::truncatingMiddle};
-
-/// The element that the platform's number stands for; the fallback for a number that is none.
-template <class Value, std::size_t Count, class Number>
-Value named(const std::array<Value, Count>& values, Number number, Value fallback) {
-    const auto index = static_cast<std::size_t>(number);
-    return index < Count ? values[index] : fallback;
-}
-
-} // namespace
 
 ui::Label Label::initWithFrame(CGRect frame) {
     super<"initWithFrame:", ui::View>(frame);
@@ -42,16 +25,43 @@ void Label::setText(ns::String text) {
         return; // not a string: the label stays as it is
     }
     text_ = text;
+    attributed_ = nullptr;
     changed();
+}
+
+/// What was set, or else the text as it is drawn.
+ns::AttributedString Label::attributedText() const {
+    if (attributed_ || !text_) {
+        return attributed_;
+    }
+    return ns::AttributedString::with(text_, textAttributes(font_, textColor_));
+}
+
+void Label::setAttributedText(ns::AttributedString text) {
+    text_ = text.string();
+    attributed_ = text;
+    changed();
+}
+
+/// A font or colour that is set later holds for all of the text.
+void Label::addAttribute(ns::String name, objc::Object value) {
+    if (attributed_ && attributed_.length() > 0) {
+        const auto changed =
+            ns::MutableAttributedString::make<"initWithAttributedString:">(attributed_.raw());
+        changed.addAttribute(name, value, {0, changed.length()});
+        attributed_ = changed;
+    }
 }
 
 void Label::setFont(ui::Font font) {
     font_ = font ? font : ui::Font::system(UIFont::defaultSize);
+    addAttribute(ui::attributes::font(), font_);
     changed();
 }
 
 void Label::setTextColor(ui::Color color) {
     textColor_ = color ? color : ui::Color::label();
+    addAttribute(ui::attributes::foregroundColor(), textColor_);
     self().setNeedsDisplay();
 }
 
@@ -67,14 +77,18 @@ TextLayout Label::layout(double width, double height, double scale) const {
     TextFrame frame;
     frame.width = width;
     frame.height = height;
-    frame.alignment = named(alignments, alignment_, TextAlignment::natural);
-    frame.lineBreakMode = named(lineBreakModes, lineBreakMode_, LineBreakMode::truncatingTail);
+    frame.alignment = drawnAlignment(alignment_);
+    frame.lineBreakMode = drawnLineBreakMode(lineBreakMode_);
     frame.maximumLines = static_cast<std::size_t>(std::max(0L, numberOfLines_));
     TextRun look;
     look.font = UIFont::valueOf(font_);
     look.font.size *= scale;
     look.colour = Color::valueOf(textColor_);
-    return {text_.utf16(), look, frame};
+    if (!attributed_) {
+        return {text_.utf16(), look, frame};
+    }
+    const auto runs = runsOf(attributed_, {0, attributed_.length()}, look);
+    return {text_.utf16(), runs, frame};
 }
 
 /// How much smaller the text is set so that its one line fits; as small as allowed if it does not.

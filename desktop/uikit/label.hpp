@@ -4,7 +4,7 @@
 #include "bindings/uikit/label.hpp"
 
 #include "desktop/class.hpp"
-#include "desktop/drawing/text_layout.hpp"
+#include "desktop/uikit/attributed_text.hpp"
 
 #include <optional>
 
@@ -16,6 +16,7 @@ public:
         return std::array{
             objc::method<"initWithFrame:", &Label::initWithFrame>(),
             objc::property<"text", &Label::text, &Label::setText>(),
+            objc::property<"attributedText", &Label::attributedText, &Label::setAttributedText>(),
             objc::property<"font", &Label::font, &Label::setFont>(),
             objc::property<"textColor", &Label::textColor, &Label::setTextColor>(),
             objc::property<"textAlignment", &Label::alignment_, &Label::changed>(),
@@ -37,6 +38,9 @@ private:
     ui::Label initWithFrame(CGRect frame);
     [[nodiscard]] ns::String text() const { return text_; }
     void setText(ns::String text);
+    [[nodiscard]] ns::AttributedString attributedText() const;
+    void setAttributedText(ns::AttributedString text);
+    void addAttribute(ns::String name, objc::Object value);
     [[nodiscard]] ui::Font font() const { return font_; }
     void setFont(ui::Font font);
     [[nodiscard]] ui::Color textColor() const { return textColor_; }
@@ -49,6 +53,8 @@ private:
     [[nodiscard]] double scaleFor(double width) const;
 
     objc::Copied<ns::String> text_;
+    /// Only while the text was set with attributes.
+    objc::Copied<ns::AttributedString> attributed_;
     objc::Strong<ui::Font> font_;
     objc::Strong<ui::Color> textColor_;
     ui::TextAlignment alignment_ = ui::TextAlignment::natural;

@@ -10,18 +10,9 @@ namespace desktop {
 
 class Responder : public PlatformClass<Responder, ui::Responder> {
 public:
-    static auto methods() {
-        return std::array{
-            objc::method<"nextResponder", &Responder::nextResponder>(),
-            objc::method<"canBecomeFirstResponder", &Responder::canBecomeFirstResponder>(),
-            objc::method<"canPerformAction:withSender:", &Responder::canPerformAction>(),
-            objc::method<"touchesBegan:withEvent:", &Responder::pass<"touchesBegan:withEvent:">>(),
-            objc::method<"touchesMoved:withEvent:", &Responder::pass<"touchesMoved:withEvent:">>(),
-            objc::method<"touchesEnded:withEvent:", &Responder::pass<"touchesEnded:withEvent:">>(),
-            objc::method<"touchesCancelled:withEvent:",
-                         &Responder::pass<"touchesCancelled:withEvent:">>(),
-        };
-    }
+    static std::vector<objc::MethodRow> methods();
+
+    ~Responder();
 
 private:
     /// What a responder does not handle is the next one's.
@@ -31,10 +22,15 @@ private:
     }
     [[nodiscard]] ui::Responder nextResponder() const { return nullptr; }
     [[nodiscard]] bool canBecomeFirstResponder() const { return false; }
+    [[nodiscard]] bool canResignFirstResponder() const { return true; }
+    [[nodiscard]] bool isFirstResponder() const;
+    bool becomeFirstResponder();
+    bool resignFirstResponder();
     /// By default a responder can do what it has a method for.
     [[nodiscard]] bool canPerformAction(SEL action, objc::Object) const {
         return self().respondsToSelector(action);
     }
+    [[nodiscard]] ui::Responder targetForAction(SEL action, objc::Object sender) const;
 };
 
 } // namespace desktop

@@ -10,6 +10,8 @@
 #include "desktop/uikit/alerts/alert_view.hpp"
 #include "desktop/uikit/application.hpp"
 #include "desktop/uikit/button.hpp"
+#include "desktop/uikit/callout_bar.hpp"
+#include "desktop/uikit/clear_button.hpp"
 #include "desktop/uikit/collection_view.hpp"
 #include "desktop/uikit/collection_view_cell.hpp"
 #include "desktop/uikit/collection_view_layout.hpp"
@@ -20,10 +22,13 @@
 #include "desktop/uikit/control.hpp"
 #include "desktop/uikit/event.hpp"
 #include "desktop/uikit/font.hpp"
+#include "desktop/uikit/geometry_values.hpp"
 #include "desktop/uikit/gesture_recognizer.hpp"
 #include "desktop/uikit/image.hpp"
 #include "desktop/uikit/image_view.hpp"
+#include "desktop/uikit/keyboard_view.hpp"
 #include "desktop/uikit/label.hpp"
+#include "desktop/uikit/layout_manager.hpp"
 #include "desktop/uikit/list_controllers.hpp"
 #include "desktop/uikit/long_press_gesture_recognizer.hpp"
 #include "desktop/uikit/menu_controller.hpp"
@@ -48,7 +53,11 @@
 #include "desktop/uikit/symbol_configuration.hpp"
 #include "desktop/uikit/table_view.hpp"
 #include "desktop/uikit/tap_gesture_recognizer.hpp"
+#include "desktop/uikit/text_effects_window.hpp"
 #include "desktop/uikit/text_field.hpp"
+#include "desktop/uikit/text_position.hpp"
+#include "desktop/uikit/text_selection_view.hpp"
+#include "desktop/uikit/text_storage.hpp"
 #include "desktop/uikit/text_view.hpp"
 #include "desktop/uikit/touch.hpp"
 #include "desktop/uikit/view.hpp"
@@ -82,16 +91,17 @@ UIEdgeInsets safeAreaOf(CGSize size) {
 void registerClasses() {
     const objc::Pool pool;
     installIndexPaths();
-    registerAll<Color, UIFont, UIImage, Layer, Screen, WindowScene, Pasteboard, NavigationItem,
-                MenuController, Responder, Application, ViewController, View, Window, Label,
-                ImageView, ScrollView, StackView, NavigationBar, Control, Button, TextField,
-                TextView, Touch, Event, GestureRecognizer, TapGestureRecognizer,
-                LongPressGestureRecognizer, PanGestureRecognizer, PinchGestureRecognizer,
-                SwipeGestureRecognizer, ScrollPan, CollectionViewLayoutAttributes,
-                CollectionViewLayout, CollectionViewFlowLayout, CollectionReusableView,
-                CollectionViewCell, CollectionView, LayoutConstraint, LayoutGuide, LayoutAnchor,
-                XAnchor, YAnchor, Dimension, PickerColumn, PickerView, TableViewCell, TableView,
-                TableViewController, CollectionViewController>();
+    registerAll<
+        Color, UIFont, UIImage, Layer, Screen, WindowScene, Pasteboard, NavigationItem, TextStorage,
+        TextContainer, LayoutManager, TextPosition, TextRange, MenuItem, MenuController, Responder,
+        Application, ViewController, View, Window, TextEffectsWindow, KeyboardView, CalloutBar,
+        TextSelectionView, Label, ImageView, ScrollView, StackView, NavigationBar, Control, Button,
+        ClearButton, TextField, TextView, Touch, Event, GestureRecognizer, TapGestureRecognizer,
+        LongPressGestureRecognizer, PanGestureRecognizer, PinchGestureRecognizer,
+        SwipeGestureRecognizer, ScrollPan, CollectionViewLayoutAttributes, CollectionViewLayout,
+        CollectionViewFlowLayout, CollectionReusableView, CollectionViewCell, CollectionView,
+        LayoutConstraint, LayoutGuide, LayoutAnchor, XAnchor, YAnchor, Dimension, PickerColumn,
+        PickerView, TableViewCell, TableView, TableViewController, CollectionViewController>();
     // Controllers, and what they are made of.
     registerAll<SymbolConfiguration, BarButtonItem, PresentationController,
                 PopoverPresentationController, AlertAction, NavigationController, AlertController,
@@ -100,6 +110,7 @@ void registerClasses() {
     installStringDrawing();
     registerSpeechClasses();
     registerWebClasses();
+    installGeometryValues();
 }
 
 void startApplication(ScreenSize size) {

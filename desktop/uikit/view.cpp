@@ -70,6 +70,7 @@ std::vector<objc::MethodRow> View::methods() {
         objc::method<"addGestureRecognizer:", &View::addGestureRecognizer>(),
         objc::method<"removeGestureRecognizer:", &View::removeGestureRecognizer>(),
         objc::method<"gestureRecognizerShouldBegin:", &View::gestureRecognizerShouldBegin>(),
+        objc::method<"endEditing:", &View::endEditing>(),
         objc::method<"hitTest:withEvent:", &View::hitTest>(),
         objc::method<"pointInside:withEvent:", &View::pointInside>(),
     };

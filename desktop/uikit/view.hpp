@@ -103,6 +103,7 @@ private:
     void removeGestureRecognizer(ui::GestureRecognizer recognizer);
     void releaseRecognizers();
     [[nodiscard]] bool gestureRecognizerShouldBegin(ui::GestureRecognizer) const { return true; }
+    bool endEditing(bool force);
     [[nodiscard]] ui::View hitTest(CGPoint point, ui::Event event) const;
     [[nodiscard]] bool pointInside(CGPoint point, ui::Event event) const;
 

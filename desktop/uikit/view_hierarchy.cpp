@@ -2,6 +2,7 @@
 #include "desktop/coregraphics/affine.hpp"
 #include "desktop/quartzcore/screen_changes.hpp"
 #include "desktop/uikit/constraints/view_constraints.hpp"
+#include "desktop/uikit/first_responder.hpp"
 #include "desktop/uikit/view.hpp"
 #include "desktop/uikit/view_controller.hpp"
 
@@ -109,6 +110,7 @@ void View::removeFromSuperview() {
 void View::announceWindow(ui::View view, ui::Window window) {
     if (!window) {
         of(view).layer().removeAllAnimations();
+        first_responder::leftWindow(view);
     }
     if (const ui::ViewController controller = of(view).controller(); controller) {
         ViewController::of(controller).viewMovesTo(window);
@@ -140,6 +142,18 @@ ui::View View::viewWithTag(long tag) const {
         }
     }
     return nullptr;
+}
+
+/// The first responder in this view, if there is one, gives the focus up; whether it did.
+bool View::endEditing(bool force) {
+    const auto first = first_responder::current().as<ui::View>();
+    if (!first || !of(first).isDescendantOf(self())) {
+        return true;
+    }
+    if (!first.resignFirstResponder() && force) {
+        first_responder::drop();
+    }
+    return first_responder::current() != first;
 }
 
 CGAffineTransform View::toWindow() const {

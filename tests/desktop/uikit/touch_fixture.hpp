@@ -8,6 +8,7 @@
 #include "desktop/runtime/run_loop.hpp"
 #include "desktop/uikit/touch_dispatcher.hpp"
 
+#include <cmath>
 #include <functional>
 #include <string>
 #include <vector>

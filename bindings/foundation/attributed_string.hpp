@@ -1,0 +1,46 @@
+// NSAttributedString and NSMutableAttributedString: text of which every unit has a dictionary.
+#pragma once
+
+#include "bindings/foundation/dictionary.hpp"
+
+namespace ns {
+
+struct AttributedString : objc::Kind<AttributedString, "NSAttributedString"> {
+    using Kind::Kind;
+
+    static AttributedString with(String text, Dictionary attributes = nullptr) {
+        return make<"initWithString:attributes:">(text, attributes);
+    }
+
+    [[nodiscard]] String string() const { return send<"string", String>(); }
+    [[nodiscard]] unsigned long length() const { return send<"length", unsigned long>(); }
+    /// The attributes of a unit, and (when not null) the stretch that shares them. Raises for a
+    /// unit beyond the text.
+    Dictionary attributesAt(unsigned long unit, Range* effective = nullptr) const {
+        return send<"attributesAtIndex:effectiveRange:", Dictionary>(unit, effective);
+    }
+    [[nodiscard]] AttributedString part(Range range) const {
+        return send<"attributedSubstringFromRange:", AttributedString>(range);
+    }
+};
+
+struct MutableAttributedString
+    : objc::Kind<MutableAttributedString, "NSMutableAttributedString", AttributedString> {
+    using Kind::Kind;
+
+    void replace(Range range, String text) const {
+        send<"replaceCharactersInRange:withString:">(range, text);
+    }
+    void replace(Range range, AttributedString text) const {
+        send<"replaceCharactersInRange:withAttributedString:">(range, text);
+    }
+    void setString(AttributedString text) const { send<"setAttributedString:">(text); }
+    void setAttributes(Dictionary attributes, Range range) const {
+        send<"setAttributes:range:">(attributes, range);
+    }
+    void addAttribute(String name, objc::Object value, Range range) const {
+        send<"addAttribute:value:range:">(name, value, range);
+    }
+};
+
+} // namespace ns

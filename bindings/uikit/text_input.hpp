@@ -1,0 +1,57 @@
+// UITextInput: what views that edit text answer to; and the positions and ranges it speaks of.
+#pragma once
+
+#include "bindings/coregraphics/geometry.hpp"
+#include "bindings/foundation/string.hpp"
+
+namespace ui {
+
+/// A place between two characters; only the view that made it knows where.
+struct TextPosition : objc::Kind<TextPosition, "UITextPosition"> {
+    using Kind::Kind;
+};
+
+struct TextRange : objc::Kind<TextRange, "UITextRange"> {
+    using Kind::Kind;
+
+    [[nodiscard]] TextPosition start() const { return send<"start", TextPosition>(); }
+    [[nodiscard]] TextPosition end() const { return send<"end", TextPosition>(); }
+    [[nodiscard]] bool isEmpty() const { return send<"isEmpty", bool>(); }
+};
+
+/// Any object with this protocol: text views, text fields, and an application's own.
+struct TextInput : objc::Object {
+    using Object::Object;
+    explicit constexpr TextInput(objc::Object view) : Object(view) {}
+
+    [[nodiscard]] ns::String textIn(TextRange range) const {
+        return send<"textInRange:", ns::String>(range);
+    }
+    void replace(TextRange range, ns::String text) const {
+        send<"replaceRange:withText:">(range, text);
+    }
+    void insertText(ns::String text) const { send<"insertText:">(text); }
+    void deleteBackward() const { send<"deleteBackward">(); }
+    /// Nil without a selection or caret.
+    [[nodiscard]] TextRange selectedTextRange() const {
+        return send<"selectedTextRange", TextRange>();
+    }
+    void setSelectedTextRange(TextRange range) const { send<"setSelectedTextRange:">(range); }
+    [[nodiscard]] TextPosition beginningOfDocument() const {
+        return send<"beginningOfDocument", TextPosition>();
+    }
+    [[nodiscard]] TextPosition endOfDocument() const {
+        return send<"endOfDocument", TextPosition>();
+    }
+    [[nodiscard]] TextRange range(TextPosition from, TextPosition to) const {
+        return send<"textRangeFromPosition:toPosition:", TextRange>(from, to);
+    }
+    [[nodiscard]] long offset(TextPosition from, TextPosition to) const {
+        return send<"offsetFromPosition:toPosition:", long>(from, to);
+    }
+    [[nodiscard]] CGRect caretRect(TextPosition position) const {
+        return send<"caretRectForPosition:", CGRect>(position);
+    }
+};
+
+} // namespace ui

@@ -1,0 +1,17 @@
+// Where characters and words, as people know them, begin and end.
+#pragma once
+
+#include "desktop/drawing/text_layout.hpp"
+
+namespace desktop {
+
+/// The character with the unit at `unit`: a letter with its marks, an emoji with all of its parts,
+/// CR with LF, a lone surrogate. Empty at the end of the text. No more than some hundred units
+/// around are looked at, so a longer character is taken in parts. Any thread.
+Stretch composedCharacter(std::u16string_view text, std::size_t unit);
+
+/// The word that a finger on the caret before `unit` means: the one around it, else the one that
+/// ends there, else the character there. Empty in an empty text. Any thread.
+Stretch wordAround(std::u16string_view text, std::size_t unit);
+
+} // namespace desktop

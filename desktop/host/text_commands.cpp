@@ -1,0 +1,100 @@
+// Commands that type, and that choose from the edit menu.
+#include "desktop/host/arguments.hpp"
+#include "desktop/host/commands.hpp"
+
+#include "desktop/uikit/first_responder.hpp"
+#include "desktop/uikit/keyboard_input.hpp"
+#include "desktop/uikit/menu_controller.hpp"
+
+#include <algorithm>
+
+namespace desktop::host {
+namespace {
+
+void demand(bool wasTaken) {
+    if (!wasTaken) {
+        throw RequestError("nothing that takes text has the focus");
+    }
+}
+
+ns::String textArgument(const Json& value) {
+    if (!value.is_string()) {
+        throw RequestError("expected a text, got " + value.dump());
+    }
+    return ns::String::fromUtf8(value.get_ref<const std::string&>());
+}
+
+/// The text as it is being composed, step by step: ["n", "ni"].
+std::vector<ns::String> stepsArgument(const Json& request) {
+    std::vector<ns::String> steps;
+    if (argument(request, "compose") != nullptr) {
+        std::ranges::transform(listArgument(request, "compose"), std::back_inserter(steps),
+                               &textArgument);
+    }
+    return steps;
+}
+
+Json titles(const MenuController& menu) {
+    Json list = Json::array();
+    for (const auto& item : menu.shownItems()) {
+        list.push_back(item.title().utf8());
+    }
+    return list;
+}
+
+} // namespace
+
+Json type(Session&, const Json& request) {
+    const ns::String text = textArgument(anyArgument(request, "text"));
+    for (const ns::String step : stepsArgument(request)) {
+        demand(keyboard_input::setMarkedText(step, {step.length(), 0}));
+    }
+    demand(keyboard_input::insertText(text));
+    return nullptr;
+}
+
+Json key(Session&, const Json& request) {
+    const std::string& name = stringArgument(request, "name");
+    if (name == "return") {
+        demand(keyboard_input::pressReturn());
+    } else if (name == "delete") {
+        demand(keyboard_input::deleteBackward());
+    } else if (name == "hide") {
+        demand(keyboard_input::hide());
+    } else {
+        throw RequestError("\"name\" must be return, delete or hide");
+    }
+    return nullptr;
+}
+
+/// Shows the menu, if it is not shown, for as long as it takes.
+Json menu(Session&, const Json& request) {
+    const objc::Strong<ui::Responder> first = first_responder::current();
+    if (!first) {
+        throw RequestError("nothing has the focus");
+    }
+    const bool chooses = argument(request, "choose") != nullptr;
+    const std::string wanted = chooses ? stringArgument(request, "choose") : "";
+    const auto shared = ui::MenuController::shared();
+    MenuController& menu = MenuController::of(shared);
+    const bool wasVisible = shared.isMenuVisible();
+    if (!wasVisible) {
+        const auto view = first.as<ui::View>();
+        shared.showMenu(view, view.bounds());
+    }
+    Json offered = titles(menu);
+    const auto items = menu.shownItems();
+    const auto chosen = std::ranges::find_if(
+        items, [&](const auto& item) { return chooses && item.title().utf8() == wanted; });
+    if (chosen != items.end()) {
+        menu.choose(*chosen);
+    } else if (!wasVisible) {
+        shared.hideMenu();
+    }
+    if (chooses && chosen == items.end()) {
+        throw RequestError("no such item: " + wanted + "; offered: " + offered.dump());
+    }
+    return offered;
+}
+
+} // namespace desktop::host

@@ -1,0 +1,47 @@
+// Characters and words as people know them.
+#include "desktop/drawing/text_boundaries.hpp"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using namespace desktop;
+
+namespace {
+
+TEST(TextBoundaries, KeepCharactersTogether) {
+    struct Case {
+        std::u16string text;
+        std::size_t unit;
+        Stretch expected;
+    };
+    for (const auto& [text, unit, expected] : {
+             Case{u"abc", 1, {1, 2}},
+             Case{u"a你b", 1, {1, 2}},
+             Case{u"a😀b", 1, {1, 3}},
+             Case{u"a😀b", 2, {1, 3}},
+             Case{u"👨‍👩‍👧x", 4, {0, 8}},
+             Case{u"🇨🇳🇨🇳", 4, {4, 8}},
+             Case{u"e\u0301x", 1, {0, 2}},
+             Case{u"❤️", 0, {0, 2}},
+             Case{u"a\r\nb", 1, {1, 3}},
+             Case{std::u16string{u'a', char16_t{0xD83D}, u'b'}, 1, {1, 2}},
+             Case{std::u16string{u'a', char16_t{0xDE00}}, 1, {1, 2}},
+             Case{u"abc", 3, {3, 3}},
+             Case{u"", 0, {0, 0}},
+             Case{std::u16string(3000, u'x') + u"😀", 3001, {3000, 3002}},
+         })
+        EXPECT_EQ(composedCharacter(text, unit), expected) << unit;
+}
+
+TEST(TextBoundaries, FindWords) {
+    const std::u16string text = u"Hello, big world";
+    EXPECT_EQ(wordAround(text, 2), (Stretch{0, 5}));
+    EXPECT_EQ(wordAround(text, 5), (Stretch{0, 5}));
+    EXPECT_EQ(wordAround(text, 8), (Stretch{7, 10}));
+    EXPECT_EQ(wordAround(text, text.size()), (Stretch{11, 16}));
+    EXPECT_EQ(wordAround(u"", 0), (Stretch{0, 0}));
+    EXPECT_EQ(wordAround(u"...", 1).end - wordAround(u"...", 1).start, 1u);
+}
+
+} // namespace
