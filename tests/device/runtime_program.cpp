@@ -7,6 +7,7 @@
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <mutex>
 #include <new>
 #include <optional>
@@ -139,6 +140,24 @@ void stringsGrow() {
     text.insert(0, "begin ");
     text = "very " + text;
     expect(text.size() == 3011 && text.starts_with("very begin ab"), "strings lose text");
+    expect(std::to_string(4294967295U) == "4294967295" && std::to_string(-20L) == "-20",
+           "numbers are written wrongly");
+}
+
+void sharedPointersEndOnce() {
+    struct Counted {
+        explicit Counted(int& ends) : ends_(&ends) {}
+        ~Counted() { ++*ends_; }
+        int* ends_;
+    };
+    int ends = 0;
+    {
+        const auto first = std::make_shared<Counted>(ends);
+        const std::weak_ptr<Counted> watcher = first;
+        const auto second = first;
+        expect(ends == 0 && watcher.use_count() == 2, "shared pointers count wrongly");
+    }
+    expect(ends == 1, "what is shared does not end once");
 }
 
 } // namespace
@@ -151,5 +170,6 @@ int main() {
     failuresAreReported();
     failuresUnwind();
     stringsGrow();
+    sharedPointersEndOnce();
     return failures == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }

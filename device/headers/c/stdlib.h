@@ -24,6 +24,8 @@ void free(void* memory);
 int posix_memalign(void** memory, size_t alignment, size_t size);
 [[noreturn]] void abort();
 
+unsigned arc4random_uniform(unsigned bound);
+
 int abs(int number);
 long labs(long number);
 long long llabs(long long number);
