@@ -3,6 +3,7 @@
 
 #include "bindings/foundation/number.hpp"
 #include "library/labels/rule_text.hpp"
+#include "library/labels/text_replacement.hpp"
 
 namespace wentra::labels {
 namespace {
@@ -19,6 +20,21 @@ ns::String defaultsKey(RuleKind kind) {
         return made;
     }();
     return keys[ruleKindIndex(kind)];
+}
+
+/// A copy of the stored map, empty when there is none, to be changed and stored back.
+ns::MutableDictionary mutableMap(RuleKind kind) {
+    const auto map = ns::MutableDictionary::make();
+    if (const auto stored = ns::UserDefaults::standard().dictionary(defaultsKey(kind)); stored) {
+        map.addEntries(stored);
+    }
+    return map;
+}
+
+void storeMap(RuleKind kind, ns::Dictionary map) {
+    const auto defaults = ns::UserDefaults::standard();
+    defaults.set(map, defaultsKey(kind));
+    defaults.synchronize();
 }
 
 } // namespace
@@ -69,5 +85,24 @@ void storeRuleSet(const RuleSet& rules) {
 }
 
 void saveRuleText(std::u16string_view editorText) { storeRuleSet(parseRules(editorText)); }
+
+void storeTextRule(std::u16string_view text, std::u16string_view replacement) {
+    const auto map = mutableMap(RuleKind::text);
+    map.set(ns::String::from(withLineBreakSigns(replacement)),
+            ns::String::from(withLineBreakSigns(text)));
+    storeMap(RuleKind::text, map);
+}
+
+void removeTextRuleShowing(std::u16string_view replacement) {
+    const auto map = mutableMap(RuleKind::text);
+    const auto shown = ns::String::from(withLineBreakSigns(replacement));
+    for (const objc::Object key : map.allKeys()) {
+        if (map.get(key).send<"isEqual:", bool>(shown)) {
+            map.remove(key);
+            break;
+        }
+    }
+    storeMap(RuleKind::text, map);
+}
 
 } // namespace wentra::labels

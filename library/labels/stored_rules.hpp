@@ -34,4 +34,12 @@ void storeRuleSet(const RuleSet& rules);
 /// What the editor does on saving: reads the rules out of its text and stores them.
 void saveRuleText(std::u16string_view editorText);
 
+/// Stores one text rule beside the others, and flushes the defaults. Line breaks are written as
+/// "↲" in both.
+void storeTextRule(std::u16string_view text, std::u16string_view replacement);
+
+/// Removes the first text rule, in no particular order, that shows this text, and flushes the
+/// defaults. It is looked up by what is shown because that is what the user has before him.
+void removeTextRuleShowing(std::u16string_view replacement);
+
 } // namespace wentra::labels

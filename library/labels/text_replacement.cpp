@@ -29,12 +29,16 @@ std::optional<std::u16string> wholeReplacement(std::u16string_view text,
                                                const TextRuleLookup& lookup) {
     if (text.find(lineBreak) == text.npos)
         return lookup(text);
-    std::u16string key(text);
-    std::ranges::replace(key, lineBreak, lineBreakSign);
-    return lookup(key);
+    return lookup(withLineBreakSigns(text));
 }
 
 } // namespace
+
+std::u16string withLineBreakSigns(std::u16string_view text) {
+    std::u16string written(text);
+    std::ranges::replace(written, lineBreak, lineBreakSign);
+    return written;
+}
 
 std::optional<std::u16string> replacedText(std::u16string_view text, const TextRuleLookup& lookup) {
     std::optional<std::u16string> shown = withPrefixReplaced(text, lookup);

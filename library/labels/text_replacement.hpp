@@ -11,6 +11,9 @@ namespace wentra::labels {
 /// The value of the text rule with this key, or nothing. The key is valid during the call only.
 using TextRuleLookup = std::function<std::optional<std::u16string>(std::u16string_view key)>;
 
+/// The text as the rules have it: each line break written as "↲".
+std::u16string withLineBreakSigns(std::u16string_view text);
+
 /// The text a label shows for the UTF-16 text given to it; nothing when it shows just that text.
 ///
 /// First, a rule for what precedes the first ":" (on the first line only, possibly nothing)

@@ -4,6 +4,7 @@
 #include "bindings/objc/hook.hpp"
 #include "bindings/objc/pool.hpp"
 #include "library/blocking/request_hooks.hpp"
+#include "library/clipboard/text_view_controller.hpp"
 #include "library/common/draggable_view.hpp"
 #include "library/editing/edit_menu_hooks.hpp"
 #include "library/editing/text_gesture_hooks.hpp"
@@ -14,6 +15,8 @@
 #include "library/labels/yy_label.hpp"
 #include "library/scratchpad/scratch_pad_hook.hpp"
 #include "library/toolbox/floating_view_controller.hpp"
+#include "library/toolbox/translation/bilingual_view.hpp"
+#include "library/toolbox/translation/translation.hpp"
 #include "library/toolbox/view_model.hpp"
 
 #include <array>
@@ -36,8 +39,11 @@ void declareClasses() {
     labels::registerYYLabel();
     registerTrashButton();
     toolbox::registerFloatingViewController();
+    toolbox::registerBilingualView();
+    clipboard::registerTextViewController();
     toolbox::registerViewModel();
     install<&labels::colourCategory>();
+    install<&toolbox::translationCategory>();
     install<&draggableCategory>();
     install<&labels::longPressCopyCategory>();
     install<&labels::ruleEditorCategory>();
