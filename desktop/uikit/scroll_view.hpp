@@ -101,6 +101,8 @@ private:
     [[nodiscard]] bool isDecelerating() const { return decelerating_; }
     void scrollEnabledChanged() { pan_.setEnabled(scrollEnabled_); }
     [[nodiscard]] bool gestureRecognizerShouldBegin(ui::GestureRecognizer recognizer) const;
+    [[nodiscard]] bool contentKeepsTouch() const;
+    [[nodiscard]] bool shouldCancelIn(ui::View content) const;
     [[nodiscard]] bool scrollsHorizontally() const;
     [[nodiscard]] bool scrollsVertically() const;
     void handlePan(ui::PanGestureRecognizer pan);
@@ -140,7 +142,10 @@ private:
     bool showsHorizontalIndicator_ = true;
     bool directionalLock_ = false;
     bool scrollsToTop_ = true;
+    bool delaysContentTouches_ = true;
+    bool canCancelContentTouches_ = true;
     bool touched_ = false;
+    double touchedAt_ = 0;
     bool dragging_ = false;
     bool decelerating_ = false;
     objc::Object delegate_; // not retained, as on the phone

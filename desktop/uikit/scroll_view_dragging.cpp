@@ -1,4 +1,5 @@
 // Scroll views under fingers: dragging, and what moves on by itself afterwards.
+#include "bindings/uikit/control.hpp"
 #include "desktop/quartzcore/animation/frame_clock.hpp"
 #include "desktop/uikit/gesture_recognizer.hpp"
 #include "desktop/uikit/scroll_view.hpp"
@@ -31,7 +32,9 @@ ScrollView::~ScrollView() {
 }
 
 void ScrollView::fingerDown() {
-    touched_ = true;
+    if (!std::exchange(touched_, true)) {
+        touchedAt_ = Clock::shared().now();
+    }
     stop();
 }
 
@@ -52,10 +55,28 @@ bool ScrollView::scrollsVertically() const {
     return range.high > range.low || (bounces_ && alwaysBounceVertical_);
 }
 
+/// What a finger has rested on for a while may keep it: a control, and anything when the scroll
+/// view must not take touches back.
+bool ScrollView::contentKeepsTouch() const {
+    constexpr double patience = 0.15; // as on the phone
+    if (delaysContentTouches_ && Clock::shared().now() - touchedAt_ < patience) {
+        return false;
+    }
+    const ui::View content = self().hitTest(pan_.locationIn(self()), nullptr);
+    return content && content != self() &&
+           !(canCancelContentTouches_ &&
+             self().send<"touchesShouldCancelInContentView:", bool>(content));
+}
+
+bool ScrollView::shouldCancelIn(ui::View content) const { return !content.as<ui::Control>(); }
+
 /// A drag along an axis that does not scroll is somebody else's.
 bool ScrollView::gestureRecognizerShouldBegin(ui::GestureRecognizer recognizer) const {
     if (recognizer != pan_) {
         return super<"gestureRecognizerShouldBegin:", bool>(recognizer);
+    }
+    if (contentKeepsTouch()) {
+        return false;
     }
     const CGPoint way = pan_.translationIn(self());
     return std::abs(way.y) >= std::abs(way.x) ? scrollsVertically() : scrollsHorizontally();

@@ -1,6 +1,7 @@
 // Scroll views under fingers: what moves, what the delegate hears, and where content comes to rest.
 #include "tests/desktop/uikit/touch_fixture.hpp"
 
+#include "bindings/uikit/control.hpp"
 #include "bindings/uikit/scroll_view.hpp"
 #include "desktop/uikit/scrolling/wheel.hpp"
 
@@ -140,6 +141,28 @@ TEST_F(ScrollViewTest, WhatDoesNotScrollLeavesTheDragToOthers) {
     EXPECT_EQ(top(), 0);
     up();
     EXPECT_EQ(heard(), "Dsd+Gsg");
+}
+
+TEST_F(ScrollViewTest, AControlKeepsAFingerThatRestedOnIt) {
+    const auto control = ui::Control::make<"initWithFrame:">(CGRect{{0, 0}, {200, 3000}});
+    scroll_.addSubview(control);
+    drag(450, 350, 0.1);
+    EXPECT_GT(top(), 50) << "a quick drag is the scroll view's";
+    up();
+    advance(5);
+    const double rest = top();
+    for (const bool cancels : {true, false}) {
+        if (!cancels) {
+            control.removeFromSuperview();
+            scroll_.addSubview(ui::View::withFrame({{0, 0}, {200, 3000}}));
+            scroll_.send<"setCanCancelContentTouches:">(objc::Boolean(false));
+        }
+        down({150, 450});
+        advance(0.3);
+        move({150, 350});
+        EXPECT_EQ(top(), rest) << cancels;
+        up();
+    }
 }
 
 TEST_F(ScrollViewTest, PagesComeToRestOneByOne) {
