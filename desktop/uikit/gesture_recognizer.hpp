@@ -29,6 +29,9 @@ public:
 
     /// A touch has begun in the view or in one inside it: whether it is followed from now on.
     [[nodiscard]] bool receives(ui::Touch touch);
+    /// Whether its view has it from the start, as text and scroll views have theirs: it gives way
+    /// to those that were added.
+    bool belongsToView = false;
     [[nodiscard]] bool follows(ui::Touch touch) const;
     /// Lets touches go that have left; after the last one of a decided gesture the next may come.
     void forgetLifted();

@@ -5,6 +5,7 @@
 #include "desktop/quartzcore/layer_values.hpp"
 #include "desktop/runtime/clock.hpp"
 #include "desktop/uikit/constraints/view_constraints.hpp"
+#include "desktop/uikit/gesture_recognizer.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -70,6 +71,7 @@ ui::ScrollView ScrollView::initWithFrame(CGRect frame) {
     super<"initWithFrame:", ui::View>(frame);
     self().setClipsToBounds(true);
     pan_ = ui::GestureRecognizer::with<ScrollPanKind>(self(), objc::selector<"handlePan:">());
+    GestureRecognizer::of(pan_).belongsToView = true;
     pan_.setDelegate(self());
     ScrollPan::of(pan_).owner = this;
     self().addGestureRecognizer(pan_);

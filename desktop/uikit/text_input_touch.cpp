@@ -3,6 +3,7 @@
 #include "bindings/uikit/menu_controller.hpp"
 #include "bindings/uikit/tap_gesture_recognizer.hpp"
 #include "desktop/uikit/first_responder.hpp"
+#include "desktop/uikit/gesture_recognizer.hpp"
 #include "desktop/uikit/text_input.hpp"
 
 namespace desktop {
@@ -19,6 +20,7 @@ void TextInput::addRecognizers() {
     for (const ui::GestureRecognizer recognizer :
          std::initializer_list<ui::GestureRecognizer>{twice, once, longer}) {
         recognizer.send<"setDelegate:">(static_cast<objc::Object>(view));
+        GestureRecognizer::of(recognizer).belongsToView = true;
         view.addGestureRecognizer(recognizer);
     }
 }

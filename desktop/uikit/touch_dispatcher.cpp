@@ -93,13 +93,16 @@ std::vector<objc::Strong<ui::GestureRecognizer>> recognizersOf(const Touches& to
 }
 
 /// The recognizers of the view and of those around it, from the inside out; those of one view in
-/// the order in which they were added.
+/// the order in which they were added, but the view's own last.
 void assignRecognizers(ui::Touch touch) {
     for (ui::View view = Touch::of(touch).view(); view; view = view.superview()) {
-        for (const objc::Object one : view.gestureRecognizers()) {
-            const auto recognizer = one.assume<ui::GestureRecognizer>();
-            if (GestureRecognizer::of(recognizer).receives(touch)) {
-                Touch::of(touch).recognizers.emplace_back(recognizer);
+        for (const bool belongsToView : {false, true}) {
+            for (const objc::Object one : view.gestureRecognizers()) {
+                const auto recognizer = one.assume<ui::GestureRecognizer>();
+                GestureRecognizer& peer = GestureRecognizer::of(recognizer);
+                if (peer.belongsToView == belongsToView && peer.receives(touch)) {
+                    Touch::of(touch).recognizers.emplace_back(recognizer);
+                }
             }
         }
     }

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <utility>
 
 namespace desktop::layout_engine {
 namespace {
@@ -82,6 +83,9 @@ public:
         for (const ui::View view : constrained_) {
             const ui::View parent = view.superview();
             const CGRect frame = frameIn(parent, boxes_[view.raw()]);
+            if (std::exchange(ViewConstraints::of(view).solvedFrame, frame) == frame) {
+                continue; // whoever moved it since then has moved it
+            }
             const CGRect bounds{view.bounds().origin, frame.size};
             const CGPoint centre{frame.origin.x + frame.size.width / 2,
                                  frame.origin.y + frame.size.height / 2};

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <map>
+#include <optional>
 #include <vector>
 
 namespace desktop {
@@ -46,6 +47,8 @@ public:
 
     /// The state of the tree that its layout was last solved for; see the engine.
     unsigned long solvedState = 0;
+    /// Where constraints have put the view last.
+    std::optional<CGRect> solvedFrame;
 
 private:
     [[nodiscard]] bool translatesMask() const { return translatesMask_; }
