@@ -10,6 +10,10 @@ namespace ns {
 struct Array : objc::Kind<Array, "NSArray"> {
     using Kind::Kind;
 
+    /// Nil when the file holds no property list of an array.
+    static Array withContentsOfFile(objc::Object path) {
+        return sendClass<"arrayWithContentsOfFile:", Array>(path);
+    }
     [[nodiscard]] unsigned long count() const { return send<"count", unsigned long>(); }
     [[nodiscard]] objc::Object at(unsigned long index) const {
         return send<"objectAtIndex:", objc::Object>(index);

@@ -34,6 +34,7 @@ struct MutableAttributedString
     void replace(Range range, AttributedString text) const {
         send<"replaceCharactersInRange:withAttributedString:">(range, text);
     }
+    void append(AttributedString text) const { send<"appendAttributedString:">(text); }
     void setString(AttributedString text) const { send<"setAttributedString:">(text); }
     void setAttributes(Dictionary attributes, Range range) const {
         send<"setAttributes:range:">(attributes, range);

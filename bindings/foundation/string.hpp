@@ -5,6 +5,7 @@
 #include "bindings/objc/kind.hpp"
 #include "bindings/objc/strong.hpp"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -30,6 +31,13 @@ struct String : objc::Kind<String, "NSString"> {
     [[nodiscard]] float floatValue() const { return send<"floatValue", float>(); }
     [[nodiscard]] bool isEqualToString(String other) const {
         return send<"isEqualToString:", bool>(other);
+    }
+    /// Where `other` stands first in that range, whatever its case; nothing where it does not.
+    [[nodiscard]] std::optional<ns::Range> findIgnoringCase(String other, ns::Range range) const {
+        constexpr unsigned long caseInsensitive = 1;
+        const auto found =
+            send<"rangeOfString:options:range:", ns::Range>(other, caseInsensitive, range);
+        return found.length == 0 ? std::nullopt : std::optional(found);
     }
     void getCharacters(char16_t* buffer, ns::Range range) const {
         send<"getCharacters:range:">(buffer, range);

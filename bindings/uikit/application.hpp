@@ -3,8 +3,8 @@
 
 #include "bindings/coregraphics/geometry.hpp"
 #include "bindings/foundation/array.hpp"
-#include "bindings/foundation/set.hpp"
 #include "bindings/foundation/dictionary.hpp"
+#include "bindings/foundation/set.hpp"
 #include "bindings/foundation/url.hpp"
 #include "bindings/objc/block.hpp"
 #include "bindings/uikit/window.hpp"
@@ -26,6 +26,11 @@ struct Application : objc::Kind<Application, "UIApplication", Responder> {
         send<"openURL:options:completionHandler:">(url, options, completion);
     }
     [[nodiscard]] bool canOpenUrl(ns::Url url) const { return send<"canOpenURL:", bool>(url); }
+    /// Sends the action to the target; nil means the first responder up the chain that has it.
+    bool sendAction(SEL action, objc::Object target, objc::Object sender,
+                    objc::Object event) const {
+        return send<"sendAction:to:from:forEvent:", bool>(action, target, sender, event);
+    }
     [[nodiscard]] Window keyWindow() const { return send<"keyWindow", Window>(); }
 };
 

@@ -1,6 +1,7 @@
 // UIFont.
 #pragma once
 
+#include "bindings/foundation/array.hpp"
 #include "bindings/foundation/string.hpp"
 
 namespace ui {
@@ -24,6 +25,9 @@ struct Font : objc::Kind<Font, "UIFont"> {
     static Font named(ns::String name, double size) {
         return sendClass<"fontWithName:size:", Font>(name, size);
     }
+
+    /// The names of all families, as strings.
+    static ns::Array familyNames() { return sendClass<"familyNames", ns::Array>(); }
 
     [[nodiscard]] Font withSize(double size) const { return send<"fontWithSize:", Font>(size); }
     [[nodiscard]] double pointSize() const { return send<"pointSize", double>(); }

@@ -19,6 +19,7 @@ struct ScrollView : objc::Kind<ScrollView, "UIScrollView", View> {
     [[nodiscard]] CGSize contentSize() const { return send<"contentSize", CGSize>(); }
     void setContentSize(CGSize size) const { send<"setContentSize:">(size); }
     [[nodiscard]] CGPoint contentOffset() const { return send<"contentOffset", CGPoint>(); }
+    void setScrollEnabled(bool enabled) const { send<"setScrollEnabled:">(enabled); }
     void setContentOffset(CGPoint offset) const { send<"setContentOffset:">(offset); }
 };
 

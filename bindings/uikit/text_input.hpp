@@ -19,6 +19,9 @@ struct TextRange : objc::Kind<TextRange, "UITextRange"> {
     [[nodiscard]] bool isEmpty() const { return send<"isEmpty", bool>(); }
 };
 
+/// The platform's numbers.
+enum class LayoutDirection : long { right = 2, left = 3, up = 4, down = 5 };
+
 /// Any object with this protocol: text views, text fields, and an application's own.
 struct TextInput : objc::Object {
     using Object::Object;
@@ -48,6 +51,15 @@ struct TextInput : objc::Object {
     }
     [[nodiscard]] long offset(TextPosition from, TextPosition to) const {
         return send<"offsetFromPosition:toPosition:", long>(from, to);
+    }
+    /// So many lines or characters away from there; nil when the text ends before that.
+    [[nodiscard]] TextPosition position(TextPosition from, LayoutDirection direction,
+                                        long offset) const {
+        return send<"positionFromPosition:inDirection:offset:", TextPosition>(from, direction,
+                                                                              offset);
+    }
+    [[nodiscard]] TextPosition closestPosition(CGPoint point) const {
+        return send<"closestPositionToPoint:", TextPosition>(point);
     }
     [[nodiscard]] CGRect caretRect(TextPosition position) const {
         return send<"caretRectForPosition:", CGRect>(position);

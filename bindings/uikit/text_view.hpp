@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bindings/uikit/font.hpp"
+#include "bindings/uikit/label.hpp"
 #include "bindings/uikit/scroll_view.hpp"
 #include "bindings/uikit/text_storage.hpp"
 
@@ -31,6 +32,8 @@ struct TextView : objc::Kind<TextView, "UITextView", ScrollView> {
     }
     [[nodiscard]] bool isEditable() const { return send<"isEditable", bool>(); }
     void setEditable(bool editable) const { send<"setEditable:">(editable); }
+    void setSelectable(bool selectable) const { send<"setSelectable:">(selectable); }
+    void setTextAlignment(TextAlignment alignment) const { send<"setTextAlignment:">(alignment); }
     /// In UTF-16 units.
     [[nodiscard]] ns::Range selectedRange() const { return send<"selectedRange", ns::Range>(); }
     void setSelectedRange(ns::Range range) const { send<"setSelectedRange:">(range); }

@@ -15,9 +15,12 @@ def too_new(since):
     return since[0].isdigit() and tuple(map(int, since.split("."))) > MINIMUM
 
 
-def candidates(classes, use):
+def candidates(classes, found, use):
     """The table's methods of that name that the message can reach."""
-    reach = ancestry(classes, use.cls) if use.cls else classes.values()
+    cls = use.cls
+    while cls not in classes and cls in found.own_classes:
+        cls = found.classes[cls]
+    reach = ancestry(classes, cls) if cls else classes.values()
     # A class answers the root class's instance methods too.
     sides = "+-" if use.cls is None or use.side == "+" else "-"
     return [(cls, cls.methods[side, use.selector]) for cls in reach for side in sides
@@ -44,7 +47,7 @@ def check_use(classes, found, use):
         return []  # the class itself is reported
     if use.hooked and (use.types is None or None in use.types):
         return [f"{what}: the replacement's types cannot be read here"]
-    reached = candidates(classes, use)
+    reached = candidates(classes, found, use)
     if not reached:
         return [] if own else [f"{what}: no such method in the table"]
     if not any(types_agree(use, types) for _, (types, _) in reached) and not own:
