@@ -37,29 +37,28 @@ constexpr Class classOf(char16_t unit) {
 constexpr bool isLeadSurrogate(char16_t unit) { return (unit & 0xFC00U) == 0xD800U; }
 constexpr bool isTrailSurrogate(char16_t unit) { return (unit & 0xFC00U) == 0xDC00U; }
 
-/// The length of the first piece of text that is not empty.
-std::size_t firstLength(std::u16string_view text) {
-    const Class first = classOf(text[0]);
-    if (first == Class::other) {
-        const bool isPair =
-            text.size() > 1 && isLeadSurrogate(text[0]) && isTrailSurrogate(text[1]);
-        return isPair ? 2 : 1;
+/// Where the piece that begins at `start`, with a character of that class, ends.
+std::size_t pieceEnd(std::u16string_view text, std::size_t start, Class first) {
+    std::size_t end = start + 1;
+    if (first != Class::other) {
+        while (end < text.size() && classOf(text[end]) == first) {
+            ++end;
+        }
+    } else if (isLeadSurrogate(text[start]) && end < text.size() && isTrailSurrogate(text[end])) {
+        ++end;
     }
-    std::size_t length = 1;
-    while (length < text.size() && classOf(text[length]) == first) {
-        ++length;
-    }
-    return length;
+    return end;
 }
 
 } // namespace
 
 std::vector<std::u16string_view> cutTokens(std::u16string_view text) {
     std::vector<std::u16string_view> tokens;
-    while (!text.empty()) {
-        const std::size_t length = firstLength(text);
-        tokens.push_back(text.substr(0, length));
-        text.remove_prefix(length);
+    tokens.reserve(text.size() / 2); // enough for nearly any text; what is not used is not touched
+    for (std::size_t start = 0; start < text.size();) {
+        const std::size_t end = pieceEnd(text, start, classOf(text[start]));
+        tokens.push_back(text.substr(start, end - start));
+        start = end;
     }
     return tokens;
 }

@@ -1,32 +1,268 @@
-// The view model's birth. The views that it will own are not there yet.
+// The ball, the panel and the pasteboard.
 #include "library/toolbox/view_model.hpp"
 
 #include "bindings/dispatch/dispatch.hpp"
+#include "bindings/foundation/delayed_perform.hpp"
+#include "bindings/foundation/notification_center.hpp"
 #include "bindings/objc/peer.hpp"
+#include "bindings/uikit/application.hpp"
+#include "bindings/uikit/pasteboard.hpp"
+#include "library/common/draggable_view.hpp"
+#include "library/common/screens.hpp"
+#include "library/labels/color_from_string.hpp"
+#include "library/toolbox/floating_view_controller.hpp"
+#include "library/toolbox/panel_layout.hpp"
+#include "library/toolbox/panel_views.hpp"
+#include "library/toolbox/tokens.hpp"
 
 #include <array>
+#include <ctime>
 
 namespace wentra::toolbox {
 namespace {
 
-constexpr std::int64_t delayInNanoseconds = 300'000'000;
+using namespace ns::literals;
+using startup::keys;
+using startup::Preferences;
+
+constexpr std::int64_t startUpDelay = 300'000'000; // ns
+constexpr std::int64_t panelDelay = 300'000'000;   // ns
+constexpr double timedBallSeconds = 5;
+
+CGSize screenSize() { return ui::Screen::main().bounds().size; }
+
+ns::Array wordsOf(std::u16string_view text) {
+    const auto words = ns::MutableArray::make();
+    for (const std::u16string_view token : cutTokens(text)) {
+        words.add(ns::String::from(token));
+    }
+    return words;
+}
 
 class OwnViewModel : public objc::Peer<OwnViewModel, ViewModel> {
 public:
     static auto methods() {
-        return std::array{objc::method<"updateView", &OwnViewModel::updateView>()};
+        return std::array{
+            objc::property<"floatingView", &OwnViewModel::ball_>(),
+            objc::property<"contentView", &OwnViewModel::panel_>(),
+            objc::property<"backgroundView", &OwnViewModel::dimming_>(),
+            objc::property<"copiedTextView", &OwnViewModel::editor_>(),
+            objc::property<"button", &OwnViewModel::marker_>(),
+            objc::property<"floatingVC", &OwnViewModel::body_>(),
+            objc::property<"isSwitchOn", &OwnViewModel::timed_>(),
+
+            objc::method<"init", &OwnViewModel::init>(),
+            objc::method<"setup", &OwnViewModel::setUp>(),
+            objc::method<"updateView", &OwnViewModel::update>(),
+            objc::method<"getKeyWindow", &OwnViewModel::window>(),
+
+            objc::method<"showFloatingView", &OwnViewModel::showBall>(),
+            objc::method<"showFloatingViewWithTimeLimit", &OwnViewModel::showBallForATime>(),
+            objc::method<"hideFloatingView", &OwnViewModel::hideBall>(),
+            objc::method<"moveFloatingView:", &OwnViewModel::moveBall>(),
+
+            objc::method<"pasteboardChanged:", &OwnViewModel::pasteboardChanged>(),
+            objc::method<"pasteboardChanged1:", &OwnViewModel::pasteboardChangedTimed>(),
+            objc::method<"showTextPanel", &OwnViewModel::showPanelSoon>(),
+            objc::method<"hideTextPanel", &OwnViewModel::hidePanel>(),
+            objc::method<"moveContentView:", &OwnViewModel::movePanel>(),
+
+            objc::method<"textViewDidBeginEditing:", &OwnViewModel::editingBegan>(),
+            objc::method<"textViewDidEndEditing:", &OwnViewModel::editingEnded>(),
+            objc::method<"gestureRecognizer:shouldRecognizeSimultaneouslyWithGestureRecognizer:",
+                         &OwnViewModel::recognizesBoth>(),
+            objc::method<"currentTimeStamp", &OwnViewModel::timeStamp>(),
+        };
     }
 
+    ~OwnViewModel() { ns::NotificationCenter::defaultCenter().removeObserver(self()); }
+
 private:
-    void updateView() {}
+    ViewModel init();
+    void setUp();
+    void observePasteboard(SEL action);
+    void update();
+    [[nodiscard]] ui::Window window() const { return keyWindow(); }
+
+    void showBall();
+    void showBallForATime();
+    void hideBall();
+    void moveBall(ui::PanGestureRecognizer pan);
+
+    void pasteboardChanged(ns::Notification notification);
+    void pasteboardChangedTimed(ns::Notification) { showBallForATime(); }
+    void take(ns::String copied, bool opens);
+    void showPanelSoon();
+    void showPanel();
+    void hidePanel();
+    void movePanel(ui::PanGestureRecognizer pan);
+
+    void editingBegan(ui::TextView) { marker_.setEnabled(true); }
+    void editingEnded(ui::TextView);
+    [[nodiscard]] bool recognizesBoth(ui::GestureRecognizer, ui::GestureRecognizer) const {
+        return true;
+    }
+    [[nodiscard]] ns::String timeStamp() const;
+
+    objc::Strong<ui::View> ball_;
+    objc::Strong<ui::View> panel_;
+    objc::Strong<ui::View> dimming_;
+    objc::Strong<ui::TextView> editor_;
+    objc::Strong<ui::Button> marker_;
+    objc::Strong<FloatingViewController> body_;
+    bool timed_ = false;
 };
+
+ViewModel OwnViewModel::init() {
+    super<"init", objc::Object>();
+    setUp();
+    const auto preferences = Preferences::read();
+    const auto layout = PanelLayout::from(preferences);
+    const std::u16string colour = preferences.text(keys.panelColour);
+    body_ = FloatingViewController::make();
+    ball_ = makeBall(layout.ballSide, self());
+    panel_ = makePanel(
+        layout.panelHeight, screenSize(),
+        labels::colorFromString(colour.empty() ? u"white"_ns : ns::String::from(colour)), self());
+    editor_ = makeEditor(layout.editor(screenSize()), self());
+    marker_ = makeMarker();
+    editor_.addSubview(marker_);
+    panel_.addSubview(editor_);
+    panel_.addSubview(body_.view());
+    dimming_ = makeDimming(screenSize(), self());
+    observePasteboard(objc::selector<"pasteboardChanged:">());
+    return self();
+}
+
+void OwnViewModel::setUp() {
+    timed_ = Preferences::read().on(keys.timedButton);
+    if (timed_) {
+        observePasteboard(objc::selector<"pasteboardChanged1:">());
+    }
+}
+
+void OwnViewModel::observePasteboard(SEL action) {
+    ns::NotificationCenter::defaultCenter().addObserver(
+        self(), action, u"UIPasteboardChangedNotification"_ns, nullptr);
+}
+
+void OwnViewModel::update() {
+    const auto preferences = Preferences::read();
+    if (!preferences.on(keys.showButton)) {
+        hideBall();
+    } else if (preferences.on(keys.timedButton)) {
+        showBallForATime();
+    } else {
+        showBall();
+    }
+}
+
+// --- The ball
+
+void OwnViewModel::showBall() {
+    const ui::Window window = keyWindow();
+    window.addSubview(ball_);
+    window.bringSubviewToFront(ball_);
+    ball_.setCenter(ballCentre(window.bounds().size, ball_.bounds().size.width));
+    ball_.setAlpha(1);
+}
+
+void OwnViewModel::showBallForATime() {
+    constexpr auto hide = &objc::selector<"hideFloatingView">;
+    ns::cancelPerform(self(), hide(), nullptr);
+    showBall();
+    ns::performLater(self(), hide(), nullptr, timedBallSeconds);
+}
+
+void OwnViewModel::hideBall() {
+    ball_.removeFromSuperview();
+    ball_.setAlpha(0);
+}
+
+void OwnViewModel::moveBall(ui::PanGestureRecognizer pan) {
+    if (pan.state() == ui::GestureState::changed) {
+        moveAlong(pan.view(), pan, pan.view());
+    }
+}
+
+// --- The panel
+
+void OwnViewModel::pasteboardChanged(ns::Notification) {
+    const bool opens = Preferences::read().on(keys.openOnCopy);
+    if (const ns::String copied = ui::Pasteboard::general().string(); copied) {
+        dispatch::async(dispatch::mainQueue(),
+                        [this, keptAlive = objc::Strong(self()), text = objc::Strong(copied),
+                         opens] { take(text, opens); });
+    }
+}
+
+void OwnViewModel::take(ns::String copied, bool opens) {
+    constexpr double right = 3;
+    constexpr CGRect besideEditor{{0, -152}, {40, 20}}; // above the body that it is put into
+    editor_.setText(copied);
+    const ui::View body = body_.view();
+    CGRect place = besideEditor;
+    place.origin.x = body.bounds().size.width - marker_.bounds().size.width - right;
+    marker_.removeFromSuperview();
+    body.addSubview(marker_);
+    marker_.setFrame(place);
+    if (opens) {
+        showPanelSoon();
+    }
+    body_.updateWordsArray(wordsOf(copied.utf16()));
+}
+
+void OwnViewModel::showPanelSoon() {
+    dispatch::after(panelDelay, dispatch::mainQueue(),
+                    [this, keptAlive = objc::Strong(self())] { showPanel(); });
+}
+
+void OwnViewModel::showPanel() {
+    const auto layout = PanelLayout::from(Preferences::read());
+    const ui::Window window = keyWindow();
+    window.addSubview(dimming_);
+    window.addSubview(panel_);
+    dimming_.setAlpha(1);
+    panel_.setAlpha(1);
+    dimming_.setFrame(ui::Screen::main().bounds());
+    panel_.setFrame(layout.panel(screenSize()));
+    ball_.setAlpha(0);
+    // Whoever edits in the host gives up its keyboard.
+    ui::Application::shared().sendAction(objc::selector<"resignFirstResponder">(), nullptr, nullptr,
+                                         nullptr);
+}
+
+void OwnViewModel::hidePanel() {
+    dimming_.setAlpha(0);
+    dimming_.removeFromSuperview();
+    if (!Preferences::read().on(keys.keepPanelOpen)) {
+        panel_.setAlpha(0);
+        panel_.removeFromSuperview();
+        ball_.setAlpha(1);
+    }
+}
+
+void OwnViewModel::movePanel(ui::PanGestureRecognizer pan) {
+    if (pan.state() == ui::GestureState::changed && Preferences::read().on(keys.draggablePanel)) {
+        moveAlong(pan.view(), pan, pan.view());
+    }
+}
+
+void OwnViewModel::editingEnded(ui::TextView) {
+    ui::Pasteboard::general().setString(editor_.text());
+    marker_.setEnabled(false);
+}
+
+ns::String OwnViewModel::timeStamp() const {
+    return ns::String::fromUtf8(std::to_string(std::time(nullptr)));
+}
 
 } // namespace
 
 void registerViewModel() { OwnViewModel::registerClass(); }
 
 void scheduleViewModel() {
-    dispatch::after(delayInNanoseconds, dispatch::mainQueue(), [] {
+    dispatch::after(startUpDelay, dispatch::mainQueue(), [] {
         static objc::Strong<ViewModel>* only = nullptr; // lives as long as the process
         only = new objc::Strong(ViewModel::make());
         only->updateView();

@@ -5,10 +5,14 @@
 
 namespace wentra::toolbox {
 
+/// Owns the floating button (the ball), the panel that it opens, and the dimming behind the panel;
+/// follows the general pasteboard. A controller by its class only: it is never presented.
 struct ViewModel : objc::Kind<ViewModel, "ZKViewModel", ui::ViewController> {
     using Kind::Kind;
 
     void updateView() const { send<"updateView">(); }
+    void showTextPanel() const { send<"showTextPanel">(); }
+    void hideFloatingView() const { send<"hideFloatingView">(); }
 };
 
 /// Declares the class.
