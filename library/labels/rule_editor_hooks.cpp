@@ -1,36 +1,37 @@
-// Layout of the rule editor's containers. The long press is not there yet: calls pass through.
+// Layout of the rule editor's containers: each gets the long press that opens the editor.
 #include "library/labels/rule_editor_hooks.hpp"
 
-#include "bindings/uikit/text_view.hpp"
-#include "library/labels/stored_rules.hpp"
+#include "bindings/uikit/view.hpp"
+#include "library/startup/preferences.hpp"
 
 #include <array>
 
 namespace wentra::labels {
 namespace {
 
-void saveRules(ui::View, ui::TextView editor) {
-    saveRuleText(editor.text().utf16());
-    editor.removeFromSuperview();
+/// The names of the containers are those of other applications' classes; they may be no views.
+void attach(objc::Object container) { container.as<ui::View>().send<"attachLongPressHandler33">(); }
+
+void laidOut(objc::Next<void()> next, objc::Object container) {
+    next();
+    attach(container);
 }
 
-void laidOut(objc::Next<void()> next, ui::View) { next(); }
+void barLaidOut(objc::Next<void()> next, objc::Object bar) {
+    next();
+    if (startup::Preferences::read().on(startup::keys.longPressOnNavigation)) {
+        attach(bar);
+    }
+}
 
 } // namespace
-
-std::span<const objc::Change> ruleEditorCategory() {
-    static constexpr std::array changes{
-        objc::addition<"UIView", "saveRulesFromTextView:", &saveRules>(),
-    };
-    return changes;
-}
 
 std::span<const objc::Change> containerHooks() {
     static constexpr std::array changes{
         objc::hook<"UIStackView", "layoutSubviews", &laidOut>(),
         objc::hook<"AWELeftSideBarCollectionReusableView", "layoutSubviews", &laidOut>(),
         objc::hook<"T1TimelineNavigationController", "layoutSubviews", &laidOut>(),
-        objc::hook<"UINavigationBar", "layoutSubviews", &laidOut>(),
+        objc::hook<"UINavigationBar", "layoutSubviews", &barLaidOut>(),
     };
     return changes;
 }

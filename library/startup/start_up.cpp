@@ -11,6 +11,8 @@
 #include "library/labels/color_from_string.hpp"
 #include "library/labels/label_text_hooks.hpp"
 #include "library/labels/long_press_copy.hpp"
+#include "library/labels/rule_editor/colour_chooser.hpp"
+#include "library/labels/rule_editor/editor.hpp"
 #include "library/labels/rule_editor_hooks.hpp"
 #include "library/labels/yy_label.hpp"
 #include "library/scratchpad/scratch_pad_hook.hpp"
@@ -38,6 +40,7 @@ void install() {
 void declareClasses() {
     labels::registerYYLabel();
     registerTrashButton();
+    labels::registerCustomAlertController();
     toolbox::registerFloatingViewController();
     toolbox::registerBilingualView();
     clipboard::registerTextViewController();
@@ -46,7 +49,14 @@ void declareClasses() {
     install<&toolbox::translationCategory>();
     install<&draggableCategory>();
     install<&labels::longPressCopyCategory>();
-    install<&labels::ruleEditorCategory>();
+    install<&labels::editorProperties>();
+    install<&labels::editorOpening>();
+    install<&labels::editorSaving>();
+    install<&labels::editorCommands>();
+    install<&labels::editorGestures>();
+    install<&labels::fontPicking>();
+    install<&labels::keywordSearch>();
+    install<&labels::colourChoosing>();
     install<&editing::menuItemCategory>();
     install<&editing::speechCategories>();
 }

@@ -16,6 +16,7 @@
 #include "library/labels/color_from_string.hpp"
 #include "library/labels/label_text_hooks.hpp"
 #include "library/labels/long_press_copy.hpp"
+#include "library/labels/rule_editor/editor.hpp"
 #include "library/labels/rule_editor_hooks.hpp"
 #include "library/scratchpad/scratch_pad_hook.hpp"
 #include "library/toolbox/view_model.hpp"
@@ -32,12 +33,14 @@ using Tables = std::vector<std::span<const objc::Change>>;
 
 Tables allTables() {
     return {
-        draggableCategory(),           labels::longPressCopyCategory(), labels::colourCategory(),
-        labels::ruleEditorCategory(),  editing::menuItemCategory(),     editing::speechCategories(),
-        labels::longPressCopyLoad(),   labels::labelTextLoad(),         labels::yyLabelTextLoad(),
-        scratchpad::scratchPadHooks(), blocking::requestHooks(),        labels::containerHooks(),
-        labels::labelTextHooks(),      labels::cameraHooks(),           editing::editMenuHooks(),
-        editing::textGestureHooks()};
+        draggableCategory(),         labels::longPressCopyCategory(), labels::colourCategory(),
+        labels::editorProperties(),  labels::editorOpening(),         labels::editorSaving(),
+        labels::editorCommands(),    labels::editorGestures(),        labels::fontPicking(),
+        labels::keywordSearch(),     labels::colourChoosing(),        editing::menuItemCategory(),
+        editing::speechCategories(), labels::longPressCopyLoad(),     labels::labelTextLoad(),
+        labels::yyLabelTextLoad(),   scratchpad::scratchPadHooks(),   blocking::requestHooks(),
+        labels::containerHooks(),    labels::labelTextHooks(),        labels::cameraHooks(),
+        editing::editMenuHooks(),    editing::textGestureHooks()};
 }
 
 IMP implementation(const objc::Change& change) {

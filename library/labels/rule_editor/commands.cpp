@@ -1,0 +1,114 @@
+// What the rule editor's buttons do to the text, the caret and the page.
+#include "library/labels/rule_editor/editor.hpp"
+
+#include "bindings/foundation/delayed_perform.hpp"
+#include "bindings/uikit/label.hpp"
+#include "bindings/uikit/pasteboard.hpp"
+#include "bindings/uikit/text_input.hpp"
+#include "bindings/uikit/text_storage.hpp"
+#include "library/labels/rule_editor/editor_text.hpp"
+#include "library/labels/rule_kind.hpp"
+#include "library/startup/preferences.hpp"
+
+#include <algorithm>
+#include <array>
+
+namespace wentra::labels {
+namespace {
+
+using namespace ns::literals;
+using objc::Object;
+
+/// Moves the caret by lines, unless it is at that end of the text already.
+void moveCaret(ui::TextView editor, ui::LayoutDirection direction) {
+    const ui::TextInput input(editor);
+    const long lines = startup::Preferences::read().on(startup::keys.moveFiveLines) ? 5 : 1;
+    const ui::TextPosition caret = input.selectedTextRange().start();
+    const ui::TextPosition end =
+        direction == ui::LayoutDirection::up ? input.beginningOfDocument() : input.endOfDocument();
+    if (!caret || input.offset(caret, end) == 0) {
+        return;
+    }
+    const ui::TextPosition moved = input.position(caret, direction, lines);
+    const ui::TextPosition target = moved ? moved : end;
+    input.setSelectedTextRange(input.range(target, target));
+}
+
+void moveUp(ui::View host, Object) { moveCaret(inputTextView(host), ui::LayoutDirection::up); }
+void moveDown(ui::View host, Object) { moveCaret(inputTextView(host), ui::LayoutDirection::down); }
+
+void scrollTo(ui::TextView editor, double top) {
+    editor.setContentOffset({editor.contentOffset().x, top});
+}
+
+void pageUp(ui::View host, Object) {
+    const ui::TextView editor = inputTextView(host);
+    scrollTo(editor, previousPage(editor.contentOffset().y, editor.bounds().size.height));
+}
+
+void pageDown(ui::View host, Object) {
+    const ui::TextView editor = inputTextView(host);
+    scrollTo(editor, nextPage(editor.contentOffset().y, editor.bounds().size.height,
+                              editor.contentSize().height));
+}
+
+template <RuleKind Kind>
+void insertMarker(ui::View host, Object) {
+    insertAtCaret(host, ruleKindNames(Kind).marker);
+}
+
+void deleteLines(ui::View host, Object) {
+    const ui::TextView editor = inputTextView(host);
+    const ns::Range lines = linesOf(editor.text().utf16(), editor.selectedRange());
+    editor.textStorage().replace(lines, u""_ns);
+    editor.setSelectedRange({lines.location, 0});
+}
+
+void showExported(ui::Window window) {
+    constexpr CGSize size{260, 40};
+    constexpr double seconds = 1.5;
+    const CGSize room = window.bounds().size;
+    const auto note =
+        ui::Label::withFrame({{room.width * 0.5 - 135, room.height * 0.5 - 20}, size});
+    note.setText(u"所有内容已经复制到剪贴板！"_ns);
+    note.setTextAlignment(ui::TextAlignment::center);
+    note.setBackgroundColor(ui::Color::lightGray());
+    window.addSubview(note);
+    ns::performLater(note, objc::selector<"removeFromSuperview">(), nullptr, seconds);
+}
+
+void exportText(ui::View host, Object) {
+    const ui::TextView editor = inputTextView(host);
+    ui::Pasteboard::general().setString(ns::String::from(withoutHelp(editor.text().utf16())));
+    showExported(host.window());
+}
+
+} // namespace
+
+void insertAtCaret(ui::View host, std::u16string_view text) {
+    const ui::TextView editor = inputTextView(host);
+    const unsigned long caret = std::min(editor.selectedRange().location, editor.text().length());
+    editor.textStorage().replace({caret, 0}, ns::String::from(text));
+    editor.setSelectedRange({caret + text.size(), 0});
+}
+
+std::span<const objc::Change> editorCommands() {
+    static constexpr std::array changes{
+        objc::addition<"UIView", "moveCursorUp:", &moveUp>(),
+        objc::addition<"UIView", "moveCursorDown:", &moveDown>(),
+        objc::addition<"UIView", "prevPage:", &pageUp>(),
+        objc::addition<"UIView", "nextPage:", &pageDown>(),
+        objc::addition<"UIView", "tmdtj:", &insertMarker<RuleKind::alpha>>(),
+        objc::addition<"UIView", "equalButtonPressed:", &insertMarker<RuleKind::text>>(),
+        objc::addition<"UIView", "dxButtonPressed:", &insertMarker<RuleKind::size>>(),
+        objc::addition<"UIView", "hxButtonPressed:", &insertMarker<RuleKind::horizontal>>(),
+        objc::addition<"UIView", "zxButtonPressed:", &insertMarker<RuleKind::vertical>>(),
+        objc::addition<"UIView", "gdButtonPressed:", &insertMarker<RuleKind::height>>(),
+        objc::addition<"UIView", "kdButtonPressed:", &insertMarker<RuleKind::width>>(),
+        objc::addition<"UIView", "deleteRowButtonPressed:", &deleteLines>(),
+        objc::addition<"UIView", "exportButtonPressed:", &exportText>(),
+    };
+    return changes;
+}
+
+} // namespace wentra::labels

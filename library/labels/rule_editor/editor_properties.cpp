@@ -1,0 +1,52 @@
+// The parts of an editor as properties of its host.
+#include "library/labels/rule_editor/editor.hpp"
+
+#include "bindings/foundation/timer.hpp"
+#include "bindings/objc/associated.hpp"
+
+#include <array>
+
+namespace wentra::labels {
+namespace {
+
+/// The getter and the setter of a property that the host keeps.
+template <objc::Literal Name, class Kind>
+struct Kept {
+    static Kind get(ui::View host) { return objc::associated<Name, Kind>(host); }
+    static void set(ui::View host, Kind part) {
+        objc::associate<Name>(host, part, objc::Association::retainNonatomic);
+    }
+};
+
+using Input = Kept<"inputTextView", ui::TextView>;
+using Picker = Kept<"fontPickerView", ui::PickerView>;
+using FontNames = Kept<"fontNames", ns::Array>;
+using PickerTimer = Kept<"timer", ns::Timer>;
+
+} // namespace
+
+ui::TextView inputTextView(ui::View host) { return Input::get(host); }
+ui::PickerView fontPickerView(ui::View host) { return Picker::get(host); }
+ns::Array fontNames(ui::View host) { return FontNames::get(host); }
+ns::Timer pickerTimer(ui::View host) { return PickerTimer::get(host); }
+
+void setInputTextView(ui::View host, ui::TextView editor) { Input::set(host, editor); }
+void setFontPickerView(ui::View host, ui::PickerView picker) { Picker::set(host, picker); }
+void setFontNames(ui::View host, ns::Array names) { FontNames::set(host, names); }
+void setPickerTimer(ui::View host, ns::Timer timer) { PickerTimer::set(host, timer); }
+
+std::span<const objc::Change> editorProperties() {
+    static constexpr std::array changes{
+        objc::addition<"UIView", "inputTextView", &Input::get>(),
+        objc::addition<"UIView", "setInputTextView:", &Input::set>(),
+        objc::addition<"UIView", "fontPickerView", &Picker::get>(),
+        objc::addition<"UIView", "setFontPickerView:", &Picker::set>(),
+        objc::addition<"UIView", "fontNames", &FontNames::get>(),
+        objc::addition<"UIView", "setFontNames:", &FontNames::set>(),
+        objc::addition<"UIView", "timer", &PickerTimer::get>(),
+        objc::addition<"UIView", "setTimer:", &PickerTimer::set>(),
+    };
+    return changes;
+}
+
+} // namespace wentra::labels

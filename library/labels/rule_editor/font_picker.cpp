@@ -1,0 +1,76 @@
+// The list of fonts: what is chosen is inserted half a second later.
+#include "library/labels/rule_editor/editor.hpp"
+
+#include "bindings/uikit/layout_anchor.hpp"
+#include "library/labels/rule_kind.hpp"
+
+#include <array>
+
+namespace wentra::labels {
+namespace {
+
+constexpr double settlingSeconds = 0.5;
+
+void show(ui::View host, objc::Object) { fontPickerView(host).setHidden(false); }
+
+long components(ui::View, ui::PickerView) { return 1; }
+
+long rows(ui::View host, ui::PickerView, long) {
+    return static_cast<long>(fontNames(host).count());
+}
+
+ns::String nameAt(ui::View host, long row) {
+    const ns::Array names = fontNames(host);
+    const auto index = static_cast<unsigned long>(row);
+    return index < names.count() ? names.at(index).as<ns::String>() : nullptr;
+}
+
+ns::String title(ui::View host, ui::PickerView, long row, long) { return nameAt(host, row); }
+
+void selected(ui::View host, ui::PickerView, long row, long) {
+    pickerTimer(host).invalidate();
+    setPickerTimer(host, ns::Timer::scheduled(settlingSeconds, host,
+                                              objc::selector<"updateFontWithName:">(),
+                                              nameAt(host, row), false));
+}
+
+void insertName(ui::View host, ns::Timer timer) {
+    fontPickerView(host).setHidden(true);
+    const auto name = timer.userInfo().as<ns::String>();
+    insertAtCaret(host, std::u16string(ruleKindNames(RuleKind::font).marker) + name.utf16());
+    setPickerTimer(host, nullptr);
+}
+
+} // namespace
+
+void addFontPicker(ui::View host, ui::TextView editor) {
+    setFontNames(host, ui::Font::familyNames());
+    const auto picker = ui::PickerView::make();
+    picker.setDataSource(host);
+    picker.setDelegate(host);
+    picker.setHidden(true);
+    picker.setBackgroundColor(ui::Color::white());
+    picker.layer().setCornerRadius(6);
+    picker.setClipsToBounds(true);
+    editor.window().addSubview(picker);
+    const ui::LayoutItem text(editor);
+    const auto place = ui::constrained(picker);
+    place.leading().equalTo(text.leading()).activate();
+    place.trailing().equalTo(text.trailing()).activate();
+    place.bottom().equalTo(text.bottom()).activate();
+    setFontPickerView(host, picker);
+}
+
+std::span<const objc::Change> fontPicking() {
+    static constexpr std::array changes{
+        objc::addition<"UIView", "fontButtonPressed:", &show>(),
+        objc::addition<"UIView", "numberOfComponentsInPickerView:", &components>(),
+        objc::addition<"UIView", "pickerView:numberOfRowsInComponent:", &rows>(),
+        objc::addition<"UIView", "pickerView:titleForRow:forComponent:", &title>(),
+        objc::addition<"UIView", "pickerView:didSelectRow:inComponent:", &selected>(),
+        objc::addition<"UIView", "updateFontWithName:", &insertName>(),
+    };
+    return changes;
+}
+
+} // namespace wentra::labels
