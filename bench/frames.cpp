@@ -63,8 +63,8 @@ Bytes frameOf(ScreenImage& image, const std::vector<PixelRectangle>& regions) {
 /// Changes the screen again and again, and makes the frames that a page would be sent.
 template <class Change>
 void measure(benchmark::State& state, Change change) {
-    const objc::Pool pool;
     Scene& scene = Scene::shared();
+    const objc::Pool pool; // after the platform's own
     ScreenImage image(phoneScale);
     image.refresh();
     std::size_t bytes = 0;
@@ -91,8 +91,8 @@ void panelMoves(benchmark::State& state) {
 
 /// Encoding alone, of the whole screen.
 void wholeScreen(benchmark::State& state) {
-    const objc::Pool pool;
     Scene::shared();
+    const objc::Pool pool;
     ScreenImage image(phoneScale);
     image.refresh();
     std::size_t bytes = 0;
