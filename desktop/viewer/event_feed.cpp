@@ -8,10 +8,13 @@ namespace desktop::viewer {
 
 EventFeed::EventFeed(host::Values& values, std::function<void(const host::Json&)> tell)
     : values_(values), tell_(std::move(tell)), self_(std::make_shared<EventFeed*>(this)) {
+    for (const LoggedEvent& event : EventLog::shared().events()) {
+        keep(event);
+    }
     EventLog::shared().whenRecorded([weak = std::weak_ptr(self_)](const LoggedEvent& event) {
         MainQueue::shared().add([weak, event] {
             if (const auto self = weak.lock()) {
-                (*self)->add(event);
+                (*self)->tell_((*self)->keep(event));
             }
         });
     });
@@ -19,14 +22,14 @@ EventFeed::EventFeed(host::Values& values, std::function<void(const host::Json&)
 
 EventFeed::~EventFeed() { EventLog::shared().whenRecorded(nullptr); }
 
-void EventFeed::add(const LoggedEvent& event) {
+const host::Json& EventFeed::keep(const LoggedEvent& event) {
     const objc::Pool pool;
     host::Json entry = host::toJson(values_, event);
     entry["number"] = ++last_;
-    tell_(events_.emplace_back(std::move(entry)));
-    if (events_.size() > mostEvents) {
+    if (events_.size() == mostEvents) {
         events_.pop_front();
     }
+    return events_.emplace_back(std::move(entry));
 }
 
 std::string EventFeed::fileOf(const std::string& number) const {

@@ -16,8 +16,8 @@ class EventFeed {
 public:
     static constexpr std::size_t mostEvents = 1'000;
 
-    /// From now on `tell` is called with each new event. Events are JSON objects as in the
-    /// automation protocol, with their number under "number".
+    /// Begins with what the log holds; from then on `tell` is called with each event. Events are
+    /// JSON objects as in the automation protocol, with their number under "number".
     EventFeed(host::Values& values, std::function<void(const host::Json&)> tell);
     EventFeed(const EventFeed&) = delete;
     EventFeed& operator=(const EventFeed&) = delete;
@@ -29,7 +29,7 @@ public:
     [[nodiscard]] std::string fileOf(const std::string& number) const;
 
 private:
-    void add(const LoggedEvent& event);
+    const host::Json& keep(const LoggedEvent& event);
 
     host::Values& values_;
     std::function<void(const host::Json&)> tell_;

@@ -219,7 +219,9 @@ test("bad messages are refused, and the phone goes on", async () => {
         return { refusals: refusals.length, expected: bad.length, codes };
     });
     assert.equal(answers.refusals, answers.expected);
-    assert.deepEqual(answers.codes, [1003, 1009]);
+    assert.equal(answers.codes[0], 1003);
+    // The reason gets lost when the connection ends while the page still writes.
+    assert.ok([1009, 1006].includes(answers.codes[1]), `closed with ${answers.codes[1]}`);
     await phone.page.reload();
     await phone.showing("Hello, world");
     await phone.close();
@@ -330,6 +332,23 @@ test("preferences are written, and the pasteboard is set", async () => {
         "input[type=file]", { name: "a.png", mimeType: "image/png", buffer: screenshot });
     await phone.page.waitForSelector(".content img");
     assert.equal(await phone.do("pasteboard"), null);
+    await phone.close();
+});
+
+test("events are listed, those from before the page came too", async () => {
+    const phone = await Phone.open(browser, host.address, { locale: "en-US" });
+    await phone.page.click("#tab-events");
+    await phone.page.waitForSelector(".events .kind.log"); // the library says what it misses
+    const before = await phone.page.locator(".events > li").count();
+    const center = await phone.do("send", {
+        to: { class: "NSNotificationCenter" }, selector: "defaultCenter",
+    });
+    await phone.do("send", {
+        to: center, selector: "postNotificationName:object:userInfo:",
+        args: ["WentraExceptionSwallowed", null, { name: "Noise", reason: "made by the test" }],
+    });
+    await phone.page.getByText("made by the test").waitFor();
+    assert.equal(await phone.page.locator(".events > li").count(), before + 1);
     await phone.close();
 });
 
