@@ -10,6 +10,7 @@
 #include "bindings/uikit/pasteboard.hpp"
 #include "desktop/runtime/main_queue.hpp"
 #include "desktop/uikit/image.hpp"
+#include "desktop/uikit/keyboard_input.hpp"
 #include "desktop/uikit/screen.hpp"
 #include "desktop/uikit/scrolling/wheel.hpp"
 #include "desktop/uikit/uikit.hpp"
@@ -173,11 +174,22 @@ void Phone::carryOut(const Wheel& wheel) {
     turnWheel({wheel.x, wheel.y}, {wheel.byX, wheel.byY});
 }
 
-void Phone::carryOut(const Insert&) { throw MessageError("the phone has no keyboard yet"); }
+void Phone::carryOut(const Insert& insert) {
+    keyboard_input::insertText(ns::String::fromUtf8(insert.text));
+}
 
-void Phone::carryOut(const Compose&) { throw MessageError("the phone has no keyboard yet"); }
+void Phone::carryOut(const Compose& compose) {
+    const auto text = ns::String::fromUtf8(compose.text);
+    keyboard_input::setMarkedText(text, {text.length(), 0});
+}
 
-void Phone::carryOut(const Press&) { throw MessageError("the phone has no keyboard yet"); }
+void Phone::carryOut(const Press& press) {
+    if (press.key == Key::deleteBackward) {
+        keyboard_input::deleteBackward();
+    } else {
+        keyboard_input::pressReturn();
+    }
+}
 
 void Phone::carryOut(const Paste& paste) {
     // Pictures are read from files, as everywhere on the phone.

@@ -115,6 +115,39 @@ test("Alt makes two fingers", async () => {
     await phone.close();
 });
 
+test("typing reaches the first responder, input methods included", async () => {
+    const phone = await Phone.open(browser, host.address);
+    const view = await addView(phone, "UITextView", [20, 200, 350, 120]);
+    const text = () => phone.do("send", { to: view, selector: "text" });
+    await phone.tap([100, 220]);
+    assert.equal(await phone.do("send", { to: view, selector: "isFirstResponder" }), true);
+    await phone.page.keyboard.type("Hellp");
+    await phone.page.keyboard.press("Backspace");
+    await phone.page.keyboard.type("o,");
+    await phone.page.keyboard.press("Enter");
+    await phone.page.keyboard.insertText("😀");
+    await phone.page.waitForTimeout(200);
+    assert.equal(await text(), "Hello,\n😀");
+
+    const devtools = await phone.page.context().newCDPSession(phone.page);
+    for (const letters of ["n", "ni", "ni hao"]) {
+        await devtools.send("Input.imeSetComposition", {
+            text: letters, selectionStart: letters.length, selectionEnd: letters.length,
+        });
+    }
+    await phone.page.waitForTimeout(200);
+    assert.equal(await text(), "Hello,\n😀ni hao");
+    await devtools.send("Input.insertText", { text: "你好" });
+    await phone.page.waitForTimeout(200);
+    assert.equal(await text(), "Hello,\n😀你好");
+
+    await phone.page.keyboard.press("Escape"); // leaves the phone for the page's buttons
+    assert.equal(await phone.page.evaluate(() => document.activeElement.id), "help");
+    await phone.do("send", { to: view, selector: "resignFirstResponder" });
+    await phone.do("send", { to: view, selector: "removeFromSuperview" });
+    await phone.close();
+});
+
 test("fingers that a page leaves on the screen are taken away", async () => {
     const leaving = await Phone.open(browser, host.address);
     const view = await addView(leaving, "UIView", [100, 300, 80, 80]);
@@ -223,6 +256,7 @@ test("bad messages are refused, and the phone goes on", async () => {
     // The reason gets lost when the connection ends while the page still writes.
     assert.ok([1009, 1006].includes(answers.codes[1]), `closed with ${answers.codes[1]}`);
     await phone.page.reload();
+    await phone.picture();
     await phone.showing("Hello, world");
     await phone.close();
 });
