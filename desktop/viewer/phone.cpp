@@ -71,9 +71,9 @@ Answer pasteboardPicture() {
 
 } // namespace
 
-Phone::Phone(const Door& door, const Start& start, const std::filesystem::path& deviceFolder,
+Phone::Phone(const Door& door, Start start, std::filesystem::path deviceFolder,
              host::Values& values)
-    : start_(start), deviceFolder_(deviceFolder), session_{values},
+    : start_(std::move(start)), deviceFolder_(std::move(deviceFolder)), session_{values},
       self_(std::make_shared<Phone*>(this)),
       events_(values,
               [this](const host::Json& event) {
@@ -86,8 +86,8 @@ Phone::Phone(const Door& door, const Start& start, const std::filesystem::path& 
 
 Phone::~Phone() { picture_.reset(); }
 
-template <class... Arguments>
-std::function<void(Arguments...)> Phone::later(void (Phone::*method)(Arguments...)) {
+template <class... Arguments, class Method>
+std::function<void(Arguments...)> Phone::later(Method method) {
     return [weak = std::weak_ptr(self_), method](Arguments... arguments) {
         MainQueue::shared().add([weak, method, ... given = std::move(arguments)] {
             if (const auto self = weak.lock()) {
@@ -104,7 +104,7 @@ void Phone::opened(PageNumber page) {
     send({{"type", "events"}, {"events", events_.events()}});
 }
 
-void Phone::said(PageNumber page, std::string text) {
+void Phone::said(PageNumber page, const std::string& text) {
     if (page == page_) {
         try {
             std::visit([this](const auto& message) { carryOut(message); }, parsePageMessage(text));
@@ -123,7 +123,9 @@ void Phone::closed(PageNumber page) {
     }
 }
 
-void Phone::fetched(FetchNumber fetch, std::string path) { server_.answer(fetch, contentAt(path)); }
+void Phone::fetched(FetchNumber fetch, const std::string& path) {
+    server_.answer(fetch, contentAt(path));
+}
 
 Answer Phone::contentAt(const std::string& path) const {
     constexpr std::string_view files = "file/";

@@ -24,21 +24,20 @@ struct Door {
 /// on which the application's own work runs too.
 class Phone {
 public:
-    Phone(const Door& door, const Start& start, const std::filesystem::path& deviceFolder,
-          host::Values& values);
+    Phone(const Door& door, Start start, std::filesystem::path deviceFolder, host::Values& values);
     Phone(const Phone&) = delete;
     Phone& operator=(const Phone&) = delete;
     ~Phone();
 
 private:
     /// The method, called on the main thread as long as there is a phone.
-    template <class... Arguments>
-    std::function<void(Arguments...)> later(void (Phone::*method)(Arguments...));
+    template <class... Arguments, class Method>
+    std::function<void(Arguments...)> later(Method method);
 
     void opened(PageNumber page);
-    void said(PageNumber page, std::string text);
+    void said(PageNumber page, const std::string& text);
     void closed(PageNumber page);
-    void fetched(FetchNumber fetch, std::string path);
+    void fetched(FetchNumber fetch, const std::string& path);
 
     void carryOut(const Fingers& fingers);
     void carryOut(const Look& look);

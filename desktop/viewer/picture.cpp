@@ -48,6 +48,7 @@ void Picture::refresh() {
         return;
     }
     std::vector<Patch> patches;
+    patches.reserve(regions.size());
     for (const PixelRectangle& region : regions) {
         patches.push_back(copied(image_, region));
     }

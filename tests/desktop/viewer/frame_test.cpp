@@ -27,7 +27,7 @@ void expectSamePixels(const Bytes& png, const Bytes& pixels, int width, int heig
     ASSERT_EQ(image->pixelHeight(), height);
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
-            const auto* given = &pixels[static_cast<std::size_t>((y * width + x) * 4)];
+            const auto* given = pixels.data() + std::ptrdiff_t{y * width + x} * 4;
             const desktop::Colour drawn = image->pixel(x, y);
             ASSERT_NEAR(drawn.red * 255, given[2], 0.01) << x << ", " << y;
             ASSERT_NEAR(drawn.green * 255, given[1], 0.01) << x << ", " << y;
