@@ -46,6 +46,9 @@ def main():
         frame = results[f"frame/{kind}"]
         print(f"{'frame, ' + kind.replace('_', ' '):58}{frame['bytes'] / 1024:.1f} KiB,"
               f" {frame['frames/s']:.0f} a second")
+    for name in ("panelDrag", "panelDragBetweenPixels", "panelPinch"):
+        print(f"{'frames a second of one core, ' + name:58}{results[name]['frames']:5.0f}"
+              "  at least 60")
     loading = next(result for name, result in results.items() if name.startswith("loading/"))
     print(f"\nloading the library: {loading['real_time']:.2f} ms,"
           f" {loading['residentBytes'] / 1024:.0f} KiB resident,"
