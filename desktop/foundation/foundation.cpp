@@ -10,6 +10,7 @@
 #include "desktop/foundation/url.hpp"
 #include "desktop/foundation/url_session.hpp"
 #include "desktop/foundation/user_defaults.hpp"
+#include "desktop/foundation/xml_property_list.hpp"
 
 #include "bindings/objc/pool.hpp"
 
@@ -21,6 +22,7 @@ void install(const std::string& bundleIdentifier) {
     installBundle(identifier);
     installUserDefaults(identifier);
     installDictionaryFiles();
+    installXmlPropertyLists();
     installDelayedPerform();
     installTimers();
     installMainOperationQueue();

@@ -1,7 +1,7 @@
 // Encoding UTF-16 as UTF-8.
-#include "desktop/host/text.hpp"
+#include "desktop/foundation/text.hpp"
 
-namespace desktop::host {
+namespace desktop {
 namespace {
 
 bool isHighSurrogate(char32_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
@@ -45,4 +45,4 @@ std::string toUtf8(std::u16string_view text) {
     return result;
 }
 
-} // namespace desktop::host
+} // namespace desktop

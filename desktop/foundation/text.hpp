@@ -1,4 +1,4 @@
-// Text between the platform's UTF-16 and the protocol's UTF-8.
+// Text between the platform's UTF-16 and UTF-8.
 #pragma once
 
 #include "bindings/foundation/string.hpp"
@@ -6,10 +6,10 @@
 #include <string>
 #include <string_view>
 
-namespace desktop::host {
+namespace desktop {
 
 /// The text as UTF-8, each lone surrogate as U+FFFD.
 [[nodiscard]] std::string toUtf8(std::u16string_view text);
 [[nodiscard]] inline std::string toUtf8(ns::String text) { return toUtf8(text.utf16()); }
 
-} // namespace desktop::host
+} // namespace desktop

@@ -2,7 +2,7 @@
 #include "desktop/host/happenings.hpp"
 
 #include "bindings/foundation/notification_center.hpp"
-#include "desktop/host/text.hpp"
+#include "desktop/foundation/text.hpp"
 #include "desktop/runtime/event_log.hpp"
 
 #include <cstdio>

@@ -2,8 +2,8 @@
 #include "desktop/host/message.hpp"
 
 #include "bindings/foundation/invocation.hpp"
+#include "desktop/foundation/text.hpp"
 #include "desktop/host/structure.hpp"
-#include "desktop/host/text.hpp"
 
 #include <algorithm>
 #include <array>

@@ -7,8 +7,8 @@
 #include "bindings/foundation/number.hpp"
 #include "bindings/foundation/run_loop.hpp"
 #include "bindings/foundation/url.hpp"
+#include "desktop/foundation/text.hpp"
 #include "desktop/host/structure.hpp"
-#include "desktop/host/text.hpp"
 
 namespace desktop::host {
 namespace {

@@ -2,7 +2,7 @@
 #include "desktop/host/view_node.hpp"
 
 #include "bindings/uikit/font.hpp"
-#include "desktop/host/text.hpp"
+#include "desktop/foundation/text.hpp"
 #include "desktop/uikit/gesture_recognizer.hpp"
 
 #include <algorithm>

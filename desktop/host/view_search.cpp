@@ -2,7 +2,7 @@
 #include "desktop/host/view_search.hpp"
 
 #include "bindings/uikit/application.hpp"
-#include "desktop/host/text.hpp"
+#include "desktop/foundation/text.hpp"
 #include "desktop/host/view_node.hpp"
 #include "desktop/uikit/uikit.hpp"
 

@@ -22,7 +22,7 @@ protected:
 };
 
 const json everyKind = json::parse(
-    R"({"是":true,"off":false,"one":1,"zero":0,"half":0.5,"text":"文字 & <b>","empty":"",
+    R"({"是":true,"off":false,"one":1,"zero":0,"half":0.5,"text":"文字 & <b> 😀","empty":"",
         "list":[1,"a",[true]],"map":{"k":{"a":2.5}},"data":{"data":"AAEC"}})");
 
 TEST_F(Device, PreferencesAreKeptInBothFormats) {
