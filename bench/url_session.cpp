@@ -72,7 +72,8 @@ public:
     [[nodiscard]] std::string command() const {
         return "curl --silent --fail --noproxy '*' --parallel --cacert " + folder_ +
                "/authority.pem --connect-to ::127.0.0.1:" +
-               std::to_string(*portOf(translation::hostName)) + " --config " + folder_ + "/config 2>/dev/null";
+               std::to_string(*portOf(translation::hostName)) + " --config " + folder_ +
+               "/config 2>/dev/null";
     }
 
 private:

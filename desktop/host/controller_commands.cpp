@@ -1,7 +1,7 @@
 // Commands about the controllers that are shown: which they are, and alerts.
+#include "desktop/foundation/text.hpp"
 #include "desktop/host/arguments.hpp"
 #include "desktop/host/commands.hpp"
-#include "desktop/foundation/text.hpp"
 
 #include "bindings/uikit/alert_controller.hpp"
 #include "bindings/uikit/application.hpp"

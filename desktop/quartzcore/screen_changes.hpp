@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <list>
+#include <utility>
 
 namespace desktop {
 
@@ -21,7 +22,9 @@ public:
     /// From now on, the next announcement is news again.
     void await() { announced_ = false; }
 
-    Ticket listen(Listener listener) { return listeners_.insert(listeners_.end(), listener); }
+    Ticket listen(Listener listener) {
+        return listeners_.insert(listeners_.end(), std::move(listener));
+    }
     void leave(Ticket ticket) { listeners_.erase(ticket); }
 
 private:

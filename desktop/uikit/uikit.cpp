@@ -69,6 +69,7 @@
 #include "bindings/objc/pool.hpp"
 
 #include <stdexcept>
+#include <vector>
 
 namespace desktop::uikit {
 namespace {
@@ -121,7 +122,9 @@ void startApplication(ScreenSize size) {
 }
 
 void layoutWindows() {
-    for (const ui::Window window : Application::shared().visibleWindows()) {
+    const auto& visible = Application::shared().visibleWindows();
+    const std::vector<objc::Strong<ui::Window>> windows(visible.begin(), visible.end());
+    for (const auto& window : windows) { // a copy: layout may show and close windows
         window.layoutIfNeeded();
     }
 }

@@ -28,7 +28,7 @@ std::vector<objc::MethodRow> View::methods() {
         objc::property<"clipsToBounds", &View::clipsToBounds, &View::setClipsToBounds>(),
         objc::property<"tintColor", &View::tintColor, &View::setTintColor>(),
         objc::property<"tag", &View::tag_>(),
-        objc::property<"contentMode", &View::contentMode_>(),
+        objc::property<"contentMode", &View::contentMode_, &View::setNeedsDisplay>(),
         objc::property<"autoresizingMask", &View::autoresizingMask_>(),
         objc::flag<"userInteractionEnabled", &View::userInteractionEnabled_>(),
         objc::flag<"multipleTouchEnabled", &View::multipleTouchEnabled_>(),
@@ -114,6 +114,20 @@ void View::setBounds(CGRect bounds) {
 
 void View::setAlpha(double alpha) {
     layer().setOpacity(static_cast<float>(std::isnan(alpha) ? 0 : std::clamp(alpha, 0.0, 1.0)));
+}
+
+void View::setTintColor(ui::Color color) {
+    tintColor_ = color;
+    tintChanged();
+}
+
+/// Whatever is in the view may show its tint, and arrange by it what it shows.
+void View::tintChanged() {
+    setNeedsDisplay();
+    setNeedsLayout();
+    for (const auto& child : subviews_) {
+        of(child).tintChanged();
+    }
 }
 
 ui::Color View::tintColor() const {

@@ -58,7 +58,8 @@ private:
     [[nodiscard]] bool clipsToBounds() const { return layer().masksToBounds(); }
     void setClipsToBounds(bool clips) { layer().setMasksToBounds(clips); }
     [[nodiscard]] ui::Color tintColor() const;
-    void setTintColor(ui::Color color) { tintColor_ = color; }
+    void setTintColor(ui::Color color);
+    void tintChanged();
     [[nodiscard]] bool isOpaque() const { return true; }
 
     [[nodiscard]] ns::Array subviews() const;

@@ -88,7 +88,7 @@ ContentStore::Picture ContentStore::picture(const DisplayItem& item, const Conte
         bytes_ += entry.bytes;
     }
     entry.lastUse = ++uses_;
-    const Picture picture{entry.surface, entry.ink.x + place.right, entry.ink.y + place.down};
+    Picture picture{entry.surface, entry.ink.x + place.right, entry.ink.y + place.down};
     makeRoom();
     return picture;
 }

@@ -116,21 +116,21 @@ private:
             draw(region);
             return;
         }
-        const auto& [kind, parent, stamp, shape, opacity, extents] = group(index);
+        const DisplayGroup& clip = group(index);
         Region straight(cairo_region_copy(region.get()));
-        for (const PixelRectangle& part : curvedParts(shape, 0, extents)) {
+        for (const PixelRectangle& part : curvedParts(clip.shape, 0, clip.extents)) {
             if (const Region curved = intersection(region, part); !isEmpty(curved)) {
                 subtract(straight, part);
                 clipped(curved, [&] {
                     canvas_.beginGroup();
-                    within(parent, curved, draw);
+                    within(clip.parent, curved, draw);
                     cairo_pop_group_to_source(context_.get());
-                    maskWith(coverage(shape, 0, part), part);
+                    maskWith(coverage(clip.shape, 0, part), part);
                 });
             }
         }
         if (!isEmpty(straight)) {
-            within(parent, straight, draw);
+            within(clip.parent, straight, draw);
         }
     }
 
