@@ -1,4 +1,4 @@
-// Reading the preference file as a dictionary, changing one entry, writing it back.
+// Reading the preference file as a dictionary, changing it, writing it back.
 #include "library/startup/preference_writing.hpp"
 
 #include "bindings/foundation/dictionary.hpp"
@@ -23,7 +23,24 @@ ns::MutableDictionary entriesOf(ns::String path) {
     return entries;
 }
 
+/// Replaces the file.
+bool write(ns::Dictionary entries, ns::String path) {
+    constexpr bool atomically = true;
+    return ns::PropertyList::data(entries, ns::PropertyListFormat::xml)
+        .writeToFile(path, atomically);
+}
+
 } // namespace
+
+ns::MutableDictionary storedPreferences() {
+    const auto entries = entriesOf(ns::String::fromUtf8(preferencePath()));
+    return entries ? entries : ns::MutableDictionary::make();
+}
+
+bool storePreferences(ns::Dictionary entries) {
+    const auto path = ns::String::fromUtf8(preferencePath());
+    return entries && entriesOf(path) && write(entries, path);
+}
 
 bool storePreference(ns::String key, objc::Object value) {
     const auto path = ns::String::fromUtf8(preferencePath());
@@ -36,9 +53,7 @@ bool storePreference(ns::String key, objc::Object value) {
     } else {
         entries.remove(key);
     }
-    constexpr bool atomically = true;
-    return ns::PropertyList::data(entries, ns::PropertyListFormat::xml)
-        .writeToFile(path, atomically);
+    return write(entries, path);
 }
 
 } // namespace wentra::startup

@@ -82,6 +82,29 @@ TEST_F(PreferenceWriting, AFailureIsToldAndChangesNothing) {
     EXPECT_TRUE(std::filesystem::is_directory(file()));
 }
 
+TEST_F(PreferenceWriting, ReplacesEverythingButAForeignFile) {
+    EXPECT_EQ(storedPreferences().count(), 0U);
+    const auto entries = ns::MutableDictionary::make();
+    entries.set(u"text"_ns, u"百度id"_ns);
+    EXPECT_TRUE(storePreferences(entries)) << "a missing file is made";
+    EXPECT_EQ(Preferences::read().text("百度id"), u"text");
+
+    write(binaryPropertyList({{"kqwzgs", true}, {"unknown", 7.5}}));
+    const ns::MutableDictionary stored = storedPreferences();
+    EXPECT_EQ(stored.count(), 2U);
+    EXPECT_TRUE(storePreferences(entries));
+    EXPECT_FALSE(Preferences::read().on(keys.recolour));
+    EXPECT_TRUE(storePreferences(stored));
+    EXPECT_TRUE(Preferences::read().on(keys.recolour));
+    EXPECT_EQ(Preferences::read().number("unknown"), 7.5);
+
+    write("somebody's");
+    EXPECT_FALSE(storePreferences(entries));
+    EXPECT_EQ(storedPreferences().count(), 0U);
+    EXPECT_FALSE(storePreferences(nullptr));
+    EXPECT_EQ(bytes(), "somebody's");
+}
+
 TEST_F(PreferenceWriting, FoundationReadsBothFormsByFileToo) {
     desktop::foundation::installDictionaryFiles();
     const WrittenEntries entries{{"键", std::string("值")}};
