@@ -11,6 +11,17 @@ namespace {
 
 using namespace ns::literals;
 
+/// A line break at the end takes no room, unless there is nothing else.
+std::u16string measured(ns::String text) {
+    std::u16string units = text.utf16();
+    if (units == u"\n") {
+        units = u" ";
+    } else if (units.ends_with(u'\n')) {
+        units.pop_back();
+    }
+    return units;
+}
+
 CGRect boundingRect(ns::String text, CGSize room, unsigned long options, ns::Dictionary attributes,
                     objc::Object) {
     constexpr double standardSize = 12; // where the attributes name no font
@@ -25,7 +36,7 @@ CGRect boundingRect(ns::String text, CGSize room, unsigned long options, ns::Dic
     } else {
         frame.maximumLines = 1;
     }
-    const Size size = TextLayout(text.utf16(), look, frame).size();
+    const Size size = TextLayout(measured(text), look, frame).size();
     return {{}, {size.width, size.height}};
 }
 

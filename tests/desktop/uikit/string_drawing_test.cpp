@@ -41,6 +41,16 @@ TEST_F(StringDrawing, WrapsOnlyInLineFragments) {
     EXPECT_GT(height(ui::string_drawing::usesLineFragmentOrigin), 2 * height(0));
 }
 
+TEST_F(StringDrawing, ALineBreakAtTheEndTakesNoRoom) {
+    const ui::Font font = ui::Font::system(18);
+    const auto height = [&font](ns::String text) {
+        return ui::textSize(text, {500, unlimited}, font).height;
+    };
+    EXPECT_EQ(height(u"a\n"_ns), height(u"a"_ns));
+    EXPECT_EQ(height(u"\n"_ns), height(u"a"_ns));
+    EXPECT_GT(height(u"a\nb"_ns), height(u"a"_ns));
+}
+
 TEST_F(StringDrawing, SurvivesOddRoomsAndTexts) {
     const ui::Font font = ui::Font::system(14);
     EXPECT_EQ(ui::textSize(u""_ns, {100, unlimited}, font).width, 0);
