@@ -37,6 +37,10 @@ struct NotificationCenter : objc::Kind<NotificationCenter, "NSNotificationCenter
     void addObserver(objc::Object observer, SEL message, String name, objc::Object object) const {
         send<"addObserver:selector:name:object:">(observer, message, name, object);
     }
+    /// Takes back what `addObserver` said of that name and object.
+    void removeObserver(objc::Object observer, String name, objc::Object object) const {
+        send<"removeObserver:name:object:">(observer, name, object);
+    }
     void removeObserver(objc::Object observer) const { send<"removeObserver:">(observer); }
 };
 

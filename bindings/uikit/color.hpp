@@ -19,6 +19,7 @@ struct Color : objc::Kind<Color, "UIColor"> {
     static Color black() { return sendClass<"blackColor", Color>(); }
     static Color white() { return sendClass<"whiteColor", Color>(); }
     static Color red() { return sendClass<"redColor", Color>(); }
+    static Color green() { return sendClass<"greenColor", Color>(); }
     static Color orange() { return sendClass<"orangeColor", Color>(); }
     static Color blue() { return sendClass<"blueColor", Color>(); }
     static Color darkGray() { return sendClass<"darkGrayColor", Color>(); }

@@ -21,6 +21,11 @@ struct ScrollView : objc::Kind<ScrollView, "UIScrollView", View> {
     [[nodiscard]] CGPoint contentOffset() const { return send<"contentOffset", CGPoint>(); }
     void setScrollEnabled(bool enabled) const { send<"setScrollEnabled:">(enabled); }
     void setContentOffset(CGPoint offset) const { send<"setContentOffset:">(offset); }
+    [[nodiscard]] UIEdgeInsets contentInset() const { return send<"contentInset", UIEdgeInsets>(); }
+    void setContentInset(UIEdgeInsets insets) const { send<"setContentInset:">(insets); }
+    void setScrollIndicatorInsets(UIEdgeInsets insets) const {
+        send<"setScrollIndicatorInsets:">(insets);
+    }
 };
 
 } // namespace ui
