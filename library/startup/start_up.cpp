@@ -17,6 +17,7 @@
 #include "library/labels/yy_label.hpp"
 #include "library/scratchpad/scratch_pad_hook.hpp"
 #include "library/toolbox/floating_view_controller.hpp"
+#include "library/toolbox/screens_to_come.hpp"
 #include "library/toolbox/translation/bilingual_view.hpp"
 #include "library/toolbox/translation/translation.hpp"
 #include "library/toolbox/view_model.hpp"
@@ -59,6 +60,7 @@ void declareClasses() {
     install<&labels::colourChoosing>();
     install<&editing::menuItemCategory>();
     install<&editing::speechCategories>();
+    install<&toolbox::screensToCome>(); // last: they fill what is still open
 }
 
 constexpr std::array table{

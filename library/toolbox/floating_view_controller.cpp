@@ -2,6 +2,23 @@
 #include "library/toolbox/floating_view_controller.hpp"
 
 #include "bindings/objc/peer.hpp"
+#include "bindings/replaykit/screen_recorder.hpp"
+#include "library/startup/preference_writing.hpp"
+#include "library/toolbox/grid/handing_on.hpp"
+#include "library/toolbox/grid/select_all.hpp"
+#include "library/toolbox/grid/selection.hpp"
+#include "library/toolbox/grid/slide.hpp"
+#include "library/toolbox/grid/statistics.hpp"
+#include "library/toolbox/grid/word_grid.hpp"
+#include "library/toolbox/panel/body.hpp"
+#include "library/toolbox/panel/buttons.hpp"
+#include "library/toolbox/panel/crosshair.hpp"
+#include "library/toolbox/panel/host_filter_editor.hpp"
+#include "library/toolbox/panel/host_screens.hpp"
+#include "library/toolbox/panel/keyboard_insets.hpp"
+#include "library/toolbox/panel/movable_container.hpp"
+#include "library/toolbox/panel/text_targets.hpp"
+#include "library/toolbox/panel/view_size.hpp"
 
 #include <vector>
 
@@ -13,7 +30,10 @@ class Own : public objc::Peer<Own, FloatingViewController> {
 public:
     static std::vector<objc::MethodRow> methods() {
         return {
-            objc::method<"updateWordsArray:", &Own::updateWordsArray>(),
+            objc::method<"viewDidLoad", &Own::viewDidLoad>(),
+            objc::method<"viewDidLayoutSubviews", &Own::viewDidLayoutSubviews>(),
+            objc::method<"viewWillAppear:", &Own::viewWillAppear>(),
+            objc::method<"viewWillDisappear:", &Own::viewWillDisappear>(),
             objc::property<"wzjhButton", &Own::wzjhButton_>(),
             objc::property<"zzjsButton", &Own::zzjsButton_>(),
             objc::property<"ljtzButton", &Own::ljtzButton_>(),
@@ -84,9 +104,45 @@ public:
     }
 
 private:
-    void updateWordsArray(ns::Array words) {
-        wordsArray_ = words;
-        self().wordsCollectionView().reloadData();
+    void viewDidLoad() {
+        super<"viewDidLoad">();
+        begin();
+        buildBody(self());
+    }
+
+    void viewDidLayoutSubviews() {
+        super<"viewDidLayoutSubviews">();
+        layOutBody(self());
+    }
+
+    void viewWillAppear(bool animated) {
+        super<"viewWillAppear:">(animated);
+        watchKeyboard(self());
+    }
+
+    void viewWillDisappear(bool animated) {
+        super<"viewWillDisappear:">(animated);
+        leaveKeyboard(self());
+    }
+
+    /// Nothing is picked and listed yet; the preferences are read.
+    void begin() {
+        ipsFiles_ = ns::MutableArray::make();
+        sortedIpsFiles_ = ns::MutableArray::make();
+        wordsArray_ = ns::MutableArray::make().copied();
+        screenshotsArray_ = ns::MutableArray::make();
+        selectedIndexPaths_ = ns::MutableSet::make();
+        selectedWords_ = ns::MutableArray::make();
+        isAllSelected_ = false;
+        synth_ = av::SpeechSynthesizer::make();
+        currentValues_ = startup::storedPreferences();
+        appList_ = shownTargets(currentValues_);
+        appMethods_ = targetMethods();
+        if (!originalValues_) {
+            originalValues_ = ns::MutableDictionary::copyOf(currentValues_);
+        }
+        linkTitleDictionary_ = linkTitles();
+        screenRecorder_ = rp::ScreenRecorder::shared();
     }
 
     // The tools' buttons.
@@ -144,7 +200,7 @@ private:
     objc::Strong<ui::View> webView_;
 
     // Speech.
-    objc::Strong<objc::Object> synth_;
+    objc::Strong<av::SpeechSynthesizer> synth_;
 
     // Capturing.
     objc::Strong<objc::Object> screenRecorder_;
@@ -178,6 +234,19 @@ private:
 
 } // namespace
 
-void registerFloatingViewController() { Own::registerClass(); }
+void registerFloatingViewController() {
+    if (Own::registerClass() == nullptr) {
+        return; // the application has a class of that name, which is not ours to change
+    }
+    for (const auto category :
+         {&wordGridCategory, &selectionCategory, &slideCategory, &selectAllCategory,
+          &handingOnCategory, &statisticsCategory, &buttonCategory, &viewSizeCategory,
+          &crosshairCategory, &hostFilterEditorCategory, &keyboardCategory, &containerCategory,
+          &hostScreenCategory}) {
+        for (const objc::Change& change : category()) {
+            objc::install(change);
+        }
+    }
+}
 
 } // namespace wentra::toolbox

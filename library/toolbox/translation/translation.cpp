@@ -33,7 +33,7 @@ av::SpeechSynthesizer synthesizerOf(FloatingViewController controller) {
     if (!controller.synth()) {
         controller.setSynth(av::SpeechSynthesizer::make());
     }
-    return controller.synth().assume<av::SpeechSynthesizer>();
+    return controller.synth();
 }
 
 void showResult(FloatingViewController controller, ns::String title, ns::String message,
