@@ -22,6 +22,13 @@ RATIOS = [
 ]
 
 
+def nanoseconds(result):
+    """Of one item, where the benchmark counts items."""
+    if "items_per_second" in result:
+        return 1e9 / result["items_per_second"]
+    return result["cpu_time"]
+
+
 def read(folder):
     benchmarks = {}
     for file in sorted(pathlib.Path(folder).glob("*.json")):
@@ -32,7 +39,7 @@ def read(folder):
 
 def main():
     results = read(sys.argv[1])
-    time = {name: result["cpu_time"] for name, result in results.items()}
+    time = {name: nanoseconds(result) for name, result in results.items()}
     print(f"\n{'':58}ratio  aim")
     for title, what, against, aim in RATIOS:
         print(f"{title:58}{time[what] / time[against]:5.2f}  {aim}")
