@@ -2,8 +2,8 @@
 #pragma once
 
 #include "bindings/coregraphics/geometry.hpp"
-#include "bindings/foundation/dictionary.hpp"
 #include "bindings/uikit/font.hpp"
+#include "bindings/uikit/text_attributes.hpp"
 
 namespace ui {
 
@@ -15,13 +15,12 @@ inline constexpr unsigned long usesFontLeading = 1U << 1U;
 
 /// The size of the text set in lines in a room of that size; nil stands for the standard font.
 inline CGSize textSize(ns::String text, CGSize room, Font font) {
-    using namespace ns::literals;
     constexpr unsigned long options =
         string_drawing::usesLineFragmentOrigin | string_drawing::usesFontLeading;
-    const auto attributes = font ? ns::Dictionary::with(font, u"NSFont"_ns) : nullptr;
+    const auto look = font ? ns::Dictionary::with(font, attributes::font()) : nullptr;
     const objc::Object context;
     return text
-        .send<"boundingRectWithSize:options:attributes:context:", CGRect>(room, options, attributes,
+        .send<"boundingRectWithSize:options:attributes:context:", CGRect>(room, options, look,
                                                                           context)
         .size;
 }

@@ -4,12 +4,11 @@
 #include "bindings/objc/hook.hpp"
 #include "bindings/uikit/string_drawing.hpp"
 #include "desktop/drawing/text_layout.hpp"
+#include "desktop/uikit/attributed_text.hpp"
 #include "desktop/uikit/font.hpp"
 
 namespace desktop {
 namespace {
-
-using namespace ns::literals;
 
 /// A line break at the end takes no room, unless there is nothing else.
 std::u16string measured(ns::String text) {
@@ -25,9 +24,8 @@ std::u16string measured(ns::String text) {
 CGRect boundingRect(ns::String text, CGSize room, unsigned long options, ns::Dictionary attributes,
                     objc::Object) {
     constexpr double standardSize = 12; // where the attributes name no font
-    const auto font = attributes.get(u"NSFont"_ns).as<ui::Font>();
-    TextRun look;
-    look.font = UIFont::valueOf(font ? font : ui::Font::system(standardSize));
+    TextRun plain;
+    plain.font = UIFont::valueOf(ui::Font::system(standardSize));
     TextFrame frame;
     frame.lineBreakMode = LineBreakMode::wordWrapping;
     if ((options & ui::string_drawing::usesLineFragmentOrigin) != 0) {
@@ -36,7 +34,7 @@ CGRect boundingRect(ns::String text, CGSize room, unsigned long options, ns::Dic
     } else {
         frame.maximumLines = 1;
     }
-    const Size size = TextLayout(measured(text), look, frame).size();
+    const Size size = TextLayout(measured(text), lookOf(attributes, plain), frame).size();
     return {{}, {size.width, size.height}};
 }
 

@@ -239,6 +239,22 @@ TEST(ToolboxPanelHostFilter, IsEditedAndSaved) {
     EXPECT_EQ(phone.swallowed().size(), 0U);
 }
 
+TEST(ToolboxPanelHostFilter, MakesRoomForTheKeyboard) {
+    ToolboxPanel phone;
+    phone.press("结束录屏", 0.6);
+    phone.advance(1);
+    const Json editor = phone.panel("adstextView");
+    const auto insets = [&phone, &editor] {
+        return phone.message(editor, "contentInset").at("insets");
+    };
+    phone.message(editor, "becomeFirstResponder");
+    phone.advance(1);
+    EXPECT_EQ(insets(), (Json{47, 0, 336, 0}));
+    phone.message(editor, "resignFirstResponder");
+    phone.advance(1);
+    EXPECT_EQ(insets(), (Json{47, 0, 0, 0}));
+}
+
 TEST(ToolboxPanelScreens, AreThoseOfTheHost) {
     ToolboxPanel phone;
     EXPECT_EQ(phone.panel("getWindow"), phone.panel("keyWindow"));
