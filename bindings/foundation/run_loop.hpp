@@ -8,6 +8,7 @@ namespace ns {
 struct Date : objc::Kind<Date, "NSDate"> {
     using Kind::Kind;
 
+    static Date now() { return sendClass<"date", Date>(); }
     static Date distantPast() { return sendClass<"distantPast", Date>(); }
     /// Seconds since 1970, UTC.
     static Date since1970(double seconds) {

@@ -4,6 +4,7 @@
 #include "bindings/dispatch/dispatch.hpp"
 #include "bindings/foundation/delayed_perform.hpp"
 #include "bindings/foundation/notification_center.hpp"
+#include "bindings/foundation/run_loop.hpp"
 #include "bindings/objc/peer.hpp"
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/pasteboard.hpp"
@@ -16,7 +17,7 @@
 #include "library/toolbox/tokens.hpp"
 
 #include <array>
-#include <ctime>
+#include <string>
 
 namespace wentra::toolbox {
 namespace {
@@ -254,7 +255,8 @@ void OwnViewModel::editingEnded(ui::TextView) {
 }
 
 ns::String OwnViewModel::timeStamp() const {
-    return ns::String::fromUtf8(std::to_string(std::time(nullptr)));
+    return ns::String::fromUtf8(
+        std::to_string(static_cast<long>(ns::Date::now().secondsSince1970())));
 }
 
 } // namespace

@@ -38,6 +38,9 @@ void insertAtCaret(ui::View host, std::u16string_view text);
 /// window, whoever put it there.
 void removeEditor(ui::View host);
 
+/// Gives a view the editor's look: white with a blue rim and round corners.
+void makeCard(ui::View view);
+
 /// Adds the hidden font picker to the text view's window, and fills it.
 void addFontPicker(ui::View host, ui::TextView editor);
 

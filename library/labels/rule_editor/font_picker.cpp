@@ -49,9 +49,7 @@ void addFontPicker(ui::View host, ui::TextView editor) {
     picker.setDataSource(host);
     picker.setDelegate(host);
     picker.setHidden(true);
-    picker.setBackgroundColor(ui::Color::white());
-    picker.layer().setCornerRadius(6);
-    picker.setClipsToBounds(true);
+    makeCard(picker);
     editor.window().addSubview(picker);
     const ui::LayoutItem text(editor);
     const auto place = ui::constrained(picker);

@@ -60,12 +60,7 @@ ui::TextView makeTextView(ui::View host) {
     editor.setEditable(true);
     editor.setSelectable(true);
     editor.setTextContainerInset({15, besideText, besideText, besideText});
-    editor.setBackgroundColor(ui::Color::white());
-    editor.setClipsToBounds(true);
-    const ca::Layer layer = editor.layer();
-    layer.setCornerRadius(6);
-    layer.setBorderColor(ui::Color::blue().withAlpha(0.4).cgColor());
-    layer.setBorderWidth(2.5);
+    makeCard(editor);
     return editor;
 }
 
@@ -118,6 +113,15 @@ void open(ui::View host, GestureRecognizer press) {
 }
 
 } // namespace
+
+void makeCard(ui::View view) {
+    view.setBackgroundColor(ui::Color::white());
+    view.setClipsToBounds(true);
+    const ca::Layer layer = view.layer();
+    layer.setCornerRadius(6);
+    layer.setBorderColor(ui::Color::blue().withAlpha(0.4).cgColor());
+    layer.setBorderWidth(2.5);
+}
 
 std::span<const objc::Change> editorOpening() {
     static constexpr std::array changes{
