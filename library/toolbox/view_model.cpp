@@ -203,7 +203,7 @@ void OwnViewModel::take(ns::String copied, bool opens) {
     editor_.setText(copied);
     const ui::View body = body_.view();
     CGRect place = besideEditor;
-    place.origin.x = body.bounds().size.width - marker_.bounds().size.width - right;
+    place.origin.x = body.bounds().size.width - place.size.width - right;
     marker_.removeFromSuperview();
     body.addSubview(marker_);
     marker_.setFrame(place);

@@ -146,8 +146,7 @@ TEST(FloatingPanel, TakesOverWhatIsCopied) {
     const Json editor = phone.find({{"class", "UITextView"}})[0];
     EXPECT_EQ(editor["text"], "Hello, 世界!");
     const Json marker = phone.find({{"title", "修改"}})[0];
-    EXPECT_EQ(marker["frame"][1], -152);
-    EXPECT_EQ(marker["frame"][2], 40);
+    EXPECT_EQ(marker["frame"], (Json{347, -152, 40, 20}));
     EXPECT_EQ(marker["enabled"], false);
 
     phone.turnOn({"开启复制弹出"});
