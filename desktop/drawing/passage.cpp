@@ -212,12 +212,17 @@ std::vector<std::size_t> Passage::caretPositions() const {
 
 std::vector<Stretch> Passage::words() const {
     std::vector<Stretch> words;
-    std::optional<std::size_t> start;
+    std::size_t start = 0;
+    bool inWord = false;
     visitPlaces([&](std::size_t unit, const PangoLogAttr& place, bool) {
-        if (place.is_word_end && start)
-            words.push_back({*std::exchange(start, std::nullopt), unit});
-        if (place.is_word_start)
+        if (place.is_word_end && inWord) {
+            words.push_back({start, unit});
+            inWord = false;
+        }
+        if (place.is_word_start) {
             start = unit;
+            inWord = true;
+        }
     });
     return words;
 }
