@@ -5,6 +5,7 @@
 #include "desktop/host/happenings.hpp"
 #include "desktop/host/main_loop.hpp"
 #include "desktop/host/options.hpp"
+#include "desktop/host/settings_bundle.hpp"
 
 #include "bindings/foundation/user_defaults.hpp"
 #include "bindings/objc/boundary.hpp"
@@ -95,14 +96,23 @@ int runDevice(const App& app, const Options& options, const std::function<void(V
     }
 }
 
+/// Gives the device the settings bundle's pictures where they are wanted.
+void furnish(const DeviceFolder& device, const Options& options) {
+    if (options.settingsBundle || options.viewer) {
+        addSettingsBundle(device.path());
+    }
+}
+
 int runForScript(const App& app, const Options& options) {
     Streams streams;
     const DeviceFolder device(options.root);
+    furnish(device, options);
     return runDevice(app, options, [&](Values& values) { automate(streams, values); });
 }
 
 int runAlone(const App& app, const Options& options) {
     const DeviceFolder device(options.root);
+    furnish(device, options);
     std::fprintf(stderr, "Wentra host %s: %s, device folder %s\n", WENTRA_VERSION, app.name,
                  device.path().c_str());
     return runDevice(app, options, [](Values&) { runUntilStopped(); });
@@ -112,6 +122,7 @@ int runForPage(const App& app, const Options& options) {
     const viewer::Listener listener(options.port);
     const viewer::Door door{listener.socket(), viewer::freshToken()};
     const DeviceFolder device(options.root);
+    furnish(device, options);
     std::printf("Wentra %s, data folder %s\nhttp://127.0.0.1:%u/%s/\n", WENTRA_VERSION,
                 device.path().c_str(), unsigned{listener.port()}, door.token.c_str());
     return viewer::supervise(app.name, [&](const viewer::Start& start) {

@@ -12,7 +12,8 @@ namespace desktop::host {
 const char* const usage =
     "usage: host [--app NAME] [--bundle ID] [--root DIR] [--library FILE | --no-library]\n"
     "            [--clock virtual|real] [--automation | --viewer [--port N]]\n"
-    "            [--size WxH@S] [--content FILE] [--list-apps] [--help]\n";
+    "            [--size WxH@S] [--content FILE] [--settings-bundle]\n"
+    "            [--list-apps] [--help]\n";
 
 namespace {
 
@@ -85,7 +86,7 @@ struct Option {
     void (*read)(Options& options, Words& words);
 };
 
-constexpr std::array<Option, 14> table{{
+constexpr std::array<Option, 15> table{{
     {"--app", [](Options& o, Words& w) { o.application = w.value("--app"); }},
     {"--bundle", [](Options& o, Words& w) { o.bundle = w.value("--bundle"); }},
     {"--root", [](Options& o, Words& w) { o.root = w.value("--root"); }},
@@ -97,6 +98,7 @@ constexpr std::array<Option, 14> table{{
     {"--port", [](Options& o, Words& w) { o.port = parsePort(w.value("--port")); }},
     {"--size", [](Options& o, Words& w) { o.screen = parseScreen(w.value("--size")); }},
     {"--content", [](Options& o, Words& w) { o.content = w.value("--content"); }},
+    {"--settings-bundle", [](Options& o, Words&) { o.settingsBundle = true; }},
     {"--list-apps", [](Options& o, Words&) { o.listsApplications = true; }},
     {"--help", [](Options& o, Words&) { o.help = true; }},
     {"-h", [](Options& o, Words&) { o.help = true; }},

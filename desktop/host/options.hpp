@@ -34,6 +34,8 @@ struct Options {
     /// Shows the phone in a browser page, at this port of the loopback address (0: a free one).
     bool viewer = false;
     std::uint16_t port = 0;
+    /// Puts the settings bundle's pictures on the device, as for a page.
+    bool settingsBundle = false;
     ScreenShape screen;
     /// The file with the screen's texts.
     std::optional<std::filesystem::path> content;
