@@ -42,6 +42,6 @@ fi
 
 scripts/build.sh release host Wentra
 if "$tour"; then
-    exec python3 scripts/tour.py
+    exec python3 scripts/tour
 fi
 exec build/release/bin/host --viewer "${options[@]}"

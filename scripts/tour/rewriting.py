@@ -1,64 +1,13 @@
-#!/usr/bin/env python3
-"""The tour: rules are saved in an application, and its labels come out rewritten on the screen."""
+"""Rules are saved in an application, and its labels come out rewritten on the screen."""
 
-import json
-import pathlib
-import subprocess
-import sys
 import tempfile
 
-TOP = pathlib.Path(__file__).resolve().parent.parent
-HOST = TOP / "build/release/bin/host"
-MATERIAL = TOP / "scripts/tour"
-PICTURES = TOP / "build/tour"
+from phone import MATERIAL, PICTURES, Phone, expect
 
 # The switches that the settings would show, by their keys in the preference file.
 SWITCHES = {"kqwzgs": "colour", "kqwzdx": "font size", "kqwzgd": "height", "kqwzkd": "width",
             "kqhxyd": "horizontal position", "kqzxyd": "vertical position",
             "kqxstm": "transparency", "kqxgzt": "font"}
-
-
-class Phone:
-    """The notes application in the desktop host, driven by one JSON line for each request."""
-
-    def __init__(self, root):
-        self.log = (PICTURES / "host.log").open("a", encoding="utf-8")
-        arguments = [HOST, "--automation", "--app", "notes", "--root", root,
-                     "--content", MATERIAL / "notes.json"]
-        self.process = subprocess.Popen(arguments, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
-                                        stderr=self.log, text=True)
-
-    def __enter__(self):
-        return self
-
-    def __exit__(self, *_):
-        self.process.stdin.close()
-        self.process.wait()
-        self.process.stdout.close()
-        self.log.close()
-
-    def ask(self, do, **arguments):
-        self.process.stdin.write(json.dumps({"do": do, **arguments}) + "\n")
-        self.process.stdin.flush()
-        response = json.loads(self.process.stdout.readline()
-                              or '{"ok":false,"error":"it ended, see build/tour/host.log"}')
-        if not response["ok"]:
-            sys.exit(f"tour: the host refused '{do}': {response['error']}")
-        return response.get("result")
-
-    def send(self, receiver, selector, *arguments):
-        return self.ask("send", to=receiver, selector=selector, args=list(arguments))
-
-    def label(self, text):
-        found = self.ask("find", where={"text": text})
-        if not found:
-            sys.exit(f"tour: no label shows {text!r}")
-        return found[0]
-
-    def picture(self, name):
-        file = PICTURES / name
-        self.ask("screenshot", file=str(file))
-        print(f"   picture: {file.relative_to(TOP)}")
 
 
 def save_rules(phone, text):
@@ -67,13 +16,6 @@ def save_rules(phone, text):
     editor = phone.send(editor, "initWithFrame:", {"rect": [0, 0, 280, 400]})
     phone.send(editor, "setText:", text)
     phone.send(editor, "saveRulesFromTextView:", editor)
-
-
-def expect(what, found, wanted):
-    mark = "✓" if found == wanted else "✗"
-    print(f"   {mark} {what}: {found}")
-    if found != wanted:
-        sys.exit(f"tour: {what} should be {wanted}")
 
 
 def check(phone, after):
@@ -97,8 +39,7 @@ def check(phone, after):
            after.read_bytes() != (PICTURES / "1-before.png").read_bytes(), True)
 
 
-def main():
-    PICTURES.mkdir(parents=True, exist_ok=True)
+def play():
     rules = (MATERIAL / "rules.txt").read_text(encoding="utf-8")
     with tempfile.TemporaryDirectory(prefix="wentra-tour-") as root:
         print("1. The notes application starts on an untouched phone, with Wentra loaded.")
@@ -113,8 +54,3 @@ def main():
         with Phone(root) as phone:
             phone.picture("2-after.png")
             check(phone, PICTURES / "2-after.png")
-    print("Done: compare build/tour/1-before.png with build/tour/2-after.png.")
-
-
-if __name__ == "__main__":
-    main()

@@ -1,0 +1,66 @@
+"""A sentence is copied by touch, translated in the toolbox, and its translation stays on the label."""
+
+import tempfile
+
+from phone import Phone, expect
+
+SENTENCE, TRANSLATION = "good morning", "早上好"
+PREFERENCES = {"开启文字复制": True, "kqwzfc": True, "kqjfzt": True, "中英对比样式": True,
+               "百度id": "desktop", "百度key": "desktop-key"}
+BALL = [358, 222]
+BESIDE_THE_PANEL = [195, 20]
+ANIMATION = 0.5  # seconds, enough for whatever moves
+
+
+def copy_the_sentence(phone):
+    print("5. A long press on a label copies its text, and the ball appears for five seconds.")
+    phone.advance(0.4)
+    phone.ask("press", on=phone.label(SENTENCE), seconds=0.5)
+    expect("the pasteboard holds", phone.ask("pasteboard"), SENTENCE)
+    phone.picture("3-ball.png")
+
+
+def pick_the_words(phone):
+    print("6. A tap on the ball opens the toolbox; the text is in the grid, cut into words.")
+    phone.tap(BALL)
+    phone.advance(ANIMATION)
+    words = [node for node in phone.ask("find", where={"class": "UICollectionViewCell"})]
+    expect("the grid has tiles", len(words), 3)
+    phone.picture("4-toolbox.png")
+    for tile in (words[0], words[2]):
+        phone.tap(tile)
+    phone.picture("5-picked.png")
+
+
+def translate(phone):
+    print("7. The picked words are translated by the service, which here is on this machine.")
+    phone.tap(phone.button("文字翻译"))
+    phone.ask("wait", **{"for": {"class": "MovableAlertViewzerk"}, "seconds": 30})
+    dialog = phone.ask("find", where={"class": "MovableAlertViewzerk"})[0]
+    expect("the dialog shows", bool(phone.ask("find", where={"text": TRANSLATION})), True)
+    phone.picture("6-translation.png")
+    print("8. The dialog is moved aside, and the translation takes the sentence's place.")
+    x, y, width, _ = dialog["rect"]
+    top = [x + width / 2, y + 20]
+    phone.ask("slide", path=[top, [top[0], top[1] + 15], [top[0], top[1] + 90]])
+    phone.tap(phone.button("直接替换"))
+    phone.picture("7-replaced.png")
+    phone.tap(phone.button("关闭窗口"))
+    phone.tap(BESIDE_THE_PANEL)
+    phone.advance(ANIMATION)
+    expect("the application keeps the pair", phone.ask("defaults", key="zerk"),
+           {SENTENCE: TRANSLATION})
+
+
+def play():
+    with tempfile.TemporaryDirectory(prefix="wentra-tour-") as root:
+        with Phone(root) as phone:
+            phone.ask("preferences", set=PREFERENCES)
+        with Phone(root) as phone:
+            copy_the_sentence(phone)
+            pick_the_words(phone)
+            translate(phone)
+        print("9. From now on the application's label shows the translation.")
+        with Phone(root) as phone:
+            expect("the label shows", phone.label(TRANSLATION)["text"], TRANSLATION)
+            phone.picture("8-label.png")

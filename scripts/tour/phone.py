@@ -1,0 +1,75 @@
+"""The phone that the tour is played on, and what is said along the way."""
+
+import json
+import pathlib
+import subprocess
+import sys
+
+TOP = pathlib.Path(__file__).resolve().parent.parent.parent
+HOST = TOP / "build/release/bin/host"
+MATERIAL = TOP / "scripts/tour"
+PICTURES = TOP / "build/tour"
+
+
+class Phone:
+    """The notes application in the desktop host, driven by one JSON line for each request."""
+
+    def __init__(self, root):
+        self.log = (PICTURES / "host.log").open("a", encoding="utf-8")
+        arguments = [HOST, "--automation", "--app", "notes", "--root", root,
+                     "--settings-bundle", "--content", MATERIAL / "notes.json"]
+        self.process = subprocess.Popen(arguments, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                                        stderr=self.log, text=True)
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.process.stdin.close()
+        self.process.wait()
+        self.process.stdout.close()
+        self.log.close()
+
+    def ask(self, do, **arguments):
+        self.process.stdin.write(json.dumps({"do": do, **arguments}) + "\n")
+        self.process.stdin.flush()
+        response = json.loads(self.process.stdout.readline()
+                              or '{"ok":false,"error":"it ended, see build/tour/host.log"}')
+        if not response["ok"]:
+            sys.exit(f"tour: the host refused '{do}': {response['error']}")
+        return response.get("result")
+
+    def send(self, receiver, selector, *arguments):
+        return self.ask("send", to=receiver, selector=selector, args=list(arguments))
+
+    def label(self, text):
+        found = self.ask("find", where={"text": text})
+        if not found:
+            sys.exit(f"tour: no label shows {text!r}")
+        return found[0]
+
+    def button(self, title):
+        found = self.ask("find", where={"title": title, "visible": True})
+        if not found:
+            sys.exit(f"tour: there is no button {title!r}")
+        return found[0]
+
+    def tap(self, place):
+        """Taps a node or a point, and waits until no further tap could follow."""
+        self.ask("tap", **{"at" if isinstance(place, list) else "on": place})
+        self.advance(0.4)
+
+    def advance(self, seconds):
+        self.ask("advance", seconds=seconds)
+
+    def picture(self, name):
+        file = PICTURES / name
+        self.ask("screenshot", file=str(file))
+        print(f"   picture: {file.relative_to(TOP)}")
+
+
+def expect(what, found, wanted):
+    mark = "✓" if found == wanted else "✗"
+    print(f"   {mark} {what}: {found}")
+    if found != wanted:
+        sys.exit(f"tour: {what} should be {wanted}")
