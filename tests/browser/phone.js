@@ -117,6 +117,13 @@ export class Phone {
         return node;
     }
 
+    /** Waits until there is no such view. */
+    async gone(where) {
+        while ((await this.do("find", { where })).length > 0) {
+            await this.page.waitForTimeout(50);
+        }
+    }
+
     /** The place in the page of a point of the screen. */
     async place([x, y]) {
         const box = await this.page.locator("#screen").boundingBox();
@@ -176,5 +183,23 @@ export class Phone {
                 left * scale, top * scale, wide * scale, high * scale);
             return new Set(new Uint32Array(data.buffer)).size;
         }, [x, y, width, height]);
+    }
+
+    /** What the rectangle of the drawn screen looks like, to be compared. */
+    imageOf([x, y, width, height]) {
+        return this.page.evaluate(([left, top, wide, high]) => {
+            const canvas = document.getElementById("screen");
+            const scale = canvas.width / window.wentra.screen.size.width;
+            const { data } = canvas.getContext("2d").getImageData(
+                left * scale, top * scale, wide * scale, high * scale);
+            return data.join();
+        }, [x, y, width, height]);
+    }
+
+    /** Waits until the rectangle looks different. */
+    async changed(rectangle, image) {
+        while (await this.imageOf(rectangle) === image) {
+            await this.picture(1);
+        }
     }
 }

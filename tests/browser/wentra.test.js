@@ -1,0 +1,104 @@
+// What Wentra's users do, with mouse and keyboard: write a rule, move the ball, translate a sentence.
+import assert from "node:assert/strict";
+import { after, before, beforeEach, afterEach, test } from "node:test";
+import { Host, openBrowser, Phone } from "./phone.js";
+
+/** @type {import("playwright-core").Browser} */
+let browser;
+/** @type {Host} */
+let host;
+/** @type {Phone} */
+let phone;
+
+before(async () => {
+    browser = await openBrowser();
+});
+
+after(() => browser?.close());
+
+beforeEach(async () => {
+    host = await Host.start("--app", "notes");
+    phone = await Phone.open(browser, host.address, { locale: "zh-CN" });
+});
+
+afterEach(async () => {
+    assert.deepEqual(phone.complaints, []);
+    await phone.close();
+    assert.equal(await host.stop(), 0);
+});
+
+const middle = ([x, y, width, height]) => [x + width / 2, y + height / 2];
+
+const first = async (where) => (await phone.do("wait", { for: { visible: true, ...where } }))[0];
+
+const tapOn = async (where) => phone.tap(middle((await first(where)).rect));
+
+/** Long-presses a stack of labels that has nothing else to do with fingers. */
+async function openEditor() {
+    const { rect } = await phone.showing("今天");
+    await phone.press(middle(rect), 800);
+    return first({ class: "UITextView" });
+}
+
+test("a rule typed into the editor changes the label", async () => {
+    const label = await phone.showing("hello");
+    const before = await phone.imageOf(label.rect);
+    const [x, y, width, height] = (await openEditor()).rect;
+    await phone.press([x + width / 2, y + height - 30], 800); // below the text: writes at its end
+    await phone.page.keyboard.press("Enter");
+    await phone.page.keyboard.insertText("hello===您好");
+    for (let breaks = 0; breaks < 4; ++breaks) { // saves and closes; the keyboard hides "确定"
+        await phone.page.keyboard.press("Enter");
+    }
+    await phone.gone({ class: "UITextView" });
+
+    await phone.do("send", { to: label, selector: "setText:", args: ["hello"] });
+    await phone.showing("您好");
+    await phone.changed(label.rect, before);
+});
+
+test("the editor is scaled by two fingers", async () => {
+    const editor = await openEditor();
+    await phone.pinch(200, 100);
+    const { transform } = await phone.do("tree", { of: editor });
+    assert.ok(transform[0] < 0.9, `scaled to ${transform}`);
+});
+
+test("the ball is switched on in the page and dragged about", async () => {
+    await phone.page.click("#tab-preferences");
+    await phone.page.getByLabel("显示悬浮球", { exact: false }).check();
+    await phone.page.click("#tab-applications");
+    await phone.page.getByRole("button", { name: "重新启动" }).first().click();
+    const ball = async () => {
+        const [window] = await phone.tree();
+        return window.children.find(({ frame }) => frame[2] === 34 && frame[3] === 34);
+    };
+    for (let tries = 0; !(await ball().catch(() => null)); ++tries) {
+        assert.ok(tries < 100, "there is no ball");
+        await phone.page.waitForTimeout(50);
+    }
+    const start = middle((await ball()).rect);
+    await phone.drag([start, [start[0] - 100, start[1] + 40], [start[0] - 200, start[1] + 300]]);
+    const [x, y] = middle((await ball()).rect);
+    assert.ok(Math.hypot(x - start[0] + 200, y - start[1] - 300) < 15, `it is at ${x}, ${y}`);
+});
+
+test("a copied sentence is translated and stays on the label", async () => {
+    await phone.do("preferences", { set: {
+        开启文字复制: true, kqwzfc: true, 中英对比样式: true, 百度id: "desktop", 百度key: "desktop-key",
+    } });
+    await phone.page.click("#tab-applications");
+    await phone.page.getByRole("button", { name: "重新启动" }).first().click();
+    await phone.page.waitForTimeout(1000);
+    const label = await phone.showing("hello");
+    await phone.press(middle(label.rect), 600);
+    assert.equal(await phone.do("pasteboard"), "hello");
+    await phone.tap([358, 222]); // the ball
+    await tapOn({ class: "UICollectionViewCell" });
+    await tapOn({ title: "文字翻译" });
+    await phone.showing("你好");
+    await tapOn({ title: "直接替换" });
+    await tapOn({ title: "关闭窗口" });
+    await phone.do("send", { to: label, selector: "setText:", args: ["hello"] });
+    assert.equal((await phone.do("tree", { of: label })).text, "你好");
+});
