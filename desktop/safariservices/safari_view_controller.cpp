@@ -1,10 +1,9 @@
-// The bar, and telling of the page.
+// The bar over the page.
 #include "desktop/safariservices/safari_view_controller.hpp"
 
 #include "bindings/foundation/exception.hpp"
-#include "bindings/uikit/label.hpp"
 #include "bindings/uikit/navigation_bar.hpp"
-#include "desktop/runtime/event_log.hpp"
+#include "bindings/webkit/web_view.hpp"
 #include "desktop/uikit/screen.hpp"
 
 namespace desktop {
@@ -16,13 +15,6 @@ bool isWeb(ns::Url url) {
     const ns::String scheme =
         url.send<"scheme", ns::String>().send<"lowercaseString", ns::String>();
     return scheme.isEqual(u"http"_ns) || scheme.isEqual(u"https"_ns);
-}
-
-void tellLoad(ns::Url url) {
-    const auto fields =
-        ns::MutableDictionary::copyOf(ns::Dictionary::with(url.absoluteString(), u"url"_ns));
-    fields.set(ns::MutableDictionary::make(), u"headers"_ns);
-    EventLog::shared().record("webLoad", fields);
 }
 
 } // namespace
@@ -55,14 +47,11 @@ void SafariViewController::viewDidLoad() {
     items.add(item);
     bar.setItems(items);
     view.addSubview(bar);
-    constexpr double margin = 16;
-    const auto address = ui::Label::withFrame(
-        {{margin, top + barHeight + margin}, {size.width - 2 * margin, 3 * barHeight}});
-    address.setNumberOfLines(0);
-    address.setTextColor(ui::Color::secondaryLabel());
-    address.setText(url_.absoluteString());
-    view.addSubview(address);
-    tellLoad(url_);
+    const double below = top + barHeight;
+    const auto page = wk::WebView::withFrame({{0, below}, {size.width, size.height - below}});
+    page.setAutoresizingMask(ui::autoresizing::flexibleWidth | ui::autoresizing::flexibleHeight);
+    page.load(ns::UrlRequest::withUrl(url_));
+    view.addSubview(page);
 }
 
 void SafariViewController::donePressed() {

@@ -1,5 +1,4 @@
-// SFSafariViewController: a web page with a bar to leave it by. The page itself is not loaded: what
-// would be loaded is shown, and told to whoever watches.
+// SFSafariViewController: a web page with a bar to leave it by.
 #pragma once
 
 #include "bindings/safariservices/safari_view_controller.hpp"

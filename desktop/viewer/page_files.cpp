@@ -30,6 +30,7 @@ constexpr std::array files{
     PageFile{"help.js", "help.js", script},
     PageFile{"keyboard.js", "keyboard.js", script},
     PageFile{"screen.js", "screen.js", script},
+    PageFile{"web_pages.js", "web_pages.js", script},
     PageFile{"words.js", "words.js", script},
     PageFile{"panels/applications.js", "panels/applications.js", script},
     PageFile{"panels/events.js", "panels/events.js", script},

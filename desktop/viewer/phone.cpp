@@ -7,13 +7,16 @@
 
 #include "bindings/foundation/data.hpp"
 #include "bindings/objc/pool.hpp"
+#include "bindings/uikit/event.hpp"
 #include "bindings/uikit/pasteboard.hpp"
+#include "bindings/uikit/window.hpp"
 #include "desktop/runtime/main_queue.hpp"
 #include "desktop/uikit/image.hpp"
 #include "desktop/uikit/keyboard_input.hpp"
 #include "desktop/uikit/screen.hpp"
 #include "desktop/uikit/scrolling/wheel.hpp"
 #include "desktop/uikit/uikit.hpp"
+#include "desktop/webkit/web_content.hpp"
 
 #include <algorithm>
 #include <array>
@@ -69,6 +72,23 @@ Answer pasteboardPicture() {
     return image != nullptr ? content(*image) : Answer{noContent, "image/png", ""};
 }
 
+/// The web pages in front of everything else, for the page to show what is in them.
+host::Json webPages() {
+    host::Json pages = host::Json::array();
+    for (const LiveWebPage& each : liveWebPages()) {
+        const CGRect& frame = each.frame;
+        const CGPoint middle{frame.origin.x + frame.size.width / 2,
+                             frame.origin.y + frame.size.height / 2};
+        const ui::View front = each.view.window().hitTest(middle, nullptr);
+        if (front.send<"isDescendantOfView:", bool>(each.view)) {
+            pages.push_back(
+                {{"address", each.address},
+                 {"frame", {frame.origin.x, frame.origin.y, frame.size.width, frame.size.height}}});
+        }
+    }
+    return pages;
+}
+
 } // namespace
 
 Phone::Phone(const Door& door, Start start, std::filesystem::path deviceFolder,
@@ -100,6 +120,7 @@ std::function<void(Arguments...)> Phone::later(Method method) {
 
 void Phone::opened(PageNumber page) {
     page_ = page;
+    webPages_ = nullptr;
     send(welcome());
     send({{"type", "events"}, {"events", events_.events()}});
 }
@@ -157,12 +178,20 @@ host::Json Phone::welcome() const {
 
 void Phone::send(const host::Json& message) { server_.send(page_, serialised(message)); }
 
+void Phone::tellWebPages() {
+    if (host::Json pages = webPages(); pages != webPages_) {
+        webPages_ = std::move(pages);
+        send({{"type", "webPages"}, {"pages", webPages_}});
+    }
+}
+
 void Phone::carryOut(const Fingers& fingers) { hand_.touch(fingers); }
 
 void Phone::carryOut(const Look& look) {
     picture_.reset();
-    picture_.emplace(look.scale,
-                     [this, page = page_](Bytes frame) { server_.send(page, std::move(frame)); });
+    picture_.emplace(
+        look.scale, [this, page = page_](Bytes frame) { server_.send(page, std::move(frame)); },
+        [this] { tellWebPages(); });
 }
 
 void Phone::carryOut(const Seen& seen) {

@@ -13,8 +13,9 @@ constexpr std::uint32_t mostUnseen = 2;
 
 } // namespace
 
-Picture::Picture(double scale, std::function<void(Bytes)> deliver)
-    : image_(scale), deliver_(std::move(deliver)), self_(std::make_shared<Picture*>(this)) {
+Picture::Picture(double scale, std::function<void(Bytes)> deliver, std::function<void()> drawn)
+    : image_(scale), deliver_(std::move(deliver)), drawn_(std::move(drawn)),
+      self_(std::make_shared<Picture*>(this)) {
     image_.whenStale([this] { schedule(); });
     schedule();
 }
@@ -53,6 +54,7 @@ void Picture::refresh() {
         patches.push_back(copied(image_, region));
     }
     encode(std::move(patches));
+    drawn_();
     schedule(); // drawing itself may have made it stale
 }
 

@@ -17,8 +17,9 @@ namespace desktop::viewer {
 /// screen stands still. Main thread; pixels are encoded on another.
 class Picture {
 public:
-    /// `deliver` is called with each frame, in order, on the encoding thread.
-    Picture(double scale, std::function<void(Bytes)> deliver);
+    /// `deliver` is called with each frame, in order, on the encoding thread; `drawn` on the main
+    /// thread whenever the screen has been drawn anew.
+    Picture(double scale, std::function<void(Bytes)> deliver, std::function<void()> drawn);
     Picture(const Picture&) = delete;
     Picture& operator=(const Picture&) = delete;
     /// Waits until the frames at work are delivered.
@@ -34,6 +35,7 @@ private:
 
     ScreenImage image_;
     std::function<void(Bytes)> deliver_;
+    std::function<void()> drawn_;
     std::uint32_t sent_ = 0;
     std::uint32_t seen_ = 0;
     bool isScheduled_ = false;

@@ -29,12 +29,13 @@ Answer refusal(http::status status, std::string why) {
     return {static_cast<unsigned>(status), "text/plain; charset=utf-8", std::move(why) + "\n"};
 }
 
-/// What every answer says: nothing from elsewhere is run, shown or told.
+/// What every answer says: nothing from elsewhere is run or told, and shown only in frames, which
+/// the page locks in.
 void secure(HttpResponse& response) {
     response.set("Content-Security-Policy",
                  "default-src 'none'; script-src 'self'; style-src 'self'; "
                  "img-src 'self' blob: data:; media-src 'self' blob:; "
-                 "connect-src 'self' ws://127.0.0.1:* ws://localhost:*; "
+                 "connect-src 'self' ws://127.0.0.1:* ws://localhost:*; frame-src http: https:; "
                  "base-uri 'none'; form-action 'none'; frame-ancestors 'none'");
     response.set("X-Content-Type-Options", "nosniff");
     response.set("Referrer-Policy", "no-referrer");

@@ -11,6 +11,7 @@ import { pasteboardPanel } from "./panels/pasteboard.js";
 import { preferencesPanel } from "./panels/preferences.js";
 import { rulesPanel } from "./panels/rules.js";
 import { Screen } from "./screen.js";
+import { showWebPages } from "./web_pages.js";
 import { language, switchLanguage, word } from "./words.js";
 
 /** @template {HTMLElement} T @param {string} id @returns {T} */
@@ -167,6 +168,7 @@ connection.addEventListener("refused", (event) => {
 });
 
 new Fingers(part("glass"), part("marks"), screen, connection);
+showWebPages(part("glass"), connection);
 typeInto(field, part("help"), connection);
 part("glass").addEventListener("pointerdown", () => field.focus({ preventScroll: true }));
 part("take-back").onclick = () => connection.open();

@@ -8,6 +8,7 @@ const words = {
     phone: ["手机屏幕", "Phone screen"],
     typing: ["键盘输入", "Typing"],
     typingOn: ["正在向手机输入 · Esc 退出", "Typing goes to the phone · Esc leaves"],
+    openBeside: ["在新标签页中打开", "Open in a new tab"],
     typingOff: ["点按屏幕后即可输入", "Click the phone to type"],
     screenshot: ["截图", "Screenshot"],
     help: ["键盘与手势", "Keys and gestures"],
