@@ -44,7 +44,8 @@ Class target(const char* className, Side side) {
 
 Outcome hookMethod(Class cls, SEL name, const char* types, IMP replacement, IMP* former) {
     const Outcome outcome = check(cls, name, types);
-    if (outcome == Outcome::installed) {
+    // Installing twice would make the replacement its own former method.
+    if (outcome == Outcome::installed && class_getMethodImplementation(cls, name) != replacement) {
         MSHookMessageEx(cls, name, replacement, former);
     }
     return outcome;

@@ -60,6 +60,9 @@ objc::Object addObserver(id center, SEL selector, ns::String name, objc::Object 
 
 void installMainOperationQueue() {
     objc::install(objc::hook<"NSOperationQueue", "addOperation:", &addOperation>());
+    if (formerAddObserver != nullptr) {
+        return; // once
+    }
     // Foundation was compiled without blocks and writes their type differently: a hook that
     // compares the types would refuse.
     IMP former = nullptr;

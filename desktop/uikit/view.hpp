@@ -73,6 +73,7 @@ private:
     void sendToBack(ui::View view);
     void removeFromSuperview();
     void insert(ui::View view, std::size_t index);
+    void leaveSuperview();
     [[nodiscard]] std::size_t indexOf(ui::View view) const;
     [[nodiscard]] bool isDescendantOf(ui::View ancestor) const;
     [[nodiscard]] ui::View viewWithTag(long tag) const;

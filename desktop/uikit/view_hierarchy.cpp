@@ -72,10 +72,8 @@ void View::insert(ui::View view, std::size_t index) {
     }
     const objc::Strong<ui::View> kept = view; // its former superview may own it alone
     const ui::Window former = view.window();
-    if (view.superview()) {
-        view.removeFromSuperview();
-    }
     view.send<"willMoveToSuperview:">(self());
+    of(view).leaveSuperview();
     subviews_.insert(
         subviews_.begin() + static_cast<std::ptrdiff_t>(std::min(index, subviews_.size())), kept);
     of(view).superview_ = self();
@@ -87,19 +85,28 @@ void View::insert(ui::View view, std::size_t index) {
     self().send<"didAddSubview:">(view);
 }
 
+/// Parts with the superview, if there is one, without a word to the view itself. Whoever calls keeps
+/// the view alive.
+void View::leaveSuperview() {
+    if (!superview_) {
+        return;
+    }
+    ViewConstraints::dropAcross(self());
+    superview_.send<"willRemoveSubview:">(self());
+    View& parent = of(superview_);
+    std::erase(parent.subviews_, self());
+    parent.self().setNeedsLayout();
+    superview_ = nullptr;
+}
+
 void View::removeFromSuperview() {
     if (!superview_) {
         return;
     }
     const objc::Strong<ui::View> kept = self();
     const bool wasInWindow = static_cast<bool>(window());
-    ViewConstraints::dropAcross(self());
-    superview_.send<"willRemoveSubview:">(self());
     self().send<"willMoveToSuperview:">(ui::View());
-    View& parent = of(superview_);
-    std::erase(parent.subviews_, kept);
-    parent.self().setNeedsLayout();
-    superview_ = nullptr;
+    leaveSuperview();
     self().send<"didMoveToSuperview">();
     if (wasInWindow) {
         announceWindow(self(), nullptr);

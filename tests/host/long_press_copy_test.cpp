@@ -47,6 +47,17 @@ TEST(LongPressCopy, IsOffWithoutItsSwitch) {
     EXPECT_GT(gestures(phone, label), 0U) << "it takes effect at the next move";
 }
 
+TEST(LongPressCopy, IsAttachedOnceAtEachMove) {
+    Phone phone;
+    phone.set(copying);
+    const Json label = addLabel(phone, phone.window());
+    EXPECT_EQ(gestures(phone, label), 1U);
+    const Json other = phone.make("UIView");
+    phone.message(phone.window(), "addSubview:", {other});
+    phone.message(other, "addSubview:", {label}); // straight from one superview to the other
+    EXPECT_EQ(gestures(phone, label), 2U);
+}
+
 TEST(LongPressCopy, MessengersAreLeftOutOnDemand) {
     for (const auto& [bundle, blocked, expected] :
          std::vector<std::tuple<std::string, bool, std::size_t>>{{"com.tencent.xin", true, 0},

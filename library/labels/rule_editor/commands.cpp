@@ -1,11 +1,10 @@
 // What the rule editor's buttons do to the text, the caret and the page.
 #include "library/labels/rule_editor/editor.hpp"
 
-#include "bindings/foundation/delayed_perform.hpp"
-#include "bindings/uikit/label.hpp"
 #include "bindings/uikit/pasteboard.hpp"
 #include "bindings/uikit/text_input.hpp"
 #include "bindings/uikit/text_storage.hpp"
+#include "library/common/notice.hpp"
 #include "library/labels/rule_editor/editor_text.hpp"
 #include "library/labels/rule_kind.hpp"
 #include "library/startup/preferences.hpp"
@@ -64,23 +63,12 @@ void deleteLines(ui::View host, Object) {
     editor.setSelectedRange({lines.location, 0});
 }
 
-void showExported(ui::Window window) {
-    constexpr CGSize size{260, 40};
-    constexpr double seconds = 1.5;
-    const CGSize room = window.bounds().size;
-    const auto note =
-        ui::Label::withFrame({{room.width * 0.5 - 135, room.height * 0.5 - 20}, size});
-    note.setText(u"所有内容已经复制到剪贴板！"_ns);
-    note.setTextAlignment(ui::TextAlignment::center);
-    note.setBackgroundColor(ui::Color::lightGray());
-    window.addSubview(note);
-    ns::performLater(note, objc::selector<"removeFromSuperview">(), nullptr, seconds);
-}
-
 void exportText(ui::View host, Object) {
     const ui::TextView editor = inputTextView(host);
     ui::Pasteboard::general().setString(ns::String::from(withoutHelp(editor.text().utf16())));
-    showExported(host.window());
+    constexpr double height = 0.5;
+    constexpr double seconds = 1.5;
+    showNotice(host.window(), u"所有内容已经复制到剪贴板！"_ns, height, seconds);
 }
 
 } // namespace
