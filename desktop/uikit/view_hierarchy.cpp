@@ -85,8 +85,8 @@ void View::insert(ui::View view, std::size_t index) {
     self().send<"didAddSubview:">(view);
 }
 
-/// Parts with the superview, if there is one, without a word to the view itself. Whoever calls keeps
-/// the view alive.
+/// Parts with the superview, if there is one, without a word to the view itself. Whoever calls
+/// keeps the view alive.
 void View::leaveSuperview() {
     if (!superview_) {
         return;
