@@ -1,5 +1,7 @@
 // What Wentra's users do, with mouse and keyboard: write a rule, move the ball, translate a sentence.
 import assert from "node:assert/strict";
+import { existsSync } from "node:fs";
+import { join } from "node:path";
 import { after, before, beforeEach, afterEach, test } from "node:test";
 import { Host, openBrowser, Phone } from "./phone.js";
 
@@ -97,6 +99,19 @@ test("a copied sentence is translated and stays on the label", async () => {
     await tapOn({ class: "UICollectionViewCell" });
     await tapOn({ title: "文字翻译" });
     await phone.showing("你好");
+    await tapOn({ title: "朗读翻译" });
+    await phone.page.click("#tab-events");
+    const [{ file }] = await phone.do("wait", { for: { event: "speech" } });
+    while (!existsSync(join(host.root, file))) { // until it is spoken
+        await phone.page.waitForTimeout(50);
+    }
+    const length = await phone.page.locator("audio").first().evaluate(
+        (audio) => new Promise((heard, failed) => {
+            audio.onended = () => heard(audio.duration);
+            audio.onerror = () => failed(audio.error);
+            audio.play().catch(failed);
+        }));
+    assert.ok(length > 0.2, `the voice is heard for ${length} s`);
     await tapOn({ title: "直接替换" });
     await tapOn({ title: "关闭窗口" });
     await phone.do("send", { to: label, selector: "setText:", args: ["hello"] });
