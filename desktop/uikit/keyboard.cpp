@@ -53,6 +53,8 @@ Keyboard& Keyboard::shared() {
     return *keyboard;
 }
 
+double Keyboard::height() const { return isShown_ ? container_.bounds().size.height : 0; }
+
 void Keyboard::serve(ui::Responder responder) {
     if (handovers_ > 0) {
         return;

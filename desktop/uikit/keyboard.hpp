@@ -16,6 +16,9 @@ public:
     /// The first responder has changed; nil: there is none.
     void serve(ui::Responder responder);
 
+    /// How much of the screen the keyboard covers, or will once it has come, in points from below.
+    [[nodiscard]] double height() const;
+
     /// While there is one, the keyboard does not move: the focus passes from one to another.
     class Handover {
     public:

@@ -1,6 +1,7 @@
 // The state of editing: what changes when text is written, erased, composed and selected.
 #include "desktop/uikit/text_input.hpp"
 
+#include "bindings/uikit/menu_controller.hpp"
 #include "bindings/uikit/window.hpp"
 #include "desktop/drawing/text_boundaries.hpp"
 #include "desktop/uikit/first_responder.hpp"
@@ -215,6 +216,7 @@ void TextInput::select(ns::Range range) {
 
 void TextInput::type(ns::String text) {
     const objc::Strong<ui::View> kept = view();
+    ui::MenuController::shared().hideMenu();
     const ns::String written = acceptable(text);
     if (isEditable() && mayChange(clamped(replacedByTyping()), written)) {
         kept.send<"insertText:">(written);
@@ -223,6 +225,7 @@ void TextInput::type(ns::String text) {
 
 void TextInput::erase() {
     const objc::Strong<ui::View> kept = view();
+    ui::MenuController::shared().hideMenu();
     const ns::Range range =
         selection_.length > 0 ? selection_ : composedBefore(selection_.location);
     if (isEditable() && (range.length == 0 || mayChange(range, u""_ns))) {
@@ -232,6 +235,7 @@ void TextInput::erase() {
 
 void TextInput::compose(ns::String text, ns::Range selected) {
     const objc::Strong<ui::View> kept = view();
+    ui::MenuController::shared().hideMenu();
     const ns::String shown = acceptable(text);
     if (isEditable() && mayChange(clamped(replacedByTyping()), shown)) {
         kept.send<"setMarkedText:selectedRange:">(shown, selected);
@@ -279,6 +283,7 @@ bool TextInput::resignFirstResponder() {
         return false;
     }
     unmarkText();
+    ui::MenuController::shared().hideMenu();
     if (!objc::sendSuper<"resignFirstResponder", bool>(ui::View::classObject(), kept.raw())) {
         return false;
     }

@@ -61,6 +61,22 @@ TEST_F(ControllerCommands, AnAlertIsDescribedFilledAndChosen) {
     EXPECT_NE(host.error({{"do", "alert"}, {"choose", "OK"}}), "");
 }
 
+TEST_F(ControllerCommands, AnAlertWithAFieldStandsAboveTheKeyboard) {
+    const json alert = alertWith("Name", 1);
+    host.message(alert, "addTextFieldWithConfigurationHandler:", {nullptr});
+    addAction(alert, "OK", 0);
+    present(alert);
+    host.result({{"do", "advance"}, {"seconds", 1}});
+    const json rect = host.result({{"do", "tree"}, {"of", host.message(alert, "view")}}).at("rect");
+    const double bottom = rect.at(1).get<double>() + rect.at(3).get<double>();
+    EXPECT_LT(bottom, 844 - 336);
+    host.result({{"do", "key"}, {"name", "hide"}});
+    host.result({{"do", "advance"}, {"seconds", 1}});
+    const json lower =
+        host.result({{"do", "tree"}, {"of", host.message(alert, "view")}}).at("rect");
+    EXPECT_NEAR(lower.at(1).get<double>(), (844 - lower.at(3).get<double>()) / 2, 0.5);
+}
+
 TEST_F(ControllerCommands, ADisabledActionIsRefused) {
     const json sheet = alertWith("Sheet", 0);
     addAction(sheet, "Off", 0);

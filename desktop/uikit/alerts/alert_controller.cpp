@@ -5,6 +5,7 @@
 #include "desktop/runtime/main_queue.hpp"
 #include "desktop/uikit/alerts/alert_action.hpp"
 #include "desktop/uikit/alerts/alert_view.hpp"
+#include "desktop/uikit/keyboard.hpp"
 #include "desktop/uikit/screen.hpp"
 
 #include <algorithm>
@@ -28,6 +29,7 @@ std::vector<objc::MethodRow> AlertController::methods() {
                           &AlertController::with>(),
         objc::method<"loadView", &AlertController::loadView>(),
         objc::method<"viewDidAppear:", &AlertController::viewDidAppear>(),
+        objc::method<"keyboardWillMove:", &AlertController::keyboardWillMove>(),
         objc::method<"setTitle:", &AlertController::setTitle>(),
         objc::property<"message", &AlertController::message_, &AlertController::contentChanged>(),
         objc::method<"preferredStyle", &AlertController::style_>(),
@@ -50,12 +52,25 @@ ui::AlertController AlertController::with(Class cls, ns::String title, ns::Strin
 }
 
 AlertController::~AlertController() {
+    ns::NotificationCenter::defaultCenter().removeObserver(self());
     for (const auto& action : actions_) {
         AlertAction::of(action).changed = nullptr;
     }
 }
 
-void AlertController::loadView() { self().setView(AlertView::showing(self())); }
+void AlertController::loadView() {
+    self().setView(AlertView::showing(self()));
+    ns::NotificationCenter::defaultCenter().addObserver(
+        self(), objc::selector<"keyboardWillMove:">(), u"UIKeyboardWillChangeFrameNotification"_ns,
+        nullptr);
+}
+
+void AlertController::keyboardWillMove(ns::Notification) {
+    const objc::Strong<ui::View> superview = self().view().superview();
+    superview.setNeedsLayout();
+    ui::View::animate(Keyboard::duration,
+                      ui::View::Changes::from([superview] { superview.layoutIfNeeded(); }));
+}
 
 void AlertController::viewDidAppear(bool animated) {
     super<"viewDidAppear:">(animated);
@@ -134,11 +149,13 @@ void AlertController::contentChanged() {
 
 CGRect AlertController::frameIn(CGRect bounds) {
     const UIEdgeInsets safe = ScreenGeometry::current().safeArea;
-    const CGSize room{bounds.size.width, bounds.size.height - safe.top - safe.bottom};
+    const double covered = std::max(safe.bottom, Keyboard::shared().height());
+    const CGSize room{bounds.size.width, bounds.size.height - safe.top - covered};
     const CGSize size = AlertView::of(self().view()).sizeIn(room);
     const double left = (bounds.size.width - size.width) / 2;
     if (style_ == ui::AlertStyle::alert) {
-        return {{left, (bounds.size.height - size.height) / 2}, size};
+        const double bottom = bounds.size.height - Keyboard::shared().height();
+        return {{left, std::max(safe.top, (bottom - size.height) / 2)}, size};
     }
     const double margin = std::max(safe.bottom, AlertLayout::sheetGap);
     return {{left, bounds.size.height - margin - size.height}, size};

@@ -1,6 +1,7 @@
 // UIAlertController: a message with choices, as an alert or as a sheet of actions.
 #pragma once
 
+#include "bindings/foundation/notification_center.hpp"
 #include "bindings/uikit/alert_controller.hpp"
 
 #include "desktop/class.hpp"
@@ -37,6 +38,7 @@ private:
                                     ui::AlertStyle style);
     void loadView();
     void viewDidAppear(bool animated);
+    void keyboardWillMove(ns::Notification);
     void setTitle(ns::String title);
     void addAction(ui::AlertAction action);
     [[nodiscard]] ns::Array actions() const;

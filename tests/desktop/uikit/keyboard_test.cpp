@@ -143,6 +143,8 @@ TEST_F(KeyboardTest, FingersPlaceTheCaretAndSelect) {
     EXPECT_EQ(view_.selectedRange(), (ns::Range{15, 0}));
     up();
     EXPECT_EQ(menuTitles().front(), ui::Pasteboard::general().string() ? "粘贴" : "选择");
+    view_.resignFirstResponder();
+    EXPECT_TRUE(menuTitles().empty()) << "it goes with the focus";
 }
 
 TEST_F(KeyboardTest, TheMenuIsTapped) {
