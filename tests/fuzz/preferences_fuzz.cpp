@@ -29,7 +29,7 @@ void requireSame(const Preferences& left, const Preferences& right, std::string_
 }
 
 std::string utf16Document(std::string_view utf8) {
-    return bigEndianUtf16(u"\uFEFF" + utf16FromUtf8(utf8));
+    return wentra::bigEndianUtf16(u"\uFEFF" + wentra::utf16FromUtf8(utf8));
 }
 
 } // namespace
@@ -40,7 +40,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // Known keys, in both alphabets, and names that have to be searched for.
     for (const std::string_view name : {"kqwzgs", "开启文字复制", "kqxydx", "a", "名"}) {
         requireSame(preferences, Preferences::parse(bytes), name);
-        if (isUtf8(bytes) && !bytes.starts_with("bplist") && !bytes.starts_with("\xEF\xBB\xBF"))
+        if (wentra::isUtf8(bytes) && !bytes.starts_with("bplist") &&
+            !bytes.starts_with("\xEF\xBB\xBF"))
             requireSame(preferences, Preferences::parse(utf16Document(bytes)), name);
     }
     return 0;
