@@ -19,6 +19,13 @@ RATIOS = [
      "at most 3"),
     ("label text with nine rules / plain read, binary", "setText/binary_with_rules",
      "plainRead/binary", "at most 3"),
+    ("cutting tokens by the regular expression / by ours", "regularExpression", "cutTokens",
+     "at least 20"),
+    ("cutting tokens / reading the memory", "cutTokens", "memoryRead", ""),
+    ("filling the grid, a token of 20,000 / of 2,000", "fill/20000", "fill/2000", "at most 1.3"),
+    ("sliding over tiles, one of 2,000 / of 200", "slide/2000", "slide/200", "at most 1.3"),
+    ("redrawing a caret / the whole screen", "caretRedraw", "fullRedraw", ""),
+    ("redrawing a label / the whole screen", "labelRedraw", "fullRedraw", ""),
 ]
 
 
@@ -42,7 +49,7 @@ def main():
     time = {name: nanoseconds(result) for name, result in results.items()}
     print(f"\n{'':58}ratio  aim")
     for title, what, against, aim in RATIOS:
-        print(f"{title:58}{time[what] / time[against]:5.2f}  {aim}")
+        print(f"{title:58}{time[what] / time[against]:6.3g}  {aim}")
     # The plain approach is our chain with Foundation's reading of the file in place of ours.
     ours = time["setText/xml_with_rules"]
     plain = ours - time["preferences/xml"] + time["foundationRead"]
@@ -56,6 +63,8 @@ def main():
     for name in ("panelDrag", "panelDragBetweenPixels", "panelPinch"):
         print(f"{'frames a second of one core, ' + name:58}{results[name]['frames']:5.0f}"
               "  at least 60")
+    move = results["touchMove"]["cpu_time"]
+    print(f"{'one move of a finger among 1,000 views':58}{move:5.1f} {results['touchMove']['time_unit']}")
     loading = next(result for name, result in results.items() if name.startswith("loading/"))
     print(f"\nloading the library: {loading['real_time']:.2f} ms,"
           f" {loading['residentBytes'] / 1024:.0f} KiB resident,"
