@@ -198,6 +198,15 @@ TEST_F(Translation, TheWebPageTakesTheTextInstead) {
     EXPECT_EQ(url.substr(url.find('?')), "?sl=auto&tl=zh&text=a%20b");
 }
 
+TEST_F(Translation, TheDialogTellsOfErrorsWithoutTakingThemForText) {
+    phone.set({{"中英对比样式", true}, {"百度id", ""}});
+    translate("hello", "百度翻译ID或key不存在，请检查你的输入");
+    const Json dialog = phone.find({{"class", "MovableAlertViewzerk"}}).at(0);
+    EXPECT_EQ(phone.message(phone.message(dialog, "translatedTextView"), "text"), "");
+    EXPECT_EQ(phone.find({{"text", "翻译错误"}}).size(), 1U);
+    EXPECT_EQ(alert(), nullptr);
+}
+
 class BilingualDialog : public Translation {
 protected:
     BilingualDialog() {

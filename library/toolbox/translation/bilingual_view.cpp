@@ -61,6 +61,7 @@ private:
                                 ns::String translated);
     void addTitle(ns::String title);
     ui::TextView addText(ns::String text, double top);
+    void addMessage(ns::String message);
     void addButtons();
     void addGestures();
     template <objc::Literal Action>
@@ -96,7 +97,7 @@ private:
     objc::Strong<av::SpeechSynthesizer> synth_;
 };
 
-BilingualView Own::initWithTexts(ns::String title, ns::String /*message*/, ns::String original,
+BilingualView Own::initWithTexts(ns::String title, ns::String message, ns::String original,
                                  ns::String translated) {
     const double width = ui::Screen::main().bounds().size.width;
     super<"initWithFrame:", ui::View>(CGRect{{20, 60}, {width - 40, dialogHeight}});
@@ -108,6 +109,9 @@ BilingualView Own::initWithTexts(ns::String title, ns::String /*message*/, ns::S
     addTitle(title);
     originalTextView_ = addText(original, originalTop);
     translatedTextView_ = addText(translated, translatedTop);
+    if (!translated) {
+        addMessage(message);
+    }
     addButtons();
     addGestures();
     return self();
@@ -131,6 +135,18 @@ ui::TextView Own::addText(ns::String text, double top) {
     view.layer().setBorderColor(ui::Color::lightGray().cgColor());
     self().addSubview(view);
     return view;
+}
+
+/// Tells of an error, where there is no translation. It is no text of the dialog's: it is neither
+/// copied nor stored.
+void Own::addMessage(ns::String message) {
+    const auto label = ui::Label::withFrame({{margin, margin}, translatedTextView_.bounds().size});
+    label.setText(message);
+    label.setTextColor(ui::Color::secondaryLabel());
+    label.setNumberOfLines(0);
+    label.setFrame({{margin, margin},
+                    label.sizeThatFits({label.frame().size.width - 2 * margin, textHeight})});
+    translatedTextView_.addSubview(label);
 }
 
 template <objc::Literal Action>
