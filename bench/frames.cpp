@@ -4,8 +4,9 @@
 #include "bindings/objc/pool.hpp"
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/label.hpp"
+#include "bindings/uikit/screen.hpp"
 #include "bindings/uikit/window.hpp"
-#include "desktop/uikit/screen_image.hpp"
+#include "desktop/uikit/application/screen_image.hpp"
 #include "desktop/viewer/frame.hpp"
 #include "desktop/viewer/patch.hpp"
 
@@ -22,7 +23,7 @@ constexpr double phoneScale = 3;
 /// A window full of labels, as a panel of the library is, and a caret on it.
 struct Scene {
     Scene() {
-        const CGRect bounds = ui::Screen::main().bounds();
+        const CGRect bounds = ui::Screen::mainScreen().bounds();
         window = ui::Window::withFrame(bounds);
         panel = ui::View::withFrame({{0, 60}, {390, 610}});
         panel.setBackgroundColor(ui::Color::white());
@@ -53,6 +54,7 @@ struct Scene {
 
 Bytes frameOf(ScreenImage& image, const std::vector<PixelRectangle>& regions) {
     std::vector<Patch> patches;
+    patches.reserve(regions.size());
     for (const PixelRectangle& region : regions) {
         patches.push_back(copied(image, region));
     }

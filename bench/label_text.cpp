@@ -6,7 +6,7 @@
 #include "bindings/foundation/number.hpp"
 #include "bindings/objc/pool.hpp"
 #include "bindings/uikit/label.hpp"
-#include "library/startup/preferences.hpp"
+#include "library/preferences/preferences.hpp"
 
 #include <benchmark/benchmark.h>
 
@@ -36,7 +36,7 @@ void plainRead(benchmark::State& state, PlistForm form) {
 void preferences(benchmark::State& state, PlistForm form) {
     bench::preferenceFile(form);
     for (auto _ : state) {
-        benchmark::DoNotOptimize(wentra::startup::Preferences::read());
+        benchmark::DoNotOptimize(wentra::preferences::Preferences::read());
     }
 }
 

@@ -1,5 +1,6 @@
 // A wrapped message against a call through the looked-up implementation, and what a hook adds.
 #include "bindings/objc/hook.hpp"
+#include "bindings/objc/kind.hpp"
 #include "bindings/objc/peer.hpp"
 #include "bindings/objc/pool.hpp"
 

@@ -5,9 +5,10 @@
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/label.hpp"
 #include "bindings/uikit/pan_gesture_recognizer.hpp"
+#include "bindings/uikit/screen.hpp"
 #include "bindings/uikit/window.hpp"
-#include "desktop/uikit/screen_image.hpp"
-#include "desktop/uikit/touch_dispatcher.hpp"
+#include "desktop/uikit/application/screen_image.hpp"
+#include "desktop/uikit/events/touch_dispatcher.hpp"
 
 #include <benchmark/benchmark.h>
 
@@ -57,8 +58,8 @@ struct Phone {
     }
 
 private:
-    Phone() : window(ui::Window::withFrame(ui::Screen::main().bounds())) {
-        window.setBackgroundColor(ui::Color::rgba(0.949, 0.949, 0.969, 1));
+    Phone() : window(ui::Window::withFrame(ui::Screen::mainScreen().bounds())) {
+        window.setBackgroundColor(ui::Color::withRed(0.949, 0.949, 0.969, 1));
         for (int card = 0; card < 7; ++card) {
             const double top = 60 + 112.0 * card;
             const auto box = addBox(window, {{16, top}, {358, 100}}, ui::Color::white(), 12);
@@ -67,11 +68,11 @@ private:
                          u"下午取快递，顺便买牛奶 Milk"_ns);
             }
         }
-        panel = addBox(window, {{0, 117}, {390, 610}}, ui::Color::rgba(0.98, 0.98, 0.98, 1), 16);
+        panel = addBox(window, {{0, 117}, {390, 610}}, ui::Color::withRed(0.98, 0.98, 0.98, 1), 16);
         for (int row = 0; row < 18; ++row) {
             for (int column = 0; column < 4; ++column) {
                 const auto tile = addBox(panel, {{12 + 93.0 * column, 12 + 33.0 * row}, {87, 28}},
-                                         ui::Color::rgba(0.9, 0.93, 1, 1), 6);
+                                         ui::Color::withRed(0.9, 0.93, 1, 1), 6);
                 label = addLabel(tile, {{4, 4}, {79, 20}}, u"词语 word"_ns);
             }
         }
@@ -138,10 +139,12 @@ void touchMove(benchmark::State& state) {
     constexpr int views = 1'000;
     const Phone& phone = Phone::shared();
     const objc::Pool pool;
-    const auto board = addBox(phone.window, ui::Screen::main().bounds(), ui::Color::white(), 0);
+    const auto board =
+        addBox(phone.window, ui::Screen::mainScreen().bounds(), ui::Color::white(), 0);
     board.addGestureRecognizer(ui::PanGestureRecognizer::make());
     for (int index = 0; index < views; ++index) {
-        const auto tile = ui::View::withFrame({{9.0 * (index % 40), 30.0 * (index / 40)}, {9, 30}});
+        const int row = index / 40;
+        const auto tile = ui::View::withFrame({{9.0 * (index % 40), 30.0 * row}, {9, 30}});
         board.addSubview(tile);
     }
     const auto finger = [](double x) { return std::array{desktop::TouchPoint{0, {x, 410}}}; };

@@ -41,7 +41,7 @@ void sessions(benchmark::State& state) {
         for (int i = 0; i < lines; ++i) {
             session
                 .dataTask(
-                    ns::Url::from(ns::String::fromUtf8(addressOf(i))),
+                    ns::Url::withString(ns::String::fromUtf8(addressOf(i))),
                     ns::UrlSession::Handler::from([&](ns::Data data, ns::UrlResponse, ns::Error) {
                         failures += data.length() == 0 ? 1 : 0;
                         outstanding.count_down();

@@ -2,8 +2,10 @@
 // token and by movement, which shows what grows with the text or the slide.
 #include "bench/support/phone.hpp"
 
+#include "bindings/foundation/set.hpp"
 #include "bindings/objc/peer.hpp"
 #include "bindings/objc/pool.hpp"
+#include "bindings/uikit/collection_view.hpp"
 #include "bindings/uikit/long_press_gesture_recognizer.hpp"
 #include "desktop/runtime/run_loop.hpp"
 #include "library/toolbox/floating_view_controller.hpp"
@@ -62,7 +64,7 @@ FloatingViewController controller() {
 
 void show(ns::Array words) {
     controller().updateWordsArray(words);
-    controller().wordsCollectionView().layoutIfNeeded();
+    controller().send<"wordsCollectionView", ui::CollectionView>().layoutIfNeeded();
 }
 
 void fill(benchmark::State& state) {
@@ -80,12 +82,13 @@ void fill(benchmark::State& state) {
 /// A point on each of the first tiles, in the grid's content.
 std::vector<CGPoint> placesOf(std::size_t count) {
     constexpr double step = 5;
-    const ui::CollectionView grid = controller().wordsCollectionView();
+    const ui::CollectionView grid = controller().send<"wordsCollectionView", ui::CollectionView>();
     const double width = grid.bounds().size.width;
     std::vector<CGPoint> places;
-    for (CGPoint point{step, step}; places.size() < count; point.y += step) {
-        for (point.x = step; point.x < width && places.size() < count; point.x += step) {
-            const ns::IndexPath path = grid.indexPathAt(point);
+    for (int row = 1; places.size() < count; ++row) {
+        for (int column = 1; column * step < width && places.size() < count; ++column) {
+            const CGPoint point{column * step, row * step};
+            const ns::IndexPath path = grid.indexPathForItem(point);
             if (path && path.item() == static_cast<long>(places.size())) {
                 places.push_back(point);
             }
@@ -114,7 +117,7 @@ void slide(benchmark::State& state) {
         touch(ui::GestureState::ended, places.back());
         state.PauseTiming();
         controller().selectedWords().removeAll();
-        controller().selectedIndexPaths().removeAll();
+        controller().send<"selectedIndexPaths", ns::MutableSet>().removeAll();
         state.ResumeTiming();
     }
     state.SetItemsProcessed(state.iterations() * state.range(0));

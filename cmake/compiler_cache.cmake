@@ -1,5 +1,2 @@
 # Compiles through ccache where it is installed.
-find_program(CCACHE ccache)
-if(CCACHE)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
-endif()
+set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_CURRENT_LIST_DIR}/compiler_launcher.sh)

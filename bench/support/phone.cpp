@@ -4,13 +4,14 @@
 #include "bindings/objc/pool.hpp"
 #include "desktop/deviceroot/deviceroot.hpp"
 #include "desktop/foundation/foundation.hpp"
+#include "desktop/platform/platform.hpp"
 #include "desktop/uikit/uikit.hpp"
 #include "library/labels/stored_rules.hpp"
-#include "library/startup/key_table.hpp"
-#include "library/startup/preference_keys.hpp"
-#include "library/startup/root_path.hpp"
-#include "tests/library/startup/property_list/property_list_writer.hpp"
-#include "tests/library/startup/temporary_folder.hpp"
+#include "library/paths/root_path.hpp"
+#include "library/preferences/key_table.hpp"
+#include "library/preferences/preference_keys.hpp"
+#include "tests/library/preferences/property_list/property_list_writer.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 #include <bit>
 #include <chrono>
@@ -27,12 +28,12 @@ namespace {
 using namespace wentra;
 
 /// Every known key, and others up to 150; the label switches are among the switches that are on.
-startup::WrittenEntries entries() {
+preferences::WrittenEntries entries() {
     constexpr std::size_t keyCount = 150;
     constexpr std::size_t labelKeys = 10;
-    startup::WrittenEntries entries;
-    using Keys = std::array<startup::Key, startup::knownKeyCount>;
-    for (const startup::Key& key : std::bit_cast<Keys>(startup::keys)) {
+    preferences::WrittenEntries entries;
+    using Keys = std::array<preferences::Key, preferences::knownKeyCount>;
+    for (const preferences::Key& key : std::bit_cast<Keys>(preferences::keys)) {
         entries.emplace_back(key.name(), entries.size() < labelKeys);
     }
     while (entries.size() < keyCount) {
@@ -41,8 +42,8 @@ startup::WrittenEntries entries() {
     return entries;
 }
 
-const startup::TemporaryFolder& deviceRoot() {
-    static const startup::TemporaryFolder folder;
+const support::TemporaryFolder& deviceRoot() {
+    static const support::TemporaryFolder folder;
     return folder;
 }
 
@@ -76,11 +77,11 @@ const std::string& preferenceFile(PlistForm form) {
         std::filesystem::create_directories(deviceRoot().path() /
                                             "var/jb/var/mobile/Library/Preferences");
         deviceroot_set(deviceRoot().path().c_str());
-        return startup::preferencePath();
+        return paths::preferencePath();
     }();
     std::ofstream(path, std::ios::binary)
-        << (form == PlistForm::xml ? startup::xmlPropertyList(entries())
-                                   : startup::binaryPropertyList(entries()));
+        << (form == PlistForm::xml ? preferences::xmlPropertyList(entries())
+                                   : preferences::binaryPropertyList(entries()));
     return path;
 }
 
@@ -89,7 +90,7 @@ void startPlatform() {
         preferenceFile(PlistForm::xml);
         static const objc::Pool pool; // for as long as the process measures
         desktop::foundation::install("com.example.bench");
-        desktop::uikit::registerClasses();
+        desktop::registerPlatform();
         desktop::uikit::startApplication({390, 844, 3});
         storeRules();
         return true;

@@ -23,24 +23,43 @@ struct Array : objc::Kind<Array, "NSArray"> {
         return send<"containsObject:", bool>(element);
     }
     /// The descriptions of the elements with the separator between them.
-    [[nodiscard]] String joined(String separator) const {
+    [[nodiscard]] String componentsJoined(String separator) const {
         return send<"componentsJoinedByString:", String>(separator);
     }
     /// A fresh array with the same elements, safe to walk while the original changes.
     [[nodiscard]] Array copied() const { return sendClass<"arrayWithArray:", Array>(*this); }
 
-    struct Iterator {
+    template <class Element>
+    struct IteratorOf {
         id array;
         unsigned long index;
-        objc::Object operator*() const { return objc::wrap<Array>(array).at(index); }
-        Iterator& operator++() {
+        Element operator*() const { return objc::wrap<Array>(array).at(index).assume<Element>(); }
+        IteratorOf& operator++() {
             ++index;
             return *this;
         }
-        friend bool operator==(const Iterator&, const Iterator&) = default;
+        friend bool operator==(const IteratorOf&, const IteratorOf&) = default;
     };
+    using Iterator = IteratorOf<objc::Object>;
     [[nodiscard]] Iterator begin() const { return {raw(), 0}; }
     [[nodiscard]] Iterator end() const { return {raw(), count()}; }
+};
+
+/// An array that is known to hold objects of one kind, which is not checked: what the platform
+/// promises. An array from elsewhere stays an `Array`, and its elements are asked with `as`.
+template <class Element>
+struct ArrayOf : Array {
+    using Array::Array;
+
+    [[nodiscard]] Element at(unsigned long index) const {
+        return Array::at(index).template assume<Element>();
+    }
+    /// Nil when there is none.
+    [[nodiscard]] Element first() const { return Array::first().template assume<Element>(); }
+    [[nodiscard]] ArrayOf copied() const { return Array::copied().template assume<ArrayOf>(); }
+
+    [[nodiscard]] IteratorOf<Element> begin() const { return {raw(), 0}; }
+    [[nodiscard]] IteratorOf<Element> end() const { return {raw(), count()}; }
 };
 
 struct MutableArray : objc::Kind<MutableArray, "NSMutableArray", Array> {
@@ -50,9 +69,9 @@ struct MutableArray : objc::Kind<MutableArray, "NSMutableArray", Array> {
     void insert(objc::Object element, unsigned long index) const {
         send<"insertObject:atIndex:">(element, index);
     }
-    void remove(objc::Object element) const { send<"removeObjectIdenticalTo:">(element); }
+    void removeIdentical(objc::Object element) const { send<"removeObjectIdenticalTo:">(element); }
     /// Every element that is equal to this one.
-    void removeEqual(objc::Object element) const { send<"removeObject:">(element); }
+    void remove(objc::Object element) const { send<"removeObject:">(element); }
     void removeAll() const { send<"removeAllObjects">(); }
 };
 

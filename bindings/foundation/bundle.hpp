@@ -9,7 +9,7 @@ struct Bundle : objc::Kind<Bundle, "NSBundle"> {
     using Kind::Kind;
 
     static Bundle mainBundle() { return sendClass<"mainBundle", Bundle>(); }
-    [[nodiscard]] String identifier() const { return send<"bundleIdentifier", String>(); }
+    [[nodiscard]] String bundleIdentifier() const { return send<"bundleIdentifier", String>(); }
 };
 
 } // namespace ns

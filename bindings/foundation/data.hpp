@@ -1,9 +1,17 @@
 // NSData.
 #pragma once
 
+#include "bindings/foundation/result.hpp"
 #include "bindings/foundation/string.hpp"
+#include "bindings/objc/options.hpp"
 
 namespace ns {
+
+using objc::operator|, objc::operator&, objc::operator~;
+
+/// The platform's bits. `atomic`: through a file beside it, so that nobody ever sees half of it.
+enum class DataWritingOptions : unsigned long { atomic = 1U << 0U, withoutOverwriting = 1U << 1U };
+constexpr bool areOptions(DataWritingOptions) { return true; }
 
 struct Data : objc::Kind<Data, "NSData"> {
     using Kind::Kind;
@@ -26,8 +34,10 @@ struct Data : objc::Kind<Data, "NSData"> {
     [[nodiscard]] String base64() const {
         return send<"base64EncodedStringWithOptions:", String>(0UL);
     }
-    bool writeToFile(String path, bool atomically) const {
-        return send<"writeToFile:atomically:", bool>(path, atomically);
+    /// Nil when the file holds the bytes.
+    [[nodiscard]] Error writeToFile(String path, DataWritingOptions options = {}) const {
+        const ErrorPointer error;
+        return error.unless(send<"writeToFile:options:error:", bool>(path, options, error.out()));
     }
 };
 

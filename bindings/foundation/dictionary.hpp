@@ -13,7 +13,7 @@ struct Dictionary : objc::Kind<Dictionary, "NSDictionary"> {
     static Dictionary withContentsOfFile(String path) {
         return sendClass<"dictionaryWithContentsOfFile:", Dictionary>(path);
     }
-    static Dictionary with(objc::Object value, objc::Object key) {
+    static Dictionary withObject(objc::Object value, objc::Object key) {
         return sendClass<"dictionaryWithObject:forKey:", Dictionary>(value, key);
     }
     [[nodiscard]] unsigned long count() const { return send<"count", unsigned long>(); }
@@ -27,7 +27,7 @@ struct Dictionary : objc::Kind<Dictionary, "NSDictionary"> {
 struct MutableDictionary : objc::Kind<MutableDictionary, "NSMutableDictionary", Dictionary> {
     using Kind::Kind;
 
-    static MutableDictionary copyOf(Dictionary other) {
+    static MutableDictionary withDictionary(Dictionary other) {
         return sendClass<"dictionaryWithDictionary:", MutableDictionary>(other);
     }
     void set(objc::Object value, objc::Object key) const { send<"setObject:forKey:">(value, key); }

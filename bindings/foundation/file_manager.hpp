@@ -8,7 +8,7 @@ namespace ns {
 struct FileManager : objc::Kind<FileManager, "NSFileManager"> {
     using Kind::Kind;
 
-    static FileManager standard() { return sendClass<"defaultManager", FileManager>(); }
+    static FileManager defaultManager() { return sendClass<"defaultManager", FileManager>(); }
     /// Files and folders alike; links are followed.
     [[nodiscard]] bool fileExists(String path) const {
         return send<"fileExistsAtPath:", bool>(path);

@@ -1,20 +1,13 @@
-// NSNotificationCenter and NSNotification.
+// NSNotificationCenter.
 #pragma once
 
 #include "bindings/foundation/dictionary.hpp"
 #include "bindings/foundation/exception.hpp"
+#include "bindings/foundation/notification.hpp"
 #include "bindings/foundation/operation_queue.hpp"
 #include "bindings/objc/block.hpp"
 
 namespace ns {
-
-struct Notification : objc::Kind<Notification, "NSNotification"> {
-    using Kind::Kind;
-
-    [[nodiscard]] String name() const { return send<"name", String>(); }
-    [[nodiscard]] objc::Object object() const { return send<"object", objc::Object>(); }
-    [[nodiscard]] Dictionary userInfo() const { return send<"userInfo", Dictionary>(); }
-};
 
 struct NotificationCenter : objc::Kind<NotificationCenter, "NSNotificationCenter"> {
     using Kind::Kind;
@@ -27,8 +20,8 @@ struct NotificationCenter : objc::Kind<NotificationCenter, "NSNotificationCenter
     }
     /// Calls `block` for each notification of that name (any object when `object` is nil); on the
     /// posting thread when `queue` is nil. The result is the observer's token.
-    objc::Object observe(String name, objc::Object object, OperationQueue queue,
-                         objc::Block<void(Notification)> block) const {
+    objc::Object addObserverForName(String name, objc::Object object, OperationQueue queue,
+                                    objc::Block<void(Notification)> block) const {
         return send<"addObserverForName:object:queue:usingBlock:", objc::Object>(name, object,
                                                                                  queue, block);
     }

@@ -1,11 +1,11 @@
 // NSNumber.
 #pragma once
 
-#include "bindings/objc/kind.hpp"
+#include "bindings/foundation/value.hpp"
 
 namespace ns {
 
-struct Number : objc::Kind<Number, "NSNumber"> {
+struct Number : objc::Kind<Number, "NSNumber", Value> {
     using Kind::Kind;
 
     static Number from(double value) { return sendClass<"numberWithDouble:", Number>(value); }

@@ -2,13 +2,16 @@
 #pragma once
 
 #include "bindings/foundation/array.hpp"
+#include "bindings/foundation/enumerator.hpp"
 
 namespace ns {
 
 struct Set : objc::Kind<Set, "NSSet"> {
     using Kind::Kind;
 
-    static Set with(objc::Object element) { return sendClass<"setWithObject:", Set>(element); }
+    static Set withObject(objc::Object element) {
+        return sendClass<"setWithObject:", Set>(element);
+    }
     static Set withArray(Array elements) { return sendClass<"setWithArray:", Set>(elements); }
     [[nodiscard]] unsigned long count() const { return send<"count", unsigned long>(); }
     /// Whether an equal element is there.
@@ -16,7 +19,19 @@ struct Set : objc::Kind<Set, "NSSet"> {
         return send<"containsObject:", bool>(element);
     }
     /// In no particular order.
+    [[nodiscard]] Enumerator objects() const { return send<"objectEnumerator", Enumerator>(); }
+    /// In no particular order.
     [[nodiscard]] Array allObjects() const { return send<"allObjects", Array>(); }
+};
+
+/// A set that is known to hold objects of one kind, which is not checked.
+template <class Element>
+struct SetOf : Set {
+    using Set::Set;
+
+    [[nodiscard]] ArrayOf<Element> allObjects() const {
+        return Set::allObjects().template assume<ArrayOf<Element>>();
+    }
 };
 
 struct MutableSet : objc::Kind<MutableSet, "NSMutableSet", Set> {

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "bindings/foundation/range.hpp"
+#include "bindings/foundation/string_constant.hpp"
 #include "bindings/objc/kind.hpp"
+#include "bindings/objc/options.hpp"
 #include "bindings/objc/strong.hpp"
 
 #include <optional>
@@ -10,6 +12,23 @@
 #include <string_view>
 
 namespace ns {
+
+using objc::operator|, objc::operator&, objc::operator~;
+
+/// How texts are compared and searched for; the platform's bits.
+enum class StringCompareOptions : unsigned long {
+    caseInsensitive = 1U << 0U,
+    literal = 1U << 1U,
+    backwards = 1U << 2U,
+    anchored = 1U << 3U,
+    numeric = 1U << 6U,
+    diacriticInsensitive = 1U << 7U,
+    widthInsensitive = 1U << 8U,
+};
+constexpr bool areOptions(StringCompareOptions) { return true; }
+
+/// The platform's numbers.
+enum class StringEncoding : unsigned long { ascii = 1, utf8 = 4, isoLatin1 = 5, utf16 = 10 };
 
 struct String : objc::Kind<String, "NSString"> {
     using Kind::Kind;
@@ -21,10 +40,9 @@ struct String : objc::Kind<String, "NSString"> {
     }
     /// A new string from UTF-8; nil when the bytes are not UTF-8.
     static String fromUtf8(std::string_view text) {
-        constexpr unsigned long utf8Encoding = 4; // NSUTF8StringEncoding
         return make<"initWithBytes:length:encoding:">(static_cast<const void*>(text.data()),
                                                       static_cast<unsigned long>(text.size()),
-                                                      utf8Encoding);
+                                                      StringEncoding::utf8);
     }
 
     [[nodiscard]] unsigned long length() const { return send<"length", unsigned long>(); }
@@ -32,11 +50,11 @@ struct String : objc::Kind<String, "NSString"> {
     [[nodiscard]] bool isEqualToString(String other) const {
         return send<"isEqualToString:", bool>(other);
     }
-    /// Where `other` stands first in that range, whatever its case; nothing where it does not.
-    [[nodiscard]] std::optional<ns::Range> findIgnoringCase(String other, ns::Range range) const {
-        constexpr unsigned long caseInsensitive = 1;
-        const auto found =
-            send<"rangeOfString:options:range:", ns::Range>(other, caseInsensitive, range);
+    /// Where `other` stands in that range, first unless searched backwards; nothing where it does
+    /// not.
+    [[nodiscard]] std::optional<ns::Range> rangeOf(String other, StringCompareOptions options,
+                                                   ns::Range range) const {
+        const auto found = send<"rangeOfString:options:range:", ns::Range>(other, options, range);
         return found.length == 0 ? std::nullopt : std::optional(found);
     }
     void getCharacters(char16_t* buffer, ns::Range range) const {
@@ -55,35 +73,21 @@ struct String : objc::Kind<String, "NSString"> {
     }
 };
 
-/// What the object says of itself, for people.
-inline String description(objc::Object object) { return object.send<"description", String>(); }
+struct MutableString : objc::Kind<MutableString, "NSMutableString", String> {
+    using Kind::Kind;
 
-namespace detail {
-
-/// A UTF-16 literal as a template argument.
-template <std::size_t Size>
-struct Utf16Literal {
-    char16_t text[Size]{};
-    // NOLINTNEXTLINE(google-explicit-constructor): the compiler makes it from a literal.
-    constexpr Utf16Literal(const char16_t (&characters)[Size]) {
-        std::copy_n(characters, Size, text);
-    }
-    [[nodiscard]] constexpr std::u16string_view view() const { return {text, Size - 1}; }
+    void append(String text) const { send<"appendString:">(text); }
 };
 
-} // namespace detail
+/// What the object says of itself, for people.
+inline String description(objc::Object object) { return object.send<"description", String>(); }
 
 inline namespace literals {
 
 /// `u"你好"_ns`: one string object for the life of the process.
 template <detail::Utf16Literal Text>
 String operator""_ns() {
-    static const String constant = [] {
-        return String::sendClass<"alloc", String>().send<"initWithCharacters:length:", String>(
-            static_cast<const char16_t*>(Text.text),
-            static_cast<unsigned long>(Text.view().size()));
-    }();
-    return constant;
+    return objc::wrap<String>(detail::stringConstant<Text>.object());
 }
 
 } // namespace literals

@@ -9,7 +9,7 @@ struct Url : objc::Kind<Url, "NSURL"> {
     using Kind::Kind;
 
     /// Nil when the text is not a URL.
-    static Url from(String text) { return sendClass<"URLWithString:", Url>(text); }
+    static Url withString(String text) { return sendClass<"URLWithString:", Url>(text); }
     [[nodiscard]] String absoluteString() const { return send<"absoluteString", String>(); }
 };
 

@@ -1,7 +1,6 @@
-// NSURLResponse and NSHTTPURLResponse.
+// NSURLResponse.
 #pragma once
 
-#include "bindings/foundation/dictionary.hpp"
 #include "bindings/foundation/url.hpp"
 
 namespace ns {
@@ -11,15 +10,6 @@ struct UrlResponse : objc::Kind<UrlResponse, "NSURLResponse"> {
 
     /// Where the answer came from, after redirections.
     [[nodiscard]] Url url() const { return send<"URL", Url>(); }
-};
-
-struct HttpUrlResponse : objc::Kind<HttpUrlResponse, "NSHTTPURLResponse", UrlResponse> {
-    using Kind::Kind;
-
-    [[nodiscard]] long statusCode() const { return send<"statusCode", long>(); }
-    [[nodiscard]] Dictionary allHeaderFields() const {
-        return send<"allHeaderFields", Dictionary>();
-    }
 };
 
 } // namespace ns

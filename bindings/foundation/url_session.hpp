@@ -1,4 +1,4 @@
-// NSURLSession and its tasks: loading what URLs point to.
+// NSURLSession: loads what URLs point to.
 #pragma once
 
 #include "bindings/foundation/data.hpp"
@@ -6,46 +6,12 @@
 #include "bindings/foundation/operation_queue.hpp"
 #include "bindings/foundation/url_request.hpp"
 #include "bindings/foundation/url_response.hpp"
+#include "bindings/foundation/url_session_configuration.hpp"
+#include "bindings/foundation/url_session_data_task.hpp"
+#include "bindings/foundation/url_session_download_task.hpp"
 #include "bindings/objc/block.hpp"
 
 namespace ns {
-
-/// The platform's numbers.
-enum class UrlSessionTaskState : long { running = 0, suspended = 1, canceling = 2, completed = 3 };
-
-struct UrlSessionTask : objc::Kind<UrlSessionTask, "NSURLSessionTask"> {
-    using Kind::Kind;
-
-    /// Starts the load, or goes on with it: a task is made suspended.
-    void resume() const { send<"resume">(); }
-    /// The task ends with the error "cancelled" (-999).
-    void cancel() const { send<"cancel">(); }
-    [[nodiscard]] UrlSessionTaskState state() const { return send<"state", UrlSessionTaskState>(); }
-    [[nodiscard]] UrlResponse response() const { return send<"response", UrlResponse>(); }
-    [[nodiscard]] Error error() const { return send<"error", Error>(); }
-};
-
-struct UrlSessionDataTask : objc::Kind<UrlSessionDataTask, "NSURLSessionDataTask", UrlSessionTask> {
-    using Kind::Kind;
-};
-
-struct UrlSessionDownloadTask
-    : objc::Kind<UrlSessionDownloadTask, "NSURLSessionDownloadTask", UrlSessionTask> {
-    using Kind::Kind;
-};
-
-struct UrlSessionConfiguration : objc::Kind<UrlSessionConfiguration, "NSURLSessionConfiguration"> {
-    using Kind::Kind;
-
-    /// A fresh one that may be changed.
-    static UrlSessionConfiguration defaultConfiguration() {
-        return sendClass<"defaultSessionConfiguration", UrlSessionConfiguration>();
-    }
-    /// Seconds.
-    void setTimeoutIntervalForRequest(double seconds) const {
-        send<"setTimeoutIntervalForRequest:">(seconds);
-    }
-};
 
 struct UrlSession : objc::Kind<UrlSession, "NSURLSession"> {
     using Kind::Kind;

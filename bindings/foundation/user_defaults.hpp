@@ -8,7 +8,9 @@ namespace ns {
 struct UserDefaults : objc::Kind<UserDefaults, "NSUserDefaults"> {
     using Kind::Kind;
 
-    static UserDefaults standard() { return sendClass<"standardUserDefaults", UserDefaults>(); }
+    static UserDefaults standardUserDefaults() {
+        return sendClass<"standardUserDefaults", UserDefaults>();
+    }
     [[nodiscard]] objc::Object get(String key) const {
         return send<"objectForKey:", objc::Object>(key);
     }

@@ -11,6 +11,18 @@ namespace {
 
 std::string textOf(ns::String text) { return text ? text.utf8() : std::string(); }
 
+/// Tells log and notification centre of the exception being handled.
+void report(const std::string& where) {
+    using namespace ns::literals;
+    const ExceptionText text = describeCurrentException();
+    logLine("swallowed at " + where + ": " + text.name + ": " + text.reason);
+    auto details = ns::MutableDictionary::make();
+    details.set(ns::String::fromUtf8(where), u"where"_ns);
+    details.set(ns::String::fromUtf8(text.name), u"name"_ns);
+    details.set(ns::String::fromUtf8(text.reason), u"reason"_ns);
+    ns::NotificationCenter::defaultCenter().post(u"WentraExceptionSwallowed"_ns, nullptr, details);
+}
+
 } // namespace
 
 ExceptionText describeCurrentException() {
@@ -26,15 +38,15 @@ ExceptionText describeCurrentException() {
 void reportSwallowed(const char* where) noexcept {
     try {
         const Pool pool;
-        const ExceptionText text = describeCurrentException();
-        logLine(std::string("swallowed at ") + where + ": " + text.name + ": " + text.reason);
-        using namespace ns::literals;
-        auto details = ns::MutableDictionary::make();
-        details.set(ns::String::fromUtf8(where), u"where"_ns);
-        details.set(ns::String::fromUtf8(text.name), u"name"_ns);
-        details.set(ns::String::fromUtf8(text.reason), u"reason"_ns);
-        ns::NotificationCenter::defaultCenter().post(u"WentraExceptionSwallowed"_ns, nullptr,
-                                                     details);
+        report(where);
+    } catch (...) { // NOLINT(bugprone-empty-catch): there is nobody left to tell.
+    }
+}
+
+void reportSwallowed(SEL method, const char* className) noexcept {
+    try {
+        const Pool pool;
+        report((className != nullptr ? std::string(className) + " " : "") + sel_getName(method));
     } catch (...) { // NOLINT(bugprone-empty-catch): there is nobody left to tell.
     }
 }

@@ -1,6 +1,8 @@
 // The border that no exception of ours crosses: what a hook throws is reported and ends there.
 #pragma once
 
+#include "bindings/objc/passing.hpp"
+
 #include <string>
 #include <utility>
 
@@ -27,6 +29,9 @@ struct ExceptionText {
 /// "where", "name" and "reason". Call it inside a `catch` block only; it throws nothing itself.
 void reportSwallowed(const char* where) noexcept;
 
+/// The same for the method that is running: its selector, and its class where that is known.
+void reportSwallowed(SEL method, const char* className = nullptr) noexcept;
+
 /// Writes a line to the system log, after "Wentra: ". UTF-8. Throws nothing.
 void logLine(const std::string& text) noexcept;
 
@@ -38,7 +43,7 @@ auto contained(const char* where, Body&& body) noexcept {
         return std::forward<Body>(body)();
     } catch (...) {
         reportSwallowed(where);
-        return Result();
+        return zero<Result>();
     }
 }
 

@@ -7,6 +7,20 @@
 
 namespace objc {
 
+/// A class by its name.
+class ClassReference {
+public:
+    constexpr explicit ClassReference(const char* name) : name_(name) {}
+
+    /// The class, or null while no image has brought it. A class that was found is not looked up
+    /// again; a missing one is, since it may be loaded later. Any thread.
+    Class get();
+
+private:
+    const char* name_;
+    std::atomic<Class> known_{nullptr};
+};
+
 /// `struct Label : objc::Kind<Label, "UILabel", View> { … }`: one line for each message.
 template <class Self, Literal Name, class Super = Object>
 struct Kind : Super {
@@ -16,16 +30,10 @@ struct Kind : Super {
     constexpr Kind() = default;
     constexpr Kind(std::nullptr_t) {}
 
-    /// The class, or null while no image has brought it. A class that was found is not looked up
-    /// again; a missing one is, since it may be loaded later.
+    /// The class, or null while no image has brought it.
     static Class classObject() {
-        static constinit std::atomic<Class> known{nullptr};
-        Class found = known.load(std::memory_order_relaxed);
-        if (found == nullptr) [[unlikely]] {
-            found = objc_lookUpClass(Name.data());
-            known.store(found, std::memory_order_relaxed);
-        }
-        return found;
+        static constinit ClassReference reference(Name.data());
+        return reference.get();
     }
 
     /// Sends a message to the class itself.
@@ -37,9 +45,8 @@ struct Kind : Super {
     /// alloc, the given initialiser, autorelease: a new object, borrowed from the pool.
     template <Literal Initialiser = "init", class... Arguments>
     static Self make(Arguments... arguments) {
-        return sendClass<"alloc", Object>()
-            .template send<Initialiser, Object>(arguments...)
-            .template send<"autorelease", Self>();
+        const id made = objc_alloc(classObject());
+        return wrap<Self>(objc_autorelease(objc::send<Initialiser, id>(made, arguments...)));
     }
 };
 

@@ -1,28 +1,44 @@
 // Adding rows of a method table to a class in construction.
 #include "bindings/objc/method.hpp"
 
-#include <vector>
+#include <cstring>
+#include <string_view>
 
 namespace objc {
+namespace {
+
+void addProperty(const MethodRow& row, Class cls) {
+    const PropertyRow& property = *row.property;
+    class_addMethod(cls, sel_registerName(property.setter),
+                    implementationAt(property.setterImplementation), property.setterTypes);
+
+    std::array<objc_property_attribute_t, 4> attributes{};
+    unsigned int count = 0;
+    attributes[count++] = {"T", property.type};
+    if (property.ownership != nullptr) {
+        attributes[count++] = {property.ownership, ""};
+    }
+    attributes[count++] = {"N", ""};
+    if (std::string_view(row.selector) != property.name) {
+        attributes[count++] = {"G", row.selector};
+    }
+    class_addProperty(cls, property.name, attributes.data(), count);
+}
+
+} // namespace
+
+IMP implementationAt(FunctionPlace place) {
+    IMP implementation = nullptr;
+    std::memcpy(static_cast<void*>(&implementation), place, sizeof implementation);
+    return implementation;
+}
 
 void addMethod(const MethodRow& row, Class cls) {
     const Class target = row.side == Side::type ? object_getClass(object(cls)) : cls;
-    class_addMethod(target, sel_registerName(row.selector), row.implementation, row.types);
-    if (row.setter != nullptr) {
-        class_addMethod(target, sel_registerName(row.setter), row.setterImplementation,
-                        row.setterTypes);
-    }
+    class_addMethod(target, sel_registerName(row.selector), implementationAt(row.implementation),
+                    row.types);
     if (row.property != nullptr) {
-        std::vector<objc_property_attribute_t> attributes{{"T", row.propertyType}};
-        if (row.propertyOwnership != nullptr) {
-            attributes.push_back({row.propertyOwnership, ""});
-        }
-        attributes.push_back({"N", ""});
-        if (std::string_view(row.selector) != row.property) {
-            attributes.push_back({"G", row.selector});
-        }
-        class_addProperty(cls, row.property, attributes.data(),
-                          static_cast<unsigned int>(attributes.size()));
+        addProperty(row, cls);
     }
 }
 

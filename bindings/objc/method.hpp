@@ -4,28 +4,42 @@
 #include "bindings/objc/boundary.hpp"
 #include "bindings/objc/encoding.hpp"
 
-#include <functional>
+#include <array>
 
 namespace objc {
 
 /// Whether a method belongs to the instances or to the class.
 enum class Side { instance, type };
 
-/// One row: what the runtime needs to know of a method, and of the property that it belongs to.
-/// Made by `method`, `classMethod`, `property` and `flag`.
-struct MethodRow {
-    Side side = Side::instance;
-    const char* selector = nullptr;
-    IMP implementation = nullptr;
-    const char* types = nullptr;
-    /// A property's setter, null for plain methods.
+/// A function of some type, as a row keeps it: the address of a constant that holds its pointer.
+/// Rows are constants, and a constant may not cast a function pointer.
+using FunctionPlace = const void*;
+template <auto Function>
+inline constexpr auto placed = Function;
+
+/// The function at that place, as the runtime takes it.
+IMP implementationAt(FunctionPlace place);
+
+/// What belongs to a property beyond its getter.
+struct PropertyRow {
+    const char* name = nullptr;
     const char* setter = nullptr;
-    IMP setterImplementation = nullptr;
+    FunctionPlace setterImplementation = nullptr;
     const char* setterTypes = nullptr;
-    /// The property's name, its type's encoding and whether it keeps what is assigned ("&", "C").
-    const char* property = nullptr;
-    const char* propertyType = nullptr;
-    const char* propertyOwnership = nullptr;
+    /// The type's encoding, and whether the property keeps what is assigned ("&", "C"), forgets it
+    /// when it dies ("W") or neither (null).
+    const char* type = nullptr;
+    const char* ownership = nullptr;
+};
+
+/// One row: what the runtime needs to know of a method, and of the property that it gets. Made by
+/// `method`, `classMethod`, `property` and `flag`.
+struct MethodRow {
+    const char* selector = nullptr;
+    FunctionPlace implementation = nullptr;
+    const char* types = nullptr;
+    const PropertyRow* property = nullptr; ///< null for plain methods
+    Side side = Side::instance;
 };
 
 /// Adds the row's methods and property to a class that is being made.
@@ -66,14 +80,19 @@ struct Trampoline;
 template <auto Member, class R, class... A>
 struct Trampoline<Member, R(A...)> {
     using Owner = typename MemberType<decltype(Member)>::Owner;
-    static Passed<R> call(id self, SEL name, Passed<A>... arguments) {
-        auto body = [&]() -> Passed<R> {
-            return std::invoke(Member, Owner::of(wrap(self)), received<Lent<A>>(arguments)...);
-        };
-        if constexpr (Owner::border == Boundary::contained) {
-            return contained(sel_getName(name), body);
+    static Passed<R> call(id self, [[maybe_unused]] SEL name, Passed<A>... arguments) {
+        auto&& peer = Owner::of(wrap(self));
+        if constexpr (std::is_member_object_pointer_v<decltype(Member)>) {
+            return peer.*Member;
+        } else if constexpr (Owner::border == Boundary::propagates) {
+            return (peer.*Member)(received<Lent<A>>(arguments)...);
         } else {
-            return body();
+            try {
+                return (peer.*Member)(received<Lent<A>>(arguments)...);
+            } catch (...) {
+                reportSwallowed(name);
+            }
+            return zero<Passed<R>>();
         }
     }
 };
@@ -83,11 +102,12 @@ template <auto Member, auto Changed>
 struct Assignment {
     using Owner = typename MemberType<decltype(Member)>::Owner;
     using Value = typename MemberType<decltype(Member)>::Value;
-    static void call(id self, SEL, Passed<Value> value) {
+    static void call(id self, [[maybe_unused]] SEL name, Passed<Value> value) {
         Owner& peer = Owner::of(wrap(self));
         peer.*Member = received<Lent<Value>>(value);
         if constexpr (!std::is_null_pointer_v<decltype(Changed)>) {
-            std::invoke(Changed, peer);
+            constexpr auto tell = &Trampoline<Changed>::call;
+            tell(self, name);
         }
     }
 };
@@ -107,6 +127,8 @@ constexpr const char* ownership() {
         return "C";
     } else if constexpr (std::is_same_v<T, Strong<Lent<T>>>) {
         return "&";
+    } else if constexpr (std::is_same_v<T, Weak<Lent<T>>>) {
+        return "W";
     } else {
         return nullptr;
     }
@@ -123,70 +145,71 @@ struct ClassTrampoline<Function, R (*)(Class, A...)> {
     }
 };
 
+/// What a property in a data member has beyond its getter.
+template <Literal Name, auto Member, auto Changed>
+inline constexpr PropertyRow assignable{
+    Name.data(),
+    setterOf<Name>.data(),
+    &placed<&Assignment<Member, Changed>::call>,
+    types<void(Lent<typename MemberType<decltype(Member)>::Value>)>,
+    encoded<typename MemberType<decltype(Member)>::Value>.data(),
+    ownership<typename MemberType<decltype(Member)>::Value>()};
+
+/// What a property with a setter of its own has beyond its getter.
+template <Literal Name, auto Getter, auto Setter>
+inline constexpr PropertyRow computed{Name.data(),
+                                      setterOf<Name>.data(),
+                                      &placed<&Trampoline<Setter>::call>,
+                                      types<typename MemberType<decltype(Setter)>::Signature>,
+                                      encoded<typename MemberType<decltype(Getter)>::Result>.data(),
+                                      nullptr};
+
 } // namespace detail
 
 /// An instance method: `method<"drawRect:", &Grip::drawRect>()`. A data member answers its value.
 template <Literal Selector, auto Member>
-MethodRow method() {
+constexpr MethodRow method() {
     using Type = detail::MemberType<decltype(Member)>;
     static_assert(argumentCount(Selector) == Type::argumentCount,
                   "a selector has one colon for each argument");
-    MethodRow row;
-    row.selector = Selector.data();
-    row.implementation = reinterpret_cast<IMP>(&detail::Trampoline<Member>::call);
-    row.types = detail::types<typename Type::Signature>;
-    return row;
+    return {Selector.data(), &placed<&detail::Trampoline<Member>::call>,
+            detail::types<typename Type::Signature>};
 }
 
 /// A class method, a static function that takes the receiving class first:
 /// `classMethod<"colorWithWhite:alpha:", &Color::withWhite>()`.
 template <Literal Selector, auto Function>
-MethodRow classMethod() {
+constexpr MethodRow classMethod() {
     using Call = detail::ClassTrampoline<Function>;
-    MethodRow row;
-    row.side = Side::type;
-    row.selector = Selector.data();
-    row.implementation = reinterpret_cast<IMP>(&Call::call);
-    row.types = detail::types<typename Call::Signature>;
-    return row;
+    return {Selector.data(), &placed<&Call::call>, detail::types<typename Call::Signature>, nullptr,
+            Side::type};
 }
 
 /// A property kept in a data member, with its getter and setter; `Changed`, when given, is a member
 /// function that is called after each assignment. The member's type says who owns the value
-/// (`Strong`, `Copied` or a plain value): `property<"textColor", &Label::textColor_,
+/// (`Strong`, `Copied`, `Weak` or a plain value): `property<"textColor", &Label::textColor_,
 /// &Label::redraw>()`.
 template <Literal Name, auto Member, auto Changed = nullptr>
-requires(!std::is_member_function_pointer_v<decltype(Member)>) MethodRow property() {
-    using Value = typename detail::MemberType<decltype(Member)>::Value;
+requires(!std::is_member_function_pointer_v<decltype(Member)>) constexpr MethodRow property() {
     MethodRow row = method<Name, Member>();
-    row.setter = detail::setterOf<Name>.data();
-    row.setterImplementation = reinterpret_cast<IMP>(&detail::Assignment<Member, Changed>::call);
-    row.setterTypes = detail::types<void(Lent<Value>)>;
-    row.property = Name.data();
-    row.propertyType = detail::encoded<Value>.data();
-    row.propertyOwnership = detail::ownership<Value>();
+    row.property = &detail::assignable<Name, Member, Changed>;
     return row;
 }
 
 /// A property with a getter and a setter of its own: `property<"frame", &View::frame,
 /// &View::setFrame>()`.
 template <Literal Name, auto Getter, auto Setter>
-requires(std::is_member_function_pointer_v<decltype(Getter)>) MethodRow property() {
+requires(std::is_member_function_pointer_v<decltype(Getter)>) constexpr MethodRow property() {
+    static_assert(detail::MemberType<decltype(Setter)>::argumentCount == 1);
     MethodRow row = method<Name, Getter>();
-    const MethodRow setter = method<detail::setterOf<Name>, Setter>();
-    row.setter = setter.selector;
-    row.setterImplementation = setter.implementation;
-    row.setterTypes = setter.types;
-    row.property = Name.data();
-    row.propertyType =
-        detail::encoded<typename detail::MemberType<decltype(Getter)>::Result>.data();
+    row.property = &detail::computed<Name, Getter, Setter>;
     return row;
 }
 
 /// A boolean property whose getter begins with "is": `flag<"hidden", &View::hidden_>()` answers
 /// `isHidden` and `setHidden:`.
 template <Literal Name, auto Member, auto Changed = nullptr>
-MethodRow flag() {
+constexpr MethodRow flag() {
     MethodRow row = property<Name, Member, Changed>();
     row.selector = detail::flagGetterOf<Name>.data();
     return row;

@@ -6,24 +6,62 @@
 #include <bit>
 #include <memory>
 #include <new>
+#include <span>
 
 namespace objc {
+namespace detail {
+
+/// A class as it is declared to the runtime.
+struct ClassDeclaration {
+    const char* name;
+    Class superclass;
+    std::size_t peerSize;
+    std::size_t peerAlignment;
+    IMP allocate;
+    IMP deallocate;
+};
+
+/// What is known of a class once it is made.
+struct MadeClass {
+    Class cls = nullptr;
+    std::ptrdiff_t peerOffset = 0;
+};
+
+/// Makes the class known to the runtime; a null class when the name is taken.
+MadeClass makeClass(const ClassDeclaration& declaration, std::span<const MethodRow> rows);
+
+/// The superclass's allocation, for a new instance of `cls`.
+id allocateBySuperclass(Class registered, Class cls, SEL name, void* zone);
+
+/// The superclass's deallocation, for an instance whose peer is destroyed. The object is an
+/// instance of the superclass from now on, as in C++: what is sent to it meanwhile reaches the
+/// superclass's methods, and none that needs the peer.
+void deallocateBySuperclass(Class registered, id instance, SEL name);
+
+/// Whether the class's rows are known to the compiler.
+template <class Self>
+concept ConstantRows = requires {
+    typename std::bool_constant<(Self::methods(), true)>;
+};
+
+} // namespace detail
 
 /// The base of a class written in C++:
 ///
-///     class Grip : public objc::Peer<Grip, GripKind> {
+///     class GripPeer : public objc::Peer<GripPeer, Grip> {
 ///     public:
-///         static auto methods() {
-///             return std::array{objc::method<"drawRect:", &Grip::drawRect>()};
+///         static constexpr auto methods() {
+///             return std::array{objc::method<"drawRect:", &GripPeer::drawRect>()};
 ///         }
 ///     private:
 ///         void drawRect(CGRect dirty);
 ///     };
 ///
-/// `Kind` names the class and its superclass (an `objc::Kind`). The peer is constructed inside the
-/// instance when the object is allocated, after the superclass's peer, and destroyed when it is
-/// deallocated. `methods()` is the only place that knows selectors; type encodings come from the
-/// member functions' types.
+/// `Kind`, the handle, names the class and its superclass (an `objc::Kind`). The peer is
+/// constructed inside the instance when the object is allocated, after the superclass's peer, and
+/// destroyed when it is deallocated. `methods()` is the only place that knows selectors; type
+/// encodings come from the member functions' types. Where it is `constexpr`, the rows are constants
+/// of the image.
 template <class Self, class KindOfSelf, Boundary Border = Boundary::contained>
 class Peer {
 public:
@@ -38,18 +76,19 @@ public:
     static Class registerClass();
 
     /// The class made by `registerClass`; null before, or when the name was taken.
-    static Class registeredClass() { return registered_; }
+    static Class registeredClass() { return made_.cls; }
 
     /// The peer inside `object`, which must be an instance of the class or of a subclass.
     static Self& of(Object object) {
-        return *reinterpret_cast<Self*>(reinterpret_cast<std::byte*>(object.raw()) + offset_);
+        return *reinterpret_cast<Self*>(reinterpret_cast<std::byte*>(object.raw()) +
+                                        made_.peerOffset);
     }
 
     /// The object that this peer lives in.
     [[nodiscard]] Kind self() const {
         // The object is not const because its peer is looked at.
         auto* bytes = reinterpret_cast<std::byte*>(const_cast<Peer*>(this));
-        return wrap<Kind>(reinterpret_cast<id>(bytes - offset_));
+        return wrap<Kind>(reinterpret_cast<id>(bytes - made_.peerOffset));
     }
 
 protected:
@@ -59,16 +98,13 @@ protected:
     /// Sends the message to the superclass's implementation.
     template <Literal Name, class Result = void, class... Arguments>
     Result super(Arguments... arguments) const {
-        return sendSuper<Name, Result>(class_getSuperclass(registered_), self().raw(),
-                                       arguments...);
+        return sendSuper<Name, Result>(class_getSuperclass(made_.cls), self().raw(), arguments...);
     }
 
 private:
     static id allocate(id cls, SEL name, void* zone) {
         const id instance =
-            invoke<id>(class_getMethodImplementation(
-                           object_getClass(object(class_getSuperclass(registered_))), name),
-                       cls, name, zone);
+            detail::allocateBySuperclass(made_.cls, reinterpret_cast<Class>(cls), name, zone);
         if (instance != nullptr) {
             new (&of(wrap(instance))) Self();
         }
@@ -76,36 +112,30 @@ private:
     }
     static void deallocate(id instance, SEL name) {
         std::destroy_at(&of(wrap(instance)));
-        invoke<void>(class_getMethodImplementation(class_getSuperclass(registered_), name),
-                     instance, name);
+        detail::deallocateBySuperclass(made_.cls, instance, name);
+    }
+    static auto rows() {
+        if constexpr (detail::ConstantRows<Self>) {
+            static constexpr auto constant = Self::methods();
+            return std::span<const MethodRow>(constant);
+        } else {
+            return Self::methods();
+        }
     }
 
-    static inline Class registered_ = nullptr;
-    static inline std::ptrdiff_t offset_ = 0;
+    static inline detail::MadeClass made_;
 };
 
 template <class Self, class Kind, Boundary Border>
 Class Peer<Self, Kind, Border>::registerClass() {
-    const Class made =
-        objc_lookUpClass(Kind::className.data()) != nullptr
-            ? nullptr
-            : objc_allocateClassPair(Kind::Superkind::classObject(), Kind::className.data(), 0);
-    if (made == nullptr) {
-        return nullptr;
+    const auto made = detail::makeClass(
+        {Kind::className.data(), Kind::Superkind::classObject(), sizeof(Self), alignof(Self),
+         reinterpret_cast<IMP>(&allocate), reinterpret_cast<IMP>(&deallocate)},
+        rows());
+    if (made.cls != nullptr) {
+        made_ = made;
     }
-    registered_ = made;
-    // Named after the class: a superclass's peer has a variable of its own.
-    class_addIvar(made, Kind::className.data(), sizeof(Self),
-                  static_cast<unsigned char>(std::countr_zero(alignof(Self))), "?");
-    const Class meta = object_getClass(object(made));
-    class_addMethod(meta, selector<"allocWithZone:">(), reinterpret_cast<IMP>(&allocate), "@@:^v");
-    class_addMethod(made, selector<"dealloc">(), reinterpret_cast<IMP>(&deallocate), "v@:");
-    for (const MethodRow& row : Self::methods()) {
-        addMethod(row, made);
-    }
-    objc_registerClassPair(made);
-    offset_ = ivar_getOffset(class_getInstanceVariable(made, Kind::className.data()));
-    return made;
+    return made.cls;
 }
 
 } // namespace objc

@@ -1,20 +1,20 @@
 // An autorelease pool for a scope.
 #pragma once
 
-#include "bindings/objc/kind.hpp"
+#include "bindings/objc/runtime.hpp"
 
 namespace objc {
 
 /// Objects autoreleased in the scope on this thread are released at its end.
 class Pool {
 public:
-    Pool() : pool_(objc::send<"new", id>(object(objc_getClass("NSAutoreleasePool")))) {}
+    Pool() : pool_(objc_autoreleasePoolPush()) {}
     Pool(const Pool&) = delete;
     Pool& operator=(const Pool&) = delete;
-    ~Pool() { objc::send<"drain">(pool_); }
+    ~Pool() { objc_autoreleasePoolPop(pool_); }
 
 private:
-    id pool_;
+    void* pool_;
 };
 
 } // namespace objc

@@ -39,6 +39,12 @@ Class objc_allocateClassPair(Class superclass, const char* name, std::size_t ext
 void objc_registerClassPair(Class cls);
 
 Class object_setClass(id object, Class cls);
+id objc_alloc(Class cls);
+id objc_retain(id object) noexcept;
+void objc_release(id object) noexcept;
+id objc_autorelease(id object) noexcept;
+void* objc_autoreleasePoolPush() noexcept;
+void objc_autoreleasePoolPop(void* pool) noexcept;
 const char* object_getClassName(id object);
 
 const char* class_getName(Class cls);
@@ -73,6 +79,11 @@ objc::Boolean sel_isEqual(SEL first, SEL second);
 void objc_setAssociatedObject(id object, const void* key, id value, unsigned long policy);
 id objc_getAssociatedObject(id object, const void* key);
 
+id objc_initWeak(id* place, id object);
+id objc_storeWeak(id* place, id object);
+id objc_loadWeakRetained(id* place);
+void objc_destroyWeak(id* place);
+
 #ifdef __APPLE__
 Class object_getClass(id object);
 void objc_msgSend();
@@ -90,8 +101,15 @@ inline Class object_getClass(id object) {
 
 namespace objc {
 
-/// The function that a message to `receiver` (not nil) reaches, to be called with the receiver and
-/// the selector before the arguments. Unknown selectors reach the runtime's forwarding.
+/// Whether `lookUp` takes nil, and what it returns answers zero then in the registers of a result.
+#ifdef __APPLE__
+inline constexpr bool lookUpTakesNil = true;
+#else
+inline constexpr bool lookUpTakesNil = false;
+#endif
+
+/// The function that a message to `receiver` reaches, to be called with the receiver and the
+/// selector before the arguments. Unknown selectors reach the runtime's forwarding.
 inline IMP lookUp([[maybe_unused]] id receiver, [[maybe_unused]] SEL selector) {
 #ifdef __APPLE__
     return &objc_msgSend;

@@ -23,11 +23,19 @@ Result invoke(IMP implementation, id receiver, SEL name, Arguments... arguments)
     }
 }
 
+/// Whether the runtime's own send answers zero for nil: where it does, results in registers need no
+/// test of ours.
+template <class Result>
+inline constexpr bool answersNil = lookUpTakesNil;
+template <class Result>
+requires(std::is_class_v<Result> &&
+         sizeof(Result) > 2 * sizeof(id)) inline constexpr bool answersNil<Result> = false;
+
 /// Sends a message whose selector is known only at run time. A nil receiver answers zero.
 template <class Result = void, class... Arguments>
 Result sendTo(id receiver, SEL name, Arguments... arguments) {
-    if (receiver == nullptr) {
-        return Result();
+    if (!answersNil<Result> && receiver == nullptr) {
+        return zero<Result>();
     }
     return invoke<Result, Arguments...>(lookUp(receiver, name), receiver, name, arguments...);
 }

@@ -1,4 +1,4 @@
-// Ownership seen in the type: Strong retains, Copied copies, a plain handle borrows.
+// Ownership seen in the type: Strong retains, Copied copies, a plain handle borrows. See also Weak.
 #pragma once
 
 #include "bindings/objc/object.hpp"
@@ -15,10 +15,10 @@ public:
     constexpr Strong() = default;
     constexpr Strong(std::nullptr_t) {}
     // NOLINTNEXTLINE(google-explicit-constructor): keeping is what an assignment to Strong says.
-    Strong(Kind borrowed) : Kind(borrowed) { this->template send<"retain", id>(); }
+    Strong(Kind borrowed) : Kind(borrowed) { objc_retain(this->raw()); }
     Strong(const Strong& other) : Strong(static_cast<const Kind&>(other)) {}
     Strong(Strong&& other) noexcept : Kind(other.release()) {}
-    ~Strong() { this->template send<"release">(); }
+    ~Strong() { objc_release(this->raw()); }
 
     Strong& operator=(Strong other) noexcept {
         std::swap(static_cast<Kind&>(*this), static_cast<Kind&>(other));
@@ -34,7 +34,7 @@ public:
 
     /// A reference that the current pool keeps alive, whatever becomes of this one.
     [[nodiscard]] Kind autoreleased() const {
-        return this->template send<"retain", Object>().template send<"autorelease", Kind>();
+        return wrap<Kind>(objc_autorelease(objc_retain(this->raw())));
     }
 
     /// Gives the reference up: the caller owns it from now on.

@@ -9,7 +9,7 @@ struct ScreenRecorder : objc::Kind<ScreenRecorder, "RPScreenRecorder"> {
     using Kind::Kind;
 
     /// Nil where the framework is not loaded.
-    static ScreenRecorder shared() { return sendClass<"sharedRecorder", ScreenRecorder>(); }
+    static ScreenRecorder sharedRecorder() { return sendClass<"sharedRecorder", ScreenRecorder>(); }
 };
 
 } // namespace rp

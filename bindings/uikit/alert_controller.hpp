@@ -1,7 +1,8 @@
-// UIAlertController and UIAlertAction.
+// UIAlertController.
 #pragma once
 
 #include "bindings/objc/block.hpp"
+#include "bindings/uikit/alert_action.hpp"
 #include "bindings/uikit/text_field.hpp"
 #include "bindings/uikit/view_controller.hpp"
 
@@ -9,21 +10,6 @@ namespace ui {
 
 /// The platform's numbers.
 enum class AlertStyle : long { actionSheet = 0, alert = 1 };
-enum class AlertActionStyle : long { normal = 0, cancel = 1, destructive = 2 };
-
-struct AlertAction : objc::Kind<AlertAction, "UIAlertAction"> {
-    using Kind::Kind;
-    using Handler = objc::Block<void(AlertAction)>;
-
-    /// The handler, which may be nil, is called after the alert is gone.
-    static AlertAction with(ns::String title, AlertActionStyle style, Handler handler) {
-        return sendClass<"actionWithTitle:style:handler:", AlertAction>(title, style, handler);
-    }
-    [[nodiscard]] ns::String title() const { return send<"title", ns::String>(); }
-    [[nodiscard]] AlertActionStyle style() const { return send<"style", AlertActionStyle>(); }
-    [[nodiscard]] bool isEnabled() const { return send<"isEnabled", bool>(); }
-    void setEnabled(bool enabled) const { send<"setEnabled:">(enabled); }
-};
 
 struct AlertController : objc::Kind<AlertController, "UIAlertController", ViewController> {
     using Kind::Kind;
@@ -35,9 +21,11 @@ struct AlertController : objc::Kind<AlertController, "UIAlertController", ViewCo
     }
     [[nodiscard]] ns::String message() const { return send<"message", ns::String>(); }
     void setMessage(ns::String message) const { send<"setMessage:">(message); }
-    [[nodiscard]] AlertStyle style() const { return send<"preferredStyle", AlertStyle>(); }
+    [[nodiscard]] AlertStyle preferredStyle() const { return send<"preferredStyle", AlertStyle>(); }
     void addAction(AlertAction action) const { send<"addAction:">(action); }
-    [[nodiscard]] ns::Array actions() const { return send<"actions", ns::Array>(); }
+    [[nodiscard]] ns::ArrayOf<AlertAction> actions() const {
+        return send<"actions", ns::ArrayOf<AlertAction>>();
+    }
     void setPreferredAction(AlertAction action) const { send<"setPreferredAction:">(action); }
     [[nodiscard]] AlertAction preferredAction() const {
         return send<"preferredAction", AlertAction>();
@@ -47,7 +35,9 @@ struct AlertController : objc::Kind<AlertController, "UIAlertController", ViewCo
         send<"addTextFieldWithConfigurationHandler:">(configuration);
     }
     /// Nil when there is none.
-    [[nodiscard]] ns::Array textFields() const { return send<"textFields", ns::Array>(); }
+    [[nodiscard]] ns::ArrayOf<TextField> textFields() const {
+        return send<"textFields", ns::ArrayOf<TextField>>();
+    }
 };
 
 } // namespace ui

@@ -1,7 +1,6 @@
-// UIApplication and UIScreen.
+// UIApplication.
 #pragma once
 
-#include "bindings/coregraphics/geometry.hpp"
 #include "bindings/foundation/array.hpp"
 #include "bindings/foundation/dictionary.hpp"
 #include "bindings/foundation/set.hpp"
@@ -14,9 +13,11 @@ namespace ui {
 struct Application : objc::Kind<Application, "UIApplication", Responder> {
     using Kind::Kind;
 
-    static Application shared() { return sendClass<"sharedApplication", Application>(); }
+    static Application sharedApplication() { return sendClass<"sharedApplication", Application>(); }
     /// Back to front.
-    [[nodiscard]] ns::Array windows() const { return send<"windows", ns::Array>(); }
+    [[nodiscard]] ns::ArrayOf<Window> windows() const {
+        return send<"windows", ns::ArrayOf<Window>>();
+    }
     [[nodiscard]] ns::Set connectedScenes() const { return send<"connectedScenes", ns::Set>(); }
     /// Hands the URL to the application that it belongs to. False when there is none.
     bool openUrl(ns::Url url) const { return send<"openURL:", bool>(url); }
@@ -32,16 +33,6 @@ struct Application : objc::Kind<Application, "UIApplication", Responder> {
         return send<"sendAction:to:from:forEvent:", bool>(action, target, sender, event);
     }
     [[nodiscard]] Window keyWindow() const { return send<"keyWindow", Window>(); }
-};
-
-struct Screen : objc::Kind<Screen, "UIScreen"> {
-    using Kind::Kind;
-
-    static Screen main() { return sendClass<"mainScreen", Screen>(); }
-    /// In points.
-    [[nodiscard]] CGRect bounds() const { return send<"bounds", CGRect>(); }
-    /// Pixels a point.
-    [[nodiscard]] double scale() const { return send<"scale", double>(); }
 };
 
 } // namespace ui

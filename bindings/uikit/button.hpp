@@ -13,18 +13,18 @@ enum class ButtonType : long { custom = 0, system = 1 };
 struct Button : objc::Kind<Button, "UIButton", Control> {
     using Kind::Kind;
 
-    static Button ofType(ButtonType type) { return sendClass<"buttonWithType:", Button>(type); }
-    void setTitle(ns::String title, unsigned long state) const {
+    static Button withType(ButtonType type) { return sendClass<"buttonWithType:", Button>(type); }
+    void setTitle(ns::String title, ControlState state) const {
         send<"setTitle:forState:">(title, state);
     }
     /// The title set for that state, or else for the normal one; nil when there is none.
-    [[nodiscard]] ns::String titleFor(unsigned long state) const {
+    [[nodiscard]] ns::String titleFor(ControlState state) const {
         return send<"titleForState:", ns::String>(state);
     }
-    void setTitleColor(Color color, unsigned long state) const {
+    void setTitleColor(Color color, ControlState state) const {
         send<"setTitleColor:forState:">(color, state);
     }
-    void setImage(Image image, unsigned long state) const {
+    void setImage(Image image, ControlState state) const {
         send<"setImage:forState:">(image, state);
     }
     [[nodiscard]] ImageView imageView() const { return send<"imageView", ImageView>(); }

@@ -1,40 +1,29 @@
-// UICollectionView, its cells and its flow layout.
+// UICollectionView.
 #pragma once
 
 #include "bindings/foundation/index_path.hpp"
 #include "bindings/foundation/string.hpp"
+#include "bindings/objc/options.hpp"
+#include "bindings/uikit/collection_view_cell.hpp"
+#include "bindings/uikit/collection_view_layout.hpp"
 #include "bindings/uikit/scroll_view.hpp"
 
 namespace ui {
 
-struct CollectionReusableView
-    : objc::Kind<CollectionReusableView, "UICollectionReusableView", View> {
-    using Kind::Kind;
+using objc::operator|, objc::operator&, objc::operator~;
+
+/// Where an item lies after scrolling to it: one way down and one across may be combined. Without
+/// any, nothing is scrolled.
+enum class CollectionViewScrollPosition : unsigned long {
+    none = 0,
+    top = 1U << 0U,
+    centeredVertically = 1U << 1U,
+    bottom = 1U << 2U,
+    left = 1U << 3U,
+    centeredHorizontally = 1U << 4U,
+    right = 1U << 5U,
 };
-
-struct CollectionViewCell
-    : objc::Kind<CollectionViewCell, "UICollectionViewCell", CollectionReusableView> {
-    using Kind::Kind;
-
-    /// What the cell shows is put into this view.
-    [[nodiscard]] View contentView() const { return send<"contentView", View>(); }
-};
-
-struct CollectionViewLayout : objc::Kind<CollectionViewLayout, "UICollectionViewLayout"> {
-    using Kind::Kind;
-};
-
-struct CollectionViewFlowLayout
-    : objc::Kind<CollectionViewFlowLayout, "UICollectionViewFlowLayout", CollectionViewLayout> {
-    using Kind::Kind;
-
-    /// In points, at least, between the items of a line.
-    void setMinimumInteritemSpacing(double points) const {
-        send<"setMinimumInteritemSpacing:">(points);
-    }
-    /// In points, at least, between lines.
-    void setMinimumLineSpacing(double points) const { send<"setMinimumLineSpacing:">(points); }
-};
+constexpr bool areOptions(CollectionViewScrollPosition) { return true; }
 
 struct CollectionView : objc::Kind<CollectionView, "UICollectionView", ScrollView> {
     using Kind::Kind;
@@ -53,7 +42,8 @@ struct CollectionView : objc::Kind<CollectionView, "UICollectionView", ScrollVie
         send<"registerClass:forCellWithReuseIdentifier:">(cell, identifier);
     }
     /// Only for the data source, while it answers for that item.
-    [[nodiscard]] CollectionViewCell dequeue(ns::String identifier, ns::IndexPath path) const {
+    [[nodiscard]] CollectionViewCell dequeueReusableCell(ns::String identifier,
+                                                         ns::IndexPath path) const {
         return send<"dequeueReusableCellWithReuseIdentifier:forIndexPath:", CollectionViewCell>(
             identifier, path);
     }
@@ -64,18 +54,19 @@ struct CollectionView : objc::Kind<CollectionView, "UICollectionView", ScrollVie
         return send<"numberOfItemsInSection:", long>(section);
     }
     /// Nil for items that are not visible.
-    [[nodiscard]] CollectionViewCell cellAt(ns::IndexPath path) const {
+    [[nodiscard]] CollectionViewCell cellForItem(ns::IndexPath path) const {
         return send<"cellForItemAtIndexPath:", CollectionViewCell>(path);
     }
     /// Nil where there is no item; the point is in the view's content.
-    [[nodiscard]] ns::IndexPath indexPathAt(CGPoint point) const {
+    [[nodiscard]] ns::IndexPath indexPathForItem(CGPoint point) const {
         return send<"indexPathForItemAtPoint:", ns::IndexPath>(point);
     }
-    /// Neither tells the delegate. A scroll position of 0 does not scroll.
-    void select(ns::IndexPath path, bool animated, unsigned long scrollPosition) const {
+    /// Neither tells the delegate.
+    void selectItem(ns::IndexPath path, bool animated,
+                    CollectionViewScrollPosition scrollPosition) const {
         send<"selectItemAtIndexPath:animated:scrollPosition:">(path, animated, scrollPosition);
     }
-    void deselect(ns::IndexPath path, bool animated) const {
+    void deselectItem(ns::IndexPath path, bool animated) const {
         send<"deselectItemAtIndexPath:animated:">(path, animated);
     }
 };

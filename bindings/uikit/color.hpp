@@ -3,6 +3,8 @@
 
 #include "bindings/coregraphics/color.hpp"
 #include "bindings/foundation/string.hpp"
+#include "bindings/objc/block.hpp"
+#include "bindings/uikit/trait_collection.hpp"
 
 namespace ui {
 
@@ -10,11 +12,20 @@ struct Color : objc::Kind<Color, "UIColor"> {
     using Kind::Kind;
 
     /// Components from 0 to 1, in sRGB.
-    static Color rgba(double red, double green, double blue, double alpha) {
+    static Color withRed(double red, double green, double blue, double alpha) {
         return sendClass<"colorWithRed:green:blue:alpha:", Color>(red, green, blue, alpha);
     }
-    static Color white(double white, double alpha) {
+    static Color withWhite(double white, double alpha) {
         return sendClass<"colorWithWhite:alpha:", Color>(white, alpha);
+    }
+    /// A colour that is asked for anew wherever it is shown; must not answer nil.
+    using Provider = objc::Block<Color(TraitCollection)>;
+    static Color dynamic(Provider provider) {
+        return sendClass<"colorWithDynamicProvider:", Color>(provider);
+    }
+    /// What the colour is with those traits: one that never changes.
+    [[nodiscard]] Color resolvedWith(TraitCollection traits) const {
+        return send<"resolvedColorWithTraitCollection:", Color>(traits);
     }
     static Color black() { return sendClass<"blackColor", Color>(); }
     static Color white() { return sendClass<"whiteColor", Color>(); }
@@ -40,11 +51,11 @@ struct Color : objc::Kind<Color, "UIColor"> {
                    : nullptr;
     }
 
-    [[nodiscard]] Color withAlpha(double alpha) const {
+    [[nodiscard]] Color withAlphaComponent(double alpha) const {
         return send<"colorWithAlphaComponent:", Color>(alpha);
     }
     /// False when the colour has no such components (a pattern).
-    bool components(double* red, double* green, double* blue, double* alpha) const {
+    bool getRed(double* red, double* green, double* blue, double* alpha) const {
         return send<"getRed:green:blue:alpha:", bool>(red, green, blue, alpha);
     }
     /// Borrowed: valid as long as the colour.

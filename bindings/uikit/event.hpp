@@ -6,10 +6,14 @@
 
 namespace ui {
 
+struct Touch;
+
 struct Event : objc::Kind<Event, "UIEvent"> {
     using Kind::Kind;
 
-    [[nodiscard]] ns::Set allTouches() const { return send<"allTouches", ns::Set>(); }
+    [[nodiscard]] ns::SetOf<Touch> allTouches() const {
+        return send<"allTouches", ns::SetOf<Touch>>();
+    }
 };
 
 inline View View::hitTest(CGPoint point, Event event) const {

@@ -22,12 +22,14 @@ struct Font : objc::Kind<Font, "UIFont"> {
     }
     static Font boldSystem(double size) { return sendClass<"boldSystemFontOfSize:", Font>(size); }
     /// The font of that PostScript, full or family name; nil when there is none.
-    static Font named(ns::String name, double size) {
+    static Font withName(ns::String name, double size) {
         return sendClass<"fontWithName:size:", Font>(name, size);
     }
 
-    /// The names of all families, as strings.
-    static ns::Array familyNames() { return sendClass<"familyNames", ns::Array>(); }
+    /// The names of all families.
+    static ns::ArrayOf<ns::String> familyNames() {
+        return sendClass<"familyNames", ns::ArrayOf<ns::String>>();
+    }
 
     [[nodiscard]] Font withSize(double size) const { return send<"fontWithSize:", Font>(size); }
     [[nodiscard]] double pointSize() const { return send<"pointSize", double>(); }

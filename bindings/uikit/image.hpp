@@ -1,27 +1,17 @@
-// UIImage, and how symbols are made images.
+// UIImage.
 #pragma once
 
 #include "bindings/coregraphics/geometry.hpp"
 #include "bindings/coregraphics/image.hpp"
 #include "bindings/foundation/string.hpp"
 #include "bindings/uikit/color.hpp"
+#include "bindings/uikit/image_symbol_configuration.hpp"
 
 namespace ui {
 
-/// The platform's numbers.
-enum class SymbolWeight : long { regular = 4, medium = 5, semibold = 6, bold = 7 };
 /// Whether an image is drawn in its own colours or, as a shape, in the tint colour; `automatic` is
 /// the latter for symbols. The platform's numbers.
-enum class RenderingMode : long { automatic = 0, original = 1, shape = 2 };
-
-struct SymbolConfiguration : objc::Kind<SymbolConfiguration, "UIImageSymbolConfiguration"> {
-    using Kind::Kind;
-
-    static SymbolConfiguration of(double pointSize, SymbolWeight weight) {
-        return sendClass<"configurationWithPointSize:weight:", SymbolConfiguration>(pointSize,
-                                                                                    weight);
-    }
-};
+enum class RenderingMode : long { automatic = 0, alwaysOriginal = 1, alwaysTemplate = 2 };
 
 struct Image : objc::Kind<Image, "UIImage"> {
     using Kind::Kind;
@@ -36,7 +26,7 @@ struct Image : objc::Kind<Image, "UIImage"> {
     static Image systemNamed(ns::String name) {
         return sendClass<"systemImageNamed:", Image>(name);
     }
-    static Image systemNamed(ns::String name, SymbolConfiguration configuration) {
+    static Image systemNamed(ns::String name, ImageSymbolConfiguration configuration) {
         return sendClass<"systemImageNamed:withConfiguration:", Image>(name, configuration);
     }
     /// In points.

@@ -3,6 +3,7 @@
 
 #include "bindings/coregraphics/geometry.hpp"
 #include "bindings/foundation/notification_center.hpp"
+#include "bindings/foundation/value.hpp"
 
 namespace ui::keyboard {
 
@@ -17,7 +18,8 @@ inline ns::String willHide() { return u"UIKeyboardWillHideNotification"_ns; }
 inline CGRect frameEnd(ns::Notification notification) {
     return notification.userInfo()
         .get(u"UIKeyboardFrameEndUserInfoKey"_ns)
-        .send<"CGRectValue", CGRect>();
+        .assume<ns::Value>()
+        .cgRectValue();
 }
 
 } // namespace ui::keyboard

@@ -1,16 +1,9 @@
-// NSLayoutAnchor and NSLayoutConstraint: views held in place by equations between their edges.
+// NSLayoutAnchor.
 #pragma once
 
-#include "bindings/uikit/view.hpp"
+#include "bindings/uikit/layout_constraint.hpp"
 
 namespace ui {
-
-/// An equation between two edges or sizes; it holds as long as it is active.
-struct LayoutConstraint : objc::Kind<LayoutConstraint, "NSLayoutConstraint"> {
-    using Kind::Kind;
-
-    void activate() const { send<"setActive:">(true); }
-};
 
 /// An edge or a middle of a view or guide.
 struct LayoutAnchor : objc::Kind<LayoutAnchor, "NSLayoutAnchor"> {
@@ -21,38 +14,5 @@ struct LayoutAnchor : objc::Kind<LayoutAnchor, "NSLayoutAnchor"> {
         return send<"constraintEqualToAnchor:constant:", LayoutConstraint>(other, constant);
     }
 };
-
-/// A width or height of a view or guide.
-struct LayoutDimension : objc::Kind<LayoutDimension, "NSLayoutDimension", LayoutAnchor> {
-    using Kind::Kind;
-
-    [[nodiscard]] LayoutConstraint equalTo(double points) const {
-        return send<"constraintEqualToConstant:", LayoutConstraint>(points);
-    }
-};
-
-/// A view, or a rectangle in one, by the anchors that both have.
-struct LayoutItem : objc::Object {
-    explicit constexpr LayoutItem(objc::Object item) : Object(item) {}
-
-    /// The part of the view that no bar of the system covers.
-    static LayoutItem safeAreaOf(View view) {
-        return LayoutItem(view.send<"safeAreaLayoutGuide", objc::Object>());
-    }
-
-    [[nodiscard]] LayoutAnchor leading() const { return send<"leadingAnchor", LayoutAnchor>(); }
-    [[nodiscard]] LayoutAnchor trailing() const { return send<"trailingAnchor", LayoutAnchor>(); }
-    [[nodiscard]] LayoutAnchor top() const { return send<"topAnchor", LayoutAnchor>(); }
-    [[nodiscard]] LayoutAnchor bottom() const { return send<"bottomAnchor", LayoutAnchor>(); }
-    [[nodiscard]] LayoutAnchor centerX() const { return send<"centerXAnchor", LayoutAnchor>(); }
-    [[nodiscard]] LayoutDimension width() const { return send<"widthAnchor", LayoutDimension>(); }
-    [[nodiscard]] LayoutDimension height() const { return send<"heightAnchor", LayoutDimension>(); }
-};
-
-/// Leaves the view's place to constraints alone, and gives its anchors.
-inline LayoutItem constrained(View view) {
-    view.send<"setTranslatesAutoresizingMaskIntoConstraints:">(false);
-    return LayoutItem(view);
-}
 
 } // namespace ui

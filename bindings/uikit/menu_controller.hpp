@@ -1,27 +1,21 @@
 // UIMenuController: the edit menu.
 #pragma once
 
+#include "bindings/uikit/menu_item.hpp"
 #include "bindings/uikit/view.hpp"
 
 namespace ui {
 
-/// A title and the action that is sent up the responder chain.
-struct MenuItem : objc::Kind<MenuItem, "UIMenuItem"> {
-    using Kind::Kind;
-
-    static MenuItem with(ns::String title, SEL action) {
-        return make<"initWithTitle:action:">(title, action);
-    }
-    [[nodiscard]] ns::String title() const { return send<"title", ns::String>(); }
-    [[nodiscard]] SEL action() const { return send<"action", SEL>(); }
-};
-
 struct MenuController : objc::Kind<MenuController, "UIMenuController"> {
     using Kind::Kind;
 
-    static MenuController shared() { return sendClass<"sharedMenuController", MenuController>(); }
+    static MenuController sharedMenuController() {
+        return sendClass<"sharedMenuController", MenuController>();
+    }
     /// What the application has added to the standard items.
-    [[nodiscard]] ns::Array menuItems() const { return send<"menuItems", ns::Array>(); }
+    [[nodiscard]] ns::ArrayOf<MenuItem> menuItems() const {
+        return send<"menuItems", ns::ArrayOf<MenuItem>>();
+    }
     void setMenuItems(ns::Array items) const { send<"setMenuItems:">(items); }
     void update() const { send<"update">(); }
     [[nodiscard]] bool isMenuVisible() const { return send<"isMenuVisible", bool>(); }

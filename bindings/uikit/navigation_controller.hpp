@@ -24,7 +24,9 @@ struct NavigationController
         return send<"topViewController", ViewController>();
     }
     /// The root first.
-    [[nodiscard]] ns::Array viewControllers() const { return send<"viewControllers", ns::Array>(); }
+    [[nodiscard]] ns::ArrayOf<ViewController> viewControllers() const {
+        return send<"viewControllers", ns::ArrayOf<ViewController>>();
+    }
     [[nodiscard]] NavigationBar navigationBar() const {
         return send<"navigationBar", NavigationBar>();
     }

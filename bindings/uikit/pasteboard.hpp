@@ -8,7 +8,7 @@ namespace ui {
 struct Pasteboard : objc::Kind<Pasteboard, "UIPasteboard"> {
     using Kind::Kind;
 
-    static Pasteboard general() { return sendClass<"generalPasteboard", Pasteboard>(); }
+    static Pasteboard generalPasteboard() { return sendClass<"generalPasteboard", Pasteboard>(); }
     /// Nil when the pasteboard holds no text.
     [[nodiscard]] ns::String string() const { return send<"string", ns::String>(); }
     /// Posts UIPasteboardChangedNotification; nil empties the pasteboard.

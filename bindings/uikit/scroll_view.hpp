@@ -11,6 +11,13 @@ struct objc::Encoding<CGPoint*> {
 
 namespace ui {
 
+/// How dragging a scroll view puts the keyboard away; the platform's numbers.
+enum class KeyboardDismissMode : long {
+    none = 0,
+    onDrag = 1,      ///< as soon as content is dragged
+    interactive = 2, ///< the keyboard follows a finger that is dragged down over it
+};
+
 struct ScrollView : objc::Kind<ScrollView, "UIScrollView", View> {
     using Kind::Kind;
 
@@ -23,6 +30,11 @@ struct ScrollView : objc::Kind<ScrollView, "UIScrollView", View> {
     void setContentOffset(CGPoint offset) const { send<"setContentOffset:">(offset); }
     [[nodiscard]] UIEdgeInsets contentInset() const { return send<"contentInset", UIEdgeInsets>(); }
     void setContentInset(UIEdgeInsets insets) const { send<"setContentInset:">(insets); }
+    /// Whether content that fits can be dragged up and down all the same, and springs back.
+    void setAlwaysBounceVertical(bool bounces) const { send<"setAlwaysBounceVertical:">(bounces); }
+    void setKeyboardDismissMode(KeyboardDismissMode mode) const {
+        send<"setKeyboardDismissMode:">(mode);
+    }
     void setScrollIndicatorInsets(UIEdgeInsets insets) const {
         send<"setScrollIndicatorInsets:">(insets);
     }

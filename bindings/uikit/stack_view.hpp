@@ -31,8 +31,8 @@ struct StackView : objc::Kind<StackView, "UIStackView", View> {
     static StackView withFrame(CGRect frame) { return make<"initWithFrame:">(frame); }
 
     void addArrangedSubview(View view) const { send<"addArrangedSubview:">(view); }
-    [[nodiscard]] ns::Array arrangedSubviews() const {
-        return send<"arrangedSubviews", ns::Array>();
+    [[nodiscard]] ns::ArrayOf<View> arrangedSubviews() const {
+        return send<"arrangedSubviews", ns::ArrayOf<View>>();
     }
     void setAxis(Axis axis) const { send<"setAxis:">(axis); }
     void setSpacing(double points) const { send<"setSpacing:">(points); }

@@ -6,6 +6,10 @@
 
 namespace ui {
 
+/// The platform's numbers.
+enum class TextBorderStyle : long { none = 0, line = 1, bezel = 2, roundedRect = 3 };
+enum class TextFieldViewMode : long { never = 0, whileEditing = 1, unlessEditing = 2, always = 3 };
+
 struct TextField : objc::Kind<TextField, "UITextField", Control> {
     using Kind::Kind;
 
@@ -18,10 +22,8 @@ struct TextField : objc::Kind<TextField, "UITextField", Control> {
     [[nodiscard]] Font font() const { return send<"font", Font>(); }
     void setFont(Font font) const { send<"setFont:">(font); }
     void setTextColor(Color color) const { send<"setTextColor:">(color); }
-    /// The platform's UITextBorderStyle; 3 is a rounded rectangle.
-    void setBorderStyle(long style) const { send<"setBorderStyle:">(style); }
-    /// The platform's UITextFieldViewMode; 1 is while editing.
-    void setClearButtonMode(long mode) const { send<"setClearButtonMode:">(mode); }
+    void setBorderStyle(TextBorderStyle style) const { send<"setBorderStyle:">(style); }
+    void setClearButtonMode(TextFieldViewMode mode) const { send<"setClearButtonMode:">(mode); }
     void setSecureTextEntry(bool secure) const { send<"setSecureTextEntry:">(secure); }
     /// Not retained.
     void setDelegate(objc::Object delegate) const { send<"setDelegate:">(delegate); }

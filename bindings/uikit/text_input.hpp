@@ -1,23 +1,11 @@
-// UITextInput: what views that edit text answer to; and the positions and ranges it speaks of.
+// UITextInput: what views that edit text answer to.
 #pragma once
 
 #include "bindings/coregraphics/geometry.hpp"
 #include "bindings/foundation/string.hpp"
+#include "bindings/uikit/text_range.hpp"
 
 namespace ui {
-
-/// A place between two characters; only the view that made it knows where.
-struct TextPosition : objc::Kind<TextPosition, "UITextPosition"> {
-    using Kind::Kind;
-};
-
-struct TextRange : objc::Kind<TextRange, "UITextRange"> {
-    using Kind::Kind;
-
-    [[nodiscard]] TextPosition start() const { return send<"start", TextPosition>(); }
-    [[nodiscard]] TextPosition end() const { return send<"end", TextPosition>(); }
-    [[nodiscard]] bool isEmpty() const { return send<"isEmpty", bool>(); }
-};
 
 /// The platform's numbers.
 enum class LayoutDirection : long { right = 2, left = 3, up = 4, down = 5 };

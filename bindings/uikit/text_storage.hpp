@@ -1,7 +1,6 @@
-// NSTextStorage, NSTextContainer and NSLayoutManager: the text of a text view, and where it lies.
+// NSTextStorage: the text of a text view.
 #pragma once
 
-#include "bindings/coregraphics/geometry.hpp"
 #include "bindings/uikit/text_attributes.hpp"
 
 namespace ui {
@@ -9,24 +8,6 @@ namespace ui {
 /// A text view's text: what changes here changes in the view.
 struct TextStorage : objc::Kind<TextStorage, "NSTextStorage", ns::MutableAttributedString> {
     using Kind::Kind;
-};
-
-struct TextContainer : objc::Kind<TextContainer, "NSTextContainer"> {
-    using Kind::Kind;
-
-    /// Points that stay free at both ends of each line.
-    [[nodiscard]] double lineFragmentPadding() const {
-        return send<"lineFragmentPadding", double>();
-    }
-};
-
-struct LayoutManager : objc::Kind<LayoutManager, "NSLayoutManager"> {
-    using Kind::Kind;
-
-    /// The smallest rectangle around the glyphs, in the container's coordinates.
-    [[nodiscard]] CGRect boundingRect(ns::Range glyphs, TextContainer container) const {
-        return send<"boundingRectForGlyphRange:inTextContainer:", CGRect>(glyphs, container);
-    }
 };
 
 } // namespace ui

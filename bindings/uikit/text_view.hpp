@@ -3,6 +3,7 @@
 
 #include "bindings/uikit/font.hpp"
 #include "bindings/uikit/label.hpp"
+#include "bindings/uikit/layout_manager.hpp"
 #include "bindings/uikit/scroll_view.hpp"
 #include "bindings/uikit/text_storage.hpp"
 

@@ -1,7 +1,8 @@
 // UIToolbar.
 #pragma once
 
-#include "bindings/uikit/navigation_bar.hpp"
+#include "bindings/uikit/bar_button_item.hpp"
+#include "bindings/uikit/view.hpp"
 
 namespace ui {
 

@@ -4,11 +4,14 @@
 #include "bindings/coregraphics/geometry.hpp"
 #include "bindings/foundation/array.hpp"
 #include "bindings/objc/block.hpp"
+#include "bindings/objc/options.hpp"
 #include "bindings/quartzcore/layer.hpp"
 #include "bindings/uikit/color.hpp"
 #include "bindings/uikit/responder.hpp"
 
 namespace ui {
+
+using objc::operator|, objc::operator&, objc::operator~;
 
 struct Event;
 struct GestureRecognizer;
@@ -21,6 +24,30 @@ enum class ContentMode : long {
     scaleAspectFill = 2,
     center = 4
 };
+
+/// How an animation runs; the platform's bits. The curves share two of them.
+enum class ViewAnimationOptions : unsigned long {
+    allowUserInteraction = 1U << 1U,
+    repeat = 1U << 3U,
+    autoreverse = 1U << 4U,
+    overrideInheritedDuration = 1U << 5U,
+    overrideInheritedCurve = 1U << 6U,
+    curveEaseIn = 1U << 16U,
+    curveEaseOut = 2U << 16U,
+    curveLinear = 3U << 16U,
+};
+constexpr bool areOptions(ViewAnimationOptions) { return true; }
+
+/// What a view resizes by itself when its superview's size changes.
+enum class ViewAutoresizing : unsigned long {
+    flexibleLeftMargin = 1U << 0U,
+    flexibleWidth = 1U << 1U,
+    flexibleRightMargin = 1U << 2U,
+    flexibleTopMargin = 1U << 3U,
+    flexibleHeight = 1U << 4U,
+    flexibleBottomMargin = 1U << 5U,
+};
+constexpr bool areOptions(ViewAutoresizing) { return true; }
 
 struct View : objc::Kind<View, "UIView", Responder> {
     using Kind::Kind;
@@ -46,6 +73,16 @@ struct View : objc::Kind<View, "UIView", Responder> {
     void setTintColor(Color color) const { send<"setTintColor:">(color); }
     void setClipsToBounds(bool clips) const { send<"setClipsToBounds:">(clips); }
     [[nodiscard]] bool clipsToBounds() const { return send<"clipsToBounds", bool>(); }
+    [[nodiscard]] TraitCollection traitCollection() const {
+        return send<"traitCollection", TraitCollection>();
+    }
+    /// The style of the view and of what lies in it; `unspecified`: that of what is around it.
+    void setOverrideUserInterfaceStyle(InterfaceStyle style) const {
+        send<"setOverrideUserInterfaceStyle:">(style);
+    }
+    [[nodiscard]] InterfaceStyle overrideUserInterfaceStyle() const {
+        return send<"overrideUserInterfaceStyle", InterfaceStyle>();
+    }
     [[nodiscard]] long tag() const { return send<"tag", long>(); }
     void setTag(long tag) const { send<"setTag:">(tag); }
     [[nodiscard]] ca::Layer layer() const { return send<"layer", ca::Layer>(); }
@@ -61,7 +98,9 @@ struct View : objc::Kind<View, "UIView", Responder> {
 
     [[nodiscard]] View superview() const { return send<"superview", View>(); }
     /// Back to front; a snapshot.
-    [[nodiscard]] ns::Array subviews() const { return send<"subviews", ns::Array>(); }
+    [[nodiscard]] ns::ArrayOf<View> subviews() const {
+        return send<"subviews", ns::ArrayOf<View>>();
+    }
     /// Defined with the windows, in window.hpp.
     [[nodiscard]] Window window() const;
     void addSubview(View view) const { send<"addSubview:">(view); }
@@ -69,8 +108,8 @@ struct View : objc::Kind<View, "UIView", Responder> {
     void insertSubview(View view, long index) const { send<"insertSubview:atIndex:">(view, index); }
     void removeFromSuperview() const { send<"removeFromSuperview">(); }
     [[nodiscard]] View viewWithTag(long tag) const { return send<"viewWithTag:", View>(tag); }
-    [[nodiscard]] ns::Array gestureRecognizers() const {
-        return send<"gestureRecognizers", ns::Array>();
+    [[nodiscard]] ns::ArrayOf<GestureRecognizer> gestureRecognizers() const {
+        return send<"gestureRecognizers", ns::ArrayOf<GestureRecognizer>>();
     }
     /// The view keeps the recognizer; it leaves the view that had it before. These two are defined
     /// with the recognizers, in gesture_recognizer.hpp.
@@ -109,7 +148,7 @@ struct View : objc::Kind<View, "UIView", Responder> {
         return send<"accessibilityLabel", ns::String>();
     }
     void setAccessibilityLabel(ns::String label) const { send<"setAccessibilityLabel:">(label); }
-    void setAutoresizingMask(unsigned long mask) const { send<"setAutoresizingMask:">(mask); }
+    void setAutoresizingMask(ViewAutoresizing mask) const { send<"setAutoresizingMask:">(mask); }
 
     static View withFrame(CGRect frame) { return make<"initWithFrame:">(frame); }
 
@@ -120,8 +159,7 @@ struct View : objc::Kind<View, "UIView", Responder> {
     static void animate(double seconds, Changes changes, Completion completion = {}) {
         sendClass<"animateWithDuration:animations:completion:">(seconds, changes, completion);
     }
-    /// Options are those of `animation_options`.
-    static void animate(double seconds, double delay, unsigned long options, Changes changes,
+    static void animate(double seconds, double delay, ViewAnimationOptions options, Changes changes,
                         Completion completion = {}) {
         sendClass<"animateWithDuration:delay:options:animations:completion:">(
             seconds, delay, options, changes, completion);
@@ -130,27 +168,5 @@ struct View : objc::Kind<View, "UIView", Responder> {
         sendClass<"performWithoutAnimation:">(changes);
     }
 };
-
-/// How an animation runs; the platform's bits. The curves share two of them.
-namespace animation_options {
-inline constexpr unsigned long allowUserInteraction = 1U << 1U;
-inline constexpr unsigned long repeat = 1U << 3U;
-inline constexpr unsigned long autoreverse = 1U << 4U;
-inline constexpr unsigned long overrideInheritedDuration = 1U << 5U;
-inline constexpr unsigned long overrideInheritedCurve = 1U << 6U;
-inline constexpr unsigned long curveEaseIn = 1U << 16U;
-inline constexpr unsigned long curveEaseOut = 2U << 16U;
-inline constexpr unsigned long curveLinear = 3U << 16U;
-} // namespace animation_options
-
-/// What a view resizes by itself when its superview's size changes.
-namespace autoresizing {
-inline constexpr unsigned long flexibleLeftMargin = 1U << 0U;
-inline constexpr unsigned long flexibleWidth = 1U << 1U;
-inline constexpr unsigned long flexibleRightMargin = 1U << 2U;
-inline constexpr unsigned long flexibleTopMargin = 1U << 3U;
-inline constexpr unsigned long flexibleHeight = 1U << 4U;
-inline constexpr unsigned long flexibleBottomMargin = 1U << 5U;
-} // namespace autoresizing
 
 } // namespace ui

@@ -37,10 +37,23 @@ struct ViewController : objc::Kind<ViewController, "UIViewController", Responder
     [[nodiscard]] ns::String title() const { return send<"title", ns::String>(); }
     void setTitle(ns::String title) const { send<"setTitle:">(title); }
 
+    [[nodiscard]] TraitCollection traitCollection() const {
+        return send<"traitCollection", TraitCollection>();
+    }
+    /// The style of the controller's view and of what lies in it, not of what it presents.
+    void setOverrideUserInterfaceStyle(InterfaceStyle style) const {
+        send<"setOverrideUserInterfaceStyle:">(style);
+    }
+    [[nodiscard]] InterfaceStyle overrideUserInterfaceStyle() const {
+        return send<"overrideUserInterfaceStyle", InterfaceStyle>();
+    }
+
     /// The controller that this one, or one that contains it, presents.
     [[nodiscard]] ViewController presentedViewController() const {
         return send<"presentedViewController", ViewController>();
     }
+    /// Whether it is on its way off the screen.
+    [[nodiscard]] bool isBeingDismissed() const { return send<"isBeingDismissed", bool>(); }
     [[nodiscard]] ViewController presentingViewController() const {
         return send<"presentingViewController", ViewController>();
     }
@@ -62,12 +75,14 @@ struct ViewController : objc::Kind<ViewController, "UIViewController", Responder
     }
     void setPreferredContentSize(CGSize size) const { send<"setPreferredContentSize:">(size); }
     /// Nil unless the style is that of a popover. Defined in popover_presentation_controller.hpp.
-    [[nodiscard]] PopoverPresentationController popover() const;
+    [[nodiscard]] PopoverPresentationController popoverPresentationController() const;
 
     [[nodiscard]] ViewController parent() const {
         return send<"parentViewController", ViewController>();
     }
-    [[nodiscard]] ns::Array children() const { return send<"childViewControllers", ns::Array>(); }
+    [[nodiscard]] ns::ArrayOf<ViewController> children() const {
+        return send<"childViewControllers", ns::ArrayOf<ViewController>>();
+    }
     void addChild(ViewController child) const { send<"addChildViewController:">(child); }
     void removeFromParent() const { send<"removeFromParentViewController">(); }
     /// Defined in navigation_controller.hpp.

@@ -6,18 +6,36 @@
 
 namespace ui {
 
-/// A scene's activation states, as the platform numbers them.
-namespace activation {
-inline constexpr long foregroundActive = 0;
-inline constexpr long foregroundInactive = 1;
-inline constexpr long background = 2;
-} // namespace activation
+/// Whether a scene is in use; the platform's numbers.
+enum class SceneActivationState : long {
+    unattached = -1,
+    foregroundActive = 0,
+    foregroundInactive = 1,
+    background = 2,
+};
+
+/// How what the screen shows stands; the platform's numbers. Landscape left has the home button, or
+/// the home indicator's side of the phone, to the left.
+enum class InterfaceOrientation : long {
+    unknown = 0,
+    portrait = 1,
+    portraitUpsideDown = 2,
+    landscapeRight = 3,
+    landscapeLeft = 4,
+};
 
 struct WindowScene : objc::Kind<WindowScene, "UIWindowScene"> {
     using Kind::Kind;
 
-    [[nodiscard]] long activationState() const { return send<"activationState", long>(); }
-    [[nodiscard]] ns::Array windows() const { return send<"windows", ns::Array>(); }
+    [[nodiscard]] SceneActivationState activationState() const {
+        return send<"activationState", SceneActivationState>();
+    }
+    [[nodiscard]] ns::ArrayOf<Window> windows() const {
+        return send<"windows", ns::ArrayOf<Window>>();
+    }
+    [[nodiscard]] InterfaceOrientation interfaceOrientation() const {
+        return send<"interfaceOrientation", InterfaceOrientation>();
+    }
 };
 
 inline WindowScene Window::windowScene() const { return send<"windowScene", WindowScene>(); }

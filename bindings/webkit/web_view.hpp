@@ -3,6 +3,7 @@
 
 #include "bindings/foundation/url_request.hpp"
 #include "bindings/uikit/view.hpp"
+#include "bindings/webkit/navigation.hpp"
 
 namespace wk {
 
@@ -12,8 +13,8 @@ struct WebView : objc::Kind<WebView, "WKWebView", ui::View> {
     static WebView withFrame(CGRect frame) { return make<"initWithFrame:">(frame); }
 
     /// The navigation that begins, for the delegate to tell it by; nil when the request has no URL.
-    objc::Object load(ns::UrlRequest request) const {
-        return send<"loadRequest:", objc::Object>(request);
+    Navigation load(ns::UrlRequest request) const {
+        return send<"loadRequest:", Navigation>(request);
     }
     void stopLoading() const { send<"stopLoading">(); }
     [[nodiscard]] bool isLoading() const { return send<"isLoading", bool>(); }

@@ -10,7 +10,7 @@ namespace desktop {
 
 class SpeechSynthesisVoice : public PlatformClass<SpeechSynthesisVoice, av::SpeechSynthesisVoice> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         using Self = SpeechSynthesisVoice;
         return std::array{
             objc::classMethod<"voiceWithLanguage:", &Self::withLanguage>(),

@@ -50,8 +50,8 @@ SpeechSynthesizer::~SpeechSynthesizer() { Clock::shared().cancel(ticket_); }
 
 template <objc::Literal Message>
 void SpeechSynthesizer::tellDelegate(av::SpeechUtterance utterance) const {
-    if (delegate_.respondsToSelector(objc::selector<Message>())) {
-        delegate_.send<Message>(self(), utterance);
+    if (const auto told = delegate_.strong(); told.respondsToSelector(objc::selector<Message>())) {
+        told.template send<Message>(self(), utterance);
     }
 }
 
@@ -131,6 +131,7 @@ bool SpeechSynthesizer::stopSpeakingAtBoundary(long) {
         return false;
     }
     Clock::shared().cancel(ticket_);
+    const objc::Strong kept(self()); // the delegate may let go of it
     const auto cancelled = std::exchange(queue_, {});
     phase_ = Phase::silent;
     paused_ = false;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bindings/avfaudio/speech_synthesizer.hpp"
+#include "bindings/objc/weak.hpp"
 #include "desktop/class.hpp"
 #include "desktop/runtime/clock.hpp"
 
@@ -13,7 +14,7 @@ namespace desktop {
 /// stops and pauses at once, whichever boundary is asked for.
 class SpeechSynthesizer : public PlatformClass<SpeechSynthesizer, av::SpeechSynthesizer> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         using Self = SpeechSynthesizer;
         return std::array{
             objc::property<"delegate", &Self::delegate_>(),
@@ -52,7 +53,7 @@ private:
         objc::Strong<av::SpeechUtterance> utterance;
         std::string file; ///< where its sound goes
     };
-    objc::Object delegate_; ///< not owned
+    objc::Weak<objc::Object> delegate_;
     std::deque<Entry> queue_;
     Phase phase_ = Phase::silent;
     bool paused_ = false;

@@ -10,7 +10,7 @@ namespace desktop {
 
 class SpeechUtterance : public PlatformClass<SpeechUtterance, av::SpeechUtterance> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         using Self = SpeechUtterance;
         return std::array{
             objc::classMethod<"speechUtteranceWithString:", &Self::withString>(),

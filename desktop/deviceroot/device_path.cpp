@@ -42,8 +42,9 @@ public:
 
 private:
     void step(std::string_view name) {
-        if (name.empty() || name == ".")
+        if (name.empty() || name == ".") {
             return;
+        }
         if (name == "..") {
             const std::size_t slash = text().rfind('/');
             shorten(slash == std::string_view::npos ? 0 : slash);
@@ -95,16 +96,18 @@ bool leadsIntoDevice(std::string_view path) {
 
 DevicePath::DevicePath(const char* path) : path_(path) {
     const std::string_view root = rootFolder();
-    if (path == nullptr || path[0] != '/' || root.empty())
+    if (path == nullptr || path[0] != '/' || root.empty()) {
         return;
+    }
     std::copy(root.begin(), root.end(), real_);
     real_[root.size()] = 0;
     NormalPath normal(real_ + root.size(), sizeof real_ - root.size());
     const std::string_view given(path);
     normal.add(given);
     if (normal.enteredDevice()) {
-        if (given.ends_with('/') || given.ends_with("/."))
+        if (given.ends_with('/') || given.ends_with("/.")) {
             normal.keepSlashAtEnd();
+        }
         tooLong_ = normal.overflowed();
         path_ = real_;
     } else if (isOneOf(normal.text(), archivers) && !normal.overflowed() && exists(real_)) {
@@ -115,8 +118,9 @@ DevicePath::DevicePath(const char* path) : path_(path) {
 const char* devicePathOf(const char* real) {
     const std::string_view root = rootFolder();
     const std::string_view path(real);
-    if (root.empty() || !path.starts_with(root))
+    if (root.empty() || !path.starts_with(root)) {
         return real;
+    }
     const char* const inside = real + root.size();
     return leadsIntoDevice(inside) ? inside : real;
 }

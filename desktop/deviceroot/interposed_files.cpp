@@ -22,10 +22,12 @@ template <typename Make>
 auto makeTemporary(char* pattern, Make make) {
     using Result = decltype(make(pattern));
     const DevicePath path(pattern);
-    if (path.isTooLong())
+    if (path.isTooLong()) {
         return desktop::failure<Result>(ENAMETOOLONG);
-    if (path.get() == pattern)
+    }
+    if (path.get() == pattern) {
         return make(pattern);
+    }
     char real[PATH_MAX];
     std::strcpy(real, path.get());
     const Result result = make(real);

@@ -20,8 +20,9 @@ bool isSet(const char* entry, std::string_view variable) {
 
 std::size_t count(char* const* environment) {
     std::size_t number = 0;
-    while (environment != nullptr && environment[number] != nullptr)
+    while (environment != nullptr && environment[number] != nullptr) {
         ++number;
+    }
     return number;
 }
 
@@ -31,8 +32,9 @@ char** inherit(char* const* environment, char** copy) {
     char** end = copy;
     for (std::size_t index = 0; index < count(environment); ++index) {
         char* const entry = environment[index];
-        if (!isSet(entry, "WENTRA_DEVICE_ROOT=") && !isSet(entry, "LD_PRELOAD="))
+        if (!isSet(entry, "WENTRA_DEVICE_ROOT=") && !isSet(entry, "LD_PRELOAD=")) {
             *end++ = entry;
+        }
     }
     *end++ = desktop::inheritance().root;
     *end++ = desktop::inheritance().preload;
@@ -43,7 +45,7 @@ char** inherit(char* const* environment, char** copy) {
 // Without a root, children get what they are given.
 #define CHILD_ENVIRONMENT(environment)                                                             \
     (desktop::rootFolder().empty()                                                                 \
-         ? environment                                                                             \
+         ? (environment)                                                                           \
          : inherit(environment,                                                                    \
                    static_cast<char**>(alloca((count(environment) + 3) * sizeof(char*)))))
 
@@ -57,8 +59,9 @@ void* openInstalled(std::string_view name, int mode) {
         const int length = std::snprintf(path, sizeof path, "%s%s%.*s", root.data(), folder,
                                          static_cast<int>(name.size()), name.data());
         const bool fits = length > 0 && static_cast<std::size_t>(length) < sizeof path;
-        if (fits && DEVICEROOT_NEXT(access)(path, F_OK) == 0)
+        if (fits && DEVICEROOT_NEXT(access)(path, F_OK) == 0) {
             return DEVICEROOT_NEXT(dlopen)(path, mode);
+        }
     }
     return nullptr;
 }
@@ -82,7 +85,7 @@ int execvpe(const char* path, char* const* arguments, char* const* environment) 
 
 int posix_spawn(pid_t* process, const char* path, const posix_spawn_file_actions_t* actions,
                 const posix_spawnattr_t* attributes, char* const* arguments,
-                char* const* environment) noexcept {
+                char* const* environment) {
     const auto spawn = [&]() -> int {
         DEVICEROOT_REDIRECT(posix_spawn, process, DevicePath(path), actions, attributes, arguments,
                             CHILD_ENVIRONMENT(environment));
@@ -91,7 +94,7 @@ int posix_spawn(pid_t* process, const char* path, const posix_spawn_file_actions
 }
 int posix_spawnp(pid_t* process, const char* path, const posix_spawn_file_actions_t* actions,
                  const posix_spawnattr_t* attributes, char* const* arguments,
-                 char* const* environment) noexcept {
+                 char* const* environment) {
     const auto spawn = [&]() -> int {
         DEVICEROOT_REDIRECT(posix_spawnp, process, DevicePath(path), actions, attributes, arguments,
                             CHILD_ENVIRONMENT(environment));
@@ -103,9 +106,10 @@ void* dlopen(const char* path, int mode) noexcept {
     constexpr std::string_view searched = "@rpath/";
     const std::string_view name(path == nullptr ? "" : path);
     if (name.starts_with(searched) && !desktop::rootFolder().empty()) {
-        if (void* library =
-                openInstalled({name.data() + searched.size(), name.size() - searched.size()}, mode))
+        if (void* library = openInstalled(
+                {name.data() + searched.size(), name.size() - searched.size()}, mode)) {
             return library;
+        }
     }
     DEVICEROOT_REDIRECT(dlopen, DevicePath(path), mode);
 }

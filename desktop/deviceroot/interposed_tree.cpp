@@ -27,12 +27,13 @@ template <typename Read>
 ssize_t readMappedBack(char* buffer, std::size_t size, Read read) {
     char target[PATH_MAX];
     const ssize_t length = read(target, sizeof target - 1);
-    if (length < 0)
+    if (length < 0) {
         return length;
+    }
     target[length] = 0;
     const char* const device = desktop::devicePathOf(target);
     const std::size_t copied = std::min(size, std::strlen(device));
-    std::memcpy(buffer, device, copied);
+    std::copy_n(device, copied, buffer); // not terminated, as readlink has it
     return static_cast<ssize_t>(copied);
 }
 

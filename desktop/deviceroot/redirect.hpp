@@ -36,10 +36,11 @@ private:
 template <typename Result>
 Result failure(int error) {
     errno = error;
-    if constexpr (std::is_pointer_v<Result>)
+    if constexpr (std::is_pointer_v<Result>) {
         return nullptr;
-    else
+    } else {
         return -1;
+    }
 }
 
 inline bool isTooLong(const DevicePath& path) { return path.isTooLong(); }
@@ -59,8 +60,9 @@ template <typename Function, typename... Arguments>
 auto redirect(Next<Function>& next, const Arguments&... arguments) {
     Function* const function = next.get();
     using Result = decltype(function(passed(arguments)...));
-    if ((isTooLong(arguments) || ...))
+    if ((isTooLong(arguments) || ...)) {
         return failure<Result>(ENAMETOOLONG);
+    }
     return function == nullptr ? failure<Result>(ENOSYS) : function(passed(arguments)...);
 }
 

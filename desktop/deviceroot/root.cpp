@@ -18,7 +18,7 @@ constexpr std::string_view preloadVariable = "LD_PRELOAD=";
 
 // The environment refers to these, so that neither allocation nor freeing is needed.
 char rootEntry[rootVariable.size() + PATH_MAX];
-char preloadEntry[preloadVariable.size() + 2 * PATH_MAX];
+char preloadEntry[preloadVariable.size() + std::size_t{2} * PATH_MAX];
 std::atomic<std::size_t> rootLength = 0;
 std::atomic<bool> environmentWasRead = false;
 
@@ -36,22 +36,25 @@ void append(char* entry, std::string_view text) {
 // Children may be started in another folder: the path has to be absolute.
 std::string_view libraryPath(char (&canonical)[PATH_MAX]) {
     Dl_info information;
-    if (dladdr(&rootEntry, &information) == 0 || information.dli_fname == nullptr)
+    if (dladdr(&rootEntry, &information) == 0 || information.dli_fname == nullptr) {
         return {};
+    }
     const char* const path = DEVICEROOT_NEXT(realpath)(information.dli_fname, canonical);
     return path == nullptr ? "" : path;
 }
 
 void preloadIntoChildren() {
-    if (preloadEntry[0] != 0)
+    if (preloadEntry[0] != 0) {
         return;
+    }
     char canonical[PATH_MAX];
     const std::string_view library = libraryPath(canonical);
     const char* const before = std::getenv("LD_PRELOAD");
     const std::string_view others = before ? before : "";
     append(preloadEntry, preloadVariable);
-    if (others.find(library) == others.npos)
+    if (others.find(library) == others.npos) {
         append(preloadEntry, library);
+    }
     if (!others.empty() && others.size() < PATH_MAX) {
         append(preloadEntry, preloadEntry[preloadVariable.size()] != 0 ? ":" : "");
         append(preloadEntry, others);
@@ -60,8 +63,9 @@ void preloadIntoChildren() {
 }
 
 std::string_view withoutSlashAtEnd(std::string_view folder) {
-    while (folder.ends_with('/'))
+    while (folder.ends_with('/')) {
         folder.remove_suffix(1);
+    }
     return folder;
 }
 
@@ -69,8 +73,9 @@ bool setRoot(const char* folder) {
     char canonical[PATH_MAX];
     const char* const resolved = DEVICEROOT_NEXT(realpath)(folder, canonical);
     const std::string_view path = withoutSlashAtEnd(resolved ? resolved : folder);
-    if (folder[0] != '/' || path.size() >= PATH_MAX)
+    if (folder[0] != '/' || path.size() >= PATH_MAX) {
         return false;
+    }
     rootLength.store(0, std::memory_order_release);
     rootEntry[0] = 0;
     append(rootEntry, rootVariable);
@@ -82,11 +87,13 @@ bool setRoot(const char* folder) {
 }
 
 void readEnvironment() {
-    if (environmentWasRead.exchange(true))
+    if (environmentWasRead.exchange(true)) {
         return;
+    }
     const char* const folder = std::getenv("WENTRA_DEVICE_ROOT");
-    if (folder != nullptr && folder[0] != 0)
+    if (folder != nullptr && folder[0] != 0) {
         setRoot(folder);
+    }
 }
 
 // Before the program's own code can start a thread or a child.
@@ -95,8 +102,9 @@ void readEnvironment() {
 } // namespace
 
 std::string_view rootFolder() {
-    if (!environmentWasRead.load(std::memory_order_acquire))
+    if (!environmentWasRead.load(std::memory_order_acquire)) {
         readEnvironment();
+    }
     return rootValue();
 }
 
@@ -106,8 +114,9 @@ Inheritance inheritance() { return {rootEntry, preloadEntry}; }
 
 bool deviceroot_set(const char* folder) {
     desktop::readEnvironment();
-    if (folder != nullptr && folder[0] != 0)
+    if (folder != nullptr && folder[0] != 0) {
         return desktop::setRoot(folder);
+    }
     desktop::rootLength.store(0, std::memory_order_release);
     desktop::rootEntry[desktop::rootVariable.size()] = 0;
     unsetenv("WENTRA_DEVICE_ROOT");

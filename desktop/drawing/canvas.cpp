@@ -20,8 +20,9 @@ std::optional<Rectangle> drawable(const Rectangle& area) {
     const double top = std::max(area.y, -farAway);
     const double right = std::min(area.x + area.width, farAway);
     const double bottom = std::min(area.y + area.height, farAway);
-    if (!(right > left && bottom > top) || std::isnan(area.x) || std::isnan(area.y))
+    if (!(right > left && bottom > top) || std::isnan(area.x) || std::isnan(area.y)) {
         return std::nullopt;
+    }
     return Rectangle{left, top, right - left, bottom - top};
 }
 
@@ -81,8 +82,9 @@ bool Canvas::concatenate(const AffineTransform& transform) {
     cairo_get_matrix(context(), &current);
     cairo_matrix_multiply(&current, &matrix, &current);
     cairo_matrix_t inverse = current;
-    if (!isFinite(current) || cairo_matrix_invert(&inverse) != CAIRO_STATUS_SUCCESS)
+    if (!isFinite(current) || cairo_matrix_invert(&inverse) != CAIRO_STATUS_SUCCESS) {
         return false;
+    }
     cairo_set_matrix(context(), &current);
     return true;
 }
@@ -95,8 +97,9 @@ void Canvas::clip(const Rectangle& area, double cornerRadius) {
 
 void Canvas::fill(const Rectangle& area, const Colour& colour, double cornerRadius) {
     const auto visible = drawable(area);
-    if (!visible)
+    if (!visible) {
         return;
+    }
     cairo_new_path(context());
     addRoundedRectangle(context(), *visible, cornerRadius);
     setColour(colour);
@@ -106,8 +109,9 @@ void Canvas::fill(const Rectangle& area, const Colour& colour, double cornerRadi
 void Canvas::stroke(const Rectangle& area, const Colour& colour, double lineWidth,
                     double cornerRadius) {
     const auto visible = drawable(area);
-    if (!visible || !(lineWidth > 0))
+    if (!visible || !(lineWidth > 0)) {
         return;
+    }
     const double width = std::min({lineWidth, visible->width / 2, visible->height / 2});
     const Rectangle middle{visible->x + width / 2, visible->y + width / 2, visible->width - width,
                            visible->height - width};
@@ -120,8 +124,9 @@ void Canvas::stroke(const Rectangle& area, const Colour& colour, double lineWidt
 
 void Canvas::draw(const Image& image, const Rectangle& area) {
     const auto visible = drawable(area);
-    if (!visible || image.pixelWidth() == 0 || image.pixelHeight() == 0)
+    if (!visible || image.pixelWidth() == 0 || image.pixelHeight() == 0) {
         return;
+    }
     save();
     const bool placed = concatenate({.a = area.width / image.pixelWidth(),
                                      .d = area.height / image.pixelHeight(),
@@ -138,8 +143,9 @@ void Canvas::draw(const Image& image, const Rectangle& area) {
 }
 
 void Canvas::fillShape(const Image& image, const Rectangle& area, const Colour& colour) {
-    if (!drawable(area) || image.pixelWidth() == 0 || image.pixelHeight() == 0)
+    if (!drawable(area) || image.pixelWidth() == 0 || image.pixelHeight() == 0) {
         return;
+    }
     save();
     const bool placed = concatenate({.a = area.width / image.pixelWidth(),
                                      .d = area.height / image.pixelHeight(),
@@ -156,8 +162,9 @@ void Canvas::drawShadow(const Rectangle& area, const Colour& colour, Size offset
                         double cornerRadius) {
     const auto shape =
         drawable({area.x + offset.width, area.y + offset.height, area.width, area.height});
-    if (!shape)
+    if (!shape) {
         return;
+    }
     const double radius = blurRadius > 0 && std::isfinite(blurRadius) ? blurRadius : 0;
     setColour(colour);
     paintBlurred(context(), *shape, radius,

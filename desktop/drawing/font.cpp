@@ -19,12 +19,14 @@ double measure(hb_font_t* face, hb_ot_metrics_tag_t tag) {
 } // namespace
 
 FontMetrics metrics(const Font& font) {
-    if (drawnSize(font) <= 0)
+    if (drawnSize(font) <= 0) {
         return {};
+    }
     const Handle<PangoFont, g_object_unref> loaded(
         pango_context_load_font(textContext(), describe(font).get()));
-    if (!loaded)
+    if (!loaded) {
         return {};
+    }
     hb_font_t* face = pango_font_get_hb_font(loaded.get());
     FontMetrics result;
     result.ascender = measure(face, HB_OT_METRICS_TAG_HORIZONTAL_ASCENDER);

@@ -24,8 +24,9 @@ struct Face {
 
 std::string text(FcPattern* pattern, const char* property, int index = 0) {
     FcChar8* value = nullptr;
-    if (FcPatternGetString(pattern, property, index, &value) != FcResultMatch)
+    if (FcPatternGetString(pattern, property, index, &value) != FcResultMatch) {
         return {};
+    }
     return reinterpret_cast<const char*>(value);
 }
 
@@ -60,12 +61,14 @@ void addInstalledFaces(std::vector<Face>& faces) {
                          static_cast<const char*>(nullptr)));
     const Handle<FcFontSet, FcFontSetDestroy> found(
         FcFontList(fontConfiguration(), anything.get(), properties.get()));
-    if (!found)
+    if (!found) {
         return;
+    }
     for (int index = 0; index < found->nfont; ++index) {
         Face face = installedFace(found->fonts[index]);
-        if (!face.family.empty() && !face.postScriptName.empty())
+        if (!face.family.empty() && !face.postScriptName.empty()) {
             faces.push_back(std::move(face));
+        }
     }
 }
 
@@ -73,8 +76,9 @@ void addPhoneFaces(std::vector<Face>& faces) {
     for (const PhoneFamily& family : phoneFamilies()) {
         for (const PhoneFace& face : family.faces) {
             std::string fullName(family.name);
-            if (!face.style.empty())
+            if (!face.style.empty()) {
                 fullName.append(" ").append(face.style);
+            }
             faces.push_back({.family = std::string(family.name),
                              .postScriptName = std::string(face.postScriptName),
                              .fullName = std::move(fullName),
@@ -113,21 +117,24 @@ const Face* nearestFace(std::string_view family, int weight, bool italic) {
     for (const Face& face : catalogue()) {
         const bool nearer =
             best == nullptr || distance(face, weight, italic) < distance(*best, weight, italic);
-        if (sameName(face.family, family) && nearer)
+        if (sameName(face.family, family) && nearer) {
             best = &face;
+        }
     }
     return best;
 }
 
 const Face* faceNamed(std::string_view name) {
-    if (name.empty())
+    if (name.empty()) {
         return nullptr;
+    }
     const auto& faces = catalogue();
     for (const auto property : {&Face::postScriptName, &Face::fullName}) {
         const auto found = std::ranges::find_if(
             faces, [&](const Face& face) { return sameName(face.*property, name); });
-        if (found != faces.end())
+        if (found != faces.end()) {
             return &*found;
+        }
     }
     return nearestFace(name, 400, false);
 }
@@ -144,24 +151,27 @@ std::string systemName(const Font& font) {
 
 std::optional<Font> fontNamed(std::string_view name, double size) {
     const Face* face = faceNamed(name);
-    if (face == nullptr)
+    if (face == nullptr) {
         return std::nullopt;
+    }
     return Font{
         .family = face->family, .size = size, .weight = face->weight, .italic = face->italic};
 }
 
 std::string postScriptName(const Font& font) {
     const int weight = std::clamp(font.weight, 100, 900);
-    if (const Face* face = nearestFace(font.family, weight, font.italic))
+    if (const Face* face = nearestFace(font.family, weight, font.italic)) {
         return face->postScriptName;
+    }
     return systemName(font);
 }
 
 std::vector<std::string> familyNames() {
     std::vector<std::string> names;
     for (const Face& face : catalogue()) {
-        if (names.empty() || names.back() != face.family)
+        if (names.empty() || names.back() != face.family) {
             names.push_back(face.family);
+        }
     }
     return names;
 }
@@ -169,8 +179,9 @@ std::vector<std::string> familyNames() {
 std::vector<std::string> fontNames(std::string_view family) {
     std::vector<std::string> names;
     for (const Face& face : catalogue()) {
-        if (sameName(face.family, family))
+        if (sameName(face.family, family)) {
             names.push_back(face.postScriptName);
+        }
     }
     return names;
 }

@@ -80,12 +80,15 @@ constexpr double titleSize = 20;
 std::string familiesOf(const Font& font) {
     const std::string system = font.size >= titleSize ? "Inter Display,Inter" : "Inter";
     const std::string substitutes = ",Noto Sans CJK SC,Noto Color Emoji,DejaVu Sans";
-    if (font.family.empty())
+    if (font.family.empty()) {
         return system + substitutes;
-    if (font.family == Font::monospacedFamily)
+    }
+    if (font.family == Font::monospacedFamily) {
         return "DejaVu Sans Mono" + substitutes;
-    if (const PhoneFamily* family = phoneFamily(font.family))
+    }
+    if (const PhoneFamily* family = phoneFamily(font.family)) {
         return std::string(family->standIns) + "," + system + substitutes;
+    }
     return font.family + "," + system + substitutes;
 }
 

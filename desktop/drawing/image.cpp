@@ -35,8 +35,9 @@ void makeClear(GdkPixbufLoader* loader, gpointer) {
 }
 
 Pixbuf decodePixbuf(std::span<const std::byte> bytes) {
-    if (bytes.empty())
+    if (bytes.empty()) {
         return nullptr;
+    }
     bool refused = false;
     const Loader loader(gdk_pixbuf_loader_new());
     g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(refuseLargePicture), &refused);
@@ -46,8 +47,9 @@ Pixbuf decodePixbuf(std::span<const std::byte> bytes) {
                                 bytes.size(), nullptr) != FALSE;
     const bool complete = gdk_pixbuf_loader_close(loader.get(), nullptr) != FALSE;
     GdkPixbuf* decoded = gdk_pixbuf_loader_get_pixbuf(loader.get());
-    if (!written || !complete || refused || decoded == nullptr)
+    if (!written || !complete || refused || decoded == nullptr) {
         return nullptr;
+    }
     return Pixbuf(gdk_pixbuf_apply_embedded_orientation(decoded));
 }
 
@@ -90,8 +92,9 @@ Image::Image(std::shared_ptr<cairo_surface_t> surface, double scale)
 
 std::optional<Image> Image::load(const std::filesystem::path& file, double scale) {
     std::error_code error;
-    if (!std::filesystem::is_regular_file(file, error))
+    if (!std::filesystem::is_regular_file(file, error)) {
         return std::nullopt;
+    }
     std::ifstream stream(file, std::ios::binary);
     const std::vector<char> bytes{std::istreambuf_iterator<char>(stream), {}};
     return decode(std::as_bytes(std::span(bytes)), scale);
@@ -99,14 +102,15 @@ std::optional<Image> Image::load(const std::filesystem::path& file, double scale
 
 std::optional<Image> Image::decode(std::span<const std::byte> bytes, double scale) {
     const Pixbuf pixbuf = decodePixbuf(bytes);
-    if (!pixbuf)
+    if (!pixbuf) {
         return std::nullopt;
+    }
     return Image(surfaceOf(pixbuf.get()), scale);
 }
 
 Image Image::adopt(std::shared_ptr<cairo_surface_t> surface, double scale) {
     cairo_surface_flush(surface.get());
-    return Image(std::move(surface), scale);
+    return {std::move(surface), scale};
 }
 
 Size Image::size() const { return {pixelWidth() / scale_, pixelHeight() / scale_}; }
@@ -117,13 +121,15 @@ int Image::pixelHeight() const { return cairo_image_surface_get_height(surface()
 
 Colour Image::pixel(int x, int y) const {
     const unsigned char* data = cairo_image_surface_get_data(surface());
-    if (data == nullptr || x < 0 || y < 0 || x >= pixelWidth() || y >= pixelHeight())
+    if (data == nullptr || x < 0 || y < 0 || x >= pixelWidth() || y >= pixelHeight()) {
         return {0, 0, 0, 0};
+    }
     const std::ptrdiff_t stride = cairo_image_surface_get_stride(surface());
     const std::uint32_t value = reinterpret_cast<const std::uint32_t*>(data + y * stride)[x];
     const std::uint32_t alpha = value >> 24;
-    if (alpha == 0)
+    if (alpha == 0) {
         return {0, 0, 0, 0};
+    }
     const auto component = [&](int shift) {
         return std::min(1.0, static_cast<double>((value >> shift) & 0xFF) / alpha);
     };
@@ -132,8 +138,9 @@ Colour Image::pixel(int x, int y) const {
 
 std::vector<std::byte> Image::png() const {
     std::vector<std::byte> bytes;
-    if (cairo_surface_write_to_png_stream(surface(), appendBytes, &bytes) != CAIRO_STATUS_SUCCESS)
+    if (cairo_surface_write_to_png_stream(surface(), appendBytes, &bytes) != CAIRO_STATUS_SUCCESS) {
         bytes.clear();
+    }
     return bytes;
 }
 

@@ -20,8 +20,9 @@ bool isLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 // The character at the beginning of a text that is not empty.
 char32_t decode(std::u16string_view text) {
     const char16_t first = text.front();
-    if (isHighSurrogate(first) && text.size() > 1 && isLowSurrogate(text[1]))
+    if (isHighSurrogate(first) && text.size() > 1 && isLowSurrogate(text[1])) {
         return 0x10000 + ((char32_t{first} - 0xD800u) << 10 | (char32_t{text[1]} - 0xDC00u));
+    }
     return isHighSurrogate(first) || isLowSurrogate(first) ? replacementCharacter : first;
 }
 
@@ -36,10 +37,12 @@ bool isControl(char32_t character) {
 
 // What is drawn for a character; Pango would draw boxes for the controls.
 char32_t drawn(char32_t character, bool followedByLineFeed, bool singleLine) {
-    if (character == '\r' && followedByLineFeed)
+    if (character == '\r' && followedByLineFeed) {
         return zeroWidthSpace;
-    if (isLineBreak(character))
+    }
+    if (isLineBreak(character)) {
         return singleLine ? ' ' : '\n';
+    }
     return isControl(character) ? zeroWidthSpace : character;
 }
 
@@ -96,10 +99,12 @@ public:
                                           channel(run.background->blue)));
             putAlpha(pango_attr_background_alpha_new, run.background->alpha);
         }
-        if (run.underline)
+        if (run.underline) {
             put(pango_attr_underline_new(PANGO_UNDERLINE_SINGLE));
-        if (run.strikethrough)
+        }
+        if (run.strikethrough) {
             put(pango_attr_strikethrough_new(TRUE));
+        }
     }
 
 private:
@@ -129,8 +134,9 @@ Passage::Passage(const StyledText& text, Stretch whole, std::optional<Stretch> e
 
     pango_layout_set_text(layout_.get(), bytes_.c_str(), static_cast<int>(bytes_.size()));
     apply(text);
-    if (breaking.width)
+    if (breaking.width) {
         pango_layout_set_width(layout_.get(), static_cast<int>(*breaking.width * PANGO_SCALE));
+    }
     pango_layout_set_wrap(layout_.get(),
                           breaking.atAnyCharacter ? PANGO_WRAP_CHAR : PANGO_WRAP_WORD_CHAR);
     pango_layout_set_justify(layout_.get(), breaking.justified);
@@ -148,8 +154,9 @@ void Passage::encode(const StyledText& text, Stretch part, bool singleLine) {
             const char32_t shown = drawn(character, followedByLineFeed, singleLine);
             offsets_.push_back(static_cast<int>(bytes_.size()));
             append(bytes_, visible || shown == '\n' ? shown : zeroWidthSpace);
-            if (character > 0xFFFF)
+            if (character > 0xFFFF) {
                 offsets_.push_back(static_cast<int>(bytes_.size()));
+            }
             unit += character > 0xFFFF ? 2 : 1;
         }
     }
@@ -157,10 +164,13 @@ void Passage::encode(const StyledText& text, Stretch part, bool singleLine) {
 
 void Passage::apply(const StyledText& text) {
     const Handle<PangoAttrList, pango_attr_list_unref> list(pango_attr_list_new());
+    // A word that is broken shows what is in the text, and no hyphen.
+    pango_attr_list_insert(list.get(), pango_attr_insert_hyphens_new(FALSE));
     for (const TextRun& run : text.runs(whole_.start, whole_.end)) {
         const Painter painter(list.get(), byteAt(run.start), byteAt(run.start + run.length));
-        if (drawnSize(run.font) > 0)
+        if (drawnSize(run.font) > 0) {
             painter.putFont(run.font);
+        }
         painter.putLook(run);
     }
     pango_layout_set_attributes(layout_.get(), list.get());
@@ -174,8 +184,9 @@ double Passage::width() const {
 
 int Passage::byteAt(std::size_t unit) const {
     unit = std::clamp(unit, whole_.start, whole_.end);
-    if (unit > elided_.start && unit < elided_.end)
+    if (unit > elided_.start && unit < elided_.end) {
         unit = elided_.end;
+    }
     const std::size_t missing = unit > elided_.start ? elided_.end - elided_.start - 1 : 0;
     return offsets_[unit - whole_.start - missing];
 }
@@ -196,16 +207,18 @@ void Passage::visitPlaces(Visitor visit) const {
     const char* character = first;
     for (int index = 0; index < count; ++index) {
         visit(unitAt(static_cast<int>(character - first)), attributes[index], index == count - 1);
-        if (index < count - 1)
+        if (index < count - 1) {
             character = g_utf8_next_char(character);
+        }
     }
 }
 
 std::vector<std::size_t> Passage::caretPositions() const {
     std::vector<std::size_t> positions;
     visitPlaces([&](std::size_t unit, const PangoLogAttr& place, bool isLast) {
-        if (place.is_cursor_position || isLast)
+        if (place.is_cursor_position || isLast) {
             positions.push_back(unit);
+        }
     });
     return positions;
 }

@@ -29,12 +29,14 @@ struct Coverage {
 // side.
 void average(unsigned char* first, std::ptrdiff_t count, std::ptrdiff_t step, std::ptrdiff_t reach,
              std::vector<unsigned char>& line) {
-    for (std::ptrdiff_t index = 0; index < count; ++index)
+    for (std::ptrdiff_t index = 0; index < count; ++index) {
         line[static_cast<std::size_t>(index + reach)] = first[index * step];
+    }
     const std::ptrdiff_t span = 2 * reach + 1;
     std::ptrdiff_t sum = 0;
-    for (std::ptrdiff_t index = 0; index < span - 1; ++index)
+    for (std::ptrdiff_t index = 0; index < span - 1; ++index) {
         sum += line[static_cast<std::size_t>(index)];
+    }
     for (std::ptrdiff_t index = 0; index < count; ++index) {
         sum += line[static_cast<std::size_t>(index + span - 1)];
         first[index * step] = static_cast<unsigned char>((sum + reach) / span);
@@ -49,13 +51,15 @@ void blur(const Coverage& coverage, double deviation) {
     // The margins of the line stay zero: nothing is covered out there.
     std::vector<unsigned char> line(longest + 2 * static_cast<std::size_t>(reach));
     for (std::ptrdiff_t y = 0; reach > 0 && y < coverage.height; ++y) {
-        for (int pass = 0; pass < passes; ++pass)
+        for (int pass = 0; pass < passes; ++pass) {
             average(coverage.data + y * coverage.stride, coverage.width, 1, reach, line);
+        }
     }
     std::ranges::fill(line, static_cast<unsigned char>(0));
     for (std::ptrdiff_t x = 0; reach > 0 && x < coverage.width; ++x) {
-        for (int pass = 0; pass < passes; ++pass)
+        for (int pass = 0; pass < passes; ++pass) {
             average(coverage.data + x, coverage.height, coverage.stride, reach, line);
+        }
     }
 }
 

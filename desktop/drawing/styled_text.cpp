@@ -13,15 +13,15 @@ constexpr std::size_t mostUnits = 32768;
 
 std::size_t longestStretchOf(std::span<const TextRun> runs) {
     double size = 1;
-    for (const TextRun& run : runs)
+    for (const TextRun& run : runs) {
         size = std::max(size, drawnSize(run.font));
+    }
     return std::min(mostUnits, static_cast<std::size_t>(widestStretch / size));
 }
 
 } // namespace
 
-StyledText::StyledText(std::u16string_view text, std::span<const TextRun> runs)
-    : text_(text), longestStretch_(0) {
+StyledText::StyledText(std::u16string_view text, std::span<const TextRun> runs) : text_(text) {
     std::size_t covered = 0;
     const auto add = [&](TextRun run, std::size_t start, std::size_t end) {
         run.start = start;
@@ -33,14 +33,17 @@ StyledText::StyledText(std::u16string_view text, std::span<const TextRun> runs)
         const std::size_t start = std::clamp(run.start, covered, text.size());
         const std::size_t skipped = start - std::min(start, run.start);
         const std::size_t length = run.length - std::min(run.length, skipped);
-        if (length == 0 || (start == text.size() && !text.empty()))
+        if (length == 0 || (start == text.size() && !text.empty())) {
             continue;
-        if (start > covered)
+        }
+        if (start > covered) {
             add({}, covered, start);
+        }
         add(run, start, start + std::min(length, text.size() - start));
     }
-    if (covered < text.size() || runs_.empty())
+    if (covered < text.size() || runs_.empty()) {
         add({}, covered, text.size());
+    }
     longestStretch_ = longestStretchOf(runs_);
 }
 

@@ -26,7 +26,7 @@ public:
 private:
     std::u16string_view text_;
     std::vector<TextRun> runs_;
-    std::size_t longestStretch_;
+    std::size_t longestStretch_ = 0;
 };
 
 } // namespace desktop

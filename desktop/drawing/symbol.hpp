@@ -23,7 +23,8 @@ struct SymbolStyle {
 };
 
 /// The symbol in black on clear ground, in pixels of that scale; nothing for a name that is not
-/// known. Where the icon set lacks a symbol, it is the nearest one that it has. Main thread.
+/// known. Of those that the icon set lacks some are drawn by hand, and others are the nearest one
+/// that it has. Main thread.
 [[nodiscard]] std::optional<Image> symbol(std::string_view name, const SymbolStyle& style,
                                           double scale);
 

@@ -14,26 +14,15 @@ struct Substitute {
 
 /// Symbols that the set lacks, with the glyph that is nearest in meaning and shape.
 constexpr std::array substitutes{
-    Substitute{"app.badge.checkmark", "app_badge"},
-    Substitute{"arrow.down.forward.and.arrow.up.backward.circle", "arrow_down_right_arrow_up_left"},
     Substitute{"arrow.triangle.2.circlepath", "arrow_2_circlepath"},
-    Substitute{"arrow.up.left.and.down.right.and.arrow.up.right.and.down.left", "move"},
-    Substitute{"chart.bar.doc.horizontal", "doc_chart"},
-    Substitute{"dongsign.square", "money_yen_circle"},
-    Substitute{"dot.viewfinder", "smallcircle_circle"},
-    Substitute{"faxmachine", "printer"},
     Substitute{"gearshape", "gear_alt"},
     Substitute{"gearshape.fill", "gear_alt_fill"},
     Substitute{"line.3.horizontal", "line_horizontal_3"},
     Substitute{"minus.magnifyingglass", "zoom_out"},
     Substitute{"network", "globe"},
-    Substitute{"photo.artframe", "photo_on_rectangle"},
     Substitute{"play.rectangle", "play_rectangle"},
     Substitute{"plus.magnifyingglass", "zoom_in"},
     Substitute{"safari", "compass"},
-    Substitute{"square.fill.text.grid.1x2", "rectangle_grid_1x2_fill"},
-    Substitute{"square.grid.3x3", "rectangle_split_3x3"},
-    Substitute{"square.grid.3x3.fill", "rectangle_split_3x3_fill"},
 };
 
 /// Words that the set spells in its own way.

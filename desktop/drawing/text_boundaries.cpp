@@ -44,13 +44,15 @@ private:
 } // namespace
 
 Stretch composedCharacter(std::u16string_view text, std::size_t unit) {
-    if (unit >= text.size())
+    if (unit >= text.size()) {
         return {text.size(), text.size()};
+    }
     const Window window(text, unit);
     const auto places = window.passage().caretPositions();
     const auto end = std::ranges::upper_bound(places, window.inside(unit));
-    if (end == places.begin() || end == places.end())
+    if (end == places.begin() || end == places.end()) {
         return {unit, unit + 1};
+    }
     Stretch character = window.moved({*std::prev(end), *end});
     // A carriage return and a line feed are one line break.
     const auto breaks = [text](std::size_t place) {
@@ -62,8 +64,9 @@ Stretch composedCharacter(std::u16string_view text, std::size_t unit) {
 }
 
 Stretch wordAround(std::u16string_view text, std::size_t unit) {
-    if (text.empty())
+    if (text.empty()) {
         return {};
+    }
     unit = std::min(unit, text.size());
     const Window window(text, unit);
     const auto words = window.passage().words();
@@ -71,10 +74,12 @@ Stretch wordAround(std::u16string_view text, std::size_t unit) {
     const auto inside = std::ranges::find_if(
         words, [=](Stretch word) { return word.start <= place && place < word.end; });
     const auto before = std::ranges::find(words, place, &Stretch::end);
-    if (inside != words.end())
+    if (inside != words.end()) {
         return window.moved(*inside);
-    if (before != words.end())
+    }
+    if (before != words.end()) {
         return window.moved(*before);
+    }
     return composedCharacter(text, std::min(unit, text.size() - 1));
 }
 

@@ -20,13 +20,24 @@ bool isLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 /// Where to end the first block of so many units that begin with this text: behind the last line
 /// break, if there is one, and so that no small rest is left.
 std::size_t firstCut(std::u16string_view text, std::size_t units) {
-    if (units <= blockLength)
+    if (units <= blockLength) {
         return units;
+    }
     const std::size_t most = units < 2 * blockLength ? units / 2 : blockLength;
     const std::size_t lineBreak = text.rfind(u'\n', most - 1);
-    if (lineBreak != std::u16string_view::npos)
+    if (lineBreak != std::u16string_view::npos) {
         return lineBreak + 1;
+    }
     return isLowSurrogate(text[most]) ? most - 1 : most;
+}
+
+/// A selection that goes on behind a line reaches to that end of it.
+void extend(std::vector<Rectangle>& boxes, bool isRightToLeft, double width) {
+    if (isRightToLeft) {
+        boxes.front().width += std::exchange(boxes.front().x, 0);
+    } else {
+        boxes.back().width = std::max(boxes.back().width, width - boxes.back().x);
+    }
 }
 
 } // namespace
@@ -39,8 +50,9 @@ void TextFlow::setWidth(double width) {
 }
 
 void TextFlow::setAlignment(TextAlignment alignment) {
-    if (std::exchange(alignment_, alignment) != alignment)
+    if (std::exchange(alignment_, alignment) != alignment) {
         reset();
+    }
 }
 
 void TextFlow::setSingleLine() {
@@ -54,8 +66,9 @@ void TextFlow::reset() {
 }
 
 void TextFlow::prepare() {
-    if (blocks_.empty())
+    if (blocks_.empty()) {
         blocks_ = split({0, source_.length()});
+    }
 }
 
 std::vector<TextFlow::Block> TextFlow::split(Stretch stretch) const {
@@ -87,16 +100,18 @@ double TextFlow::estimate(std::u16string_view text, std::size_t start) const {
     double line = 0;
     for (const char16_t unit : text) {
         line += unit < firstIdeograph ? narrow : 1;
-        if (unit == u'\n')
+        if (unit == u'\n') {
             lines += std::max(1.0, std::ceil(std::exchange(line, 0.0) * font.size / width_));
+        }
     }
     lines += std::ceil(line * font.size / width_);
     return std::isfinite(lines) ? lines * metrics(font).lineHeight : 0;
 }
 
 void TextFlow::replaced(Stretch former, std::size_t length) {
-    if (blocks_.empty())
+    if (blocks_.empty()) {
         return;
+    }
     Place first = blockWith(former.start);
     // A word may move back onto the line before.
     if (first.index > 0 && blocks_[first.index - 1].open) {
@@ -105,16 +120,18 @@ void TextFlow::replaced(Stretch former, std::size_t length) {
     }
     std::size_t last = first.index;
     std::size_t end = first.start + blocks_[last].length;
-    while (end < former.end && last + 1 < blocks_.size())
+    while (end < former.end && last + 1 < blocks_.size()) {
         end += blocks_[++last].length;
+    }
     // Text that ended with the block may not be its end any more, and small blocks are joined.
     const std::size_t change = length - (former.end - former.start); // may wrap: it is added again
     const auto isSmall = [&](std::size_t more) {
         return end + change - first.start < blockLength / 4 ||
                end + change - first.start + more <= blockLength;
     };
-    while (last + 1 < blocks_.size() && isSmall(blocks_[last + 1].length))
+    while (last + 1 < blocks_.size() && isSmall(blocks_[last + 1].length)) {
         end += blocks_[++last].length;
+    }
     replaceBlocks(first.index, last + 1, {first.start, std::max(first.start, end + change)});
 }
 
@@ -132,8 +149,9 @@ Stretch TextFlow::unitsOf(const Place& place) const {
 }
 
 TextLayout TextFlow::set(Stretch stretch) const {
-    if (singleLine_)
+    if (singleLine_) {
         stretch.end = std::min(stretch.end, stretch.start + longestLine);
+    }
     return {source_.units(stretch), source_.runs(stretch), frame()};
 }
 
@@ -179,11 +197,13 @@ void TextFlow::replaceBlocks(std::size_t first, std::size_t end, Stretch stretch
 
 void TextFlow::forgetFarFrom(std::size_t index) {
     const auto hasLayout = [](const Block& block) { return block.layout.has_value(); };
-    if (static_cast<std::size_t>(std::ranges::count_if(blocks_, hasLayout)) < mostLayouts)
+    if (static_cast<std::size_t>(std::ranges::count_if(blocks_, hasLayout)) < mostLayouts) {
         return;
+    }
     for (std::size_t other = 0; other < blocks_.size(); ++other) {
-        if (other + mostLayouts / 4 < index || other > index + mostLayouts / 4)
+        if (other + mostLayouts / 4 < index || other > index + mostLayouts / 4) {
             blocks_[other].layout.reset();
+        }
     }
 }
 
@@ -195,8 +215,9 @@ TextFlow::Place TextFlow::next(const Place& place) const {
 TextFlow::Place TextFlow::blockWith(std::size_t unit) {
     prepare();
     Place place;
-    while (!isLast(place) && unit >= place.start + blocks_[place.index].length)
+    while (!isLast(place) && unit >= place.start + blocks_[place.index].length) {
         place = next(place);
+    }
     return place;
 }
 
@@ -206,8 +227,9 @@ TextFlow::Place TextFlow::blockAtHeight(double y) {
     for (; !isLast(place); place = next(place)) {
         if (y < place.top + blocks_[place.index].height) {
             layout(place);
-            if (y < place.top + blocks_[place.index].height)
+            if (y < place.top + blocks_[place.index].height) {
                 break;
+            }
         }
     }
     return place;
@@ -218,10 +240,12 @@ Size TextFlow::size() {
     const bool exact = source_.length() <= exactLength;
     Place place;
     for (;; place = next(place)) {
-        if (exact)
+        if (exact) {
             layout(place);
-        if (isLast(place))
+        }
+        if (isLast(place)) {
             break;
+        }
     }
     return {widest_, place.top + blocks_[place.index].height};
 }
@@ -248,10 +272,12 @@ std::size_t TextFlow::unitAt(Point point) {
         const Rectangle box = set.lineRectangle(line);
         const Stretch units = set.lineUnits(line);
         const bool isHere = point.y - place.top < box.y + box.height;
-        if (isHere && unit == units.end && unit > units.start && line + 1 < set.lineCount())
+        if (isHere && unit == units.end && unit > units.start && line + 1 < set.lineCount()) {
             unit = set.indexAt({set.caretRectangle(unit - 1).x, box.y + box.height / 2});
-        if (isHere)
+        }
+        if (isHere) {
             break;
+        }
     }
     return place.start + std::min(unit, blocks_[place.index].length);
 }
@@ -267,11 +293,13 @@ Stretch TextFlow::lineAt(std::size_t unit) {
 std::size_t TextFlow::unitInLine(std::size_t unit, long linesBelow, double x) {
     while (linesBelow != 0) {
         const Stretch line = lineAt(unit);
-        if (linesBelow < 0 && line.start == 0)
+        if (linesBelow < 0 && line.start == 0) {
             return 0;
+        }
         const bool isLastLine = lineAt(line.end).start == line.start;
-        if (linesBelow > 0 && isLastLine)
+        if (linesBelow > 0 && isLastLine) {
             return source_.length();
+        }
         unit = linesBelow > 0 ? line.end : line.start - 1;
         linesBelow += linesBelow > 0 ? -1 : 1;
     }
@@ -288,23 +316,30 @@ std::vector<Rectangle> TextFlow::rectangles(Stretch units, double top, double bo
             const Stretch line = set.lineUnits(index);
             const std::size_t start = std::max(units.start, place.start + line.start);
             const std::size_t end = std::min(units.end, place.start + line.end);
-            Rectangle box = set.lineRectangle(index);
+            const Rectangle box = set.lineRectangle(index);
             if (start >= end || place.top + box.y + box.height <= top ||
-                place.top + box.y >= bottom)
+                place.top + box.y >= bottom) {
                 continue;
-            const double from = set.caretRectangle(start - place.start).x;
+            }
             const bool goesOn = units.end > place.start + line.end ||
                                 (units.end == place.start + line.end &&
                                  (index + 1 < set.lineCount() || !isLastBlock));
-            double to = goesOn && std::isfinite(width_) ? width_
-                        : goesOn                        ? box.x + box.width
-                                                        : set.caretRectangle(end - place.start).x;
-            if (to < from)
-                to = box.x + box.width;
-            found.push_back({from, place.top + box.y, to - from, box.height});
+            auto boxes = set.selection(index, {start - place.start, end - place.start});
+            if (boxes.empty()) {
+                boxes.push_back({set.caretRectangle(start - place.start).x, box.y, 0, box.height});
+            }
+            if (goesOn) {
+                extend(boxes, set.isRightToLeft(index),
+                       std::isfinite(width_) ? width_ : box.x + box.width);
+            }
+            for (Rectangle& piece : boxes) {
+                piece.y += place.top;
+                found.push_back(piece);
+            }
         }
-        if (isLastBlock)
+        if (isLastBlock) {
             break;
+        }
     }
     return found;
 }
@@ -315,12 +350,14 @@ void TextFlow::draw(cairo_t* context, Point origin) {
     double right = 0;
     double bottom = 0;
     cairo_clip_extents(context, &left, &top, &right, &bottom);
-    if (!std::isfinite(origin.x) || !std::isfinite(origin.y))
+    if (!std::isfinite(origin.x) || !std::isfinite(origin.y)) {
         return;
+    }
     for (Place place = blockAtHeight(top - origin.y);; place = next(place)) {
         layout(place).draw(context, {origin.x, origin.y + place.top});
-        if (isLast(place) || origin.y + next(place).top > bottom)
+        if (isLast(place) || origin.y + next(place).top > bottom) {
             break;
+        }
     }
 }
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 
 namespace desktop {
 namespace {
@@ -36,6 +37,16 @@ std::size_t unitNear(const Line& line, double x) {
     const char* text = pango_layout_get_text(line.passage->layout());
     const char* place = g_utf8_offset_to_pointer(text + byte, trailing);
     return line.passage->unitAt(static_cast<int>(place - text));
+}
+
+/// What lies between those bytes of a line, from left to right, in pairs of edges.
+std::vector<int> edgesOf(PangoLayoutLine* line, int from, int to) {
+    int* found = nullptr;
+    int count = 0;
+    pango_layout_line_get_x_ranges(line, from, to, &found, &count);
+    std::vector<int> edges(found, found + static_cast<std::ptrdiff_t>(2) * count);
+    g_free(found);
+    return edges;
 }
 
 void drawLine(cairo_t* context, const Line& line, Point origin) {
@@ -104,18 +115,53 @@ double TextLayout::lastBaseline() const {
 std::size_t TextLayout::lineCount() const { return content_->set.lines.size(); }
 
 Rectangle TextLayout::lineRectangle(std::size_t index) const {
-    if (index >= lineCount())
+    if (index >= lineCount()) {
         return {};
+    }
     const Line& line = content_->set.lines[index];
     return {line.x, line.top, line.width, line.height};
 }
 
 Stretch TextLayout::lineUnits(std::size_t index) const {
     const auto& lines = content_->set.lines;
-    if (index < lines.size())
+    if (index < lines.size()) {
         return lines[index].units;
+    }
     const std::size_t end = lines.empty() ? 0 : lines.back().units.end;
     return {end, end};
+}
+
+std::vector<Rectangle> TextLayout::selection(std::size_t index, Stretch units) const {
+    if (index >= lineCount()) {
+        return {};
+    }
+    const Line& line = content_->set.lines[index];
+    const int first = line.shaped->start_index;
+    const int last = first + line.shaped->length;
+    const auto byte = [&](std::size_t unit) {
+        return std::clamp(line.passage->byteAt(unit), first, last);
+    };
+    // Pango aligns lines in its own way, which is not ours.
+    const std::vector<int> whole = edgesOf(line.shaped, first, last);
+    const int left = whole.empty() ? 0 : whole.front();
+    const std::vector<int> edges = edgesOf(line.shaped, byte(units.start), byte(units.end));
+    std::vector<Rectangle> boxes;
+    for (std::size_t edge = 0; edge + 1 < edges.size(); edge += 2) {
+        const double x = line.x + static_cast<double>(edges[edge] - left) / PANGO_SCALE;
+        const double width = static_cast<double>(edges[edge + 1] - edges[edge]) / PANGO_SCALE;
+        constexpr double touching = 0.01;
+        if (!boxes.empty() && x <= boxes.back().x + boxes.back().width + touching) {
+            boxes.back().width = x + width - boxes.back().x;
+        } else {
+            boxes.push_back({x, line.top, width, line.height});
+        }
+    }
+    return boxes;
+}
+
+bool TextLayout::isRightToLeft(std::size_t index) const {
+    return index < lineCount() && pango_layout_line_get_resolved_direction(
+                                      content_->set.lines[index].shaped) == PANGO_DIRECTION_RTL;
 }
 
 std::size_t TextLayout::lineOf(std::size_t unit) const {
@@ -126,31 +172,35 @@ std::size_t TextLayout::lineOf(std::size_t unit) const {
 bool TextLayout::isTruncated() const { return content_->set.truncated; }
 
 Rectangle TextLayout::caretRectangle(std::size_t index) const {
-    if (lineCount() == 0)
+    if (lineCount() == 0) {
         return {0, 0, caretWidth, content_->empty.height};
+    }
     const Line& line = content_->lineWith(index);
     return {horizontalPlace(line, index), line.top, caretWidth, line.height};
 }
 
 std::size_t TextLayout::indexAt(Point point) const {
-    if (lineCount() == 0)
+    if (lineCount() == 0) {
         return 0;
+    }
     const auto line = content_->firstBelow(point.y);
     return unitNear(line == content_->set.lines.end() ? content_->set.lines.back() : *line,
                     point.x);
 }
 
 void TextLayout::draw(cairo_t* context, Point origin) const {
-    if (!std::isfinite(origin.x) || !std::isfinite(origin.y))
+    if (!std::isfinite(origin.x) || !std::isfinite(origin.y)) {
         return;
+    }
     Rectangle clip;
     double right = 0;
     double bottom = 0;
     cairo_clip_extents(context, &clip.x, &clip.y, &right, &bottom);
     const auto end = content_->set.lines.end();
     for (auto line = content_->firstBelow(clip.y - origin.y); line != end; ++line) {
-        if (line->top > bottom - origin.y)
+        if (line->top > bottom - origin.y) {
             break;
+        }
         drawLine(context, *line, origin);
     }
 }
@@ -160,8 +210,9 @@ std::size_t TextLayout::unknownGlyphCount() const {
     const PangoLayout* previous = nullptr;
     for (const Line& line : content_->set.lines) {
         PangoLayout* layout = line.passage->layout();
-        if (layout != previous)
+        if (layout != previous) {
             count += static_cast<std::size_t>(pango_layout_get_unknown_glyphs_count(layout));
+        }
         previous = layout;
     }
     return count;

@@ -13,6 +13,7 @@
 #include <optional>
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace desktop {
 
@@ -98,6 +99,11 @@ public:
     Stretch lineUnits(std::size_t line) const;
     /// The line that the caret before this unit stands on; 0 without lines.
     std::size_t lineOf(std::size_t unit) const;
+    /// What units cover of a line, from left to right: several pieces where they are not in one,
+    /// since the text's direction changes between them.
+    std::vector<Rectangle> selection(std::size_t index, Stretch units) const;
+    /// Whether a line is read from right to left, as a whole.
+    bool isRightToLeft(std::size_t index) const;
     /// Whether text was left out at the end or replaced by an ellipsis.
     bool isTruncated() const;
 

@@ -2,7 +2,8 @@
 #include "desktop/drawing/truncation.hpp"
 
 #include <algorithm>
-#include <ranges>
+#include <numeric>
+#include <vector>
 
 namespace desktop {
 namespace {
@@ -46,10 +47,12 @@ public:
         const std::size_t most = std::min(fittingUnits(text, width), whole.end - whole.start);
         Stretch front{whole.start, whole.start + most};
         Stretch back{whole.end - most, whole.end};
-        if (splitsCharacter(text.text(), front.end))
+        if (splitsCharacter(text.text(), front.end)) {
             --front.end;
-        if (splitsCharacter(text.text(), back.start))
+        }
+        if (splitsCharacter(text.text(), back.start)) {
             ++back.start;
+        }
         front_ = positions(text, front);
         back_ = positions(text, back);
     }
@@ -92,7 +95,8 @@ std::shared_ptr<const Passage> elidedLine(const StyledText& text, const Cut& cut
         const Stretch elided = cut.elided(kept);
         return elided.start < elided.end && passage(kept)->width() <= width;
     };
-    const auto counts = std::views::iota(std::size_t{1}, cut.mostKept() + 1);
+    std::vector<std::size_t> counts(cut.mostKept());
+    std::iota(counts.begin(), counts.end(), std::size_t{1});
     const auto tooMany = std::ranges::partition_point(counts, fits);
     return passage(static_cast<std::size_t>(tooMany - counts.begin()));
 }
@@ -107,10 +111,12 @@ TruncatedLine truncatedLine(const StyledText& text, std::size_t start, double wi
     const bool complete = visible.end == rest.stretch.end;
     auto unbroken =
         std::make_shared<const Passage>(text, visible, std::nullopt, Breaking{.singleLine = true});
-    if (mode == LineBreakMode::clipping)
+    if (mode == LineBreakMode::clipping) {
         return {std::move(unbroken), !complete || rest.followed};
-    if (complete && !rest.followed && unbroken->width() <= width)
+    }
+    if (complete && !rest.followed && unbroken->width() <= width) {
         return {std::move(unbroken), false};
+    }
     return {elidedLine(text, Cut(text, rest.stretch, width, mode), width), true};
 }
 

@@ -33,8 +33,9 @@ public:
 
     SetText set() && {
         if (text_.size() > 0 && width_ > 0) {
-            while (!finished_)
+            while (!finished_) {
                 setNextLines();
+            }
             align();
         }
         return std::move(result_);
@@ -43,8 +44,9 @@ public:
 private:
     // Not between the halves of a surrogate pair or of a line break.
     std::size_t stretchEnd(std::size_t length) const {
-        if (length >= text_.size() - next_)
+        if (length >= text_.size() - next_) {
             return text_.size();
+        }
         const std::size_t end = next_ + length;
         const char16_t unit = text_.text()[end];
         const bool splits = (unit >= 0xDC00 && unit <= 0xDFFF) || unit == '\n';
@@ -52,8 +54,9 @@ private:
     }
 
     void setNextLines() {
-        if (isLastLine(next_) && truncates(frame_.lineBreakMode))
+        if (isLastLine(next_) && truncates(frame_.lineBreakMode)) {
             return setLastLine();
+        }
         const Stretch stretch{next_, stretchEnd(stretchLength_)};
         const auto passage = std::make_shared<const Passage>(
             text_, stretch, std::nullopt,
@@ -64,26 +67,29 @@ private:
         const int count = pango_layout_get_line_count(passage->layout());
         const bool canGrow = stretchLength_ < text_.longestStretch();
         adaptStretches(count);
-        if (!complete && count == 1 && canGrow)
+        if (!complete && count == 1 && canGrow) {
             return;
+        }
         // The end of an incomplete stretch is set anew, with what follows it.
         addLines(passage, stretch, complete ? count : std::max(count - 1, 1));
         finished_ = finished_ || (complete && next_ == text_.size());
     }
 
     void adaptStretches(int lineCount) {
-        if (lineCount < fewLines)
+        if (lineCount < fewLines) {
             stretchLength_ = std::min(2 * stretchLength_, text_.longestStretch());
-        else if (lineCount > manyLines)
+        } else if (lineCount > manyLines) {
             stretchLength_ = std::max(stretchLength_ / 2, shortestStretch);
+        }
     }
 
     void addLines(const std::shared_ptr<const Passage>& passage, Stretch stretch, int count) {
         GSList* node = pango_layout_get_lines_readonly(passage->layout());
         for (int index = 0; index < count && !finished_; ++index, node = node->next) {
             if (isLastLine(next_)) {
-                if (truncates(frame_.lineBreakMode))
+                if (truncates(frame_.lineBreakMode)) {
                     return setLastLine();
+                }
                 finished_ = true;
             }
             const auto* following =
@@ -111,8 +117,9 @@ private:
     // Whether there is room for the line that starts here, but for none of its kind below it.
     bool isLastLine(std::size_t start) const {
         const std::size_t limit = frame_.maximumLines == 0 ? mostLines : frame_.maximumLines;
-        if (result_.lines.size() + 1 >= std::min(limit, mostLines))
+        if (result_.lines.size() + 1 >= std::min(limit, mostLines)) {
             return true;
+        }
         const double lineHeight =
             measureLine(text_, {start, std::min(start + 1, text_.size())}).height;
         return nextTop() + 2 * lineHeight + spacing() > frame_.height + heightTolerance ||
@@ -134,8 +141,9 @@ private:
     }
 
     double nextTop() const {
-        if (result_.lines.empty())
+        if (result_.lines.empty()) {
             return 0;
+        }
         const Line& last = result_.lines.back();
         return last.top + last.height + spacing();
     }
@@ -146,12 +154,15 @@ private:
 
     void align() {
         double available = 0;
-        for (const Line& line : result_.lines)
+        for (const Line& line : result_.lines) {
             available = std::max(available, line.width);
-        if (std::isfinite(frame_.width))
+        }
+        if (std::isfinite(frame_.width)) {
             available = frame_.width;
-        for (Line& line : result_.lines)
+        }
+        for (Line& line : result_.lines) {
             line.x = std::max(available - line.width, 0.0) * leadingShare(line);
+        }
     }
 
     // How much of a line's free room is left of it.
@@ -190,8 +201,9 @@ LineMeasure measureLine(const StyledText& text, Stretch units) {
     double descent = 0;
     const Font* measured = nullptr;
     for (const TextRun& run : text.runs(units.start, units.end)) {
-        if (measured && *measured == run.font)
+        if (measured && *measured == run.font) {
             continue;
+        }
         measured = &run.font;
         const FontMetrics font = metrics(run.font);
         ascent = std::max(ascent, font.ascender);

@@ -2,7 +2,7 @@
 #include "desktop/foundation/dictionary_files.hpp"
 
 #include "bindings/foundation/dictionary.hpp"
-#include "bindings/foundation/property_list.hpp"
+#include "bindings/foundation/property_list_serialization.hpp"
 #include "bindings/objc/hook.hpp"
 
 namespace desktop::foundation {
@@ -14,7 +14,9 @@ ns::Dictionary read(Reader next, objc::Object, ns::String path) {
         return dictionary;
     }
     const auto data = ns::Data::withContentsOfFile(path);
-    const auto entries = data ? ns::PropertyList::from(data).as<ns::Dictionary>() : nullptr;
+    const auto entries =
+        data ? ns::PropertyListSerialization::propertyList(data).value.as<ns::Dictionary>()
+             : nullptr;
     if (!entries) {
         return nullptr;
     }

@@ -5,12 +5,13 @@
 #include "desktop/foundation/delayed_perform.hpp"
 #include "desktop/foundation/dictionary_files.hpp"
 #include "desktop/foundation/main_operation_queue.hpp"
+#include "desktop/foundation/property_list_serialization.hpp"
 #include "desktop/foundation/refusing_protocol.hpp"
+#include "desktop/foundation/string.hpp"
 #include "desktop/foundation/timer.hpp"
 #include "desktop/foundation/url.hpp"
 #include "desktop/foundation/url_session.hpp"
 #include "desktop/foundation/user_defaults.hpp"
-#include "desktop/foundation/xml_property_list.hpp"
 
 #include "bindings/objc/pool.hpp"
 
@@ -18,11 +19,12 @@ namespace desktop::foundation {
 
 void install(const std::string& bundleIdentifier) {
     const objc::Pool pool;
+    installStrings();
     const auto identifier = ns::String::fromUtf8(bundleIdentifier);
     installBundle(identifier);
     installUserDefaults(identifier);
     installDictionaryFiles();
-    installXmlPropertyLists();
+    installPropertyListSerialization();
     installDelayedPerform();
     installTimers();
     installMainOperationQueue();

@@ -2,6 +2,7 @@
 #include "desktop/foundation/http_values.hpp"
 
 #include "bindings/foundation/array.hpp"
+#include "bindings/foundation/http_url_response.hpp"
 #include "bindings/foundation/log.hpp"
 #include "desktop/runtime/event_log.hpp"
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "bindings/foundation/error.hpp"
+#include "bindings/foundation/http_url_response.hpp"
 #include "bindings/foundation/url_request.hpp"
 #include "bindings/foundation/url_response.hpp"
 #include "desktop/network/http.hpp"

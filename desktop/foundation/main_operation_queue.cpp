@@ -2,6 +2,7 @@
 #include "desktop/foundation/main_operation_queue.hpp"
 
 #include "bindings/foundation/notification_center.hpp"
+#include "bindings/foundation/operation.hpp"
 #include "bindings/foundation/thread.hpp"
 #include "bindings/objc/hook.hpp"
 #include "bindings/objc/hook_primitive.hpp"
@@ -11,13 +12,8 @@
 namespace desktop::foundation {
 namespace {
 
-struct Operation : objc::Kind<Operation, "NSOperation"> {
-    using Kind::Kind;
-
-    void start() const { send<"start">(); }
-};
-
-void addOperation(objc::Next<void(Operation)> next, ns::OperationQueue queue, Operation operation) {
+void addOperation(objc::Next<void(ns::Operation)> next, ns::OperationQueue queue,
+                  ns::Operation operation) {
     if (queue != ns::OperationQueue::mainQueue()) {
         next(operation);
         return;

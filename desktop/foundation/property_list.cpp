@@ -3,6 +3,7 @@
 
 #include "bindings/foundation/array.hpp"
 #include "bindings/foundation/data.hpp"
+#include "bindings/foundation/date.hpp"
 #include "bindings/foundation/dictionary.hpp"
 #include "bindings/foundation/number.hpp"
 #include "bindings/foundation/run_loop.hpp"

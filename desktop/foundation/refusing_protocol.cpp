@@ -1,6 +1,7 @@
 // A protocol that takes every request with nowhere to go, and fails it.
 #include "desktop/foundation/refusing_protocol.hpp"
 
+#include "bindings/foundation/url_protocol.hpp"
 #include "bindings/foundation/url_request.hpp"
 #include "desktop/class.hpp"
 #include "desktop/foundation/http_values.hpp"
@@ -9,18 +10,15 @@
 namespace desktop::foundation {
 namespace {
 
-struct UrlProtocol : objc::Kind<UrlProtocol, "NSURLProtocol"> {
-    using Kind::Kind;
-};
-
-struct RefusingProtocolKind : objc::Kind<RefusingProtocolKind, "RefusingProtocol", UrlProtocol> {
+struct RefusingProtocolKind
+    : objc::Kind<RefusingProtocolKind, "RefusingProtocol", ns::UrlProtocol> {
     using Kind::Kind;
 };
 
 /// The services answer URL sessions only: Foundation does not know their certificates.
 class RefusingProtocol : public PlatformClass<RefusingProtocol, RefusingProtocolKind> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         using Self = RefusingProtocol;
         return std::array{
             objc::classMethod<"canInitWithRequest:", &Self::canInitWithRequest>(),
@@ -52,7 +50,7 @@ private:
 
 void installRefusingProtocol() {
     RefusingProtocol::registerClass();
-    UrlProtocol::sendClass<"registerClass:", bool>(RefusingProtocolKind::classObject());
+    ns::UrlProtocol::registerClass(RefusingProtocolKind::classObject());
 }
 
 } // namespace desktop::foundation

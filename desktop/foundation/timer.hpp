@@ -17,7 +17,7 @@ struct ClockTimerKind : objc::Kind<ClockTimerKind, "ClockTimer", ns::Timer> {
 /// A scheduled timer. Main thread.
 class ClockTimer : public PlatformClass<ClockTimer, ClockTimerKind> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
             objc::method<"init", &ClockTimer::init>(),
             objc::method<"fire", &ClockTimer::fire>(),

@@ -61,7 +61,7 @@ ns::UrlSession UrlSession::withDelegate(Class, ns::UrlSessionConfiguration confi
     const auto session = ns::UrlSession::make();
     UrlSession& peer = of(session);
     peer.configuration_ =
-        configuration ? configuration : ns::UrlSessionConfiguration::defaultConfiguration();
+        configuration ? configuration : ns::UrlSessionConfiguration::defaultSessionConfiguration();
     peer.queue_ = queue ? queue : backgroundQueue();
     peer.delegate_ = delegate;
     return session;

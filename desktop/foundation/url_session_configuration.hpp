@@ -11,7 +11,7 @@ namespace desktop::foundation {
 class UrlSessionConfiguration
     : public PlatformClass<UrlSessionConfiguration, ns::UrlSessionConfiguration> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         using Self = UrlSessionConfiguration;
         return std::array{
             objc::classMethod<"defaultSessionConfiguration", &Self::fresh>(),

@@ -13,7 +13,7 @@ namespace desktop::foundation {
 /// Any thread. While it runs, the network keeps the task, and the task its session.
 class UrlSessionTask : public PlatformClass<UrlSessionTask, ns::UrlSessionTask> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         using Self = UrlSessionTask;
         return std::array{
             objc::method<"resume", &Self::resume>(),
@@ -66,13 +66,13 @@ private:
 
 class UrlSessionDataTask : public PlatformClass<UrlSessionDataTask, ns::UrlSessionDataTask> {
 public:
-    static std::array<objc::MethodRow, 0> methods() { return {}; }
+    static constexpr std::array<objc::MethodRow, 0> methods() { return {}; }
 };
 
 class UrlSessionDownloadTask
     : public PlatformClass<UrlSessionDownloadTask, ns::UrlSessionDownloadTask> {
 public:
-    static std::array<objc::MethodRow, 0> methods() { return {}; }
+    static constexpr std::array<objc::MethodRow, 0> methods() { return {}; }
 };
 
 } // namespace desktop::foundation

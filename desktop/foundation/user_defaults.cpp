@@ -6,7 +6,7 @@
 
 #include "bindings/foundation/exception.hpp"
 #include "bindings/foundation/notification_center.hpp"
-#include "bindings/foundation/property_list.hpp"
+#include "bindings/foundation/property_list_serialization.hpp"
 #include "bindings/objc/hook.hpp"
 #include "bindings/objc/pool.hpp"
 
@@ -59,7 +59,9 @@ void DeviceUserDefaults::load(ns::String bundleIdentifier) {
     bundleIdentifier_ = bundleIdentifier;
     file_ = ns::String::fromUtf8(file.string());
     const auto data = ns::Data::withContentsOfFile(file_);
-    if (const auto saved = data ? ns::PropertyList::from(data).as<ns::Dictionary>() : nullptr;
+    if (const auto saved =
+            data ? ns::PropertyListSerialization::propertyList(data).value.as<ns::Dictionary>()
+                 : nullptr;
         saved) {
         values_.addEntries(saved);
     }
@@ -169,9 +171,8 @@ bool DeviceUserDefaults::write() {
     // Not under the lock: Foundation itself asks for user defaults while it writes.
     std::error_code failure; // the write itself tells
     fs::create_directories(folder, failure);
-    // Binary, as on the phone; GNUstep's XML would spoil characters beyond the first plane.
-    return ns::PropertyList::data(snapshot, ns::PropertyListFormat::binary)
-        .writeToFile(file_, true);
+    const auto list = ns::PropertyListSerialization::data(snapshot, ns::PropertyListFormat::binary);
+    return list && !list.value.writeToFile(file_, ns::DataWritingOptions::atomic);
 }
 
 void installUserDefaults(ns::String bundleIdentifier) {

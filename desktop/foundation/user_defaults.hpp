@@ -18,7 +18,7 @@ struct DeviceUserDefaultsKind
 /// thread's next turn, and by `synchronize`; without `load` they stay in memory. Any thread.
 class DeviceUserDefaults : public PlatformClass<DeviceUserDefaults, DeviceUserDefaultsKind> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
             objc::method<"init", &DeviceUserDefaults::init>(),
             objc::method<"objectForKey:", &DeviceUserDefaults::get>(),

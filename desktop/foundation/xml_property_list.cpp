@@ -1,27 +1,21 @@
 // One element for each value.
 #include "desktop/foundation/xml_property_list.hpp"
 
-#include "desktop/foundation/property_list.hpp"
 #include "desktop/foundation/text.hpp"
 
 #include "bindings/foundation/array.hpp"
+#include "bindings/foundation/data.hpp"
+#include "bindings/foundation/date.hpp"
 #include "bindings/foundation/dictionary.hpp"
 #include "bindings/foundation/number.hpp"
-#include "bindings/foundation/property_list.hpp"
+#include "bindings/foundation/property_list_serialization.hpp"
 #include "bindings/foundation/run_loop.hpp"
-#include "bindings/objc/hook.hpp"
 
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <ctime>
 #include <map>
-
-/// Where an error is to be stored.
-template <>
-struct objc::Encoding<id*> {
-    static constexpr Literal value = "^@";
-};
 
 namespace desktop::foundation {
 namespace {
@@ -81,7 +75,7 @@ std::string numberElement(ns::Number number) {
 
 std::string dateElement(ns::Date date) {
     constexpr double latest = 2.5e11; // the end of the year 9999
-    const double seconds = date.secondsSince1970();
+    const double seconds = date.timeIntervalSince1970();
     const auto whole =
         static_cast<std::time_t>(std::abs(seconds) < latest ? std::floor(seconds) : 0);
     std::tm parts{};
@@ -135,16 +129,6 @@ std::string valueElement(objc::Object value, const std::string& indent) {
     return indent + numberElement(value.assume<ns::Number>());
 }
 
-using Writer = objc::Next<ns::Data(objc::Object, ns::PropertyListFormat, unsigned long, id*)>;
-ns::Data write(Writer next, objc::Object, objc::Object list, ns::PropertyListFormat format,
-               unsigned long options, id* error) {
-    const objc::Object copy = propertyListCopy(list);
-    if (format != ns::PropertyListFormat::xml || !copy) {
-        return next(list, format, options, error);
-    }
-    return ns::Data::from(xmlPropertyList(copy));
-}
-
 } // namespace
 
 std::string xmlPropertyList(objc::Object list) {
@@ -153,11 +137,6 @@ std::string xmlPropertyList(objc::Object list) {
 <plist version="1.0">
 )" + valueElement(list, "") +
            "</plist>\n";
-}
-
-void installXmlPropertyLists() {
-    objc::install(objc::classHook<"NSPropertyListSerialization",
-                                  "dataWithPropertyList:format:options:error:", &write>());
 }
 
 } // namespace desktop::foundation

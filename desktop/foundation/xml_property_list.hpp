@@ -11,8 +11,4 @@ namespace desktop::foundation {
 /// only. Lone surrogates become U+FFFD; control characters, which XML cannot hold, are left out.
 [[nodiscard]] std::string xmlPropertyList(objc::Object list);
 
-/// Makes NSPropertyListSerialization write XML this way: GNUstep's own spoils characters beyond
-/// the first plane.
-void installXmlPropertyLists();
-
 } // namespace desktop::foundation

@@ -25,7 +25,7 @@ struct Row {
     Command command;
 };
 
-constexpr std::array<Row, 21> table{{
+constexpr std::array<Row, 23> table{{
     {"send", &send},
     {"tree", &tree},
     {"find", &find},
@@ -42,6 +42,8 @@ constexpr std::array<Row, 21> table{{
     {"pasteboard", &pasteboard},
     {"preferences", &preferences},
     {"defaults", &defaults},
+    {"appearance", &appearance},
+    {"rotate", &rotate},
     {"advance", &advance},
     {"wait", &wait},
     {"events", &events},

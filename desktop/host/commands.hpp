@@ -42,7 +42,10 @@ using Command = Json (*)(Session& session, const Json& request);
 [[nodiscard]] Json pasteboard(Session& session, const Json& request);
 [[nodiscard]] Json preferences(Session& session, const Json& request);
 [[nodiscard]] Json defaults(Session& session, const Json& request);
-// Time and happenings.
+// How the phone is held, and its appearance.
+[[nodiscard]] Json appearance(Session& session, const Json& request);
+[[nodiscard]] Json rotate(Session& session, const Json& request);
+// Time and events.
 [[nodiscard]] Json advance(Session& session, const Json& request);
 [[nodiscard]] Json wait(Session& session, const Json& request);
 [[nodiscard]] Json events(Session& session, const Json& request);

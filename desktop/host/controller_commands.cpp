@@ -21,8 +21,8 @@ void collect(ui::ViewController controller, std::vector<ui::ViewController>& sho
     }
     shown.push_back(controller);
     if (const auto navigation = controller.as<ui::NavigationController>(); navigation) {
-        for (const objc::Object pushed : navigation.viewControllers()) {
-            collect(pushed.assume<ui::ViewController>(), shown);
+        for (const ui::ViewController pushed : navigation.viewControllers()) {
+            collect(pushed, shown);
         }
     }
     // A controller inside of another one answers what that one presents.
@@ -39,9 +39,9 @@ std::vector<ui::ViewController> shownIn(ui::Window window) {
 
 /// The front-most controller of the front-most window that ends in an alert; nil when none does.
 ui::AlertController frontAlert() {
-    const ns::Array windows = ui::Application::shared().windows();
+    const auto windows = ui::Application::sharedApplication().windows();
     for (unsigned long index = windows.count(); index > 0; --index) {
-        const auto shown = shownIn(windows.at(index - 1).assume<ui::Window>());
+        const auto shown = shownIn(windows.at(index - 1));
         const auto alert =
             shown.empty() ? ui::AlertController() : shown.back().as<ui::AlertController>();
         if (alert) {
@@ -56,18 +56,16 @@ Json toJson(ns::String text) { return text ? Json(toUtf8(text)) : Json(); }
 Json alertNode(ui::AlertController alert) {
     constexpr std::array actionStyles{"default", "cancel", "destructive"};
     Json fields = Json::array();
-    for (const objc::Object one : alert.textFields()) {
-        const auto field = one.assume<ui::TextField>();
+    for (const ui::TextField field : alert.textFields()) {
         fields.push_back(
             {{"placeholder", toJson(field.placeholder())}, {"text", toJson(field.text())}});
     }
     Json actions = Json::array();
-    for (const objc::Object one : alert.actions()) {
-        const auto action = one.assume<ui::AlertAction>();
+    for (const ui::AlertAction action : alert.actions()) {
         actions.push_back({{"title", toJson(action.title())},
                            {"style", actionStyles.at(static_cast<std::size_t>(action.style()))}});
     }
-    return {{"style", alert.style() == ui::AlertStyle::alert ? "alert" : "actionSheet"},
+    return {{"style", alert.preferredStyle() == ui::AlertStyle::alert ? "alert" : "actionSheet"},
             {"title", toJson(alert.title())},
             {"message", toJson(alert.message())},
             {"fields", std::move(fields)},
@@ -76,7 +74,7 @@ Json alertNode(ui::AlertController alert) {
 
 /// Puts the texts into the alert's fields, one after the other, as if they were typed.
 void fill(ui::AlertController alert, const Json& texts) {
-    const ns::Array fields = alert.textFields();
+    const auto fields = alert.textFields();
     if (texts.size() > fields.count()) {
         throw RequestError("the alert has " + std::to_string(fields.count()) + " fields");
     }
@@ -88,13 +86,12 @@ void fill(ui::AlertController alert, const Json& texts) {
     for (unsigned long index = 0; index < texts.size(); ++index) {
         const auto field = fields.at(index).assume<ui::TextField>();
         field.setText(ns::String::fromUtf8(texts[index].get_ref<const std::string&>()));
-        field.sendActions(ui::control_events::editingChanged);
+        field.sendActions(ui::ControlEvents::editingChanged);
     }
 }
 
 ui::AlertAction actionTitled(ui::AlertController alert, const std::string& title) {
-    for (const objc::Object one : alert.actions()) {
-        const auto action = one.assume<ui::AlertAction>();
+    for (const ui::AlertAction action : alert.actions()) {
         if (action.title() && toUtf8(action.title()) == title) {
             return action;
         }
@@ -130,7 +127,7 @@ Json alert(Session&, const Json& request) {
 }
 
 Json screens(Session&, const Json&) {
-    const ui::Application application = ui::Application::shared();
+    const ui::Application application = ui::Application::sharedApplication();
     const ui::Window key = application.keyWindow();
     Json names = Json::array();
     for (const ui::ViewController controller : shownIn(key)) {

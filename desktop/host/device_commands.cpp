@@ -14,14 +14,14 @@ void setPasteboardImage(const std::string& file) {
     if (!image) {
         throw RequestError("not an image: " + file);
     }
-    ui::Pasteboard::general().setImage(image);
+    ui::Pasteboard::generalPasteboard().setImage(image);
 }
 
 void setPasteboardText(const Json& text) {
     if (!text.is_string() && !text.is_null()) {
         throw RequestError("\"set\" must be a string or null");
     }
-    ui::Pasteboard::general().setString(
+    ui::Pasteboard::generalPasteboard().setString(
         text.is_null() ? ns::String() : ns::String::fromUtf8(text.get_ref<const std::string&>()));
 }
 
@@ -44,7 +44,7 @@ Json pasteboard(Session& session, const Json& request) {
     } else if (const Json* text = argument(request, "set"); text != nullptr) {
         setPasteboardText(*text);
     }
-    return session.values.toJson(ui::Pasteboard::general().string());
+    return session.values.toJson(ui::Pasteboard::generalPasteboard().string());
 }
 
 Json preferences(Session& session, const Json& request) {
@@ -67,7 +67,7 @@ Json preferences(Session& session, const Json& request) {
 
 Json defaults(Session& session, const Json& request) {
     const auto key = ns::String::fromUtf8(stringArgument(request, "key"));
-    const auto store = ns::UserDefaults::standard();
+    const auto store = ns::UserDefaults::standardUserDefaults();
     if (const Json* value = argument(request, "set"); value != nullptr) {
         store.set(session.values.toObject(*value), key);
     }

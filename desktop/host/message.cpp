@@ -2,6 +2,7 @@
 #include "desktop/host/message.hpp"
 
 #include "bindings/foundation/invocation.hpp"
+#include "bindings/foundation/method_signature.hpp"
 #include "desktop/foundation/text.hpp"
 #include "desktop/host/structure.hpp"
 

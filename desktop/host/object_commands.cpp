@@ -29,8 +29,8 @@ Json tree(Session& session, const Json& request) {
         return viewTree(session.values, session.values.toKind<ui::View>(*of));
     }
     Json nodes = Json::array();
-    for (const objc::Object window : ui::Application::shared().windows()) {
-        nodes.push_back(viewTree(session.values, window.assume<ui::View>()));
+    for (const ui::Window window : ui::Application::sharedApplication().windows()) {
+        nodes.push_back(viewTree(session.values, window));
     }
     return nodes;
 }

@@ -25,17 +25,18 @@ ns::String asString(const fs::path& path) { return ns::String::fromUtf8(path.str
 
 ns::Dictionary read() {
     const auto data = ns::Data::withContentsOfFile(asString(file()));
-    return data ? ns::PropertyList::from(data).as<ns::Dictionary>() : ns::Dictionary();
+    return data ? ns::PropertyListSerialization::propertyList(data).value.as<ns::Dictionary>()
+                : ns::Dictionary();
 }
 
 void write(ns::Dictionary entries, ns::PropertyListFormat format) {
     if (!foundation::propertyListCopy(entries)) { // Foundation would write a description
         throw RequestError("preferences can hold only what a property list can");
     }
-    const auto data = ns::PropertyList::data(entries, format);
+    const auto [data, refused] = ns::PropertyListSerialization::data(entries, format);
     std::error_code failure;
     fs::create_directories(file().parent_path(), failure);
-    if (!data.writeToFile(asString(file()), true)) {
+    if (refused || data.writeToFile(asString(file()), ns::DataWritingOptions::atomic)) {
         throw RequestError("cannot write " + file().string());
     }
 }

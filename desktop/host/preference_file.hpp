@@ -2,7 +2,7 @@
 #pragma once
 
 #include "bindings/foundation/dictionary.hpp"
-#include "bindings/foundation/property_list.hpp"
+#include "bindings/foundation/property_list_serialization.hpp"
 
 namespace desktop::host::preference_file {
 

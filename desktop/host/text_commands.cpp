@@ -2,9 +2,9 @@
 #include "desktop/host/arguments.hpp"
 #include "desktop/host/commands.hpp"
 
-#include "desktop/uikit/first_responder.hpp"
-#include "desktop/uikit/keyboard_input.hpp"
-#include "desktop/uikit/menu_controller.hpp"
+#include "desktop/uikit/events/first_responder.hpp"
+#include "desktop/uikit/keyboard/keyboard_input.hpp"
+#include "desktop/uikit/menus/menu_controller.hpp"
 
 #include <algorithm>
 
@@ -75,7 +75,7 @@ Json menu(Session&, const Json& request) {
     }
     const bool chooses = argument(request, "choose") != nullptr;
     const std::string wanted = chooses ? stringArgument(request, "choose") : "";
-    const auto shared = ui::MenuController::shared();
+    const auto shared = ui::MenuController::sharedMenuController();
     MenuController& menu = MenuController::of(shared);
     const bool wasVisible = shared.isMenuVisible();
     if (!wasVisible) {

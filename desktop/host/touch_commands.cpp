@@ -6,7 +6,7 @@
 #include "bindings/uikit/window.hpp"
 #include "desktop/coregraphics/affine.hpp"
 #include "desktop/runtime/run_loop.hpp"
-#include "desktop/uikit/touch_dispatcher.hpp"
+#include "desktop/uikit/events/touch_dispatcher.hpp"
 #include "desktop/uikit/uikit.hpp"
 
 #include <algorithm>
@@ -223,10 +223,14 @@ Json touch(Session&, const Json& request) {
         touches.begin(fingers);
         return nullptr;
     }
-    touches.move(fingers); // a finger may leave at another place
+    if (phase == "moved") {
+        touches.move(fingers);
+        return nullptr;
+    }
+    touches.place(fingers);
     if (phase == "ended") {
         touches.end(fingers);
-    } else if (phase == "cancelled") {
+    } else {
         touches.cancel(fingers);
     }
     return nullptr;

@@ -3,6 +3,7 @@
 
 #include "bindings/foundation/array.hpp"
 #include "bindings/foundation/data.hpp"
+#include "bindings/foundation/date.hpp"
 #include "bindings/foundation/null.hpp"
 #include "bindings/foundation/number.hpp"
 #include "bindings/foundation/run_loop.hpp"
@@ -72,7 +73,7 @@ objc::Object date(const Json& seconds) {
     if (!seconds.is_number()) {
         throw RequestError("expected seconds since 1970, got " + seconds.dump());
     }
-    return ns::Date::since1970(seconds.get<double>());
+    return ns::Date::withTimeIntervalSince1970(seconds.get<double>());
 }
 
 } // namespace
@@ -195,7 +196,7 @@ Json Values::toJson(objc::Object object, int depth) {
         return {{"url", toUtf8(address.absoluteString())}};
     }
     if (const auto moment = object.as<ns::Date>(); moment) {
-        return {{"date", moment.secondsSince1970()}};
+        return {{"date", moment.timeIntervalSince1970()}};
     }
     if (const auto bytes = object.as<ns::Data>(); bytes) {
         return {{"data", toUtf8(bytes.base64())}};

@@ -3,7 +3,9 @@
 
 #include "bindings/uikit/font.hpp"
 #include "desktop/foundation/text.hpp"
-#include "desktop/uikit/gesture_recognizer.hpp"
+#include "desktop/uikit/gestures/gesture_recognizer.hpp"
+#include "desktop/uikit/traits/trait_collection.hpp"
+#include "desktop/uikit/views/view.hpp"
 
 #include <algorithm>
 #include <array>
@@ -53,7 +55,7 @@ Json toJson(ui::Font font) {
 /// "#rrggbbaa"; null for no colour and for one without such components.
 Json toJson(ui::Color color) {
     std::array<double, 4> parts{};
-    if (!color || !color.components(&parts[0], &parts[1], &parts[2], &parts[3])) {
+    if (!color || !color.getRed(&parts[0], &parts[1], &parts[2], &parts[3])) {
         return nullptr;
     }
     constexpr double brightest = 255;
@@ -102,7 +104,7 @@ Json recognizerNode(objc::Object recognizer) {
 
 Json recognizers(ui::View view) {
     Json nodes = Json::array();
-    for (const objc::Object recognizer : view.gestureRecognizers()) {
+    for (const ui::GestureRecognizer recognizer : view.gestureRecognizers()) {
         nodes.push_back(recognizerNode(recognizer));
     }
     return nodes;
@@ -117,6 +119,7 @@ ns::String titleOf(ui::View view) { return title(view).value_or(nullptr); }
 CGRect rectInWindow(ui::View view) { return view.convertRect(view.bounds(), nullptr); }
 
 Json viewNode(Values& values, ui::View view) {
+    const CurrentTraits current(View::of(view).traits()); // colours as they are shown
     Json node = values.reference(view);
     node["frame"] = toJson(view.frame());
     node["rect"] = toJson(rectInWindow(view));
@@ -125,6 +128,7 @@ Json viewNode(Values& values, ui::View view) {
     node["tag"] = view.tag();
     node["label"] = toJson(view.accessibilityLabel());
     node["backgroundColor"] = toJson(view.backgroundColor());
+    node["style"] = CurrentTraits::get().style == ui::InterfaceStyle::dark ? "dark" : "light";
     node["recognizers"] = recognizers(view);
     addObject<"text", ns::String>(node, "text", view);
     addObject<"placeholder", ns::String>(node, "placeholder", view);
@@ -144,8 +148,8 @@ Json viewNode(Values& values, ui::View view) {
 Json viewTree(Values& values, ui::View view) {
     Json node = viewNode(values, view);
     Json children = Json::array();
-    for (const objc::Object child : view.subviews()) {
-        children.push_back(viewTree(values, child.assume<ui::View>()));
+    for (const ui::View child : view.subviews()) {
+        children.push_back(viewTree(values, child));
     }
     node["children"] = std::move(children);
     return node;

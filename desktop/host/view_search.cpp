@@ -2,6 +2,7 @@
 #include "desktop/host/view_search.hpp"
 
 #include "bindings/uikit/application.hpp"
+#include "bindings/uikit/screen.hpp"
 #include "desktop/foundation/text.hpp"
 #include "desktop/host/view_node.hpp"
 #include "desktop/uikit/uikit.hpp"
@@ -40,7 +41,7 @@ bool isVisible(ui::View view) {
     CGRect rect = rectInWindow(view);
     const CGPoint window = view.window().frame().origin;
     rect.origin = {rect.origin.x + window.x, rect.origin.y + window.y};
-    return intersect(rect, ui::Screen::main().bounds());
+    return intersect(rect, ui::Screen::mainScreen().bounds());
 }
 
 struct Condition {
@@ -91,8 +92,8 @@ void search(ui::View view, const std::vector<Wanted>& wanted, std::vector<ui::Vi
             wanted, [view](const Wanted& one) { return one.condition->holds(view, *one.value); })) {
         found.push_back(view);
     }
-    for (const objc::Object child : view.subviews()) {
-        search(child.assume<ui::View>(), wanted, found);
+    for (const ui::View child : view.subviews()) {
+        search(child, wanted, found);
     }
 }
 
@@ -102,8 +103,8 @@ Json findNodes(Values& values, const Json& where) {
     const std::vector<Wanted> wanted = read(where);
     uikit::layoutWindows();
     std::vector<ui::View> found;
-    for (const objc::Object window : ui::Application::shared().windows()) {
-        search(window.assume<ui::View>(), wanted, found);
+    for (const ui::Window window : ui::Application::sharedApplication().windows()) {
+        search(window, wanted, found);
     }
     Json nodes = Json::array();
     for (const ui::View view : found) {

@@ -4,7 +4,7 @@
 #include "bindings/foundation/exception.hpp"
 #include "desktop/coregraphics/affine.hpp"
 #include "desktop/runtime/clock.hpp"
-#include "desktop/uikit/color.hpp"
+#include "desktop/uikit/values/color.hpp"
 
 #include <algorithm>
 #include <cmath>

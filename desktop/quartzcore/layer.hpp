@@ -17,7 +17,7 @@ namespace desktop {
 /// animation in whose block it was set.
 class Layer : public PlatformClass<Layer, ca::Layer> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
             objc::property<"bounds", &Layer::bounds, &Layer::setBounds>(),
             objc::property<"position", &Layer::position, &Layer::setPosition>(),

@@ -1,96 +1,43 @@
-// Associated objects, which GNU libobjc lacks: a table beside the objects, emptied as they die.
+// Associated objects, which GNU libobjc lacks.
 #include "bindings/objc/associated.hpp"
-#include "bindings/objc/strong.hpp"
+#include "desktop/runtime/side_table.hpp"
 
-#include <map>
-#include <mutex>
-#include <unordered_map>
+using desktop::AssociatedValue;
+using desktop::SideTable;
 
 namespace {
 
-struct Value {
-    objc::Object object;
-    objc::Strong<objc::Object> owned;
-};
-using Values = std::map<const void*, Value>;
-
-class Table {
-public:
-    static Table& shared() {
-        static auto* table = new Table; // never destroyed: objects die until the very end
-        return *table;
+/// The value as its owner keeps it. The policies beyond these differ in atomicity only, and every
+/// access is locked here.
+AssociatedValue kept(objc::Object value, unsigned long policy) {
+    constexpr unsigned long copies = 3;
+    switch (static_cast<objc::Association>(policy & copies)) {
+    case objc::Association::assign:
+        return {value, nullptr};
+    case objc::Association::copyNonatomic: {
+        objc::Strong<objc::Object> copy = objc::Copied<objc::Object>(value);
+        return {copy, copy};
     }
-
-    void set(id owner, const void* key, Value value) {
-        Value former; // released after the lock: its death may come back here
-        const std::scoped_lock lock(mutex_);
-        watchDeaths();
-        Value& place = values_[owner][key];
-        former = std::exchange(place, std::move(value));
+    default:
+        return {value, value};
     }
-
-    objc::Object get(id owner, const void* key) {
-        const std::scoped_lock lock(mutex_);
-        const auto found = values_.find(owner);
-        if (found == values_.end()) {
-            return nullptr;
-        }
-        const auto value = found->second.find(key);
-        return value == found->second.end() ? nullptr : value->second.object;
-    }
-
-    Values remove(id owner) {
-        const std::scoped_lock lock(mutex_);
-        const auto found = values_.find(owner);
-        if (found == values_.end()) {
-            return {};
-        }
-        Values removed = std::move(found->second);
-        values_.erase(found);
-        return removed;
-    }
-
-private:
-    /// From the first association on, every object that dies passes here.
-    void watchDeaths() {
-        if (formerDealloc_ != nullptr) {
-            return;
-        }
-        const Class root = objc_getClass("NSObject");
-        const SEL name = objc::selector<"dealloc">();
-        formerDealloc_ = method_getImplementation(class_getInstanceMethod(root, name));
-        class_replaceMethod(root, name, reinterpret_cast<IMP>(&dealloc), "v@:");
-    }
-    static void dealloc(id object, SEL name) {
-        shared().remove(object);
-        objc::invoke<void>(shared().formerDealloc_, object, name);
-    }
-
-    std::mutex mutex_;
-    std::unordered_map<id, Values> values_;
-    IMP formerDealloc_ = nullptr;
-};
+}
 
 } // namespace
 
 void objc_setAssociatedObject(id owner, const void* key, id object, unsigned long policy) {
-    // The policies beyond these differ in atomicity only, and every access is locked here.
-    constexpr unsigned long copies = 3;
-    const objc::Object value = objc::wrap(object);
-    switch (static_cast<objc::Association>(policy & copies)) {
-    case objc::Association::assign:
-        Table::shared().set(owner, key, {value, nullptr});
-        break;
-    case objc::Association::copyNonatomic: {
-        objc::Strong<objc::Object> copy = objc::Copied<objc::Object>(value);
-        Table::shared().set(owner, key, {copy, copy});
-        break;
-    }
-    default:
-        Table::shared().set(owner, key, {value, value});
-    }
+    AssociatedValue value = kept(objc::wrap(object), policy);
+    // Swapped, so that the former value is released after the lock: its death may come back here.
+    const auto lock = SideTable::shared().lock();
+    std::swap(SideTable::shared().entry(owner).values[key], value);
 }
 
 id objc_getAssociatedObject(id owner, const void* key) {
-    return Table::shared().get(owner, key).raw();
+    const auto lock = SideTable::shared().lock();
+    const desktop::SideEntry* entry = SideTable::shared().find(owner);
+    if (entry == nullptr) {
+        return nullptr;
+    }
+    const auto value = entry->values.find(key);
+    return value == entry->values.end() ? nullptr : value->second.object.raw();
 }

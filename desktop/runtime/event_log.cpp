@@ -1,4 +1,4 @@
-// Keeping the log of happenings.
+// Keeping the log of events.
 #include "desktop/runtime/event_log.hpp"
 
 #include <utility>

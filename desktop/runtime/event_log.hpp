@@ -10,13 +10,13 @@
 
 namespace desktop {
 
-/// One happening: what kind of thing ("openURL"), and what is known of it under string keys.
+/// One event: what kind of thing ("openURL"), and what is known of it under string keys.
 struct LoggedEvent {
     std::string kind;
     objc::Strong<ns::Dictionary> fields;
 };
 
-/// The process's log of happenings, for whoever watches it from outside. Any thread.
+/// The process's log of events, for whoever watches it from outside. Any thread.
 class EventLog {
 public:
     static EventLog& shared();

@@ -1,6 +1,7 @@
 // Running the main thread's work.
 #include "desktop/runtime/run_loop.hpp"
 
+#include "bindings/foundation/date.hpp"
 #include "bindings/foundation/run_loop.hpp"
 #include "bindings/objc/pool.hpp"
 #include "desktop/runtime/clock.hpp"

@@ -2,9 +2,11 @@
 #include "desktop/safariservices/safari_view_controller.hpp"
 
 #include "bindings/foundation/exception.hpp"
+#include "bindings/uikit/bar_button_item.hpp"
 #include "bindings/uikit/navigation_bar.hpp"
 #include "bindings/webkit/web_view.hpp"
-#include "desktop/uikit/screen.hpp"
+#include "desktop/uikit/application/screen.hpp"
+#include "desktop/uikit/delegate_messages.hpp"
 
 namespace desktop {
 namespace {
@@ -39,17 +41,18 @@ void SafariViewController::viewDidLoad() {
     const CGSize size = view.bounds().size;
     const double top = ScreenGeometry::current().safeArea.top;
     const auto item = ui::NavigationItem::withTitle(url_.send<"host", ns::String>());
-    item.setLeftBarButtonItem(ui::BarButtonItem::of(ui::BarButtonSystemItem::done, self(),
-                                                    objc::selector<"donePressed">()));
+    item.setLeftBarButtonItem(ui::BarButtonItem::withSystemItem(
+        ui::BarButtonSystemItem::done, self(), objc::selector<"donePressed">()));
     const auto bar = ui::NavigationBar::withFrame({{0, top}, {size.width, barHeight}});
-    bar.setAutoresizingMask(ui::autoresizing::flexibleWidth);
+    bar.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth);
     const auto items = ns::MutableArray::make();
     items.add(item);
     bar.setItems(items);
     view.addSubview(bar);
     const double below = top + barHeight;
     const auto page = wk::WebView::withFrame({{0, below}, {size.width, size.height - below}});
-    page.setAutoresizingMask(ui::autoresizing::flexibleWidth | ui::autoresizing::flexibleHeight);
+    page.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth |
+                             ui::ViewAutoresizing::flexibleHeight);
     page.load(ns::UrlRequest::withUrl(url_));
     view.addSubview(page);
 }
@@ -57,10 +60,7 @@ void SafariViewController::viewDidLoad() {
 void SafariViewController::donePressed() {
     const objc::Strong<ui::ViewController> kept = self();
     kept.dismiss(true);
-    if (constexpr auto finished = objc::selector<"safariViewControllerDidFinish:">;
-        delegate_ && delegate_.respondsToSelector(finished())) {
-        objc::sendTo(delegate_.raw(), finished(), self());
-    }
+    tell<"safariViewControllerDidFinish:">(delegate_, self());
 }
 
 } // namespace desktop

@@ -1,6 +1,7 @@
 // SFSafariViewController: a web page with a bar to leave it by.
 #pragma once
 
+#include "bindings/objc/weak.hpp"
 #include "bindings/safariservices/safari_view_controller.hpp"
 
 #include "desktop/class.hpp"
@@ -9,7 +10,7 @@ namespace desktop {
 
 class SafariViewController : public PlatformClass<SafariViewController, sf::SafariViewController> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
             objc::method<"initWithURL:", &SafariViewController::initWithUrl>(),
             objc::property<"delegate", &SafariViewController::delegate_>(),
@@ -28,7 +29,7 @@ private:
     objc::Strong<ns::Url> url_;
     objc::Strong<ui::Color> tint_;
     objc::Strong<ui::Color> barTint_;
-    objc::Object delegate_;
+    objc::Weak<objc::Object> delegate_;
 };
 
 } // namespace desktop

@@ -28,6 +28,7 @@ constexpr std::array files{
     PageFile{"element.js", "element.js", script},
     PageFile{"fingers.js", "fingers.js", script},
     PageFile{"help.js", "help.js", script},
+    PageFile{"holding.js", "holding.js", script},
     PageFile{"keyboard.js", "keyboard.js", script},
     PageFile{"screen.js", "screen.js", script},
     PageFile{"web_pages.js", "web_pages.js", script},

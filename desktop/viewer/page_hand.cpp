@@ -1,7 +1,7 @@
 // Handing the page's fingers to the touch dispatcher.
 #include "desktop/viewer/page_hand.hpp"
 
-#include "desktop/uikit/touch_dispatcher.hpp"
+#include "desktop/uikit/events/touch_dispatcher.hpp"
 #include "desktop/uikit/uikit.hpp"
 
 namespace desktop::viewer {
@@ -26,10 +26,11 @@ void PageHand::touch(const Fingers& fingers) {
         touches.begin(points);
         return;
     }
-    touches.move(points); // a finger may leave at another place
     if (fingers.phase == FingerPhase::moved) {
+        touches.move(points);
         return;
     }
+    touches.place(points);
     for (const TouchPoint& point : points) {
         down_.erase(point.id);
     }

@@ -1,7 +1,7 @@
 // Taking changed pixels out of the picture of the screen.
 #pragma once
 
-#include "desktop/uikit/screen_image.hpp"
+#include "desktop/uikit/application/screen_image.hpp"
 #include "desktop/viewer/frame.hpp"
 
 namespace desktop::viewer {

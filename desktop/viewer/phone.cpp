@@ -11,11 +11,11 @@
 #include "bindings/uikit/pasteboard.hpp"
 #include "bindings/uikit/window.hpp"
 #include "desktop/runtime/main_queue.hpp"
-#include "desktop/uikit/image.hpp"
-#include "desktop/uikit/keyboard_input.hpp"
-#include "desktop/uikit/screen.hpp"
+#include "desktop/uikit/application/screen.hpp"
+#include "desktop/uikit/keyboard/keyboard_input.hpp"
 #include "desktop/uikit/scrolling/wheel.hpp"
 #include "desktop/uikit/uikit.hpp"
+#include "desktop/uikit/values/image.hpp"
 #include "desktop/webkit/web_content.hpp"
 
 #include <algorithm>
@@ -68,8 +68,14 @@ Answer screenshot() {
 
 Answer pasteboardPicture() {
     constexpr unsigned noContent = 204;
-    const Image* image = UIImage::valueOf(ui::Pasteboard::general().image());
+    const Image* image = UIImage::valueOf(ui::Pasteboard::generalPasteboard().image());
     return image != nullptr ? content(*image) : Answer{noContent, "image/png", ""};
+}
+
+/// In points, as the phone is held, with the pixels a point.
+host::Json screenSize() {
+    const ScreenGeometry& screen = ScreenGeometry::current();
+    return {{"width", screen.size.width}, {"height", screen.size.height}, {"scale", screen.scale}};
 }
 
 /// The web pages in front of everything else, for the page to show what is in them.
@@ -121,6 +127,7 @@ std::function<void(Arguments...)> Phone::later(Method method) {
 void Phone::opened(PageNumber page) {
     page_ = page;
     webPages_ = nullptr;
+    screen_ = screenSize();
     send(welcome());
     send({{"type", "events"}, {"events", events_.events()}});
 }
@@ -160,23 +167,27 @@ Answer Phone::contentAt(const std::string& path) const {
 }
 
 host::Json Phone::welcome() const {
-    const ScreenGeometry& screen = ScreenGeometry::current();
     host::Json applications = host::Json::array();
     for (const host::App* app : host::apps()) {
         applications.push_back({{"name", app->name}, {"bundle", app->bundleIdentifier}});
     }
-    return {
-        {"type", "welcome"},
-        {"version", WENTRA_VERSION},
-        {"application", start_.application},
-        {"applications", applications},
-        {"afterCrash", start_.afterCrash},
-        {"folder", deviceFolder_.string()},
-        {"screen",
-         {{"width", screen.size.width}, {"height", screen.size.height}, {"scale", screen.scale}}}};
+    return {{"type", "welcome"},
+            {"version", WENTRA_VERSION},
+            {"application", start_.application},
+            {"applications", applications},
+            {"afterCrash", start_.afterCrash},
+            {"folder", deviceFolder_.string()},
+            {"screen", screenSize()}};
 }
 
 void Phone::send(const host::Json& message) { server_.send(page_, serialised(message)); }
+
+void Phone::tellScreen() {
+    if (host::Json screen = screenSize(); screen != screen_) {
+        screen_ = std::move(screen);
+        send({{"type", "screen"}, {"screen", screen_}});
+    }
+}
 
 void Phone::tellWebPages() {
     if (host::Json pages = webPages(); pages != webPages_) {
@@ -191,7 +202,10 @@ void Phone::carryOut(const Look& look) {
     picture_.reset();
     picture_.emplace(
         look.scale, [this, page = page_](Bytes frame) { server_.send(page, std::move(frame)); },
-        [this] { tellWebPages(); });
+        [this] {
+            tellScreen();
+            tellWebPages();
+        });
 }
 
 void Phone::carryOut(const Seen& seen) {
@@ -226,13 +240,13 @@ void Phone::carryOut(const Paste& paste) {
     // Pictures are read from files, as everywhere on the phone.
     const std::string file = deviceFolder_ / "pasted-picture";
     const auto bytes = ns::Data::fromBase64(ns::String::fromUtf8(paste.picture));
-    const bool written = bytes && bytes.writeToFile(ns::String::fromUtf8(file), false);
+    const bool written = bytes && !bytes.writeToFile(ns::String::fromUtf8(file));
     const auto picture = ui::Image::withContentsOfFile(ns::String::fromUtf8(file));
     std::remove(file.c_str());
     if (!written || !picture) {
         throw MessageError("this is no picture");
     }
-    ui::Pasteboard::general().setImage(picture);
+    ui::Pasteboard::generalPasteboard().setImage(picture);
 }
 
 void Phone::carryOut(const Ask& ask) {

@@ -51,6 +51,7 @@ private:
     void carryOut(const Launch& launch);
 
     void send(const host::Json& message);
+    void tellScreen();
     void tellWebPages();
     [[nodiscard]] host::Json welcome() const;
     [[nodiscard]] Answer contentAt(const std::string& path) const;
@@ -61,6 +62,7 @@ private:
     PageNumber page_ = 0; // 0: none
     PageHand hand_;
     host::Json webPages_; ///< as the page was told last
+    host::Json screen_;   ///< likewise
     /// What is queued on the main thread must not outlive the phone.
     std::shared_ptr<Phone*> self_;
     EventFeed events_;

@@ -2,7 +2,7 @@
 // takes.
 #pragma once
 
-#include "desktop/uikit/screen_image.hpp"
+#include "desktop/uikit/application/screen_image.hpp"
 #include "desktop/viewer/frame.hpp"
 
 #include <boost/asio/thread_pool.hpp>

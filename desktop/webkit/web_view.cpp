@@ -2,15 +2,17 @@
 #include "desktop/webkit/web_view.hpp"
 
 #include "bindings/objc/pool.hpp"
+#include "bindings/webkit/navigation.hpp"
+#include "bindings/webkit/web_view_configuration.hpp"
 #include "desktop/runtime/main_queue.hpp"
 
 namespace desktop {
 
-wk::WebView WebView::initWithFrame(CGRect frame, WebViewConfigurationKind) {
+wk::WebView WebView::initWithFrame(CGRect frame, wk::WebViewConfiguration) {
     return self().send<"initWithFrame:", wk::WebView>(frame);
 }
 
-NavigationKind WebView::loadRequest(ns::UrlRequest request) {
+wk::Navigation WebView::loadRequest(ns::UrlRequest request) {
     const ns::Url url = request.url();
     if (!url) {
         return nullptr;
@@ -18,7 +20,7 @@ NavigationKind WebView::loadRequest(ns::UrlRequest request) {
     request_ = request;
     url_ = url;
     content_.load(self(), url, request.allHttpHeaderFields());
-    navigation_ = NavigationKind::make();
+    navigation_ = wk::Navigation::make();
     MainQueue::shared().add([kept = objc::Strong(self()), navigation = navigation_] {
         const objc::Pool pool;
         of(kept).arrive(navigation);
@@ -26,9 +28,9 @@ NavigationKind WebView::loadRequest(ns::UrlRequest request) {
     return navigation_;
 }
 
-NavigationKind WebView::reload() { return loadRequest(objc::Strong<ns::UrlRequest>(request_)); }
+wk::Navigation WebView::reload() { return loadRequest(objc::Strong<ns::UrlRequest>(request_)); }
 
-void WebView::arrive(NavigationKind navigation) {
+void WebView::arrive(wk::Navigation navigation) {
     // The delegate may stop it, or begin another one, at any step.
     for (const SEL step : {objc::selector<"webView:didStartProvisionalNavigation:">(),
                            objc::selector<"webView:didCommitNavigation:">(),
@@ -39,8 +41,8 @@ void WebView::arrive(NavigationKind navigation) {
         if (step == objc::selector<"webView:didFinishNavigation:">()) {
             navigation_ = nullptr;
         }
-        if (delegate_.respondsToSelector(step)) {
-            objc::sendTo(delegate_.raw(), step, self(), navigation);
+        if (const auto told = delegate_.strong(); told.respondsToSelector(step)) {
+            objc::sendTo(told.raw(), step, self(), navigation);
         }
     }
 }

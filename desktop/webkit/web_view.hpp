@@ -1,36 +1,31 @@
 // WKWebView and WKNavigation.
 #pragma once
 
+#include "bindings/objc/weak.hpp"
+#include "bindings/webkit/navigation.hpp"
 #include "bindings/webkit/web_view.hpp"
+#include "bindings/webkit/web_view_configuration.hpp"
 #include "desktop/class.hpp"
 #include "desktop/webkit/web_content.hpp"
 
 namespace desktop {
 
-struct NavigationKind : objc::Kind<NavigationKind, "WKNavigation"> {
-    using Kind::Kind;
-};
-
 /// One load of a page: an identity only.
-class Navigation : public PlatformClass<Navigation, NavigationKind> {
+class Navigation : public PlatformClass<Navigation, wk::Navigation> {
 public:
-    static std::array<objc::MethodRow, 0> methods() { return {}; }
-};
-
-struct WebViewConfigurationKind : objc::Kind<WebViewConfigurationKind, "WKWebViewConfiguration"> {
-    using Kind::Kind;
+    static constexpr std::array<objc::MethodRow, 0> methods() { return {}; }
 };
 
 /// There is nothing to configure.
-class WebViewConfiguration : public PlatformClass<WebViewConfiguration, WebViewConfigurationKind> {
+class WebViewConfiguration : public PlatformClass<WebViewConfiguration, wk::WebViewConfiguration> {
 public:
-    static std::array<objc::MethodRow, 0> methods() { return {}; }
+    static constexpr std::array<objc::MethodRow, 0> methods() { return {}; }
 };
 
 /// Every page arrives at once: its delegate is told so as soon as the main thread is free.
 class WebView : public PlatformClass<WebView, wk::WebView> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         using Self = WebView;
         return std::array{
             objc::method<"initWithFrame:configuration:", &Self::initWithFrame>(),
@@ -46,21 +41,21 @@ public:
     }
 
 private:
-    wk::WebView initWithFrame(CGRect frame, WebViewConfigurationKind configuration);
-    NavigationKind loadRequest(ns::UrlRequest request);
-    NavigationKind reload();
+    wk::WebView initWithFrame(CGRect frame, wk::WebViewConfiguration configuration);
+    wk::Navigation loadRequest(ns::UrlRequest request);
+    wk::Navigation reload();
     void stopLoading() { navigation_ = nullptr; }
     [[nodiscard]] bool isLoading() const { return static_cast<bool>(navigation_); }
     /// That of a page is not known: it is not fetched.
     [[nodiscard]] ns::String title() const { return ns::String::fromUtf8(""); }
     void drawRect(CGRect) const { content_.draw(); }
-    void arrive(NavigationKind navigation);
+    void arrive(wk::Navigation navigation);
 
     WebContent content_;
-    objc::Object delegate_; ///< not owned
+    objc::Weak<objc::Object> delegate_;
     objc::Copied<ns::UrlRequest> request_;
     objc::Strong<ns::Url> url_;
-    objc::Strong<NavigationKind> navigation_; ///< the one under way
+    objc::Strong<wk::Navigation> navigation_; ///< the one under way
 };
 
 /// Makes the classes of web views known, after UIView. Once.

@@ -91,7 +91,7 @@ class Reader:
         name = re.sub(r"^const (?!char|void)|&$", "", name).strip()
         if re.match(r"(objc::)?Block<", name):
             return "@?"
-        if re.match(r"(objc::)?(Strong|Copied)<", name):
+        if re.match(r"(objc::)?(Strong|Copied)<|(ns::)?(Array|Set)Of<", name):
             return "@"
         if pointer := re.match(r"(const )?(double|char16_t|unsigned char)\*$", name):
             return "^" + self.encodings[pointer[2]]

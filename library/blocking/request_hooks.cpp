@@ -3,7 +3,7 @@
 
 #include "bindings/foundation/string.hpp"
 #include "bindings/objc/block.hpp"
-#include "library/startup/root_path.hpp"
+#include "library/paths/root_path.hpp"
 
 #include <array>
 #include <string>
@@ -40,18 +40,18 @@ bool canInit(Next<bool(Object)> next, Object, Object request) { return next(requ
 
 } // namespace
 
-void resolvePreferencePath() { preferencePath() = startup::preferencePath(); }
+void resolvePreferencePath() { preferencePath() = paths::preferencePath(); }
 
 std::span<const objc::Change> requestHooks() {
     static constexpr std::array changes{
         objc::classHook<"NSURL", "URLWithString:", &fromString>(),
         objc::hook<"NSURL", "initWithString:", &fromString>(),
-        objc::classHook<"NSURLSession", "dataTaskWithURL:", &fromRequest>(),
+        objc::whereThereIsOne(objc::classHook<"NSURLSession", "dataTaskWithURL:", &fromRequest>()),
         objc::hook<"NSURLSession", "dataTaskWithRequest:completionHandler:", &withHandler>(),
         objc::hook<"NSURLSession", "dataTaskWithRequest:", &fromRequest>(),
         objc::classHook<"NSURLConnection", "connectionWithRequest:delegate:", &fromTwo>(),
         objc::hook<"WKWebView", "loadRequest:", &fromRequest>(),
-        objc::hook<"NSURLRequest", "setURL:", &setUrl>(),
+        objc::whereThereIsOne(objc::hook<"NSURLRequest", "setURL:", &setUrl>()),
         objc::classHook<"NSURLProtocol", "canInitWithRequest:", &canInit>(),
         objc::classHook<"NSURLProtocol", "canonicalRequestForRequest:", &fromRequest>(),
     };

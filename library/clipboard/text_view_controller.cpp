@@ -2,9 +2,13 @@
 #include "library/clipboard/text_view_controller.hpp"
 
 #include "bindings/objc/peer.hpp"
-#include "bindings/uikit/button.hpp"
+#include "bindings/uikit/keyboard.hpp"
+#include "library/common/buttons.hpp"
+#include "library/common/keyboard_insets.hpp"
+#include "library/common/outline.hpp"
 #include "library/common/screens.hpp"
 
+#include <algorithm>
 #include <array>
 
 namespace wentra::clipboard {
@@ -12,77 +16,99 @@ namespace {
 
 using namespace ns::literals;
 
-class Own : public objc::Peer<Own, TextViewController> {
+class TextViewControllerPeer : public objc::Peer<TextViewControllerPeer, TextViewController> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
-            objc::property<"textView", &Own::textView_>(),
-            objc::property<"doneEditingCallback", &Own::doneEditingCallback_>(),
-            objc::property<"displayText", &Own::displayText_>(),
-            objc::method<"viewDidLoad", &Own::viewDidLoad>(),
-            objc::method<"showWithText:", &Own::showWithText>(),
-            objc::method<"doneEditing", &Own::doneEditing>(),
-            objc::method<"cancelEditing", &Own::cancelEditing>(),
-            objc::method<"ClearText", &Own::clearText>(),
-            objc::method<"getWindow", &Own::getWindow>(),
-            objc::method<"getCurrentViewController", &Own::getCurrentViewController>(),
+            objc::property<"textView", &TextViewControllerPeer::textView_>(),
+            objc::property<"doneEditingCallback", &TextViewControllerPeer::doneEditingCallback_>(),
+            objc::property<"displayText", &TextViewControllerPeer::displayText_>(),
+            objc::method<"viewDidLoad", &TextViewControllerPeer::viewDidLoad>(),
+            objc::method<"viewWillAppear:", &TextViewControllerPeer::viewWillAppear>(),
+            objc::method<"viewWillDisappear:", &TextViewControllerPeer::viewWillDisappear>(),
+            objc::method<"keyboardWillShow:", &TextViewControllerPeer::keyboardWillShow>(),
+            objc::method<"keyboardWillHide:", &TextViewControllerPeer::keyboardWillHide>(),
+            objc::method<"showWithText:", &TextViewControllerPeer::showWithText>(),
+            objc::method<"doneEditing", &TextViewControllerPeer::doneEditing>(),
+            objc::method<"cancelEditing", &TextViewControllerPeer::cancelEditing>(),
+            objc::method<"ClearText", &TextViewControllerPeer::clearText>(),
+            objc::method<"getWindow", &ScreenLookups::window>(),
+            objc::method<"getCurrentViewController", &ScreenLookups::controller>(),
         };
     }
 
 private:
     void viewDidLoad();
+    void viewWillAppear(bool animated);
+    void viewWillDisappear(bool animated);
+    void keyboardWillShow(ns::Notification notification);
+    void keyboardWillHide(ns::Notification) { setInsets(textView_, {}); }
     void showWithText(ns::String text);
     void doneEditing();
     void cancelEditing() { self().dismiss(true); }
     void clearText() { textView_.setText(u""_ns); }
-    [[nodiscard]] ui::Window getWindow() const { return activeWindow(); }
-    [[nodiscard]] ui::ViewController getCurrentViewController() const {
-        return topViewController();
-    }
-    template <objc::Literal Action>
-    void addButton(ns::String title, double distanceFromBottom);
+    void addButton(ns::String title, SEL action, double distanceFromBottom);
 
     objc::Strong<ui::TextView> textView_;
     objc::Copied<TextViewController::Done> doneEditingCallback_;
     objc::Strong<ns::String> displayText_;
 };
 
-template <objc::Literal Action>
-void Own::addButton(ns::String title, double distanceFromBottom) {
-    const ui::View view = self().view();
-    const CGSize size = view.bounds().size;
-    const auto button = ui::Button::ofType(ui::ButtonType::system);
-    button.setFrame({{20, size.height - distanceFromBottom}, {size.width - 40, 30}});
-    button.setTitle(title, ui::control_state::normal);
-    button.addTarget(self(), objc::selector<Action>(), ui::control_events::touchUpInside);
-    view.addSubview(button);
+void TextViewControllerPeer::addButton(ns::String title, SEL action, double distanceFromBottom) {
+    const CGSize size = self().view().bounds().size;
+    const CGRect frame{{20, size.height - distanceFromBottom}, {size.width - 40, 30}};
+    const auto button = makeButton({.title = title, .frame = frame}, self(), action);
+    button.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth |
+                               ui::ViewAutoresizing::flexibleTopMargin);
+    self().view().addSubview(button);
 }
 
-void Own::viewDidLoad() {
+void TextViewControllerPeer::viewDidLoad() {
     super<"viewDidLoad">();
     const ui::View view = self().view();
     view.setBackgroundColor(ui::Color::white());
-    addButton<"ClearText">(u"清空文本"_ns, 230);
-    addButton<"doneEditing">(u"确认编辑"_ns, 190);
-    addButton<"cancelEditing">(u"取消编辑"_ns, 145);
+    self().setOverrideUserInterfaceStyle(ui::InterfaceStyle::light); // as its background is
+    addButton(u"清空文本"_ns, objc::selector<"ClearText">(), 230);
+    addButton(u"确认编辑"_ns, objc::selector<"doneEditing">(), 190);
+    addButton(u"取消编辑"_ns, objc::selector<"cancelEditing">(), 145);
 
     const CGSize size = view.bounds().size;
     textView_ = ui::TextView::withFrame({{15, 50}, {size.width - 30, size.height - 300}});
-    const ca::Layer layer = textView_.layer();
-    layer.setBorderWidth(2.3);
-    layer.setBorderColor(ui::Color::blue().withAlpha(0.5).cgColor());
-    layer.setCornerRadius(5);
+    drawOutline(textView_, {5, 2.3, ui::Color::blue().withAlphaComponent(0.5)});
     textView_.setClipsToBounds(true);
+    textView_.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth |
+                                  ui::ViewAutoresizing::flexibleHeight);
     textView_.setText(displayText_);
+    // The keyboard lies over the buttons: dragging the text, were it ever so short, takes it away.
+    textView_.setAlwaysBounceVertical(true);
+    textView_.setKeyboardDismissMode(ui::KeyboardDismissMode::interactive);
     view.addSubview(textView_);
 }
 
-void Own::showWithText(ns::String text) {
+void TextViewControllerPeer::viewWillAppear(bool animated) {
+    super<"viewWillAppear:">(animated);
+    watchKeyboard(self());
+}
+
+void TextViewControllerPeer::viewWillDisappear(bool animated) {
+    super<"viewWillDisappear:">(animated);
+    stopWatchingKeyboard(self());
+}
+
+/// The text's end can be scrolled up from under the keyboard.
+void TextViewControllerPeer::keyboardWillShow(ns::Notification notification) {
+    const CGRect text = self().view().convertRect(textView_.frame(), nullptr);
+    const CGRect keyboard = ui::keyboard::frameEnd(notification);
+    const double covered = text.origin.y + text.size.height - keyboard.origin.y;
+    setInsets(textView_, {0, 0, keyboard.size.height > 0 ? std::max(0.0, covered) : 0, 0});
+}
+
+void TextViewControllerPeer::showWithText(ns::String text) {
     textView_.setText(text);
     topViewController().present(self(), true);
 }
 
-void Own::doneEditing() {
+void TextViewControllerPeer::doneEditing() {
     if (doneEditingCallback_) {
         doneEditingCallback_(textView_.text());
     }
@@ -91,6 +117,6 @@ void Own::doneEditing() {
 
 } // namespace
 
-void registerTextViewController() { Own::registerClass(); }
+void registerTextViewController() { TextViewControllerPeer::registerClass(); }
 
 } // namespace wentra::clipboard

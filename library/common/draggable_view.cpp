@@ -4,9 +4,9 @@
 #include "bindings/foundation/delayed_perform.hpp"
 #include "bindings/objc/peer.hpp"
 #include "bindings/uikit/event.hpp"
-#include "bindings/uikit/pinch_gesture_recognizer.hpp"
 #include "bindings/uikit/tap_gesture_recognizer.hpp"
 #include "bindings/uikit/text_view.hpp"
+#include "library/common/gestures.hpp"
 #include "library/common/zoom.hpp"
 
 #include <array>
@@ -14,16 +14,15 @@
 namespace wentra {
 namespace {
 
-using ui::GestureRecognizer;
 using ui::GestureState;
 
 /// The tag of a view that has a trash button, before the button itself is set as its tag.
 constexpr long draggedTag = 98;
 
-class OwnTrashButton : public objc::Peer<OwnTrashButton, TrashButton> {
+class TrashButtonPeer : public objc::Peer<TrashButtonPeer, TrashButton> {
 public:
-    static auto methods() {
-        return std::array{objc::method<"pointInside:withEvent:", &OwnTrashButton::pointInside>()};
+    static constexpr auto methods() {
+        return std::array{objc::method<"pointInside:withEvent:", &TrashButtonPeer::pointInside>()};
     }
 
 private:
@@ -34,23 +33,14 @@ private:
     }
 };
 
-void addPan(ui::View view) {
-    view.addGestureRecognizer(
-        GestureRecognizer::with<ui::PanGestureRecognizer>(view, objc::selector<"handlePan:">()));
-}
-
 void makeDraggable(ui::View view) {
-    addPan(view);
-    const auto doubleTap = GestureRecognizer::with<ui::TapGestureRecognizer>(
-        view, objc::selector<"handleDoubleTap:">());
-    doubleTap.setNumberOfTapsRequired(2);
-    view.addGestureRecognizer(doubleTap);
-    view.addGestureRecognizer(GestureRecognizer::with<ui::PinchGestureRecognizer>(
-        view, objc::selector<"handlePinch:">()));
+    addPan(view, view, objc::selector<"handlePan:">());
+    addTap(view, view, objc::selector<"handleDoubleTap:">(), 2);
+    addPinch(view, view, objc::selector<"handlePinch:">());
 }
 
 void addTrash(ui::View view, ui::Button trash) {
-    addPan(view);
+    addPan(view, view, objc::selector<"handlePan:">());
     view.setTag(draggedTag);
     // The message's argument arrives as the tag: a number that is the button's address.
     ns::performLater(view, objc::selector<"setTag:">(), trash, 0);
@@ -100,7 +90,7 @@ void doubleTap(ui::View view, ui::TapGestureRecognizer tap) {
 
 } // namespace
 
-void registerTrashButton() { OwnTrashButton::registerClass(); }
+void registerTrashButton() { TrashButtonPeer::registerClass(); }
 
 std::span<const objc::Change> draggableCategory() {
     static constexpr std::array changes{
@@ -120,6 +110,11 @@ void moveAlong(ui::View view, ui::PanGestureRecognizer pan, ui::View space) {
     const CGPoint centre = view.center();
     view.setCenter({centre.x + way.x, centre.y + way.y});
     pan.setTranslation({}, space);
+}
+
+void scaleAlong(ui::View view, ui::PinchGestureRecognizer pinch) {
+    view.setTransform(scaled(view.transform(), pinch.scale()));
+    pinch.setScale(1);
 }
 
 } // namespace wentra

@@ -4,6 +4,7 @@
 #include "bindings/objc/hook.hpp"
 #include "bindings/uikit/button.hpp"
 #include "bindings/uikit/pan_gesture_recognizer.hpp"
+#include "bindings/uikit/pinch_gesture_recognizer.hpp"
 
 #include <span>
 
@@ -30,5 +31,9 @@ void makeDraggableAndZoomable(ui::View view);
 /// Moves a view's centre by how far its pan has come, in the coordinates of `space`, and lets the
 /// pan count from there.
 void moveAlong(ui::View view, ui::PanGestureRecognizer pan, ui::View space);
+
+/// Scales a view by how far its fingers have moved apart, without bounds, and lets the pinch count
+/// from there.
+void scaleAlong(ui::View view, ui::PinchGestureRecognizer pinch);
 
 } // namespace wentra

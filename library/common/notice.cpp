@@ -3,6 +3,7 @@
 
 #include "bindings/dispatch/dispatch.hpp"
 #include "bindings/uikit/label.hpp"
+#include "bindings/uikit/window.hpp"
 
 namespace wentra {
 namespace {
@@ -11,14 +12,18 @@ constexpr double nanosecondsPerSecond = 1e9;
 
 } // namespace
 
-void showNotice(ui::View over, ns::String text, double height, double seconds) {
-    const CGSize room = over.bounds().size;
-    const auto label =
-        ui::Label::withFrame({{room.width * 0.5 - 135, room.height * height - 20}, noticeSize});
+CGRect noticeFrame(CGSize view, const NoticePlace& place) {
+    constexpr CGSize size{260, 40};
+    return {{view.width * 0.5 - place.left, view.height * place.height - place.above}, size};
+}
+
+void showNotice(ui::View view, ns::String text, const NoticePlace& place, double seconds) {
+    const auto label = ui::Label::withFrame(noticeFrame(view.bounds().size, place));
     label.setText(text);
     label.setTextAlignment(ui::TextAlignment::center);
     label.setBackgroundColor(ui::Color::lightGray());
-    over.addSubview(label);
+    label.setOverrideUserInterfaceStyle(ui::InterfaceStyle::light); // as its background is
+    view.window().addSubview(label);
     dispatch::after(static_cast<std::int64_t>(seconds * nanosecondsPerSecond),
                     dispatch::mainQueue(),
                     [label = objc::Strong(label)] { label.removeFromSuperview(); });

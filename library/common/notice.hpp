@@ -1,15 +1,25 @@
-// A short line of text over a view, which goes by itself.
+// A short line of text over everything, which goes by itself.
 #pragma once
 
 #include "bindings/uikit/view.hpp"
 
 namespace wentra {
 
-/// The size of every notice, in points.
-inline constexpr CGSize noticeSize{260, 40};
+/// Where a notice lies in the view that it is shown over.
+struct NoticePlace {
+    /// The part of the view's height that its place counts from.
+    double height = 0.5;
+    /// Points from the view's middle to the notice's left edge.
+    double left = 135;
+    /// Points from that height up to the notice's top edge.
+    double above = 20;
+};
 
-/// Shows the text for that many seconds, in the middle of the view's width, a little to the left,
-/// and at `height`, a fraction of the view's height. Main thread.
-void showNotice(ui::View over, ns::String text, double height, double seconds);
+/// The frame of a notice in a view of that size: 260 by 40 points.
+[[nodiscard]] CGRect noticeFrame(CGSize view, const NoticePlace& place);
+
+/// Shows the text for that many seconds in front of all that is in the view's window, at the place
+/// of a notice in a view of that size. Nothing for a view without a window. Main thread.
+void showNotice(ui::View view, ns::String text, const NoticePlace& place, double seconds);
 
 } // namespace wentra

@@ -7,19 +7,20 @@
 namespace wentra {
 
 ui::Window keyWindow() {
-    for (const objc::Object window : ui::Application::shared().windows()) {
-        if (window.assume<ui::Window>().isKeyWindow()) {
-            return window.assume<ui::Window>();
+    for (const ui::Window window : ui::Application::sharedApplication().windows()) {
+        if (window.isKeyWindow()) {
+            return window;
         }
     }
     return nullptr;
 }
 
 ui::Window activeWindow() {
-    for (const objc::Object each : ui::Application::shared().connectedScenes().allObjects()) {
+    for (const objc::Object each :
+         ui::Application::sharedApplication().connectedScenes().allObjects()) {
         const auto scene = each.as<ui::WindowScene>();
-        if (scene && scene.activationState() == ui::activation::foregroundActive) {
-            return scene.windows().first().assume<ui::Window>();
+        if (scene && scene.activationState() == ui::SceneActivationState::foregroundActive) {
+            return scene.windows().first();
         }
     }
     return nullptr;
@@ -27,10 +28,17 @@ ui::Window activeWindow() {
 
 ui::ViewController topViewController() {
     ui::ViewController top = activeWindow().rootViewController();
-    while (const ui::ViewController next = top.presentedViewController()) {
+    // What is being dismissed would take along whatever it presented now.
+    for (ui::ViewController next = top.presentedViewController(); next && !next.isBeingDismissed();
+         next = next.presentedViewController()) {
         top = next;
     }
     return top;
+}
+
+ScreenLookups& ScreenLookups::of(objc::Object /*controller*/) {
+    static ScreenLookups shared;
+    return shared;
 }
 
 } // namespace wentra

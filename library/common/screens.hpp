@@ -1,6 +1,7 @@
 // Where the library's views and screens are put.
 #pragma once
 
+#include "bindings/objc/boundary.hpp"
 #include "bindings/uikit/view_controller.hpp"
 
 namespace wentra {
@@ -11,7 +12,21 @@ namespace wentra {
 /// The first window of the first connected scene that is active in the foreground, or nil.
 [[nodiscard]] ui::Window activeWindow();
 
-/// What is presented last above the active window's root controller, or nil.
+/// What is presented last above the active window's root controller and is there to stay, or nil.
 [[nodiscard]] ui::ViewController topViewController();
+
+/// What a controller's peer lists to answer where its screens come up:
+///
+///     objc::method<"getWindow", &ScreenLookups::window>(),
+///     objc::method<"getCurrentViewController", &ScreenLookups::controller>(),
+class ScreenLookups {
+public:
+    static constexpr objc::Boundary border = objc::Boundary::contained;
+    /// It has no state: one serves every controller.
+    static ScreenLookups& of(objc::Object controller);
+
+    [[nodiscard]] ui::Window window() const { return activeWindow(); }
+    [[nodiscard]] ui::ViewController controller() const { return topViewController(); }
+};
 
 } // namespace wentra

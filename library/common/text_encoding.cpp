@@ -24,20 +24,24 @@ void appendUtf16(char32_t character, std::u16string& utf16) {
 
 bool isAscii(std::string_view bytes) {
     std::uint64_t seen = 0;
-    for (; bytes.size() >= 8; bytes.remove_prefix(8))
+    for (; bytes.size() >= 8; bytes.remove_prefix(8)) {
         seen |= littleEndian<std::uint64_t>(bytes.data());
-    for (const char byte : bytes)
+    }
+    for (const char byte : bytes) {
         seen |= static_cast<unsigned char>(byte);
+    }
     return (seen & highBits) == 0;
 }
 
 bool isUtf8(std::string_view bytes) {
     while (!bytes.empty()) {
         std::size_t size = 8;
-        if (bytes.size() < 8 || (littleEndian<std::uint64_t>(bytes.data()) & highBits) != 0)
+        if (bytes.size() < 8 || (littleEndian<std::uint64_t>(bytes.data()) & highBits) != 0) {
             size = decodeUtf8(bytes).size;
-        if (size == 0)
+        }
+        if (size == 0) {
             return false;
+        }
         bytes.remove_prefix(size);
     }
     return true;

@@ -21,8 +21,9 @@ constexpr Utf8Character decodeUtf8(std::string_view bytes) {
         return static_cast<unsigned char>(bytes[index]) ^ 0x80U;
     };
     const char32_t first = static_cast<unsigned char>(bytes[0]);
-    if (first < 0x80)
+    if (first < 0x80) {
         return {first, 1};
+    }
     if (first < 0xE0 && bytes.size() >= 2) {
         const char32_t second = continuation(1);
         const bool sound = second < 0x40 && first >= 0xC2;
@@ -35,8 +36,9 @@ constexpr Utf8Character decodeUtf8(std::string_view bytes) {
         const bool sound = (second | third) < 0x40 && character >= 0x800 && !isSurrogate(character);
         return sound ? Utf8Character{character, 3} : Utf8Character{};
     }
-    if (first >= 0xF8 || bytes.size() < 4)
+    if (first >= 0xF8 || bytes.size() < 4) {
         return {};
+    }
     const char32_t second = continuation(1);
     const char32_t third = continuation(2);
     const char32_t fourth = continuation(3);

@@ -68,7 +68,7 @@ std::span<const objc::Change> speechCategories() {
 }
 
 void observeMenu() {
-    ns::NotificationCenter::defaultCenter().observe(
+    ns::NotificationCenter::defaultCenter().addObserverForName(
         u"UIMenuControllerWillShowMenuNotification"_ns, nullptr, ns::OperationQueue::mainQueue(),
         objc::Block<void(ns::Notification)>::from([](ns::Notification) {}));
 }

@@ -4,8 +4,8 @@
 
 #include "bindings/uikit/pasteboard.hpp"
 #include "bindings/uikit/view.hpp"
-#include "library/startup/preference_keys.hpp"
-#include "library/startup/preferences.hpp"
+#include "library/preferences/preference_keys.hpp"
+#include "library/preferences/preferences.hpp"
 
 #include <array>
 
@@ -14,8 +14,8 @@ namespace {
 
 using objc::Next;
 using objc::Object;
-using startup::keys;
-using startup::Preferences;
+using preferences::keys;
+using preferences::Preferences;
 
 Object withFrame(Next<Object(CGRect)> next, Object, CGRect frame) { return next(frame); }
 
@@ -26,7 +26,9 @@ bool filtersCrashLogs(Object) { return Preferences::read().on(keys.filterCrashLo
 
 void gesture(Object, Object) {}
 
-void copyToPasteboard(Object, ns::String text) { ui::Pasteboard::general().setString(text); }
+void copyToPasteboard(Object, ns::String text) {
+    ui::Pasteboard::generalPasteboard().setString(text);
+}
 
 void showAlert(Object, ns::String, ns::String) {}
 

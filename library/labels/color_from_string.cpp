@@ -34,10 +34,10 @@ ui::Color colorFromString(ns::String text) {
     const double alpha =
         parts.alpha ? static_cast<double>(ns::String::from(*parts.alpha).floatValue()) : 1;
     if (const ui::Color color = namedColour(parts.colour); color) {
-        return color.withAlpha(alpha);
+        return color.withAlphaComponent(alpha);
     }
     const Colour colour = hexColour(parts.colour).value_or(Colour{1, 1, 1, 1});
-    return ui::Color::rgba(colour.red, colour.green, colour.blue, alpha);
+    return ui::Color::withRed(colour.red, colour.green, colour.blue, alpha);
 }
 
 std::span<const objc::Change> colourCategory() {

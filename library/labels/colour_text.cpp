@@ -1,25 +1,24 @@
 // Takes colour texts apart and reads their hexadecimal digits.
 #include "library/labels/colour_text.hpp"
 
+#include "library/common/text_parts.hpp"
+
 #include <algorithm>
 #include <limits>
 
 namespace wentra::labels {
 namespace {
 
-constexpr bool isWhiteSpace(char16_t unit) {
-    return (unit >= u'\t' && unit <= u'\r') || unit == u' ' || unit == 0x0085 || unit == 0x00A0 ||
-           unit == 0x1680 || (unit >= 0x2000 && unit <= 0x200A) || unit == 0x2028 ||
-           unit == 0x2029 || unit == 0x202F || unit == 0x205F || unit == 0x3000;
-}
-
 constexpr std::optional<std::uint32_t> hexadecimalDigit(char16_t unit) {
-    if (unit >= u'0' && unit <= u'9')
+    if (unit >= u'0' && unit <= u'9') {
         return std::uint32_t{unit} - u'0';
-    if (unit >= u'a' && unit <= u'f')
+    }
+    if (unit >= u'a' && unit <= u'f') {
         return std::uint32_t{unit} - u'a' + 10;
-    if (unit >= u'A' && unit <= u'F')
+    }
+    if (unit >= u'A' && unit <= u'F') {
         return std::uint32_t{unit} - u'A' + 10;
+    }
     return std::nullopt;
 }
 
@@ -27,23 +26,25 @@ constexpr std::optional<std::uint32_t> hexadecimalDigit(char16_t unit) {
 
 ColourText parseColourText(std::u16string_view text) {
     const std::size_t colourEnd = text.find(u'-');
-    if (colourEnd == text.npos)
+    if (colourEnd == text.npos) {
         return {text, std::nullopt};
+    }
     const std::u16string_view rest = text.substr(colourEnd + 1);
     return {text.substr(0, colourEnd), rest.substr(0, rest.find(u'-'))};
 }
 
 std::uint32_t scanHexadecimal(std::u16string_view text) {
     constexpr std::uint64_t largest = std::numeric_limits<std::uint32_t>::max();
-    text.remove_prefix(
-        static_cast<std::size_t>(std::ranges::find_if_not(text, isWhiteSpace) - text.begin()));
-    if (text.starts_with(u"0x") || text.starts_with(u"0X"))
+    text = trimmedAtStart(text);
+    if (text.starts_with(u"0x") || text.starts_with(u"0X")) {
         text.remove_prefix(2);
+    }
     std::uint64_t number = 0;
     for (const char16_t unit : text) {
         const std::optional<std::uint32_t> digit = hexadecimalDigit(unit);
-        if (!digit)
+        if (!digit) {
             break;
+        }
         number = std::min(number * 16 + *digit, largest);
     }
     return static_cast<std::uint32_t>(number);
@@ -56,8 +57,9 @@ Colour colourFromRgb(std::uint32_t rgb) {
 
 std::optional<Colour> hexColour(std::u16string_view colour) {
     const bool hasSign = colour.starts_with(u'#');
-    if (!hasSign && colour.size() != 6)
+    if (!hasSign && colour.size() != 6) {
         return std::nullopt;
+    }
     return colourFromRgb(scanHexadecimal(hasSign ? colour.substr(1) : colour));
 }
 

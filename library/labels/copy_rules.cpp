@@ -1,6 +1,8 @@
 // The applications, classes and texts that copying keeps away from.
 #include "library/labels/copy_rules.hpp"
 
+#include "library/common/text_parts.hpp"
+
 #include <algorithm>
 #include <array>
 
@@ -46,15 +48,8 @@ bool excludesPressing(std::u16string_view ancestorClass) {
 bool isNeverCopied(std::u16string_view text) { return text == u"按住 说话" || text == u"提出问题"; }
 
 std::vector<std::u16string> splitClassNames(std::u16string_view list) {
-    std::vector<std::u16string> names;
-    for (;;) {
-        const std::size_t end = list.find_first_of(u",，");
-        names.emplace_back(list.substr(0, end));
-        if (end == list.npos) {
-            return names;
-        }
-        list.remove_prefix(end + 1);
-    }
+    const auto names = split(list, [](char16_t unit) { return unit == u',' || unit == u'，'; });
+    return {names.begin(), names.end()};
 }
 
 } // namespace wentra::labels

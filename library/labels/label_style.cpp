@@ -9,24 +9,24 @@ namespace {
 /// A rule that changes one component of the frame.
 struct FrameRule {
     RuleKind kind;
-    startup::Switch key;
+    preferences::Switch key;
     void (*change)(CGRect& frame, double value);
 };
 
 constexpr std::array frameRules{
-    FrameRule{RuleKind::height, startup::keys.changeHeight,
+    FrameRule{RuleKind::height, preferences::keys.changeHeight,
               [](CGRect& frame, double value) { frame.size.height = value; }},
-    FrameRule{RuleKind::width, startup::keys.changeWidth,
+    FrameRule{RuleKind::width, preferences::keys.changeWidth,
               [](CGRect& frame, double value) { frame.size.width = value; }},
-    FrameRule{RuleKind::horizontal, startup::keys.moveHorizontally,
+    FrameRule{RuleKind::horizontal, preferences::keys.moveHorizontally,
               [](CGRect& frame, double value) { frame.origin.x = value; }},
-    FrameRule{RuleKind::vertical, startup::keys.moveVertically,
+    FrameRule{RuleKind::vertical, preferences::keys.moveVertically,
               [](CGRect& frame, double value) { frame.origin.y = value; }},
 };
 
 } // namespace
 
-void applyFrameRules(ui::View label, ns::String text, const startup::Preferences& preferences) {
+void applyFrameRules(ui::View label, ns::String text, const preferences::Preferences& preferences) {
     for (const FrameRule& rule : frameRules) {
         if (!preferences.on(rule.key)) {
             continue;
@@ -37,7 +37,7 @@ void applyFrameRules(ui::View label, ns::String text, const startup::Preferences
             label.setFrame(frame);
         }
     }
-    if (preferences.on(startup::keys.changeAlpha)) {
+    if (preferences.on(preferences::keys.changeAlpha)) {
         if (const auto alpha = StoredRules(RuleKind::alpha).number(text); alpha) {
             label.setAlpha(*alpha);
         }

@@ -4,8 +4,8 @@
 #include "library/labels/colour_text.hpp"
 #include "library/labels/global_font.hpp"
 #include "library/labels/stored_rules.hpp"
-#include "library/startup/preference_keys.hpp"
-#include "library/startup/preferences.hpp"
+#include "library/preferences/preference_keys.hpp"
+#include "library/preferences/preferences.hpp"
 
 #include "bindings/uikit/color.hpp"
 #include "bindings/uikit/font.hpp"
@@ -19,20 +19,20 @@ namespace wentra::labels {
 
 /// Colours the text.
 template <class Label>
-void applyColourRule(Label label, ns::String text, const startup::Preferences& preferences) {
-    if (!preferences.on(startup::keys.recolour)) {
+void applyColourRule(Label label, ns::String text, const preferences::Preferences& preferences) {
+    if (!preferences.on(preferences::keys.recolour)) {
         return;
     }
     if (const ns::String digits = StoredRules(RuleKind::colour).text(text); digits) {
         const Colour colour = colourFromRgb(scanHexadecimal(digits.utf16()));
-        label.setTextColor(ui::Color::rgba(colour.red, colour.green, colour.blue, colour.alpha));
+        label.setTextColor(ui::Color::withRed(colour.red, colour.green, colour.blue, colour.alpha));
     }
 }
 
 /// Sets the current font at the size of the text's own rule.
 template <class Label>
-void applyTextSizeRule(Label label, ns::String text, const startup::Preferences& preferences) {
-    if (!preferences.on(startup::keys.resize)) {
+void applyTextSizeRule(Label label, ns::String text, const preferences::Preferences& preferences) {
+    if (!preferences.on(preferences::keys.resize)) {
         return;
     }
     if (const auto size = StoredRules(RuleKind::size).number(text); size) {
@@ -42,47 +42,48 @@ void applyTextSizeRule(Label label, ns::String text, const startup::Preferences&
 
 /// The same, or the global size when that is switched on: then the text's own rule does not count.
 template <class Label>
-void applySizeRules(Label label, ns::String text, const startup::Preferences& preferences) {
-    if (!preferences.on(startup::keys.globalFontSize)) {
+void applySizeRules(Label label, ns::String text, const preferences::Preferences& preferences) {
+    if (!preferences.on(preferences::keys.globalFontSize)) {
         applyTextSizeRule(label, text, preferences);
         return;
     }
-    if (!preferences.on(startup::keys.resize)) {
+    if (!preferences.on(preferences::keys.resize)) {
         return;
     }
     const auto size = StoredRules(RuleKind::size).number(ns::String::from(globalSizeKey));
     if (size) {
-        const double increase = preferences.number(startup::keys.globalFontSizeIncrease);
+        const double increase = preferences.number(preferences::keys.globalFontSizeIncrease);
         label.setFont(label.font().withSize(increase + *size));
     }
 }
 
 /// Height, width, horizontal and vertical position, each keeping the rest of the frame; then alpha.
-void applyFrameRules(ui::View label, ns::String text, const startup::Preferences& preferences);
+void applyFrameRules(ui::View label, ns::String text, const preferences::Preferences& preferences);
 
 /// Sets the font of the text's own rule at the current size; an unknown name sets no font, as
 /// given.
 template <class Label>
-void applyTextFontRule(Label label, ns::String text, const startup::Preferences& preferences) {
-    if (!preferences.on(startup::keys.changeFont)) {
+void applyTextFontRule(Label label, ns::String text, const preferences::Preferences& preferences) {
+    if (!preferences.on(preferences::keys.changeFont)) {
         return;
     }
     if (const ns::String name = StoredRules(RuleKind::font).text(text); name) {
-        label.setFont(ui::Font::named(name, label.font().pointSize()));
+        label.setFont(ui::Font::withName(name, label.font().pointSize()));
     }
 }
 
 /// The same, unless a global font is in force. A global font that was used once stays in force
 /// until the process ends, even after its switch is turned off.
 template <class Label>
-void applyFontRules(Label label, ns::String text, const startup::Preferences& preferences) {
-    if (!preferences.on(startup::keys.changeFont)) {
+void applyFontRules(Label label, ns::String text, const preferences::Preferences& preferences) {
+    if (!preferences.on(preferences::keys.changeFont)) {
         return;
     }
-    const ns::String name = StoredRules(RuleKind::font).text(ns::String::from(globalFontKey));
-    const bool wanted = name && preferences.on(startup::keys.globalFont);
-    if (wanted) {
-        rememberGlobalFont(ui::Font::named(name, label.font().pointSize()));
+    const ns::String name = preferences.on(preferences::keys.globalFont)
+                                ? StoredRules(RuleKind::font).text(ns::String::from(globalFontKey))
+                                : nullptr;
+    if (name) {
+        rememberGlobalFont(ui::Font::withName(name, label.font().pointSize()));
     }
     if (const ui::Font font = globalFont(); font) {
         label.setFont(font);

@@ -1,13 +1,13 @@
 // Label texts on their way to the platform: styled by the text that was asked for, then replaced.
 #include "library/labels/label_text_hooks.hpp"
 
+#include "bindings/applications/yy_label.hpp"
 #include "bindings/objc/pool.hpp"
 #include "bindings/uikit/label.hpp"
 #include "library/labels/label_style.hpp"
 #include "library/labels/stored_rules.hpp"
 #include "library/labels/text_replacement.hpp"
-#include "library/labels/yy_label.hpp"
-#include "library/startup/preferences.hpp"
+#include "library/preferences/preferences.hpp"
 
 #include <array>
 
@@ -15,7 +15,7 @@ namespace wentra::labels {
 namespace {
 
 using namespace ns::literals;
-using startup::Preferences;
+using preferences::Preferences;
 
 /// The text that a label shows instead: `text` itself when no rule says otherwise.
 ns::String replaced(ns::String text) {
@@ -31,6 +31,12 @@ ns::String replaced(ns::String text) {
 /// Hosts do pass nil, and objects that are no strings; these are none of our business.
 bool canBeRewritten(ns::String text) { return text.as<ns::String>() && text.length() > 0; }
 
+/// A styling that fails costs the label that styling only.
+template <class Styling>
+void style(Styling styling) {
+    objc::contained("a label's styling", styling);
+}
+
 void rewriteLabel(objc::Next<void(ns::String)> next, ui::Label label, ns::String text) {
     if (!canBeRewritten(text)) {
         next(text);
@@ -38,31 +44,34 @@ void rewriteLabel(objc::Next<void(ns::String)> next, ui::Label label, ns::String
     }
     const objc::Pool pool; // a background thread may have none
     const Preferences preferences = Preferences::read();
-    applyColourRule(label, text, preferences);
-    applySizeRules(label, text, preferences);
-    applyFrameRules(label, text, preferences);
-    applyFontRules(label, text, preferences);
+    style([&] { applyColourRule(label, text, preferences); });
+    style([&] { applySizeRules(label, text, preferences); });
+    style([&] { applyFrameRules(label, text, preferences); });
+    style([&] { applyFontRules(label, text, preferences); });
     next(replaced(text));
 }
 
-void rewriteYYLabel(objc::Next<void(ns::String)> next, YYLabel label, ns::String text) {
+void rewriteYYLabel(objc::Next<void(ns::String)> next, apps::YYLabel label, ns::String text) {
     if (!canBeRewritten(text)) {
         next(text);
         return;
     }
     const objc::Pool pool;
     const Preferences preferences = Preferences::read();
-    applyColourRule(label, text, preferences);
-    applyTextSizeRule(label, text, preferences);
-    applyFrameRules(label, text, preferences);
-    applyTextFontRule(label, text, preferences);
+    style([&] { applyColourRule(label, text, preferences); });
+    style([&] { applyTextSizeRule(label, text, preferences); });
+    style([&] { applyFrameRules(label, text, preferences); });
+    style([&] { applyTextFontRule(label, text, preferences); });
     next(replaced(text));
 }
 
 /// One text is never shown by any label: it only makes the label's font small.
 void withholdOneText(objc::Next<void(ns::String)> next, ui::Label label, ns::String text) {
     constexpr double smallSize = 10;
-    if (text.as<ns::String>() && text.isEqualToString(u"感谢逆向，没技术含量的插件。"_ns)) {
+    const ns::String withheld = u"感谢逆向，没技术含量的插件。"_ns;
+    // The lengths tell nearly all texts apart, at a small part of the price.
+    if (text.as<ns::String>() && text.length() == withheld.length() &&
+        text.isEqualToString(withheld)) {
         label.setFont(ui::Font::system(smallSize));
         return;
     }

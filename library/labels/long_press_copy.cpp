@@ -3,14 +3,14 @@
 
 #include "bindings/foundation/bundle.hpp"
 #include "bindings/uikit/button.hpp"
-#include "bindings/uikit/long_press_gesture_recognizer.hpp"
 #include "bindings/uikit/navigation_bar.hpp"
 #include "bindings/uikit/pasteboard.hpp"
 #include "bindings/uikit/text_field.hpp"
 #include "bindings/uikit/text_view.hpp"
+#include "library/common/gestures.hpp"
 #include "library/common/haptic.hpp"
 #include "library/labels/copy_rules.hpp"
-#include "library/startup/preferences.hpp"
+#include "library/preferences/preferences.hpp"
 
 #include <array>
 #include <concepts>
@@ -53,11 +53,11 @@ ns::String copiedText(ui::View view) {
 }
 
 void setUp(ui::View view) {
-    using startup::keys;
-    const auto preferences = startup::Preferences::read();
+    using preferences::keys;
+    const auto preferences = preferences::Preferences::read();
     const CopySwitches switches{preferences.on(keys.copyOnLongPress),
                                 preferences.on(keys.suppressCopyInMessengers)};
-    if (!copiesIn(ns::Bundle::mainBundle().identifier().utf8(), switches)) {
+    if (!copiesIn(ns::Bundle::mainBundle().bundleIdentifier().utf8(), switches)) {
         return;
     }
     const auto users = splitClassNames(preferences.text(keys.suppressedViewClasses));
@@ -69,10 +69,7 @@ void setUp(ui::View view) {
         return;
     }
     view.setUserInteractionEnabled(true);
-    const auto press = ui::GestureRecognizer::with<ui::LongPressGestureRecognizer>(
-        view, objc::selector<"longPress:">());
-    press.setMinimumPressDuration(pressDuration);
-    view.addGestureRecognizer(press);
+    addPress(view, view, objc::selector<"longPress:">(), pressDuration);
 }
 
 void pressed(ui::View view, ui::GestureRecognizer press) {
@@ -84,12 +81,16 @@ void pressed(ui::View view, ui::GestureRecognizer press) {
         return;
     }
     if (const ns::String text = copiedText(view); text) {
-        ui::Pasteboard::general().setString(text);
+        ui::Pasteboard::generalPasteboard().setString(text);
         doubleHapticTap();
     }
 }
 
-void arrived(objc::Next<void()> next, ui::Label label) {
+void swizzle(objc::Object cls, SEL first, SEL second) {
+    objc::swizzle(reinterpret_cast<Class>(cls.raw()), first, second);
+}
+
+void movedToSuperview(objc::Next<void()> next, ui::Label label) {
     next();
     label.send<"setupLongPressCopy">();
 }
@@ -100,13 +101,15 @@ std::span<const objc::Change> longPressCopyCategory() {
     static constexpr std::array changes{
         objc::addition<"UIView", "setupLongPressCopy", &setUp>(),
         objc::addition<"UIView", "longPress:", &pressed>(),
+        objc::classAddition<"UILabel", "swizzleInstanceMethod:withMethod:", &swizzle>(),
     };
     return changes;
 }
 
 std::span<const objc::Change> longPressCopyLoad() {
     static constexpr std::array changes{
-        objc::exchange<"UILabel", "didMoveToSuperview", "swizzled_didMoveToSuperview", &arrived>(),
+        objc::exchange<"UILabel", "didMoveToSuperview", "swizzled_didMoveToSuperview",
+                       &movedToSuperview>(),
     };
     return changes;
 }

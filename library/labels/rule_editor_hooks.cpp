@@ -2,7 +2,7 @@
 #include "library/labels/rule_editor_hooks.hpp"
 
 #include "bindings/uikit/view.hpp"
-#include "library/startup/preferences.hpp"
+#include "library/preferences/preferences.hpp"
 
 #include <array>
 
@@ -19,7 +19,7 @@ void laidOut(objc::Next<void()> next, objc::Object container) {
 
 void barLaidOut(objc::Next<void()> next, objc::Object bar) {
     next();
-    if (startup::Preferences::read().on(startup::keys.longPressOnNavigation)) {
+    if (preferences::Preferences::read().on(preferences::keys.longPressOnNavigation)) {
         attach(bar);
     }
 }

@@ -1,6 +1,8 @@
 // Reads rules from the editor's text and writes them back.
 #include "library/labels/rule_text.hpp"
 
+#include "library/common/text_parts.hpp"
+
 #include <algorithm>
 
 namespace wentra::labels {
@@ -10,13 +12,15 @@ void parseLine(std::u16string_view line, RuleSet& rules) {
     const auto kind = std::ranges::find_if(recognitionOrder, [line](RuleKind candidate) {
         return line.find(ruleKindNames(candidate).marker) != line.npos;
     });
-    if (kind == recognitionOrder.end())
+    if (kind == recognitionOrder.end()) {
         return;
+    }
     const std::u16string_view marker = ruleKindNames(*kind).marker;
     const std::size_t keyEnd = line.find(marker);
     const std::u16string_view value = line.substr(keyEnd + marker.size());
-    if (value.find(marker) == value.npos)
+    if (value.find(marker) == value.npos) {
         rules[*kind].assign(line.substr(0, keyEnd), value);
+    }
 }
 
 const RuleSet& helpExamples() {
@@ -33,10 +37,8 @@ bool isHelpExample(RuleKind kind, const Rule& rule) {
 
 RuleSet parseRules(std::u16string_view text) {
     RuleSet rules;
-    for (std::size_t start = 0; start < text.size();) {
-        const std::size_t end = std::min(text.find(u'\n', start), text.size());
-        parseLine(text.substr(start, end - start), rules);
-        start = end + 1;
+    for (const auto line : split(text, [](char16_t unit) { return unit == u'\n'; })) {
+        parseLine(line, rules);
     }
     return rules;
 }
@@ -46,8 +48,9 @@ std::u16string listRules(const RuleSet& rules, RuleSpacing spacing) {
     std::u16string listing;
     for (const RuleKind kind : listingOrder) {
         for (const Rule& rule : rules[kind]) {
-            if (isHelpExample(kind, rule))
+            if (isHelpExample(kind, rule)) {
                 continue;
+            }
             listing.append(rule.key).append(ruleKindNames(kind).marker);
             listing.append(rule.value).append(ending);
         }

@@ -25,14 +25,15 @@ ns::String defaultsKey(RuleKind kind) {
 /// A copy of the stored map, empty when there is none, to be changed and stored back.
 ns::MutableDictionary mutableMap(RuleKind kind) {
     const auto map = ns::MutableDictionary::make();
-    if (const auto stored = ns::UserDefaults::standard().dictionary(defaultsKey(kind)); stored) {
+    if (const auto stored = ns::UserDefaults::standardUserDefaults().dictionary(defaultsKey(kind));
+        stored) {
         map.addEntries(stored);
     }
     return map;
 }
 
 void storeMap(RuleKind kind, ns::Dictionary map) {
-    const auto defaults = ns::UserDefaults::standard();
+    const auto defaults = ns::UserDefaults::standardUserDefaults();
     defaults.set(map, defaultsKey(kind));
     defaults.synchronize();
 }
@@ -40,7 +41,7 @@ void storeMap(RuleKind kind, ns::Dictionary map) {
 } // namespace
 
 StoredRules::StoredRules(RuleKind kind)
-    : map_(ns::UserDefaults::standard().dictionary(defaultsKey(kind))) {}
+    : map_(ns::UserDefaults::standardUserDefaults().dictionary(defaultsKey(kind))) {}
 
 ns::String StoredRules::text(ns::String key) const { return map_.get(key).as<ns::String>(); }
 
@@ -59,7 +60,7 @@ RuleSet storedRuleSet() {
     RuleSet rules;
     for (const RuleKind kind : listingOrder) {
         const StoredRules stored(kind);
-        const auto map = ns::UserDefaults::standard().dictionary(defaultsKey(kind));
+        const auto map = ns::UserDefaults::standardUserDefaults().dictionary(defaultsKey(kind));
         for (const objc::Object entry : map.allKeys()) {
             const auto key = entry.as<ns::String>();
             if (const ns::String value = stored.text(key); key && value) {
@@ -71,7 +72,7 @@ RuleSet storedRuleSet() {
 }
 
 void storeRuleSet(const RuleSet& rules) {
-    const auto defaults = ns::UserDefaults::standard();
+    const auto defaults = ns::UserDefaults::standardUserDefaults();
     for (const RuleKind kind : storingOrder) {
         const auto map = ns::MutableDictionary::make();
         for (const Rule& rule : rules[kind]) {

@@ -1,7 +1,7 @@
 // The table of term corrections, applied in the order it is written.
 #include "library/labels/term_correction.hpp"
 
-#include <utility>
+#include "library/common/occurrences.hpp"
 
 namespace wentra::labels {
 namespace {
@@ -28,27 +28,13 @@ constexpr TermCorrection termCorrections[] = {
     {u"空白", u"空格"},        {u"的空白", u"有空格"},     {u"违约", u"默认"},
 };
 
-void applyCorrection(const TermCorrection& correction, std::u16string& text) {
-    std::size_t found = text.find(correction.wrong);
-    if (found == text.npos)
-        return;
-    std::u16string corrected;
-    corrected.reserve(text.size());
-    std::size_t copied = 0;
-    for (; found != text.npos; found = text.find(correction.wrong, copied)) {
-        corrected.append(text, copied, found - copied).append(correction.right);
-        copied = found + correction.wrong.size();
-    }
-    corrected.append(text, copied);
-    text = std::move(corrected);
-}
-
 } // namespace
 
 std::u16string correctTerms(std::u16string_view text) {
     std::u16string corrected(text);
-    for (const TermCorrection& correction : termCorrections)
-        applyCorrection(correction, corrected);
+    for (const TermCorrection& correction : termCorrections) {
+        replaceAll(corrected, correction.wrong, correction.right);
+    }
     return corrected;
 }
 

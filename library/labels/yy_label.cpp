@@ -1,17 +1,18 @@
 // The stand-in YYLabel class.
 #include "library/labels/yy_label.hpp"
 
+#include "bindings/applications/yy_label.hpp"
 #include "bindings/objc/peer.hpp"
 
 namespace wentra::labels {
 namespace {
 
-class OwnYYLabel : public objc::Peer<OwnYYLabel, YYLabel> {
+class YYLabelPeer : public objc::Peer<YYLabelPeer, apps::YYLabel> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
-            objc::property<"font", &OwnYYLabel::font_>(),
-            objc::property<"textColor", &OwnYYLabel::textColor_>(),
+            objc::property<"font", &YYLabelPeer::font_>(),
+            objc::property<"textColor", &YYLabelPeer::textColor_>(),
         };
     }
 
@@ -22,6 +23,6 @@ private:
 
 } // namespace
 
-void registerYYLabel() { OwnYYLabel::registerClass(); }
+void registerYYLabel() { YYLabelPeer::registerClass(); }
 
 } // namespace wentra::labels

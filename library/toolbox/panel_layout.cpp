@@ -5,9 +5,9 @@
 
 namespace wentra::toolbox {
 
-PanelLayout PanelLayout::from(const startup::Preferences& preferences) {
-    using startup::keys;
-    const auto points = [&preferences](const startup::Number& key, double standard) {
+PanelLayout PanelLayout::from(const preferences::Preferences& preferences) {
+    using preferences::keys;
+    const auto points = [&preferences](const preferences::Number& key, double standard) {
         const double stored = preferences.number(key);
         return stored == 0 || !std::isfinite(stored) ? standard : stored;
     };

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "bindings/coregraphics/geometry.hpp"
-#include "library/startup/preferences.hpp"
+#include "library/preferences/preferences.hpp"
 
 namespace wentra::toolbox {
 
@@ -14,7 +14,7 @@ struct PanelLayout {
     double editorHeight;
     double ballSide;
 
-    static PanelLayout from(const startup::Preferences& preferences);
+    static PanelLayout from(const preferences::Preferences& preferences);
 
     /// The panel in a window of that size.
     [[nodiscard]] CGRect panel(CGSize screen) const;

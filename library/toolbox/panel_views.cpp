@@ -2,34 +2,21 @@
 #include "library/toolbox/panel_views.hpp"
 
 #include "bindings/uikit/image_view.hpp"
-#include "bindings/uikit/pan_gesture_recognizer.hpp"
-#include "bindings/uikit/tap_gesture_recognizer.hpp"
-#include "library/startup/resources.hpp"
+#include "library/common/gestures.hpp"
+#include "library/paths/resources.hpp"
 
 namespace wentra::toolbox {
 namespace {
 
 using namespace ns::literals;
 
-template <objc::Literal Action>
-void addTap(ui::View view, ViewModel owner) {
-    view.addGestureRecognizer(
-        ui::GestureRecognizer::with<ui::TapGestureRecognizer>(owner, objc::selector<Action>()));
-}
-
-template <objc::Literal Action>
-void addPan(ui::View view, ViewModel owner) {
-    view.addGestureRecognizer(
-        ui::GestureRecognizer::with<ui::PanGestureRecognizer>(owner, objc::selector<Action>()));
-}
-
 ui::Image ballImage() {
-    const auto path = startup::ballImagePath();
+    const auto path = paths::ballImagePath();
     return path ? ui::Image::withContentsOfFile(ns::String::fromUtf8(*path)) : nullptr;
 }
 
 ui::Image panelImage() {
-    for (const std::string& path : startup::panelImageCandidates()) {
+    for (const std::string& path : paths::panelImageCandidates()) {
         if (const auto image = ui::Image::withContentsOfFile(ns::String::fromUtf8(path)); image) {
             return image;
         }
@@ -47,8 +34,12 @@ ui::View makeBall(double side, ViewModel owner) {
     layer.setCornerRadius(side * 0.5);
     layer.setMasksToBounds(true);
     ball.setAlpha(0);
-    addTap<"showTextPanel">(ball, owner);
-    addPan<"moveFloatingView:">(ball, owner);
+    // Where it is on the screen, it is when the phone is turned.
+    using enum ui::ViewAutoresizing;
+    ball.setAutoresizingMask(flexibleLeftMargin | flexibleRightMargin | flexibleTopMargin |
+                             flexibleBottomMargin);
+    addTap(ball, owner, objc::selector<"showTextPanel">());
+    addPan(ball, owner, objc::selector<"moveFloatingView:">());
     return ball;
 }
 
@@ -57,18 +48,22 @@ ui::View makePanel(double height, CGSize screen, ui::Color background, ViewModel
     const auto panel = ui::View::withFrame({{}, {screen.width, height}});
     panel.setCenter({screen.width * 0.5, screen.height * 0.5});
     panel.setBackgroundColor(background);
+    // Its colours are the user's and those of light paper, whatever the phone's appearance.
+    panel.setOverrideUserInterfaceStyle(ui::InterfaceStyle::light);
+    panel.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth);
     panel.layer().setCornerRadius(cornerRadius);
     panel.setAlpha(0);
 
     const auto picture = ui::ImageView::withImage(panelImage());
     picture.setFrame(panel.bounds());
     picture.setContentMode(ui::ContentMode::scaleAspectFill);
-    picture.setAutoresizingMask(ui::autoresizing::flexibleWidth | ui::autoresizing::flexibleHeight);
+    picture.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth |
+                                ui::ViewAutoresizing::flexibleHeight);
     picture.setClipsToBounds(true);
     picture.layer().setCornerRadius(cornerRadius);
     panel.addSubview(picture);
 
-    addPan<"moveContentView:">(panel, owner);
+    addPan(panel, owner, objc::selector<"moveContentView:">());
     return panel;
 }
 
@@ -82,27 +77,30 @@ ui::TextView makeEditor(CGRect frame, ViewModel owner) {
     editor.setScrollEnabled(true);
     editor.setBackgroundColor(ui::Color::clear());
     editor.setDelegate(owner);
+    editor.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth);
     return editor;
 }
 
 ui::Button makeMarker() {
     constexpr double textSize = 11;
-    const auto marker = ui::Button::ofType(ui::ButtonType::system);
-    marker.setTitle(u"修改"_ns, ui::control_state::normal);
+    const auto marker = ui::Button::withType(ui::ButtonType::system);
+    marker.setTitle(u"修改"_ns, ui::ControlState::normal);
     marker.titleLabel().setFont(ui::Font::system(textSize));
     marker.sizeToFit();
     marker.setEnabled(false);
-    marker.setAutoresizingMask(ui::autoresizing::flexibleLeftMargin |
-                               ui::autoresizing::flexibleBottomMargin);
+    marker.setAutoresizingMask(ui::ViewAutoresizing::flexibleLeftMargin |
+                               ui::ViewAutoresizing::flexibleBottomMargin);
     return marker;
 }
 
 ui::View makeDimming(CGSize screen, ViewModel owner) {
     constexpr double darkness = 0.08;
     const auto dimming = ui::View::withFrame({{}, {screen.width * 3, screen.height * 3}});
-    dimming.setBackgroundColor(ui::Color::black().withAlpha(darkness));
+    dimming.setBackgroundColor(ui::Color::black().withAlphaComponent(darkness));
     dimming.setAlpha(0);
-    addTap<"hideTextPanel">(dimming, owner);
+    dimming.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth |
+                                ui::ViewAutoresizing::flexibleHeight);
+    addTap(dimming, owner, objc::selector<"hideTextPanel">());
     return dimming;
 }
 

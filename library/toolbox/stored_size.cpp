@@ -5,7 +5,7 @@
 
 namespace wentra::toolbox {
 
-double storedSize(const startup::Preferences& preferences, const startup::Number& key,
+double storedSize(const preferences::Preferences& preferences, const preferences::Number& key,
                   double standard) {
     const double stored = preferences.number(key);
     return stored == 0 || !std::isfinite(stored) ? standard : stored;

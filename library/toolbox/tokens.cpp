@@ -1,6 +1,7 @@
 // The token cutter.
 #include "library/toolbox/tokens.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <utility>
@@ -16,9 +17,7 @@ constexpr char16_t lastIdeograph = u'龥';
 constexpr auto asciiClasses = [] {
     std::array<Class, 128> classes{};
     for (const auto& [first, last] : {std::pair{'0', '9'}, {'A', 'Z'}, {'a', 'z'}}) {
-        for (int c = first; c <= last; ++c) {
-            classes[static_cast<std::size_t>(c)] = Class::word;
-        }
+        std::fill(classes.begin() + first, classes.begin() + last + 1, Class::word);
     }
     return classes;
 }();

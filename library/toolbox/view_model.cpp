@@ -2,12 +2,15 @@
 #include "library/toolbox/view_model.hpp"
 
 #include "bindings/dispatch/dispatch.hpp"
+#include "bindings/foundation/date.hpp"
 #include "bindings/foundation/delayed_perform.hpp"
 #include "bindings/foundation/notification_center.hpp"
 #include "bindings/foundation/run_loop.hpp"
+#include "bindings/foundation/thread.hpp"
 #include "bindings/objc/peer.hpp"
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/pasteboard.hpp"
+#include "bindings/uikit/screen.hpp"
 #include "library/common/draggable_view.hpp"
 #include "library/common/screens.hpp"
 #include "library/labels/color_from_string.hpp"
@@ -23,14 +26,14 @@ namespace wentra::toolbox {
 namespace {
 
 using namespace ns::literals;
-using startup::keys;
-using startup::Preferences;
+using preferences::keys;
+using preferences::Preferences;
 
 constexpr std::int64_t startUpDelay = 300'000'000; // ns
 constexpr std::int64_t panelDelay = 300'000'000;   // ns
 constexpr double timedBallSeconds = 5;
 
-CGSize screenSize() { return ui::Screen::main().bounds().size; }
+CGSize screenSize() { return ui::Screen::mainScreen().bounds().size; }
 
 ns::Array wordsOf(std::u16string_view text) {
     const auto words = ns::MutableArray::make();
@@ -40,43 +43,43 @@ ns::Array wordsOf(std::u16string_view text) {
     return words;
 }
 
-class OwnViewModel : public objc::Peer<OwnViewModel, ViewModel> {
+class ViewModelPeer : public objc::Peer<ViewModelPeer, ViewModel> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
-            objc::property<"floatingView", &OwnViewModel::ball_>(),
-            objc::property<"contentView", &OwnViewModel::panel_>(),
-            objc::property<"backgroundView", &OwnViewModel::dimming_>(),
-            objc::property<"copiedTextView", &OwnViewModel::editor_>(),
-            objc::property<"button", &OwnViewModel::marker_>(),
-            objc::property<"floatingVC", &OwnViewModel::body_>(),
-            objc::property<"isSwitchOn", &OwnViewModel::timed_>(),
+            objc::property<"floatingView", &ViewModelPeer::ball_>(),
+            objc::property<"contentView", &ViewModelPeer::panel_>(),
+            objc::property<"backgroundView", &ViewModelPeer::dimming_>(),
+            objc::property<"copiedTextView", &ViewModelPeer::editor_>(),
+            objc::property<"button", &ViewModelPeer::marker_>(),
+            objc::property<"floatingVC", &ViewModelPeer::body_>(),
+            objc::property<"isSwitchOn", &ViewModelPeer::timed_>(),
 
-            objc::method<"init", &OwnViewModel::init>(),
-            objc::method<"setup", &OwnViewModel::setUp>(),
-            objc::method<"updateView", &OwnViewModel::update>(),
-            objc::method<"getKeyWindow", &OwnViewModel::window>(),
+            objc::method<"init", &ViewModelPeer::init>(),
+            objc::method<"setup", &ViewModelPeer::setUp>(),
+            objc::method<"updateView", &ViewModelPeer::update>(),
+            objc::method<"getKeyWindow", &ViewModelPeer::window>(),
 
-            objc::method<"showFloatingView", &OwnViewModel::showBall>(),
-            objc::method<"showFloatingViewWithTimeLimit", &OwnViewModel::showBallForATime>(),
-            objc::method<"hideFloatingView", &OwnViewModel::hideBall>(),
-            objc::method<"moveFloatingView:", &OwnViewModel::moveBall>(),
+            objc::method<"showFloatingView", &ViewModelPeer::showBall>(),
+            objc::method<"showFloatingViewWithTimeLimit", &ViewModelPeer::showBallForATime>(),
+            objc::method<"hideFloatingView", &ViewModelPeer::hideBall>(),
+            objc::method<"moveFloatingView:", &ViewModelPeer::moveBall>(),
 
-            objc::method<"pasteboardChanged:", &OwnViewModel::pasteboardChanged>(),
-            objc::method<"pasteboardChanged1:", &OwnViewModel::pasteboardChangedTimed>(),
-            objc::method<"showTextPanel", &OwnViewModel::showPanelSoon>(),
-            objc::method<"hideTextPanel", &OwnViewModel::hidePanel>(),
-            objc::method<"moveContentView:", &OwnViewModel::movePanel>(),
+            objc::method<"pasteboardChanged:", &ViewModelPeer::pasteboardChanged>(),
+            objc::method<"pasteboardChanged1:", &ViewModelPeer::pasteboardChangedTimed>(),
+            objc::method<"showTextPanel", &ViewModelPeer::showPanelSoon>(),
+            objc::method<"hideTextPanel", &ViewModelPeer::hidePanel>(),
+            objc::method<"moveContentView:", &ViewModelPeer::movePanel>(),
 
-            objc::method<"textViewDidBeginEditing:", &OwnViewModel::editingBegan>(),
-            objc::method<"textViewDidEndEditing:", &OwnViewModel::editingEnded>(),
+            objc::method<"textViewDidBeginEditing:", &ViewModelPeer::editingBegan>(),
+            objc::method<"textViewDidEndEditing:", &ViewModelPeer::editingEnded>(),
             objc::method<"gestureRecognizer:shouldRecognizeSimultaneouslyWithGestureRecognizer:",
-                         &OwnViewModel::recognizesBoth>(),
-            objc::method<"currentTimeStamp", &OwnViewModel::timeStamp>(),
+                         &ViewModelPeer::recognizesBoth>(),
+            objc::method<"currentTimeStamp", &ViewModelPeer::timeStamp>(),
         };
     }
 
-    ~OwnViewModel() { ns::NotificationCenter::defaultCenter().removeObserver(self()); }
+    ~ViewModelPeer() { ns::NotificationCenter::defaultCenter().removeObserver(self()); }
 
 private:
     ViewModel init();
@@ -91,7 +94,9 @@ private:
     void moveBall(ui::PanGestureRecognizer pan);
 
     void pasteboardChanged(ns::Notification notification);
-    void pasteboardChangedTimed(ns::Notification) { showBallForATime(); }
+    void pasteboardChangedTimed(ns::Notification notification);
+    template <class Work>
+    void onMainThread(Work work);
     void take(ns::String copied, bool opens);
     void showPanelSoon();
     void showPanel();
@@ -114,7 +119,7 @@ private:
     bool timed_ = false;
 };
 
-ViewModel OwnViewModel::init() {
+ViewModel ViewModelPeer::init() {
     super<"init", objc::Object>();
     setUp();
     const auto preferences = Preferences::read();
@@ -135,19 +140,19 @@ ViewModel OwnViewModel::init() {
     return self();
 }
 
-void OwnViewModel::setUp() {
+void ViewModelPeer::setUp() {
     timed_ = Preferences::read().on(keys.timedButton);
     if (timed_) {
         observePasteboard(objc::selector<"pasteboardChanged1:">());
     }
 }
 
-void OwnViewModel::observePasteboard(SEL action) {
+void ViewModelPeer::observePasteboard(SEL action) {
     ns::NotificationCenter::defaultCenter().addObserver(
         self(), action, u"UIPasteboardChangedNotification"_ns, nullptr);
 }
 
-void OwnViewModel::update() {
+void ViewModelPeer::update() {
     const auto preferences = Preferences::read();
     if (!preferences.on(keys.showButton)) {
         hideBall();
@@ -160,7 +165,7 @@ void OwnViewModel::update() {
 
 // --- The ball
 
-void OwnViewModel::showBall() {
+void ViewModelPeer::showBall() {
     const ui::Window window = keyWindow();
     window.addSubview(ball_);
     window.bringSubviewToFront(ball_);
@@ -168,19 +173,19 @@ void OwnViewModel::showBall() {
     ball_.setAlpha(1);
 }
 
-void OwnViewModel::showBallForATime() {
+void ViewModelPeer::showBallForATime() {
     constexpr auto hide = &objc::selector<"hideFloatingView">;
     ns::cancelPerform(self(), hide(), nullptr);
     showBall();
     ns::performLater(self(), hide(), nullptr, timedBallSeconds);
 }
 
-void OwnViewModel::hideBall() {
+void ViewModelPeer::hideBall() {
     ball_.removeFromSuperview();
     ball_.setAlpha(0);
 }
 
-void OwnViewModel::moveBall(ui::PanGestureRecognizer pan) {
+void ViewModelPeer::moveBall(ui::PanGestureRecognizer pan) {
     if (pan.state() == ui::GestureState::changed) {
         moveAlong(pan.view(), pan, pan.view());
     }
@@ -188,16 +193,31 @@ void OwnViewModel::moveBall(ui::PanGestureRecognizer pan) {
 
 // --- The panel
 
-void OwnViewModel::pasteboardChanged(ns::Notification) {
+void ViewModelPeer::pasteboardChanged(ns::Notification) {
     const bool opens = Preferences::read().on(keys.openOnCopy);
-    if (const ns::String copied = ui::Pasteboard::general().string(); copied) {
+    if (const ns::String copied = ui::Pasteboard::generalPasteboard().string(); copied) {
         dispatch::async(dispatch::mainQueue(),
                         [this, keptAlive = objc::Strong(self()), text = objc::Strong(copied),
                          opens] { take(text, opens); });
     }
 }
 
-void OwnViewModel::take(ns::String copied, bool opens) {
+/// At once where this is the main thread already. Whoever writes the pasteboard chooses the thread.
+template <class Work>
+void ViewModelPeer::onMainThread(Work work) {
+    if (ns::Thread::isMainThread()) {
+        work();
+    } else {
+        dispatch::async(dispatch::mainQueue(),
+                        [work, keptAlive = objc::Strong(self())] { work(); });
+    }
+}
+
+void ViewModelPeer::pasteboardChangedTimed(ns::Notification) {
+    onMainThread([this] { self().send<"showFloatingViewWithTimeLimit">(); });
+}
+
+void ViewModelPeer::take(ns::String copied, bool opens) {
     constexpr double right = 3;
     constexpr CGRect besideEditor{{0, -152}, {40, 20}}; // above the body that it is put into
     editor_.setText(copied);
@@ -213,27 +233,27 @@ void OwnViewModel::take(ns::String copied, bool opens) {
     body_.updateWordsArray(wordsOf(copied.utf16()));
 }
 
-void OwnViewModel::showPanelSoon() {
+void ViewModelPeer::showPanelSoon() {
     dispatch::after(panelDelay, dispatch::mainQueue(),
                     [this, keptAlive = objc::Strong(self())] { showPanel(); });
 }
 
-void OwnViewModel::showPanel() {
+void ViewModelPeer::showPanel() {
     const auto layout = PanelLayout::from(Preferences::read());
     const ui::Window window = keyWindow();
     window.addSubview(dimming_);
     window.addSubview(panel_);
     dimming_.setAlpha(1);
     panel_.setAlpha(1);
-    dimming_.setFrame(ui::Screen::main().bounds());
+    dimming_.setFrame(ui::Screen::mainScreen().bounds());
     panel_.setFrame(layout.panel(screenSize()));
     ball_.setAlpha(0);
     // Whoever edits in the host gives up its keyboard.
-    ui::Application::shared().sendAction(objc::selector<"resignFirstResponder">(), nullptr, nullptr,
-                                         nullptr);
+    ui::Application::sharedApplication().sendAction(objc::selector<"resignFirstResponder">(),
+                                                    nullptr, nullptr, nullptr);
 }
 
-void OwnViewModel::hidePanel() {
+void ViewModelPeer::hidePanel() {
     dimming_.setAlpha(0);
     dimming_.removeFromSuperview();
     if (!Preferences::read().on(keys.keepPanelOpen)) {
@@ -243,25 +263,25 @@ void OwnViewModel::hidePanel() {
     }
 }
 
-void OwnViewModel::movePanel(ui::PanGestureRecognizer pan) {
+void ViewModelPeer::movePanel(ui::PanGestureRecognizer pan) {
     if (pan.state() == ui::GestureState::changed && Preferences::read().on(keys.draggablePanel)) {
         moveAlong(pan.view(), pan, pan.view());
     }
 }
 
-void OwnViewModel::editingEnded(ui::TextView) {
-    ui::Pasteboard::general().setString(editor_.text());
+void ViewModelPeer::editingEnded(ui::TextView) {
+    ui::Pasteboard::generalPasteboard().setString(editor_.text());
     marker_.setEnabled(false);
 }
 
-ns::String OwnViewModel::timeStamp() const {
+ns::String ViewModelPeer::timeStamp() const {
     return ns::String::fromUtf8(
-        std::to_string(static_cast<long>(ns::Date::now().secondsSince1970())));
+        std::to_string(static_cast<long>(ns::Date::date().timeIntervalSince1970())));
 }
 
 } // namespace
 
-void registerViewModel() { OwnViewModel::registerClass(); }
+void registerViewModel() { ViewModelPeer::registerClass(); }
 
 void scheduleViewModel() {
     dispatch::after(startUpDelay, dispatch::mainQueue(), [] {

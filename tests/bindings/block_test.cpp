@@ -1,4 +1,5 @@
 // Blocks: made from lambdas, kept by the platform, called from both sides.
+#include "bindings/coregraphics/geometry.hpp"
 #include "bindings/foundation/array.hpp"
 #include "bindings/foundation/notification_center.hpp"
 #include "bindings/objc/block.hpp"
@@ -43,13 +44,28 @@ TEST(Block, KeepsWhatItCapturesAsLongAsAnyoneHoldsIt) {
 TEST(Block, IsCalledByFoundation) {
     const objc::Pool pool;
     int calls = 0;
-    ns::NotificationCenter::defaultCenter().observe(
+    ns::NotificationCenter::defaultCenter().addObserverForName(
         u"TestNotification"_ns, nullptr, nullptr,
         objc::Block<void(ns::Notification)>::from([&calls](ns::Notification notification) {
             calls += notification.name().isEqualToString(u"TestNotification"_ns) ? 1 : 100;
         }));
     ns::NotificationCenter::defaultCenter().post(u"TestNotification"_ns, nullptr);
     EXPECT_EQ(calls, 1);
+}
+
+TEST(Block, TakesAndReturnsStructuresAndObjects) {
+    const objc::Pool pool;
+    const auto block =
+        objc::Block<CGRect(ns::String, CGPoint)>::from([](ns::String text, CGPoint origin) {
+            return CGRect{origin, {static_cast<double>(text.length()), 1}};
+        });
+    EXPECT_EQ(block(u"钟"_ns, {2, 3}), (CGRect{{2, 3}, {1, 1}}));
+}
+
+TEST(Block, IsNilUntilThereIsOne) {
+    const objc::Block<void()> none;
+    EXPECT_FALSE(none);
+    EXPECT_EQ(objc::encodingOf<objc::Block<void()>>().view(), "@?");
 }
 
 TEST(Block, ContainsWhatItsLambdaThrows) {

@@ -2,6 +2,7 @@
 #include "bindings/coregraphics/color.hpp"
 #include "bindings/coregraphics/geometry.hpp"
 #include "bindings/foundation/invocation.hpp"
+#include "bindings/foundation/method_signature.hpp"
 #include "bindings/foundation/string.hpp"
 #include "bindings/objc/block.hpp"
 #include "bindings/objc/encoding.hpp"

@@ -3,6 +3,7 @@
 #include "bindings/foundation/string.hpp"
 #include "bindings/objc/peer.hpp"
 #include "bindings/objc/pool.hpp"
+#include "bindings/uikit/view.hpp"
 #include "desktop/runtime/properties.hpp"
 
 #include <gtest/gtest.h>
@@ -16,7 +17,7 @@ using namespace ns::literals;
 
 std::vector<std::string> lives;
 
-struct AnimalKind : objc::Kind<AnimalKind, "TestAnimal"> {
+struct Animal : objc::Kind<Animal, "TestAnimal"> {
     using Kind::Kind;
     [[nodiscard]] ns::String name() const { return send<"name", ns::String>(); }
     void setName(ns::String name) const { send<"setName:">(name); }
@@ -25,19 +26,19 @@ struct AnimalKind : objc::Kind<AnimalKind, "TestAnimal"> {
     void setTame(bool tame) const { send<"setTame:">(tame); }
 };
 
-class Animal : public objc::Peer<Animal, AnimalKind, objc::Boundary::propagates> {
+class AnimalPeer : public objc::Peer<AnimalPeer, Animal, objc::Boundary::propagates> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
-            objc::property<"name", &Animal::name_, &Animal::renamed>(),
-            objc::flag<"tame", &Animal::tame_>(),
-            objc::method<"legs", &Animal::legs>(),
-            objc::method<"raise", &Animal::raise>(),
-            objc::classMethod<"kingdom", &Animal::kingdom>(),
+            objc::property<"name", &AnimalPeer::name_, &AnimalPeer::renamed>(),
+            objc::flag<"tame", &AnimalPeer::tame_>(),
+            objc::method<"legs", &AnimalPeer::legs>(),
+            objc::method<"raise", &AnimalPeer::raise>(),
+            objc::classMethod<"kingdom", &AnimalPeer::kingdom>(),
         };
     }
-    Animal() { lives.emplace_back("animal born"); }
-    ~Animal() { lives.emplace_back("animal died"); }
+    AnimalPeer() { lives.emplace_back("animal born"); }
+    ~AnimalPeer() { lives.emplace_back("animal died"); }
     int renamings = 0;
 
 private:
@@ -50,28 +51,31 @@ private:
     bool tame_ = false;
 };
 
-struct BirdKind : objc::Kind<BirdKind, "TestBird", AnimalKind> {};
+struct Bird : objc::Kind<Bird, "TestBird", Animal> {};
 
-class Bird : public objc::Peer<Bird, BirdKind> {
+class BirdPeer : public objc::Peer<BirdPeer, Bird> {
 public:
-    static auto methods() {
-        return std::array{objc::method<"legs", &Bird::legs>(),
-                          objc::method<"fall:", &Bird::fall>()};
+    static constexpr auto methods() {
+        return std::array{objc::method<"legs", &BirdPeer::legs>(),
+                          objc::method<"fall:", &BirdPeer::fall>(),
+                          objc::property<"song", &BirdPeer::song_, &BirdPeer::learn>()};
     }
-    Bird() { lives.emplace_back("bird born"); }
-    ~Bird() { lives.emplace_back("bird died"); }
+    BirdPeer() { lives.emplace_back("bird born"); }
+    ~BirdPeer() { lives.emplace_back("bird died"); }
     int feathers = 0;
 
 private:
     [[nodiscard]] int legs() const { return super<"legs", int>() - 2; }
     int fall(int) { throw std::runtime_error("no wings"); }
+    void learn() { throw std::runtime_error("too long"); }
+    objc::Strong<ns::String> song_;
 };
 
 class PeerTest : public testing::Test {
 protected:
     static void SetUpTestSuite() {
-        Animal::registerClass();
-        Bird::registerClass();
+        AnimalPeer::registerClass();
+        BirdPeer::registerClass();
     }
     void SetUp() override { lives.clear(); }
     objc::Pool pool_;
@@ -80,19 +84,19 @@ protected:
 TEST_F(PeerTest, PeersLiveAndDieWithTheirObjectSuperclassFirst) {
     {
         const objc::Pool inner;
-        const auto bird = BirdKind::make();
-        EXPECT_EQ(Bird::of(bird).self(), bird);
-        EXPECT_EQ(Animal::of(bird).self(), bird);
-        Bird::of(bird).feathers = 7;
-        Animal::of(bird).renamings = 9;
-        EXPECT_EQ(Bird::of(bird).feathers, 7) << "the peers share memory";
+        const auto bird = Bird::make();
+        EXPECT_EQ(BirdPeer::of(bird).self(), bird);
+        EXPECT_EQ(AnimalPeer::of(bird).self(), bird);
+        BirdPeer::of(bird).feathers = 7;
+        AnimalPeer::of(bird).renamings = 9;
+        EXPECT_EQ(BirdPeer::of(bird).feathers, 7) << "the peers share memory";
     }
     EXPECT_EQ(lives,
               (std::vector<std::string>{"animal born", "bird born", "bird died", "animal died"}));
 }
 
 TEST_F(PeerTest, PropertiesCopyRetainAndTell) {
-    const auto animal = AnimalKind::make();
+    const auto animal = Animal::make();
     const auto mutableName = objc::wrap<ns::String>(
         objc::send<"string", id>(objc::object(objc_getClass("NSMutableString"))));
     animal.setName(mutableName);
@@ -100,25 +104,25 @@ TEST_F(PeerTest, PropertiesCopyRetainAndTell) {
     EXPECT_EQ(animal.name().utf8(), "") << "the property did not copy";
     animal.setName(u"虎"_ns);
     EXPECT_EQ(animal.name().utf8(), "虎");
-    EXPECT_EQ(Animal::of(animal).renamings, 2);
+    EXPECT_EQ(AnimalPeer::of(animal).renamings, 2);
     animal.setTame(true);
     EXPECT_TRUE(animal.isTame());
 
-    const auto declared = desktop::declaredProperties(AnimalKind::classObject());
+    const auto declared = desktop::declaredProperties(Animal::classObject());
     ASSERT_EQ(declared.size(), 2U);
     EXPECT_EQ(declared[0].name + " " + declared[0].attributes, "name T@,C,N");
     EXPECT_EQ(declared[1].name + " " + declared[1].attributes, "tame TB,N,GisTame");
 }
 
 TEST_F(PeerTest, SubclassesOverrideAndReachTheSuperclass) {
-    EXPECT_EQ(AnimalKind::make().legs(), 4);
-    EXPECT_EQ(BirdKind::make().legs(), 2);
-    EXPECT_EQ((BirdKind::sendClass<"kingdom", ns::String>().utf8()), "动物");
+    EXPECT_EQ(Animal::make().legs(), 4);
+    EXPECT_EQ(Bird::make().legs(), 2);
+    EXPECT_EQ((Bird::sendClass<"kingdom", ns::String>().utf8()), "动物");
 }
 
 TEST_F(PeerTest, ContainedClassesSwallowOthersPropagate) {
-    EXPECT_EQ((BirdKind::make().send<"fall:", int>(3)), 0);
-    const auto animal = AnimalKind::make();
+    EXPECT_EQ((Bird::make().send<"fall:", int>(3)), 0);
+    const auto animal = Animal::make();
     try {
         animal.send<"raise">();
         FAIL() << "nothing was thrown";
@@ -130,15 +134,73 @@ TEST_F(PeerTest, ContainedClassesSwallowOthersPropagate) {
 }
 
 TEST_F(PeerTest, ATakenNameKeepsItsClass) {
-    EXPECT_EQ(Animal::registerClass(), nullptr);
-    EXPECT_EQ(AnimalKind::make().legs(), 4);
+    EXPECT_EQ(AnimalPeer::registerClass(), nullptr);
+    EXPECT_EQ(Animal::make().legs(), 4);
+}
+
+TEST_F(PeerTest, ContainedClassesSwallowWhatAnAssignmentCauses) {
+    const auto bird = Bird::make();
+    bird.send<"setSong:">(u"钟"_ns);
+    EXPECT_EQ((bird.send<"song", ns::String>().utf8()), "钟");
 }
 
 TEST_F(PeerTest, NilAnswersZero) {
-    const AnimalKind nobody;
+    const Animal nobody;
     EXPECT_EQ(nobody.legs(), 0);
     EXPECT_FALSE(nobody.name());
     nobody.setTame(true);
+    EXPECT_EQ(ui::View().transform(), (CGAffineTransform{0, 0, 0, 0, 0, 0}));
+}
+
+struct Host : objc::Kind<Host, "TestHost"> {};
+
+std::vector<std::string> farewells;
+
+/// A host's class that sends to its object while it deallocates it.
+void makeHost() {
+    const Class cls = objc_allocateClassPair(objc::Object::classObject(), "TestHost", 0);
+    constexpr auto farewell = +[](id, SEL) { farewells.emplace_back("host"); };
+    constexpr auto dealloc = +[](id self, SEL name) {
+        objc::send<"farewell">(self);
+        objc::sendSuper<"dealloc">(objc::Object::classObject(), self);
+        static_cast<void>(name);
+    };
+    class_addMethod(cls, sel_registerName("farewell"), reinterpret_cast<IMP>(farewell), "v@:");
+    class_addMethod(cls, sel_registerName("dealloc"), reinterpret_cast<IMP>(dealloc), "v@:");
+    objc_registerClassPair(cls);
+}
+
+struct Guest : objc::Kind<Guest, "TestGuest", Host> {};
+class GuestPeer : public objc::Peer<GuestPeer, Guest> {
+public:
+    static constexpr auto methods() {
+        return std::array{objc::method<"farewell", &GuestPeer::farewell>()};
+    }
+
+private:
+    void farewell() { farewells.push_back(name_); }
+    std::string name_ = "guest";
+};
+
+TEST_F(PeerTest, WhatASuperclassSendsWhileItDeallocatesReachesNoDeadPeer) {
+    makeHost();
+    GuestPeer::registerClass();
+    {
+        const objc::Pool inner;
+        Guest::make().send<"farewell">();
+    }
+    EXPECT_EQ(farewells, (std::vector<std::string>{"guest", "host"}));
+}
+
+TEST_F(PeerTest, APoolReleasesItsObjectsAtItsEnd) {
+    const objc::Pool outer;
+    objc::Strong<Animal> kept;
+    {
+        const objc::Pool inner;
+        kept = Animal::make();
+        EXPECT_EQ((kept.send<"retainCount", unsigned long>()), 2U);
+    }
+    EXPECT_EQ((kept.send<"retainCount", unsigned long>()), 1U);
 }
 
 } // namespace

@@ -28,6 +28,36 @@ test("the screen shows the application", async () => {
     await phone.close();
 });
 
+test("the phone is turned, and made dark, by buttons and by keys", async () => {
+    const phone = await Phone.open(browser, host.address);
+    await phone.showing("Hello, world");
+    const size = () => phone.page.evaluate(() => {
+        const { width, height } = document.getElementById("screen").style;
+        return [parseFloat(width), parseFloat(height)];
+    });
+    const becomes = (isWide) => phone.page.waitForFunction((wide) => {
+        const { width, height } = document.getElementById("screen");
+        return width > height === wide;
+    }, isWide);
+    await phone.page.click("#rotate");
+    await becomes(true);
+    const [width, height] = await size();
+    assert.ok(Math.abs(width / height - 844 / 390) < 0.02, `${width} × ${height}`);
+    assert.equal(await phone.do("rotate"), "landscapeLeft");
+    await phone.page.keyboard.press("r");
+    await phone.page.waitForFunction(() => window.wentra.connection.ask("rotate").then((to) => to === "landscapeRight"));
+    await phone.do("rotate", { to: "portrait" });
+    await becomes(false);
+
+    assert.deepEqual(await phone.colourAt([20, 700]), [255, 255, 255]);
+    await phone.page.click("#appearance");
+    await phone.page.waitForFunction(() => window.wentra.connection.ask("appearance").then((is) => is === "dark"));
+    await phone.page.keyboard.press("d");
+    await phone.page.waitForFunction(() => window.wentra.connection.ask("appearance").then((is) => is === "light"));
+    assert.deepEqual(phone.complaints, []);
+    await phone.close();
+});
+
 test("what changes is drawn anew, and nothing while nothing changes", async () => {
     const phone = await Phone.open(browser, host.address);
     const [window] = await phone.tree();
@@ -393,18 +423,27 @@ test("preferences are written, and the pasteboard is set", async () => {
     await phone.close();
 });
 
-test("events are listed, those from before the page came too", async () => {
-    const phone = await Phone.open(browser, host.address, { locale: "en-US" });
-    await phone.page.click("#tab-events");
-    await phone.page.waitForSelector(".events .kind.log"); // the library says what it misses
-    const before = await phone.page.locator(".events > li").count();
+/** Makes an event of the phone's with that reason. */
+async function raise(phone, reason) {
     const center = await phone.do("send", {
         to: { class: "NSNotificationCenter" }, selector: "defaultCenter",
     });
     await phone.do("send", {
         to: center, selector: "postNotificationName:object:userInfo:",
-        args: ["WentraExceptionSwallowed", null, { name: "Noise", reason: "made by the test" }],
+        args: ["WentraExceptionSwallowed", null, { name: "Noise", reason }],
     });
+}
+
+test("events are listed, those from before the page came too", async () => {
+    const earlier = await Phone.open(browser, host.address);
+    await raise(earlier, "made before");
+    await earlier.close();
+
+    const phone = await Phone.open(browser, host.address, { locale: "en-US" });
+    await phone.page.click("#tab-events");
+    await phone.page.getByText("made before").waitFor();
+    const before = await phone.page.locator(".events > li").count();
+    await raise(phone, "made by the test");
     await phone.page.getByText("made by the test").waitFor();
     assert.equal(await phone.page.locator(".events > li").count(), before + 1);
     await phone.close();

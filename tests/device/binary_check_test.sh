@@ -54,10 +54,14 @@ check_library() {
     output="$("$root/device/check/binary.py" Wentra.dylib stubs 2>&1)" || status=$?
 }
 
-# refuse PATTERN: the library as it is now has a fault that the pattern names.
+# refuse PATTERN…: the library as it is now has faults that the patterns name.
 refuse() {
     check
-    [[ $status == 1 && "$output" == *"$1"* ]] || fail "accepted, or not named: $1"
+    [[ $status == 1 ]] || fail 'faults are accepted'
+    local pattern
+    for pattern in "$@"; do
+        [[ "$output" == *"$pattern"* ]] || fail "not named: $pattern"
+    done
     reset
 }
 
@@ -69,38 +73,35 @@ printf '\xff' | dd of=Wentra.dylib bs=1 seek=4000 conv=notrunc status=none
 check_library
 [[ $status == 1 && "$output" == *'signature holds'* ]] || fail 'a changed library is accepted'
 
+# How it is linked.
 target=arm64-apple-ios15.0
-refuse 'for iOS, from 14.5'
+name=$folder/Wentra.dylib
+paths=("${paths[@]:1}")
+signing=-no_adhoc_codesign
+tables=-fixup_chains
+stripping=()
+refuse 'for iOS, from 14.5' 'names itself by no path' "jailbreak's libraries" 'signature holds' \
+    'classic form' 'symbols are stripped'
 target=x86_64-apple-ios14.5-simulator
 sed -i 's/arm64-ios/x86_64-ios-simulator/' stubs/*.tbd
 refuse 'plain arm64'
-name=$folder/Wentra.dylib
-refuse 'names itself by no path'
-paths=("${paths[@]:1}")
-refuse "jailbreak's libraries"
-signing=-no_adhoc_codesign
-refuse 'signature holds'
-tables=-fixup_chains
-refuse 'classic form'
-stripping=()
-refuse 'symbols are stripped'
+
+# What is in it.
 printf 'extern "C" [[gnu::visibility("default")]] int wentra() { return 1; }\n' >>library.cpp
-refuse 'exports nothing'
-printf '[[gnu::constructor]] static void again() { NSLog(nullptr); }\n' >>library.cpp
-refuse 'one initialiser'
+printf '[[gnu::section("__DATA,__objc_selrefs"), gnu::used]] static const char* name = "text";' >>library.cpp
 printf 'extern const char* path; const char* path = "/home/somebody/file";' >>library.cpp
 printf '[[gnu::constructor]] static void more() { NSLog((void*)path); }\n' >>library.cpp
-refuse 'machine that built it'
 sed -i "s/nullptr)/(void*)\"\/var\/jb\/Library\/File\")/" library.cpp
-refuse "jailbreak's root"
+refuse 'exports nothing' 'machine that built it' 'one initialiser' 'selectors to make' \
+    "jailbreak's root"
+
+# What it needs of the phone.
 sed -i 's/_NSLog/__Z5NSLogPvz/' stubs/*.tbd
 sed -i 's/extern "C" void NSLog(void\* format/void NSLog(void* format/' library.cpp
-refuse 'nothing of the C++ library'
 sed -i "s|/System/Library/Frameworks|/opt/Frameworks|" stubs/*.tbd
-refuse 'only libraries of the phone'
+refuse 'nothing of the C++ library' 'only libraries of the phone'
 sed -i 's/# 2.0/# 15.0/' stubs/*.tbd
 refuse '_NSLog only since iOS 15.0'
 sed -i 's/ # 2.0//' stubs/*.tbd
-refuse '_NSLog without the iOS version'
 sed -i 's/^      - _NSLog.*/&\n      - _NSLogv # 2.0/' stubs/*.tbd
-refuse '_NSLogv is used by nothing'
+refuse '_NSLog without the iOS version' '_NSLogv is used by nothing'

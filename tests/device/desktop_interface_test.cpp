@@ -4,6 +4,7 @@
 #include "bindings/objc/encoding.hpp"
 #include "bindings/objc/pool.hpp"
 #include "desktop/foundation/foundation.hpp"
+#include "desktop/platform/platform.hpp"
 #include "desktop/uikit/uikit.hpp"
 
 #include <gtest/gtest.h>
@@ -43,7 +44,7 @@ std::string difference(const PlatformRow& row) {
 class DesktopInterface : public testing::Test {
 protected:
     static void SetUpTestSuite() {
-        desktop::uikit::registerClasses();
+        desktop::registerPlatform();
         desktop::foundation::install("test.interface");
     }
 

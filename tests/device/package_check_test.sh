@@ -24,44 +24,63 @@ content() {
     find "$content" -type f -exec chmod 0644 {} +
 }
 
-# check [DPKG-DEB OPTION…]: packages and checks both; leaves $status and $output.
+# build ARCHITECTURE [DPKG-DEB OPTION…]: packages the content.
+build() {
+    dpkg-deb "${@:2}" --root-owner-group --build "$folder/$1" "$folder/$1.deb" >/dev/null 2>&1
+}
+
+# check: checks both packages; leaves $status and $output.
 check() {
-    for architecture in iphoneos-arm64 iphoneos-arm; do
-        dpkg-deb "${@:--Zxz}" --root-owner-group --build \
-            "$folder/$architecture" "$folder/$architecture.deb" >/dev/null 2>&1
-    done
     status=0
     output="$("$root/device/check/package.py" "$folder"/*.deb 2>&1)" || status=$?
 }
 
-# refuse PATTERN COMMAND…: the command, run in the rootless content, makes a fault that is named.
-refuse() {
-    rm -rf "${folder:?}"/*
-    content iphoneos-arm64 /var/jb 15.0
-    content iphoneos-arm '' 14.5
+# fault PATTERN COMMAND…: the command, run in the rootless content, makes a fault that is named so.
+fault() {
     (cd "$folder/iphoneos-arm64" && "${@:2}")
-    check
-    [[ $status == 1 && "$output" == *"$1"* ]] || fail "accepted, or not named: ${*:2}"
+    named+=("$1")
 }
 
+# refuse: the check must fail and name every fault. Then the content is without any.
+refuse() {
+    build iphoneos-arm64 -Zxz
+    check
+    [[ $status == 1 ]] || fail 'faults are accepted'
+    local pattern
+    for pattern in "${named[@]}"; do
+        [[ "$output" == *"$pattern"* ]] || fail "not named: $pattern"
+    done
+    named=()
+    rm -rf "$folder/iphoneos-arm64"
+    content iphoneos-arm64 /var/jb 15.0
+}
+
+named=()
 content iphoneos-arm64 /var/jb 15.0
 content iphoneos-arm '' 14.5
+build iphoneos-arm64 -Zgzip
+build iphoneos-arm -Zxz
+check
+[[ $status == 1 && "$output" == *'read by old tools'* ]] || fail 'another compression is accepted'
+build iphoneos-arm64 -Zxz
 check
 [[ $status == 0 ]] || fail 'packages without a fault are refused'
-check -Zgzip
-[[ $status == 1 && "$output" == *'read by old tools'* ]] || fail 'another compression is accepted'
 
-refuse 'all the fields' sed -i '/^Author/d' DEBIAN/control
-refuse 'identifier' sed -i 's/^Package: .*/Package: dev.wentra.other/' DEBIAN/control
-refuse 'under Tweaks' sed -i 's/Tweaks/Utilities/' DEBIAN/control
-refuse 'sorts upwards' sed -i 's/^Version: .*/Version: 1.0-beta/' DEBIAN/control
-refuse 'firmware of its layout' sed -i 's/>= 15.0/>= 14.5/' DEBIAN/control
-refuse 'not a particular one' sed -i 's/mobilesubstrate/ellekit/' DEBIAN/control
-refuse 'runs no scripts' install -m 0755 /bin/true DEBIAN/postinst
-refuse 'folder where loaders look' touch "var/jb/$libraries/More.dylib"
-refuse 'folder of another layout' mkdir -p Library
-refuse 'folder where loaders look' rm "var/jb/$libraries/Wentra.plist"
-refuse 'not executable' chmod 0755 "var/jb/$libraries/Wentra.dylib"
-refuse 'filter tells bundles' sed -i 's/Bundles/Classes/' "var/jb/$libraries/Wentra.plist"
-refuse 'data of the user' mkdir -p var/mobile
-refuse 'one package for each layout' sed -i 's/iphoneos-arm64/iphoneos-arm/' DEBIAN/control
+# What is named alike stands in different runs.
+fault 'all the fields' sed -i '/^Author/d' DEBIAN/control
+fault 'identifier' sed -i 's/^Package: .*/Package: dev.wentra.other/' DEBIAN/control
+fault 'under Tweaks' sed -i 's/Tweaks/Utilities/' DEBIAN/control
+fault 'sorts upwards' sed -i 's/^Version: .*/Version: 1.0-beta/' DEBIAN/control
+fault 'firmware of its layout' sed -i 's/>= 15.0/>= 14.5/' DEBIAN/control
+fault 'not a particular one' sed -i 's/mobilesubstrate/ellekit/' DEBIAN/control
+fault 'runs no scripts' install -m 0755 /bin/true DEBIAN/postinst
+fault 'folder where loaders look' touch "var/jb/$libraries/More.dylib"
+fault 'folder of another layout' mkdir -p Library
+fault 'not executable' chmod 0755 "var/jb/$libraries/Wentra.dylib"
+fault 'filter tells bundles' sed -i 's/Bundles/Classes/' "var/jb/$libraries/Wentra.plist"
+fault 'data of the user' mkdir -p var/mobile
+refuse
+fault 'folder where loaders look' rm "var/jb/$libraries/Wentra.plist"
+refuse
+fault 'one package for each layout' sed -i 's/iphoneos-arm64/iphoneos-arm/' DEBIAN/control
+refuse

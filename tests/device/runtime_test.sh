@@ -10,7 +10,8 @@ trap 'rm -r "$folder"' EXIT
 clang++-19 -std=c++20 -O1 -fexceptions -fno-rtti -fno-c++-static-destructors -I"$root" \
     -nostdinc++ -isystem "$root/device/headers/configuration" -isystem "$headers" \
     -fvisibility-global-new-delete=force-hidden -D_LIBCPP_DISABLE_VISIBILITY_ANNOTATIONS \
-    "$root"/device/runtime/*.cpp "$root/desktop/runtime/exceptions.cpp" \
+    "$root"/device/runtime/*.cpp "$root"/desktop/runtime/{exceptions,ownership}.cpp \
+    "$root"/bindings/{objc/kind,foundation/string_constant}.cpp \
     "$root/tests/device/runtime_program.cpp" \
     -nostdlib++ -lgnustep-base -lobjc -lstdc++ -rdynamic -o "$folder/program"
 "$folder/program"

@@ -13,8 +13,9 @@ namespace {
 using namespace desktop::viewer;
 
 void require(bool holds) {
-    if (!holds)
+    if (!holds) {
         std::abort();
+    }
 }
 
 bool isOnAnyScreen(double coordinate) { return std::abs(coordinate) <= 100'000; }
@@ -29,8 +30,9 @@ struct Check {
         }
     }
     void operator()(const Wheel& message) const {
-        for (const double part : {message.x, message.y, message.byX, message.byY})
+        for (const double part : {message.x, message.y, message.byX, message.byY}) {
             require(isOnAnyScreen(part));
+        }
     }
     void operator()(const Look& message) const {
         require(message.scale >= 0.5 && message.scale <= 3);

@@ -1,6 +1,6 @@
 // Fuzzes the preference reader: any bytes are survived, and UTF-16 says what its UTF-8 form says.
 #include "library/common/text_encoding.hpp"
-#include "library/startup/preferences.hpp"
+#include "library/preferences/preferences.hpp"
 
 #include <cmath>
 #include <cstddef>
@@ -11,11 +11,12 @@
 
 namespace {
 
-using namespace wentra::startup;
+using namespace wentra::preferences;
 
 void require(bool condition) {
-    if (!condition)
+    if (!condition) {
         std::abort();
+    }
 }
 
 bool sameNumber(double left, double right) {
@@ -41,8 +42,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const std::string_view name : {"kqwzgs", "开启文字复制", "kqxydx", "a", "名"}) {
         requireSame(preferences, Preferences::parse(bytes), name);
         if (wentra::isUtf8(bytes) && !bytes.starts_with("bplist") &&
-            !bytes.starts_with("\xEF\xBB\xBF"))
+            !bytes.starts_with("\xEF\xBB\xBF") && bytes.find("encoding") == bytes.npos) {
             requireSame(preferences, Preferences::parse(utf16Document(bytes)), name);
+        }
     }
     return 0;
 }

@@ -1,6 +1,6 @@
 // Feeds arbitrary UTF-16 to the label rules and compares them with slow, obvious versions.
+#include "library/common/white_space.hpp"
 #include "library/labels/colour_text.hpp"
-#include "library/labels/line_terminator.hpp"
 #include "library/labels/rule_text.hpp"
 #include "library/labels/strings_file.hpp"
 #include "library/labels/term_correction.hpp"
@@ -19,10 +19,12 @@
 namespace {
 
 using namespace wentra::labels;
+using wentra::isNewline;
 
 void require(bool holds) {
-    if (!holds)
+    if (!holds) {
         std::abort();
+    }
 }
 
 bool startsAt(std::u16string_view text, std::size_t position, std::u16string_view part) {
@@ -46,8 +48,9 @@ std::vector<std::u16string> parts(std::u16string_view text, std::u16string_view 
 std::u16string replaceAll(std::u16string_view text, std::u16string_view from,
                           std::u16string_view to) {
     std::u16string joined;
-    for (const std::u16string& part : parts(text, from))
+    for (const std::u16string& part : parts(text, from)) {
         joined.append(part).append(to);
+    }
     joined.resize(joined.size() - to.size());
     return joined;
 }
@@ -59,10 +62,12 @@ std::map<RuleKind, RuleValues> obviousRules(std::u16string_view text) {
     for (const std::u16string& line : parts(text, u"\n")) {
         for (const RuleKind kind : recognitionOrder) {
             const auto found = parts(line, ruleKindNames(kind).marker);
-            if (found.size() == 1)
+            if (found.size() == 1) {
                 continue;
-            if (found.size() == 2)
+            }
+            if (found.size() == 2) {
                 rules[kind][found[0]] = found[1];
+            }
             break;
         }
     }
@@ -83,19 +88,23 @@ void checkRules(std::u16string_view text) {
     auto expected = obviousRules(text);
     for (const RuleKind kind : listingOrder) {
         require(rules[kind].size() == expected[kind].size());
-        for (const Rule& rule : rules[kind])
+        for (const Rule& rule : rules[kind]) {
             require(expected[kind].contains(rule.key) && expected[kind][rule.key] == rule.value);
+        }
     }
-    if (containsHelpExample(rules))
+    if (containsHelpExample(rules)) {
         return;
-    for (const RuleSpacing spacing : {RuleSpacing::consecutiveLines, RuleSpacing::blankLines})
+    }
+    for (const RuleSpacing spacing : {RuleSpacing::consecutiveLines, RuleSpacing::blankLines}) {
         require(parseRules(listRules(rules, spacing)) == rules);
+    }
 }
 
 // Tries every start, then every end of the key, then every end of the value, shortest first.
 std::optional<std::u16string> obviousMatch(std::u16string_view text, std::size_t& position) {
-    if (!startsAt(text, position, u"\""))
+    if (!startsAt(text, position, u"\"")) {
         return std::nullopt;
+    }
     const std::size_t keyStart = position + 1;
     for (std::size_t keyEnd = keyStart; keyEnd < text.size(); ++keyEnd) {
         const std::size_t valueStart = keyEnd + 3;
@@ -106,11 +115,13 @@ std::optional<std::u16string> obviousMatch(std::u16string_view text, std::size_t
                 return std::u16string(text.substr(keyStart, keyEnd - keyStart)) + u"===" +
                        std::u16string(text.substr(valueStart, valueEnd - valueStart));
             }
-            if (isLineTerminator(text[valueEnd]))
+            if (isNewline(text[valueEnd])) {
                 break;
+            }
         }
-        if (isLineTerminator(text[keyEnd]))
+        if (isNewline(text[keyEnd])) {
             break;
+        }
     }
     return std::nullopt;
 }
@@ -118,22 +129,25 @@ std::optional<std::u16string> obviousMatch(std::u16string_view text, std::size_t
 void checkStringsFile(std::u16string_view text) {
     std::u16string expected;
     for (std::size_t i = 0; i < text.size();) {
-        if (const auto match = obviousMatch(text, i))
+        if (const auto match = obviousMatch(text, i)) {
             expected.append(*match);
-        else
+        } else {
             expected.push_back(text[i++]);
+        }
     }
     require(convertStringsFile(text) == expected);
 }
 
 void checkTerms(std::u16string_view text) {
     const std::u16string corrected = correctTerms(text);
-    for (const std::u16string_view gone : {u"LPM", u"呼吸", u"支架", u"空白", u"😄", u"违约"})
+    for (const std::u16string_view gone : {u"LPM", u"呼吸", u"支架", u"空白", u"😄", u"违约"}) {
         require(corrected.find(gone) == corrected.npos);
+    }
     // No term holds a line break, so lines are corrected independently.
     std::u16string byLine;
-    for (const std::u16string& line : parts(text, u"\n"))
+    for (const std::u16string& line : parts(text, u"\n")) {
         byLine.append(correctTerms(line)).append(u"\n");
+    }
     require(byLine == corrected + u"\n");
 }
 
@@ -144,9 +158,10 @@ void checkReplacement(std::u16string_view text) {
 
     std::u16string shown = given;
     const std::u16string prefix = parts(given, u":").front();
-    if (prefix.size() < given.size() && std::ranges::none_of(prefix, isLineTerminator) &&
-        rules.contains(prefix))
+    if (prefix.size() < given.size() && std::ranges::none_of(prefix, isNewline) &&
+        rules.contains(prefix)) {
         shown = rules[prefix] + given.substr(prefix.size());
+    }
     const std::u16string key = replaceAll(shown, u"\n", u"↲");
     shown = replaceAll(rules.contains(key) ? rules[key] : key, u"↲", u"\n");
 

@@ -43,9 +43,7 @@ TEST(Apps, AnApplicationsOwnLabelHasItsOwnText) {
 class Content : public testing::Test {
 protected:
     std::vector<std::string> options(const std::string& text) {
-        const auto file = folder.path() / "content.json";
-        support::writeFile(file, text);
-        return {"--automation", "--no-library", "--content", file.string()};
+        return {"--automation", "--no-library", "--content", folder.write("content.json", text)};
     }
 
     support::TemporaryFolder folder;

@@ -71,11 +71,9 @@ TEST_F(Device, PreferencesLieBelowTheJailbreaksFolderWhereThereIsOne) {
 }
 
 TEST_F(Device, APreferenceFileThatIsNoneIsNull) {
-    const auto file = root.path() / preferenceFile;
-    std::filesystem::create_directories(file.parent_path());
     HostProcess host = start();
     for (const std::string content : {"", "not a list", "bplist00\xff\xff", "<plist><dict><key>"}) {
-        support::writeFile(file, content);
+        root.write(preferenceFile, content);
         EXPECT_EQ(host.result({{"do", "preferences"}}), nullptr) << content;
     }
 }
@@ -145,13 +143,15 @@ TEST_F(Device, ThePasteboardHoldsTextAndAnnouncesIt) {
     EXPECT_EQ(host.result({{"do", "pasteboard"}, {"set", nullptr}}), nullptr);
 }
 
-TEST_F(Device, ThePasteboardHoldsAnImage) {
+TEST_F(Device, AnImageTakesThePlaceOfThePasteboardsText) {
     HostProcess host = start();
     const auto picture = root.path() / "picture.png";
     host.result({{"do", "screenshot"}, {"file", picture.string()}});
+    EXPECT_EQ(host.result({{"do", "pasteboard"}, {"set", "text"}}), "text");
     EXPECT_EQ(host.result({{"do", "pasteboard"}, {"image", picture.string()}}), nullptr);
     const json board = host.message({{"class", "UIPasteboard"}}, "generalPasteboard");
     EXPECT_EQ(host.message(board, "image").at("class"), "UIImage");
+    EXPECT_EQ(host.message(board, "string"), nullptr);
 }
 
 } // namespace

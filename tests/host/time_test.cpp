@@ -1,4 +1,4 @@
-// The clock, waiting, and the log of happenings.
+// The clock, waiting, and the log of events.
 #include "tests/host/host.hpp"
 
 #include <gtest/gtest.h>

@@ -101,6 +101,25 @@ TEST_F(TouchCommands, ASlidePansAndMayStay) {
     EXPECT_EQ(host.message(pan, "state"), 0);
 }
 
+TEST_F(TouchCommands, AFingerThatLeavesElsewhereHasNotMovedThere) {
+    constexpr int drags = 4 | 8; // inside and outside of the control
+    const json button = made("UIButton");
+    host.message(button, "setFrame:", {{{"rect", {0, 0, 100, 100}}}});
+    host.message(button, "addTarget:action:forControlEvents:",
+                 {marker, {{"selector", "removeFromSuperview"}}, drags});
+    host.message(view, "addSubview:", {button});
+    const auto touch = [this](const char* phase, int x) {
+        act({{"do", "touch"}, {"phase", phase}, {"points", {{0, x, 250}}}});
+    };
+    for (const char* leaving : {"ended", "cancelled"}) {
+        touch("began", 110);
+        touch("moved", 115);
+        EXPECT_TRUE(acted());
+        touch(leaving, 190);
+        EXPECT_FALSE(acted()) << leaving;
+    }
+}
+
 TEST_F(TouchCommands, AHeldSlideFollowsALongPress) {
     const json press = recognizer("UILongPressGestureRecognizer");
     const json path{{110, 210}, {150, 210}};

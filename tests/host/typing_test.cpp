@@ -7,7 +7,8 @@ namespace {
 
 using nlohmann::json;
 
-class TypingCommands : public testing::Test {
+/// With the library loaded, and without.
+class TypingCommands : public testing::TestWithParam<bool> {
 protected:
     TypingCommands() {
         view = host.message({{"class", "UITextView"}}, "new");
@@ -16,11 +17,12 @@ protected:
     }
     json text() { return host.message(view, "text"); }
 
-    support::HostProcess host = tests::automatedHost({"--app", "plain"});
+    support::HostProcess host = GetParam() ? tests::hostWith({"--automation", "--app", "plain"})
+                                           : tests::automatedHost({"--app", "plain"});
     json view;
 };
 
-TEST_F(TypingCommands, TextGoesWhereTheFocusIs) {
+TEST_P(TypingCommands, TextGoesWhereTheFocusIs) {
     EXPECT_NE(host.error({{"do", "type"}, {"text", "x"}}), "");
     host.result({{"do", "tap"}, {"on", view}});
     host.result({{"do", "type"}, {"text", "Hi 😀"}});
@@ -36,7 +38,7 @@ TEST_F(TypingCommands, TextGoesWhereTheFocusIs) {
     EXPECT_NE(host.error({{"do", "menu"}}), "");
 }
 
-TEST_F(TypingCommands, TheMenuOffersWhatCanBeDone) {
+TEST_P(TypingCommands, TheMenuOffersWhatCanBeDone) {
     host.message(view, "becomeFirstResponder");
     EXPECT_EQ(host.result({{"do", "menu"}}), json::array());
     host.result({{"do", "type"}, {"text", "some words"}});
@@ -53,7 +55,7 @@ TEST_F(TypingCommands, TheMenuOffersWhatCanBeDone) {
     EXPECT_EQ(host.message(shared, "isMenuVisible"), false);
 }
 
-TEST_F(TypingCommands, BadArgumentsAreRefused) {
+TEST_P(TypingCommands, BadArgumentsAreRefused) {
     host.message(view, "becomeFirstResponder");
     for (const json& request : std::vector<json>{
              {{"do", "type"}},
@@ -67,5 +69,25 @@ TEST_F(TypingCommands, BadArgumentsAreRefused) {
     }
     EXPECT_EQ(text(), "");
 }
+
+TEST_P(TypingCommands, ViewsAndFieldsAnswerForActions) {
+    const json field = host.message({{"class", "UITextField"}}, "new");
+    for (const json& input : {view, field}) {
+        const auto can = [&](const char* action) {
+            return host.message(input,
+                                "canPerformAction:withSender:", {{{"selector", action}}, nullptr});
+        };
+        host.message(input, "setText:", {"words"});
+        EXPECT_EQ(can("selectAll:"), true);
+        EXPECT_EQ(can("cut:"), false);
+        EXPECT_EQ(can("paste:"), false);
+        host.result({{"do", "pasteboard"}, {"set", "copied"}});
+        EXPECT_EQ(can("paste:"), true);
+        host.result({{"do", "pasteboard"}, {"set", nullptr}});
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Library, TypingCommands, testing::Bool(),
+                         [](const auto& loaded) { return loaded.param ? "Loaded" : "Absent"; });
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <cstdlib>
@@ -10,6 +11,7 @@
 #include <fstream>
 #include <iterator>
 #include <poll.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -48,20 +50,6 @@ std::pair<int, int> makePipe() {
 
 } // namespace
 
-TemporaryFolder::TemporaryFolder() {
-    std::string pattern = std::filesystem::temp_directory_path() / "wentra-test-XXXXXX";
-    path_ = mkdtemp(pattern.data());
-}
-
-TemporaryFolder::~TemporaryFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-}
-
-void writeFile(const std::filesystem::path& file, const std::string& content) {
-    std::ofstream(file, std::ios::binary) << content;
-}
-
 std::string readFile(const std::filesystem::path& file) {
     std::ifstream stream(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};
@@ -85,8 +73,7 @@ HostProcess::HostProcess(const char* program, const std::vector<std::string>& ar
 HostProcess::~HostProcess() {
     closeInput();
     if (process_ > 0) {
-        kill(process_, SIGKILL);
-        wait();
+        EXPECT_EQ(wait(), 0) << "the host did not end well\n" << errors();
     }
     close(output_);
 }
@@ -110,20 +97,22 @@ void HostProcess::closeInput() {
 
 void HostProcess::signal(int number) { kill(process_, number); }
 
+bool HostProcess::receive() {
+    std::array<char, 1U << 16U> buffer{};
+    const ssize_t count = read(output_, buffer.data(), buffer.size());
+    received_.append(buffer.data(), static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+    return count > 0;
+}
+
 json HostProcess::sendLine(const std::string& line) {
     write(line + '\n');
     std::size_t end = 0;
     while ((end = received_.find('\n')) == std::string::npos) {
         pollfd watched{output_, POLLIN, 0};
-        std::array<char, 1U << 16U> buffer{};
-        const ssize_t count = poll(&watched, 1, patienceInMilliseconds) > 0
-                                  ? read(output_, buffer.data(), buffer.size())
-                                  : -1;
-        if (count <= 0) {
+        if (poll(&watched, 1, patienceInMilliseconds) <= 0 || !receive()) {
             ADD_FAILURE() << "no answer to " << line.substr(0, 200) << "\n" << errors();
             return nullptr;
         }
-        received_.append(buffer.data(), static_cast<std::size_t>(count));
     }
     json response = json::parse(received_.substr(0, end), nullptr, false);
     received_.erase(0, end + 1);
@@ -158,21 +147,38 @@ json HostProcess::message(const json& receiver, const std::string& selector,
                    {"args", std::vector<json>(arguments)}});
 }
 
+bool HostProcess::hasEnded() {
+    const int process = static_cast<int>(syscall(SYS_pidfd_open, process_, 0));
+    std::array<pollfd, 2> watched{{{process, POLLIN, 0}, {output_, POLLIN, 0}}};
+    int ready = 0;
+    while ((ready = poll(watched.data(), watched.size(), patienceInMilliseconds)) > 0 &&
+           watched[1].revents != 0) {
+        if (!receive()) {
+            watched[1].fd = -1; // closed: only the end is left to wait for
+        }
+    }
+    close(process);
+    return ready > 0;
+}
+
 int HostProcess::wait() {
-    int status = 0;
-    if (process_ <= 0 || waitpid(std::exchange(process_, -1), &status, 0) < 0) {
+    if (process_ <= 0) {
         return -1;
     }
+    if (!hasEnded()) {
+        ADD_FAILURE() << "the host does not end";
+        kill(process_, SIGKILL);
+    }
+    int status = 0;
+    waitpid(std::exchange(process_, -1), &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
 }
 
 std::string HostProcess::errors() const { return readFile(folder_.path() / "errors"); }
 
 std::string HostProcess::rest() {
-    std::array<char, 1U << 12U> buffer{};
-    for (ssize_t count = 1; count > 0;) {
-        count = read(output_, buffer.data(), buffer.size());
-        received_.append(buffer.data(), static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+    if (process_ > 0) {
+        EXPECT_TRUE(hasEnded()) << "the host does not end";
     }
     return std::exchange(received_, {});
 }

@@ -1,6 +1,8 @@
 // Runs the host in a process of its own and talks to it as any script does.
 #pragma once
 
+#include "tests/support/temporary_folder.hpp"
+
 #include <nlohmann/json.hpp>
 
 #include <filesystem>
@@ -11,27 +13,11 @@
 
 namespace support {
 
-/// A fresh empty folder, removed with all that is in it.
-class TemporaryFolder {
-public:
-    TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    ~TemporaryFolder();
-
-    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
-
-/// Writes the file as a whole; its folder must exist.
-void writeFile(const std::filesystem::path& file, const std::string& content);
 /// Empty when there is no such file.
 [[nodiscard]] std::string readFile(const std::filesystem::path& file);
 
-/// The program's standard input, output and error are ours; it is killed at the end if it still
-/// runs.
+/// The program's standard input, output and error are ours. At the end its input is closed if it
+/// still runs; it is a test failure when it does not end well upon that.
 class HostProcess {
 public:
     /// Starts `program` with these arguments; its temporary files lie in a folder that ends with
@@ -60,15 +46,21 @@ public:
     void closeInput();
     /// Sends the process a signal.
     void signal(int number);
-    /// Waits until the process has ended; its exit status, or minus the signal that ended it.
+    /// Waits until the process has ended; its exit status, or minus the signal that ended it. One
+    /// that does not end is killed, which is a test failure.
     int wait();
     /// What the process has written to standard error, complete once it has ended.
     [[nodiscard]] std::string errors() const;
     [[nodiscard]] std::filesystem::path temporaryFolder() const { return folder_.path() / "tmp"; }
-    /// Standard output up to its end.
+    /// Standard output up to its end, once the process has ended.
     [[nodiscard]] std::string rest();
 
 private:
+    /// Takes in what the process has written; false when there will be no more.
+    bool receive();
+    /// Takes in what the process writes until it has ended; false when it does not end.
+    bool hasEnded();
+
     TemporaryFolder folder_;
     pid_t process_ = -1;
     int input_ = -1;

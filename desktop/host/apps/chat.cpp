@@ -3,6 +3,7 @@
 #include "desktop/host/apps/screen_parts.hpp"
 
 #include "bindings/uikit/application.hpp"
+#include "bindings/uikit/screen.hpp"
 
 #include <array>
 
@@ -35,7 +36,7 @@ double addBubble(ui::View page, double top, const Message& message) {
     const double width = page.bounds().size.width;
     const auto label =
         dressed(ui::Label::withFrame({}), message.text,
-                {.color = isOwn ? ui::Color::white() : ui::Color::black(), .lines = 0});
+                {.color = isOwn ? ui::Color::white() : ui::Color::label(), .lines = 0});
     const double widest = width * 0.72 - 2 * padding;
     const CGSize text = label.sizeThatFits({widest, 0});
     const CGSize size{text.width + 2 * padding, text.height + 2 * 8};
@@ -44,8 +45,10 @@ double addBubble(ui::View page, double top, const Message& message) {
     const auto bubble =
         ui::View::withFrame({{isOwn ? width - margin - size.width : margin, top}, size});
     bubble.layer().setCornerRadius(18);
+    bubble.setAutoresizingMask(isOwn ? ui::ViewAutoresizing::flexibleLeftMargin
+                                     : ui::ViewAutoresizing::flexibleRightMargin);
     bubble.setBackgroundColor(isOwn ? ui::Color::systemBlue()
-                                    : ui::Color::rgba(0.914, 0.914, 0.922, 1));
+                                    : ui::Color::named("systemGray5Color"));
     bubble.addSubview(label);
     page.addSubview(bubble);
     constexpr double gap = 10;
@@ -59,19 +62,21 @@ void addComposer(ui::View page) {
     const auto field = ui::View::withFrame(
         {{margin, room.height - 34 - height - 8}, {room.width - 2 * margin, height}});
     field.layer().setCornerRadius(height / 2);
+    field.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth |
+                              ui::ViewAutoresizing::flexibleTopMargin);
     field.layer().setBorderWidth(1);
     field.layer().setBorderColor(separatorColor().cgColor());
     field.addSubview(dressed(
         ui::Label::withFrame({{16, 0}, {room.width - 2 * margin - 32, height}}), "发送消息 Message",
-        {.size = 16, .color = ui::Color::rgba(0.235, 0.235, 0.263, 0.3)}));
+        {.size = 16, .color = ui::Color::named("placeholderTextColor")}));
     page.addSubview(field);
 }
 
 void launch() {
     const auto controller = ui::ViewController::make();
     const ui::View page = controller.view();
-    page.setFrame(ui::Screen::main().bounds());
-    page.setBackgroundColor(ui::Color::white());
+    page.setFrame(ui::Screen::mainScreen().bounds());
+    page.setBackgroundColor(ui::Color::systemBackground());
     double top = addNavigationBar(page, "# 周末 weekend") + margin;
     for (const Message& message : conversation) {
         top = addBubble(page, top, message);

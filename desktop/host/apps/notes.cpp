@@ -5,7 +5,9 @@
 #include "desktop/host/apps/screen_parts.hpp"
 #include "desktop/host/apps/yy_label.hpp"
 
+#include "bindings/applications/yy_label.hpp"
 #include "bindings/uikit/application.hpp"
+#include "bindings/uikit/screen.hpp"
 #include "bindings/uikit/scroll_view.hpp"
 #include "bindings/uikit/stack_view.hpp"
 
@@ -61,6 +63,7 @@ void Page::addCard(const NotesContent::Card& card) {
     const double width = width_ - 2 * padding;
     const double height = stack.sizeThatFits({width, 0}).height;
     stack.setFrame({{padding, padding}, {width, height}});
+    stack.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth);
     nextCard(height + 2 * padding).addSubview(stack);
 }
 
@@ -73,7 +76,7 @@ void Page::addList(const std::vector<std::string>& rows) {
             card.addSubview(separatorWithFrame({{padding, top}, {width_ - padding, 0.5}}));
         }
         card.addSubview(dressed(
-            YYLabelKind::withFrame({{padding, top}, {width_ - 2 * padding, rowHeight}}), row));
+            apps::YYLabel::withFrame({{padding, top}, {width_ - 2 * padding, rowHeight}}), row));
         top += rowHeight;
     }
 }
@@ -91,13 +94,15 @@ void Page::addBoard(const std::vector<NotesContent::PlacedLabel>& labels) {
 }
 
 void launch() {
-    const CGSize screen = ui::Screen::main().bounds().size;
+    const CGSize screen = ui::Screen::mainScreen().bounds().size;
     const auto controller = ui::ViewController::make();
     const ui::View view = controller.view();
     view.setFrame({{}, screen});
     view.setBackgroundColor(pageColor());
     const double top = addNavigationBar(view, content().title);
     const auto scroll = ui::ScrollView::withFrame({{0, top}, {screen.width, screen.height - top}});
+    scroll.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth |
+                               ui::ViewAutoresizing::flexibleHeight);
     view.addSubview(scroll);
     Page page(scroll);
     std::ranges::for_each(content().cards, [&page](const auto& card) { page.addCard(card); });

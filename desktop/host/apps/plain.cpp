@@ -3,6 +3,7 @@
 
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/label.hpp"
+#include "bindings/uikit/screen.hpp"
 #include "bindings/uikit/window.hpp"
 
 namespace desktop::host {
@@ -17,11 +18,13 @@ void addLabel(ui::View view, CGRect frame, ns::String text) {
 }
 
 void launch() {
-    const CGRect bounds = ui::Screen::main().bounds();
+    const CGRect bounds = ui::Screen::mainScreen().bounds();
     // Kept for the life of the process, as an application delegate keeps its window.
     static const auto* window = new objc::Strong(ui::Window::withFrame(bounds));
     const auto view = ui::View::withFrame(bounds);
-    view.setBackgroundColor(ui::Color::white());
+    view.setBackgroundColor(ui::Color::systemBackground());
+    view.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth |
+                             ui::ViewAutoresizing::flexibleHeight);
     window->addSubview(view);
     addLabel(view, {{20, 80}, {bounds.size.width - 40, 28}}, u"你好，世界"_ns);
     addLabel(view, {{20, 120}, {bounds.size.width - 40, 28}}, u"Hello, world"_ns);

@@ -3,6 +3,7 @@
 
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/navigation_bar.hpp"
+#include "bindings/uikit/screen.hpp"
 
 namespace desktop::host {
 namespace {
@@ -11,21 +12,23 @@ constexpr double cornerRadius = 12;
 
 } // namespace
 
-ui::Color pageColor() { return ui::Color::rgba(0.949, 0.949, 0.969, 1); }
-ui::Color cardColor() { return ui::Color::white(); }
-ui::Color separatorColor() { return ui::Color::rgba(0.235, 0.235, 0.263, 0.29); }
+ui::Color pageColor() { return ui::Color::named("systemGroupedBackgroundColor"); }
+ui::Color cardColor() { return ui::Color::named("secondarySystemGroupedBackgroundColor"); }
+ui::Color separatorColor() { return ui::Color::named("separatorColor"); }
 
 ui::View cardWithFrame(CGRect frame) {
     const auto card = ui::View::withFrame(frame);
     card.setBackgroundColor(cardColor());
     card.layer().setCornerRadius(cornerRadius);
     card.setClipsToBounds(true);
+    card.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth);
     return card;
 }
 
 ui::View separatorWithFrame(CGRect frame) {
     const auto line = ui::View::withFrame(frame);
     line.setBackgroundColor(separatorColor());
+    line.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth);
     return line;
 }
 
@@ -34,6 +37,7 @@ double addNavigationBar(ui::View page, std::string_view title) {
     const double width = page.bounds().size.width;
     const auto bar = ui::NavigationBar::withFrame({{0, statusBarHeight}, {width, height}});
     bar.setPrefersLargeTitles(true);
+    bar.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth);
     const auto items = ns::MutableArray::make();
     items.add(ui::NavigationItem::withTitle(ns::String::fromUtf8(title)));
     bar.setItems(items);
@@ -43,8 +47,8 @@ double addNavigationBar(ui::View page, std::string_view title) {
 
 void showInWindow(ui::ViewController controller) {
     static const auto* window =
-        new objc::Strong(ui::Window::withFrame(ui::Screen::main().bounds()));
-    window->setBackgroundColor(ui::Color::white());
+        new objc::Strong(ui::Window::withFrame(ui::Screen::mainScreen().bounds()));
+    window->setBackgroundColor(ui::Color::systemBackground());
     window->setRootViewController(controller);
     window->makeKeyAndVisible();
 }

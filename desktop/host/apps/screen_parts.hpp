@@ -32,7 +32,7 @@ AnyLabel dressed(AnyLabel label, std::string_view text, const TextLook& look = {
     return label;
 }
 
-/// A white box with round corners.
+/// A box of the cards' colour with round corners.
 ui::View cardWithFrame(CGRect frame);
 
 /// A hairline.

@@ -2,7 +2,9 @@
 #include "desktop/host/app.hpp"
 #include "desktop/host/apps/screen_parts.hpp"
 
-#include "bindings/uikit/application.hpp"
+#include "bindings/preferences/split_view_controller.hpp"
+#include "bindings/uikit/screen.hpp"
+#include "bindings/uikit/table_view_label.hpp"
 #include "desktop/class.hpp"
 
 #include <array>
@@ -11,16 +13,10 @@
 namespace desktop::host {
 namespace {
 
-struct TableViewLabel : objc::Kind<TableViewLabel, "UITableViewLabel", ui::Label> {
-    using Kind::Kind;
-
-    static TableViewLabel withFrame(CGRect frame) { return make<"initWithFrame:">(frame); }
-};
-
 /// The label of a table's row.
-class UITableViewLabel : public PlatformClass<UITableViewLabel, TableViewLabel> {
+class UITableViewLabel : public PlatformClass<UITableViewLabel, ui::TableViewLabel> {
 public:
-    static std::array<objc::MethodRow, 0> methods() { return {}; }
+    static constexpr std::array<objc::MethodRow, 0> methods() { return {}; }
 };
 
 struct Row {
@@ -52,20 +48,20 @@ void addRow(ui::View card, double top, const Row& row) {
     const double width = card.bounds().size.width;
     const auto icon =
         ui::View::withFrame({{margin, top + (rowHeight - iconSize) / 2}, {iconSize, iconSize}});
-    icon.setBackgroundColor(ui::Color::rgba(row.color[0], row.color[1], row.color[2], 1));
+    icon.setBackgroundColor(ui::Color::withRed(row.color[0], row.color[1], row.color[2], 1));
     icon.layer().setCornerRadius(7);
     card.addSubview(icon);
 
-    card.addSubview(
-        dressed(TableViewLabel::withFrame({{textLeft, top}, {width / 2, rowHeight}}), row.title));
+    card.addSubview(dressed(
+        ui::TableViewLabel::withFrame({{textLeft, top}, {width / 2, rowHeight}}), row.title));
     constexpr double arrowWidth = 8;
-    const auto arrow = dressed(
-        TableViewLabel::withFrame({{width - margin - arrowWidth, top}, {arrowWidth, rowHeight}}),
-        "›", {.size = 20, .color = ui::Color::rgba(0.77, 0.77, 0.78, 1)});
+    const auto arrow = dressed(ui::TableViewLabel::withFrame(
+                                   {{width - margin - arrowWidth, top}, {arrowWidth, rowHeight}}),
+                               "›", {.size = 20, .color = ui::Color::named("systemGray3Color")});
     card.addSubview(arrow);
     const double valueLeft = textLeft + width / 2;
     const auto value =
-        dressed(TableViewLabel::withFrame(
+        dressed(ui::TableViewLabel::withFrame(
                     {{valueLeft, top}, {width - valueLeft - margin - arrowWidth - 8, rowHeight}}),
                 row.value, {.color = ui::Color::secondaryLabel()});
     value.setTextAlignment(ui::TextAlignment::right);
@@ -90,15 +86,10 @@ double addGroup(ui::View page, double top, std::span<const Row> rows) {
     return top + height + gap;
 }
 
-struct SplitViewController
-    : objc::Kind<SplitViewController, "PSSplitViewController", ui::ViewController> {
-    using Kind::Kind;
-};
-
 /// The controller of the whole application.
-class PSSplitViewController : public PlatformClass<PSSplitViewController, SplitViewController> {
+class PSSplitViewController : public PlatformClass<PSSplitViewController, ps::SplitViewController> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
             objc::method<"viewDidLoad", &PSSplitViewController::viewDidLoad>(),
         };
@@ -108,7 +99,7 @@ private:
     void viewDidLoad() {
         super<"viewDidLoad">();
         const ui::View page = self().view();
-        page.setFrame(ui::Screen::main().bounds());
+        page.setFrame(ui::Screen::mainScreen().bounds());
         page.setBackgroundColor(pageColor());
         double top = addNavigationBar(page, "设置") + margin / 2;
         for (const std::span<const Row> group :
@@ -126,6 +117,6 @@ const App settingsApp{"settings", "com.apple.Preferences",
                           UITableViewLabel::registerClass();
                           PSSplitViewController::registerClass();
                       },
-                      nullptr, [] { showInWindow(SplitViewController::make()); }};
+                      nullptr, [] { showInWindow(ps::SplitViewController::make()); }};
 
 } // namespace desktop::host

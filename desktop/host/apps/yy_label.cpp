@@ -2,8 +2,8 @@
 #include "desktop/host/apps/yy_label.hpp"
 
 #include "desktop/coregraphics/graphics_context.hpp"
-#include "desktop/uikit/color.hpp"
-#include "desktop/uikit/font.hpp"
+#include "desktop/uikit/values/color.hpp"
+#include "desktop/uikit/values/font.hpp"
 
 #include <algorithm>
 

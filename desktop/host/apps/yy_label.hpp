@@ -1,6 +1,7 @@
 // YYLabel: a label that an application brings itself, which draws its text without a UILabel.
 #pragma once
 
+#include "bindings/applications/yy_label.hpp"
 #include "bindings/uikit/font.hpp"
 #include "bindings/uikit/label.hpp"
 #include "desktop/class.hpp"
@@ -8,20 +9,9 @@
 
 namespace desktop::host {
 
-struct YYLabelKind : objc::Kind<YYLabelKind, "YYLabel", ui::View> {
-    using Kind::Kind;
-
-    static YYLabelKind withFrame(CGRect frame) { return make<"initWithFrame:">(frame); }
-
-    void setText(ns::String text) const { send<"setText:">(text); }
-    void setFont(ui::Font font) const { send<"setFont:">(font); }
-    void setTextColor(ui::Color color) const { send<"setTextColor:">(color); }
-    void setNumberOfLines(long lines) const { send<"setNumberOfLines:">(lines); }
-};
-
-class YYLabel : public PlatformClass<YYLabel, YYLabelKind> {
+class YYLabel : public PlatformClass<YYLabel, apps::YYLabel> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
             objc::property<"text", &YYLabel::text, &YYLabel::setText>(),
             objc::property<"font", &YYLabel::font_, &YYLabel::redraw>(),

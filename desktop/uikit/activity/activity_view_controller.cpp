@@ -69,12 +69,12 @@ void ActivityViewController::viewDidLoad() {
     title.setTextAlignment(ui::TextAlignment::center);
     title.setText(u"分享"_ns);
     view.addSubview(title);
-    const auto close = ui::Button::ofType(ui::ButtonType::system);
-    close.setTitle(u"关闭"_ns, ui::control_state::normal);
+    const auto close = ui::Button::withType(ui::ButtonType::system);
+    close.setTitle(u"关闭"_ns, ui::ControlState::normal);
     close.titleLabel().setFont(ui::Font::system(17));
     const double closeWidth = close.sizeThatFits({}).width;
     close.setFrame({{width - margin - closeWidth, 0}, {closeWidth, barHeight}});
-    close.addTarget(self(), objc::selector<"closePressed">(), ui::control_events::touchUpInside);
+    close.addTarget(self(), objc::selector<"closePressed">(), ui::ControlEvents::touchUpInside);
     view.addSubview(close);
     double top = barHeight;
     for (const objc::Object item : items_) {
@@ -89,7 +89,7 @@ void ActivityViewController::viewWillAppear(bool animated) {
     for (const objc::Object item : items_) {
         texts.add(textOf(item));
     }
-    EventLog::shared().record("share", ns::Dictionary::with(texts, u"items"_ns));
+    EventLog::shared().record("share", ns::Dictionary::withObject(texts, u"items"_ns));
 }
 
 void ActivityViewController::closePressed() {

@@ -11,7 +11,7 @@ namespace desktop {
 class ActivityViewController
     : public PlatformClass<ActivityViewController, ui::ActivityViewController> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
             objc::method<"initWithActivityItems:applicationActivities:",
                          &ActivityViewController::initWithItems>(),

@@ -4,7 +4,7 @@
 #include "bindings/uikit/alert_controller.hpp"
 
 #include "desktop/class.hpp"
-#include "desktop/uikit/immutable.hpp"
+#include "desktop/uikit/values/immutable.hpp"
 
 #include <functional>
 
@@ -12,7 +12,7 @@ namespace desktop {
 
 class AlertAction : public PlatformClass<AlertAction, ui::AlertAction> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
             objc::classMethod<"actionWithTitle:style:handler:", &AlertAction::with>(),
             objc::method<"title", &AlertAction::title_>(),
@@ -47,7 +47,7 @@ private:
     }
 
     objc::Copied<ns::String> title_;
-    ui::AlertActionStyle style_ = ui::AlertActionStyle::normal;
+    ui::AlertActionStyle style_ = ui::AlertActionStyle::default_;
     objc::Copied<ui::AlertAction::Handler> handler_;
     bool enabled_ = true;
 };

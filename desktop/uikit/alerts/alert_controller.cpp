@@ -5,8 +5,8 @@
 #include "desktop/runtime/main_queue.hpp"
 #include "desktop/uikit/alerts/alert_action.hpp"
 #include "desktop/uikit/alerts/alert_view.hpp"
-#include "desktop/uikit/keyboard.hpp"
-#include "desktop/uikit/screen.hpp"
+#include "desktop/uikit/application/screen.hpp"
+#include "desktop/uikit/keyboard/keyboard.hpp"
 
 #include <algorithm>
 

@@ -2,6 +2,7 @@
 #include "desktop/uikit/alerts/alert_row.hpp"
 
 #include "desktop/uikit/alerts/alert_controller.hpp"
+#include "desktop/uikit/values/color.hpp"
 
 namespace desktop {
 namespace {
@@ -37,7 +38,7 @@ AlertRowKind AlertRow::forAction(ui::AlertAction action, ui::AlertController ale
     row.addSubview(peer.label_);
     row.setEnabled(action.isEnabled());
     row.setAccessibilityLabel(action.title());
-    row.addTarget(row, objc::selector<"chosen">(), ui::control_events::touchUpInside);
+    row.addTarget(row, objc::selector<"chosen">(), ui::ControlEvents::touchUpInside);
     return row;
 }
 
@@ -49,9 +50,15 @@ void AlertRow::layoutSubviews() {
 void AlertRow::setHighlighted(bool highlighted) {
     super<"setHighlighted:">(highlighted);
     constexpr double shade = 0.08;
-    self().setBackgroundColor(highlighted ? ui::Color::white(0, shade) : ui::Color());
+    self().setBackgroundColor(highlighted ? Color::adaptive({0, 0, 0, shade}, {1, 1, 1, shade})
+                                          : ui::Color());
 }
 
-void AlertRow::chosen() { AlertController::of(alert_).choose(action_); }
+/// Nothing when the alert is gone already and only its view is still on its way.
+void AlertRow::chosen() {
+    if (const auto alert = alert_.strong(); alert) {
+        AlertController::of(alert).choose(action_);
+    }
+}
 
 } // namespace desktop

@@ -1,6 +1,7 @@
 // The row of an alert that an action is chosen by.
 #pragma once
 
+#include "bindings/objc/weak.hpp"
 #include "bindings/uikit/alert_controller.hpp"
 #include "bindings/uikit/label.hpp"
 
@@ -15,7 +16,7 @@ struct AlertRowKind : objc::Kind<AlertRowKind, "_UIAlertControllerActionView", u
 /// Shows the action's title, in grey while a finger is on it.
 class AlertRow : public PlatformClass<AlertRow, AlertRowKind> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
             objc::method<"layoutSubviews", &AlertRow::layoutSubviews>(),
             objc::method<"setHighlighted:", &AlertRow::setHighlighted>(),
@@ -33,7 +34,7 @@ private:
     void chosen();
 
     objc::Strong<ui::AlertAction> action_;
-    ui::AlertController alert_;
+    objc::Weak<ui::AlertController> alert_;
     objc::Strong<ui::Label> label_;
 };
 

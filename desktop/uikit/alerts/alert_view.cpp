@@ -2,7 +2,9 @@
 #include "desktop/uikit/alerts/alert_view.hpp"
 
 #include "bindings/uikit/application.hpp"
+#include "bindings/uikit/screen.hpp"
 #include "desktop/uikit/alerts/alert_controller.hpp"
+#include "desktop/uikit/values/color.hpp"
 
 #include <algorithm>
 
@@ -31,39 +33,38 @@ ui::View newCard(ui::View parent, ui::Color colour) {
     return card;
 }
 
-double hairline() { return 1 / ui::Screen::main().scale(); }
+double hairline() { return 1 / ui::Screen::mainScreen().scale(); }
 
 } // namespace
 
 AlertViewKind AlertView::showing(ui::AlertController alert) {
     const auto view = AlertViewKind::make<"initWithFrame:">(CGRect());
     of(view).alert_ = alert;
+    of(view).isSheet_ = alert.preferredStyle() == ui::AlertStyle::actionSheet;
     of(view).rebuild();
     return view;
 }
 
-bool AlertView::isSheet() const { return alert_.style() == ui::AlertStyle::actionSheet; }
-
 void AlertView::rebuild() {
-    for (const objc::Object child : self().subviews()) {
-        child.assume<ui::View>().removeFromSuperview();
+    for (const ui::View child : self().subviews()) {
+        child.removeFromSuperview();
     }
     parts_.clear();
     rows_.clear();
     separators_.clear();
     cancelRow_ = nullptr;
     // The platform's cards let what is behind them shine through, so blurred that it is a grey.
-    constexpr double grey = 0.949;
-    card_ = newCard(self(), ui::Color::white(grey, 1));
-    cancelCard_ = newCard(self(), ui::Color::white());
+    card_ = newCard(self(), Color::adaptive({0.949, 0.949, 0.949}, {0.149, 0.149, 0.153}));
+    cancelCard_ = newCard(self(), ui::Color::named("secondarySystemGroupedBackgroundColor"));
     header_ = ui::ScrollView::withFrame({});
     list_ = ui::ScrollView::withFrame({});
     card_.addSubview(header_);
     card_.addSubview(list_);
     const double size = isSheet() ? messageSize : titleSize;
-    addText(alert_.title(), ui::Font::system(size, ui::Font::semibold),
+    const auto alert = alert_.strong();
+    addText(alert.title(), ui::Font::system(size, ui::Font::semibold),
             isSheet() ? sheetTop : alertTop);
-    addText(alert_.message(), ui::Font::system(messageSize),
+    addText(alert.message(), ui::Font::system(messageSize),
             parts_.empty() ? (isSheet() ? sheetTop : alertTop)
                            : (isSheet() ? sheetMessageGap : messageGap));
     addFields();
@@ -88,13 +89,12 @@ void AlertView::addText(ns::String text, ui::Font font, double gap) {
 }
 
 void AlertView::addFields() {
-    constexpr double borderWhite = 0.75;
     constexpr double fieldCorner = 5;
     bool isFirst = true;
-    for (const auto& field : AlertController::of(alert_).fieldList()) {
+    for (const auto& field : AlertController::of(alert_.strong()).fieldList()) {
         const auto box = ui::View::withFrame({});
-        box.setBackgroundColor(ui::Color::white());
-        box.layer().setBorderColor(ui::Color::white(borderWhite, 1).cgColor());
+        box.setBackgroundColor(ui::Color::systemBackground());
+        box.layer().setBorderColor(ui::Color::named("systemGray3Color").cgColor());
         box.layer().setBorderWidth(hairline());
         box.layer().setCornerRadius(fieldCorner);
         box.addSubview(field);
@@ -106,13 +106,14 @@ void AlertView::addFields() {
 }
 
 void AlertView::addRows() {
-    const AlertController& alert = AlertController::of(alert_);
+    const auto kept = alert_.strong();
+    const AlertController& alert = AlertController::of(kept);
     const double size = isSheet() ? sheetRowSize : titleSize;
     const auto rowFor = [&](ui::AlertAction action) {
         const bool isCancelOfSheet = isSheet() && action.style() == ui::AlertActionStyle::cancel;
         const bool bold = action == alert.emphasised() || isCancelOfSheet;
         return AlertRow::forAction(
-            action, alert_, ui::Font::system(size, bold ? ui::Font::semibold : ui::Font::regular));
+            action, kept, ui::Font::system(size, bold ? ui::Font::semibold : ui::Font::regular));
     };
     for (const auto& action : alert.actionList()) {
         if (action.style() == ui::AlertActionStyle::cancel) {
@@ -150,7 +151,7 @@ double AlertView::layOutHeader(double width) {
         const double height = isText ? view.sizeThatFits({room, 0}).height : fieldHeight;
         view.setFrame({{margin, bottom + gap}, {room, height}});
         if (!isText) {
-            view.subviews().first().assume<ui::View>().setFrame(
+            view.subviews().first().setFrame(
                 {{fieldPadding, 0}, {room - 2 * fieldPadding, height}});
         }
         bottom += gap + height;

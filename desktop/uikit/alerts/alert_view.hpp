@@ -2,6 +2,7 @@
 // with the cancel action.
 #pragma once
 
+#include "bindings/objc/weak.hpp"
 #include "bindings/uikit/alert_controller.hpp"
 #include "bindings/uikit/label.hpp"
 #include "bindings/uikit/scroll_view.hpp"
@@ -20,7 +21,7 @@ struct AlertViewKind : objc::Kind<AlertViewKind, "_UIAlertControllerView", ui::V
 
 class AlertView : public PlatformClass<AlertView, AlertViewKind> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{objc::method<"layoutSubviews", &AlertView::layoutSubviews>()};
     }
     static constexpr double messageSize = 13; // the font's, in points
@@ -34,7 +35,7 @@ public:
 
 private:
     void layoutSubviews();
-    [[nodiscard]] bool isSheet() const;
+    [[nodiscard]] bool isSheet() const { return isSheet_; }
     void addText(ns::String text, ui::Font font, double gap);
     void addFields();
     void addRows();
@@ -43,7 +44,8 @@ private:
     double layOutHeader(double width);
     void layOutRows();
 
-    ui::AlertController alert_;
+    objc::Weak<ui::AlertController> alert_;
+    bool isSheet_ = false; // for longer than there is an alert
     AlertLayout layout_;
     CGSize room_;
     objc::Strong<ui::View> card_;

@@ -1,6 +1,12 @@
 // Making constraints of anchors, and anchors of items.
 #include "desktop/uikit/constraints/layout_anchor.hpp"
 
+#include "bindings/uikit/layout_anchor.hpp"
+#include "bindings/uikit/layout_constraint.hpp"
+#include "bindings/uikit/layout_dimension.hpp"
+#include "bindings/uikit/layout_x_axis_anchor.hpp"
+#include "bindings/uikit/layout_y_axis_anchor.hpp"
+
 namespace desktop {
 namespace {
 
@@ -31,18 +37,18 @@ objc::MethodRow anchor() {
 std::vector<objc::MethodRow> anchorMethods() {
     using enum LayoutAttribute;
     return {
-        anchor<"leadingAnchor", XAnchorKind, leading>(),
-        anchor<"trailingAnchor", XAnchorKind, trailing>(),
-        anchor<"leftAnchor", XAnchorKind, left>(),
-        anchor<"rightAnchor", XAnchorKind, right>(),
-        anchor<"centerXAnchor", XAnchorKind, centerX>(),
-        anchor<"topAnchor", YAnchorKind, top>(),
-        anchor<"bottomAnchor", YAnchorKind, bottom>(),
-        anchor<"centerYAnchor", YAnchorKind, centerY>(),
-        anchor<"firstBaselineAnchor", YAnchorKind, firstBaseline>(),
-        anchor<"lastBaselineAnchor", YAnchorKind, lastBaseline>(),
-        anchor<"widthAnchor", DimensionKind, width>(),
-        anchor<"heightAnchor", DimensionKind, height>(),
+        anchor<"leadingAnchor", ui::LayoutXAxisAnchor, leading>(),
+        anchor<"trailingAnchor", ui::LayoutXAxisAnchor, trailing>(),
+        anchor<"leftAnchor", ui::LayoutXAxisAnchor, left>(),
+        anchor<"rightAnchor", ui::LayoutXAxisAnchor, right>(),
+        anchor<"centerXAnchor", ui::LayoutXAxisAnchor, centerX>(),
+        anchor<"topAnchor", ui::LayoutYAxisAnchor, top>(),
+        anchor<"bottomAnchor", ui::LayoutYAxisAnchor, bottom>(),
+        anchor<"centerYAnchor", ui::LayoutYAxisAnchor, centerY>(),
+        anchor<"firstBaselineAnchor", ui::LayoutYAxisAnchor, firstBaseline>(),
+        anchor<"lastBaselineAnchor", ui::LayoutYAxisAnchor, lastBaseline>(),
+        anchor<"widthAnchor", ui::LayoutDimension, width>(),
+        anchor<"heightAnchor", ui::LayoutDimension, height>(),
     };
 }
 
@@ -79,8 +85,8 @@ std::vector<objc::MethodRow> Dimension::methods() {
     };
 }
 
-ConstraintKind LayoutAnchor::against(AnchorKind other, Relation relation, double multiplier,
-                                     double constant) const {
+ui::LayoutConstraint LayoutAnchor::against(ui::LayoutAnchor other, Relation relation,
+                                           double multiplier, double constant) const {
     ConstraintTerms terms;
     terms.first = item_;
     terms.firstAttribute = attribute_;

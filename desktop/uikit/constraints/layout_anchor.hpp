@@ -1,26 +1,19 @@
 // NSLayoutAnchor and its kinds: one attribute of an item, to make constraints of.
 #pragma once
 
+#include "bindings/uikit/layout_anchor.hpp"
+#include "bindings/uikit/layout_constraint.hpp"
+#include "bindings/uikit/layout_dimension.hpp"
+#include "bindings/uikit/layout_x_axis_anchor.hpp"
+#include "bindings/uikit/layout_y_axis_anchor.hpp"
+
 #include "desktop/uikit/constraints/layout_constraint.hpp"
 
 #include <vector>
 
 namespace desktop {
 
-struct AnchorKind : objc::Kind<AnchorKind, "NSLayoutAnchor"> {
-    using Kind::Kind;
-};
-struct XAnchorKind : objc::Kind<XAnchorKind, "NSLayoutXAxisAnchor", AnchorKind> {
-    using Kind::Kind;
-};
-struct YAnchorKind : objc::Kind<YAnchorKind, "NSLayoutYAxisAnchor", AnchorKind> {
-    using Kind::Kind;
-};
-struct DimensionKind : objc::Kind<DimensionKind, "NSLayoutDimension", AnchorKind> {
-    using Kind::Kind;
-};
-
-class LayoutAnchor : public PlatformClass<LayoutAnchor, AnchorKind> {
+class LayoutAnchor : public PlatformClass<LayoutAnchor, ui::LayoutAnchor> {
 public:
     static std::vector<objc::MethodRow> methods();
 
@@ -32,17 +25,17 @@ public:
         return anchor;
     }
     /// A constraint of this anchor against another (or none) times a number plus another.
-    [[nodiscard]] ConstraintKind against(AnchorKind other, Relation relation, double multiplier,
-                                         double constant) const;
+    [[nodiscard]] ui::LayoutConstraint against(ui::LayoutAnchor other, Relation relation,
+                                               double multiplier, double constant) const;
 
 private:
     [[nodiscard]] objc::Object item() const { return item_; }
     template <Relation Kind>
-    ConstraintKind to(AnchorKind other) const {
+    ui::LayoutConstraint to(ui::LayoutAnchor other) const {
         return against(other, Kind, 1, 0);
     }
     template <Relation Kind>
-    ConstraintKind toWithConstant(AnchorKind other, double constant) const {
+    ui::LayoutConstraint toWithConstant(ui::LayoutAnchor other, double constant) const {
         return against(other, Kind, 1, constant);
     }
 
@@ -50,33 +43,33 @@ private:
     LayoutAttribute attribute_ = LayoutAttribute::none;
 };
 
-class XAnchor : public PlatformClass<XAnchor, XAnchorKind> {
+class XAnchor : public PlatformClass<XAnchor, ui::LayoutXAxisAnchor> {
 public:
-    static std::array<objc::MethodRow, 0> methods() { return {}; }
+    static constexpr std::array<objc::MethodRow, 0> methods() { return {}; }
 };
-class YAnchor : public PlatformClass<YAnchor, YAnchorKind> {
+class YAnchor : public PlatformClass<YAnchor, ui::LayoutYAxisAnchor> {
 public:
-    static std::array<objc::MethodRow, 0> methods() { return {}; }
+    static constexpr std::array<objc::MethodRow, 0> methods() { return {}; }
 };
 
 /// A width or height, which may be related to a number alone.
-class Dimension : public PlatformClass<Dimension, DimensionKind> {
+class Dimension : public PlatformClass<Dimension, ui::LayoutDimension> {
 public:
     static std::vector<objc::MethodRow> methods();
 
 private:
     [[nodiscard]] const LayoutAnchor& base() const { return LayoutAnchor::of(self()); }
     template <Relation Kind>
-    ConstraintKind toConstant(double constant) const {
+    ui::LayoutConstraint toConstant(double constant) const {
         return base().against(nullptr, Kind, 1, constant);
     }
     template <Relation Kind>
-    ConstraintKind toMultiple(DimensionKind other, double multiplier) const {
+    ui::LayoutConstraint toMultiple(ui::LayoutDimension other, double multiplier) const {
         return base().against(other, Kind, multiplier, 0);
     }
     template <Relation Kind>
-    ConstraintKind toMultipleWithConstant(DimensionKind other, double multiplier,
-                                          double constant) const {
+    ui::LayoutConstraint toMultipleWithConstant(ui::LayoutDimension other, double multiplier,
+                                                double constant) const {
         return base().against(other, Kind, multiplier, constant);
     }
 };

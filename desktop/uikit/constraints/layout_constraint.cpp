@@ -39,7 +39,7 @@ std::vector<objc::MethodRow> LayoutConstraint::methods() {
     };
 }
 
-ConstraintKind LayoutConstraint::with(const ConstraintTerms& terms) {
+ui::LayoutConstraint LayoutConstraint::with(const ConstraintTerms& terms) {
     const bool hasSecond = terms.second && terms.secondAttribute != LayoutAttribute::none;
     if (!terms.first || terms.firstAttribute == LayoutAttribute::none ||
         !std::isfinite(terms.multiplier) || std::isnan(terms.constant)) {
@@ -47,7 +47,7 @@ ConstraintKind LayoutConstraint::with(const ConstraintTerms& terms) {
                             u"a constraint needs an item, an attribute and finite numbers"_ns)
             .raise();
     }
-    const auto constraint = ConstraintKind::make();
+    const auto constraint = ui::LayoutConstraint::make();
     LayoutConstraint& peer = of(constraint);
     peer.terms_ = terms;
     if (!hasSecond) {
@@ -59,10 +59,10 @@ ConstraintKind LayoutConstraint::with(const ConstraintTerms& terms) {
     return constraint;
 }
 
-ConstraintKind LayoutConstraint::make(Class, objc::Object first, LayoutAttribute firstAttribute,
-                                      Relation relation, objc::Object second,
-                                      LayoutAttribute secondAttribute, double multiplier,
-                                      double constant) {
+ui::LayoutConstraint LayoutConstraint::make(Class, objc::Object first,
+                                            LayoutAttribute firstAttribute, Relation relation,
+                                            objc::Object second, LayoutAttribute secondAttribute,
+                                            double multiplier, double constant) {
     return with({first, firstAttribute, relation, second, secondAttribute, multiplier, constant});
 }
 

@@ -5,15 +5,12 @@
 
 #include "bindings/foundation/array.hpp"
 #include "bindings/foundation/string.hpp"
+#include "bindings/uikit/layout_constraint.hpp"
 #include "desktop/class.hpp"
 
 #include <vector>
 
 namespace desktop {
-
-struct ConstraintKind : objc::Kind<ConstraintKind, "NSLayoutConstraint"> {
-    using Kind::Kind;
-};
 
 /// What a constraint says: first = multiplier × second + constant, or ≤, or ≥. Without a second
 /// item the constant stands alone.
@@ -29,12 +26,12 @@ struct ConstraintTerms {
 
 /// Inactive, it keeps its items alive; active, it is kept itself by the nearest view around both.
 /// Main thread.
-class LayoutConstraint : public PlatformClass<LayoutConstraint, ConstraintKind> {
+class LayoutConstraint : public PlatformClass<LayoutConstraint, ui::LayoutConstraint> {
 public:
     static std::vector<objc::MethodRow> methods();
 
     /// An inactive constraint.
-    static ConstraintKind with(const ConstraintTerms& terms);
+    static ui::LayoutConstraint with(const ConstraintTerms& terms);
 
     [[nodiscard]] const ConstraintTerms& terms() const { return terms_; }
     [[nodiscard]] float priority() const { return priority_; }
@@ -48,9 +45,10 @@ public:
     void noteBroken(bool broken);
 
 private:
-    static ConstraintKind make(Class, objc::Object first, LayoutAttribute firstAttribute,
-                               Relation relation, objc::Object second,
-                               LayoutAttribute secondAttribute, double multiplier, double constant);
+    static ui::LayoutConstraint make(Class, objc::Object first, LayoutAttribute firstAttribute,
+                                     Relation relation, objc::Object second,
+                                     LayoutAttribute secondAttribute, double multiplier,
+                                     double constant);
     static void activateAll(Class, ns::Array constraints);
     static void deactivateAll(Class, ns::Array constraints);
     [[nodiscard]] ns::String description() const;

@@ -3,12 +3,14 @@
 
 #include "bindings/objc/pool.hpp"
 #include "bindings/uikit/label.hpp"
+#include "bindings/uikit/layout_constraint.hpp"
+#include "bindings/uikit/layout_guide.hpp"
 #include "bindings/uikit/scroll_view.hpp"
+#include "desktop/uikit/application/screen.hpp"
 #include "desktop/uikit/constraints/layout_constraint.hpp"
 #include "desktop/uikit/constraints/layout_guide.hpp"
 #include "desktop/uikit/constraints/view_constraints.hpp"
-#include "desktop/uikit/screen.hpp"
-#include "desktop/uikit/view.hpp"
+#include "desktop/uikit/views/view.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -218,10 +220,10 @@ private:
                        ? contentBox(view)
                        : boxes_[view.raw()];
         }
-        return guideBox(item.assume<GuideKind>());
+        return guideBox(item.assume<ui::LayoutGuide>());
     }
 
-    LayoutBox guideBox(GuideKind guide) {
+    LayoutBox guideBox(ui::LayoutGuide guide) {
         const LayoutGuide& peer = LayoutGuide::of(guide);
         const ui::View owner = peer.owner();
         const LayoutBox outer = boxes_[owner.raw()];
@@ -305,9 +307,9 @@ private:
     std::map<id, LayoutBox> boxes_;
     std::map<id, LayoutBox> contents_; // of scroll views
     std::vector<ui::View> constrained_;
-    std::vector<GuideKind> guides_;
+    std::vector<ui::LayoutGuide> guides_;
     std::vector<LinearConstraint> own_; // that no NSLayoutConstraint stands for
-    std::vector<ConstraintKind> constraints_;
+    std::vector<ui::LayoutConstraint> constraints_;
     std::vector<std::pair<ui::View, std::size_t>> wrapping_; // and the place of their heights
 };
 

@@ -1,6 +1,8 @@
 // Guides and their owners.
 #include "desktop/uikit/constraints/layout_guide.hpp"
 
+#include "bindings/uikit/layout_guide.hpp"
+
 #include "desktop/uikit/constraints/layout_anchor.hpp"
 
 #include <algorithm>
@@ -18,8 +20,8 @@ std::vector<objc::MethodRow> LayoutGuide::methods() {
     return rows;
 }
 
-GuideKind LayoutGuide::with(ui::View owner, GuideRole role) {
-    const auto guide = GuideKind::make();
+ui::LayoutGuide LayoutGuide::with(ui::View owner, GuideRole role) {
+    const auto guide = ui::LayoutGuide::make();
     of(guide).owner_ = owner;
     of(guide).role_ = role;
     return guide;
@@ -32,7 +34,7 @@ CGRect LayoutGuide::layoutFrame() const {
 
 ui::View viewOf(objc::Object item) {
     const auto view = item.as<ui::View>();
-    return view || !item.as<GuideKind>() ? view : LayoutGuide::of(item).owner();
+    return view || !item.as<ui::LayoutGuide>() ? view : LayoutGuide::of(item).owner();
 }
 
 } // namespace desktop

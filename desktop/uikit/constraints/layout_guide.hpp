@@ -4,15 +4,12 @@
 #include "desktop/uikit/constraints/layout_item.hpp"
 
 #include "bindings/foundation/string.hpp"
+#include "bindings/uikit/layout_guide.hpp"
 #include "desktop/class.hpp"
 
 #include <vector>
 
 namespace desktop {
-
-struct GuideKind : objc::Kind<GuideKind, "UILayoutGuide"> {
-    using Kind::Kind;
-};
 
 /// What decides where a guide is.
 enum class GuideRole {
@@ -23,11 +20,11 @@ enum class GuideRole {
     frame,       ///< a scroll view itself
 };
 
-class LayoutGuide : public PlatformClass<LayoutGuide, GuideKind> {
+class LayoutGuide : public PlatformClass<LayoutGuide, ui::LayoutGuide> {
 public:
     static std::vector<objc::MethodRow> methods();
 
-    static GuideKind with(ui::View owner, GuideRole role);
+    static ui::LayoutGuide with(ui::View owner, GuideRole role);
 
     [[nodiscard]] GuideRole role() const { return role_; }
     /// Nil once the view is gone, or has given the guide up.

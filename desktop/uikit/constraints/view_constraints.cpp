@@ -3,9 +3,11 @@
 
 #include "bindings/uikit/image_view.hpp"
 #include "bindings/uikit/label.hpp"
+#include "bindings/uikit/layout_constraint.hpp"
+#include "bindings/uikit/layout_guide.hpp"
 #include "desktop/uikit/constraints/layout_anchor.hpp"
 #include "desktop/uikit/constraints/layout_engine.hpp"
-#include "desktop/uikit/view.hpp"
+#include "desktop/uikit/views/view.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -114,14 +116,14 @@ void ViewConstraints::dropAcross(ui::View leaving) {
     }
 }
 
-void ViewConstraints::add(ConstraintKind constraint) {
+void ViewConstraints::add(ui::LayoutConstraint constraint) {
     active_.emplace_back(constraint);
     ++activeCount;
     changed();
 }
 
-void ViewConstraints::remove(ConstraintKind constraint) {
-    const objc::Strong<ConstraintKind> kept = constraint;
+void ViewConstraints::remove(ui::LayoutConstraint constraint) {
+    const objc::Strong<ui::LayoutConstraint> kept = constraint;
     if (std::erase(active_, kept) > 0) {
         --activeCount;
         LayoutConstraint::of(kept).letGo(true);
@@ -129,16 +131,16 @@ void ViewConstraints::remove(ConstraintKind constraint) {
     }
 }
 
-void ViewConstraints::activate(ConstraintKind constraint) {
+void ViewConstraints::activate(ui::LayoutConstraint constraint) {
     constraint.send<"setActive:">(objc::Boolean(true));
 }
 
 void ViewConstraints::addAll(ns::Array constraints) {
-    ConstraintKind::sendClass<"activateConstraints:">(constraints);
+    ui::LayoutConstraint::sendClass<"activateConstraints:">(constraints);
 }
 
 void ViewConstraints::removeAll(ns::Array constraints) {
-    ConstraintKind::sendClass<"deactivateConstraints:">(constraints);
+    ui::LayoutConstraint::sendClass<"deactivateConstraints:">(constraints);
 }
 
 ns::Array ViewConstraints::constraints() const {
@@ -155,7 +157,7 @@ void ViewConstraints::setTranslatesMask(bool translates) {
 }
 
 template <GuideRole Role>
-GuideKind ViewConstraints::guide() {
+ui::LayoutGuide ViewConstraints::guide() {
     auto& guide = ownGuides_[Role];
     if (!guide) {
         guide = LayoutGuide::with(view_, Role);
@@ -171,17 +173,17 @@ ns::Array ViewConstraints::layoutGuides() const {
     return list;
 }
 
-void ViewConstraints::addLayoutGuide(GuideKind guide) {
+void ViewConstraints::addLayoutGuide(ui::LayoutGuide guide) {
     if (guide && LayoutGuide::of(guide).owner() != view_) {
-        const objc::Strong<GuideKind> kept = guide;
+        const objc::Strong<ui::LayoutGuide> kept = guide;
         LayoutGuide::of(guide).owner().send<"removeLayoutGuide:">(guide);
         LayoutGuide::of(guide).setOwner(view_);
         guides_.push_back(kept);
     }
 }
 
-void ViewConstraints::removeLayoutGuide(GuideKind guide) {
-    const objc::Strong<GuideKind> kept = guide;
+void ViewConstraints::removeLayoutGuide(ui::LayoutGuide guide) {
+    const objc::Strong<ui::LayoutGuide> kept = guide;
     if (std::erase(guides_, kept) == 0) {
         return;
     }

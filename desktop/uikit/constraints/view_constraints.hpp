@@ -1,6 +1,9 @@
 // UIView's part in constraints: those that it keeps, its guides, and how it clings to its own size.
 #pragma once
 
+#include "bindings/uikit/layout_constraint.hpp"
+#include "bindings/uikit/layout_guide.hpp"
+
 #include "desktop/uikit/constraints/layout_constraint.hpp"
 #include "desktop/uikit/constraints/layout_guide.hpp"
 
@@ -33,12 +36,14 @@ public:
     /// Lets constraints go between what is in that view and what is not: it leaves its superview.
     static void dropAcross(ui::View leaving);
 
-    void add(ConstraintKind constraint);
-    void remove(ConstraintKind constraint);
-    [[nodiscard]] const std::vector<objc::Strong<ConstraintKind>>& active() const {
+    void add(ui::LayoutConstraint constraint);
+    void remove(ui::LayoutConstraint constraint);
+    [[nodiscard]] const std::vector<objc::Strong<ui::LayoutConstraint>>& active() const {
         return active_;
     }
-    [[nodiscard]] const std::vector<objc::Strong<GuideKind>>& guides() const { return guides_; }
+    [[nodiscard]] const std::vector<objc::Strong<ui::LayoutGuide>>& guides() const {
+        return guides_;
+    }
     /// Whether constraints decide its frame, and not the frame that was set.
     [[nodiscard]] bool isConstrained() const { return !translatesMask_; }
     [[nodiscard]] float hugging(std::size_t axis) const { return hugging_[axis]; }
@@ -56,12 +61,12 @@ private:
     [[nodiscard]] ns::Array constraints() const;
     void addAll(ns::Array constraints);
     void removeAll(ns::Array constraints);
-    void activate(ConstraintKind constraint);
+    void activate(ui::LayoutConstraint constraint);
     template <GuideRole Role>
-    [[nodiscard]] GuideKind guide();
+    [[nodiscard]] ui::LayoutGuide guide();
     [[nodiscard]] ns::Array layoutGuides() const;
-    void addLayoutGuide(GuideKind guide);
-    void removeLayoutGuide(GuideKind guide);
+    void addLayoutGuide(ui::LayoutGuide guide);
+    void removeLayoutGuide(ui::LayoutGuide guide);
     [[nodiscard]] float huggingFor(long axis) const;
     void setHugging(float priority, long axis);
     [[nodiscard]] float compressionFor(long axis) const;
@@ -73,9 +78,9 @@ private:
 
     ui::View view_;
     bool translatesMask_ = true;
-    std::vector<objc::Strong<ConstraintKind>> active_;
-    std::vector<objc::Strong<GuideKind>> guides_; // that were added
-    std::map<GuideRole, objc::Strong<GuideKind>> ownGuides_;
+    std::vector<objc::Strong<ui::LayoutConstraint>> active_;
+    std::vector<objc::Strong<ui::LayoutGuide>> guides_; // that were added
+    std::map<GuideRole, objc::Strong<ui::LayoutGuide>> ownGuides_;
     std::array<float, 2> hugging_{layout_priority::hugging, layout_priority::hugging};
     std::array<float, 2> compression_{layout_priority::compressionResistance,
                                       layout_priority::compressionResistance};

@@ -7,11 +7,11 @@ namespace desktop {
 namespace {
 
 /// The direction along which the way mainly leads.
-unsigned long directionOf(CGPoint way) {
+SwipeRule::Direction directionOf(CGPoint way) {
     if (std::abs(way.x) >= std::abs(way.y)) {
-        return way.x < 0 ? SwipeRule::leftward : SwipeRule::rightward;
+        return way.x < 0 ? SwipeRule::Direction::left : SwipeRule::Direction::right;
     }
-    return way.y < 0 ? SwipeRule::upward : SwipeRule::downward;
+    return way.y < 0 ? SwipeRule::Direction::up : SwipeRule::Direction::down;
 }
 
 } // namespace
@@ -31,7 +31,7 @@ GestureStep SwipeRule::moved(Fingers fingers, double) {
     if (distance(way, {}) < shortest) {
         return GestureStep::none;
     }
-    const bool made = fingers.size() == touches && (directionOf(way) & directions) != 0;
+    const bool made = fingers.size() == touches && objc::haveAny(directions, directionOf(way));
     return made ? GestureStep::end : GestureStep::fail;
 }
 

@@ -1,6 +1,8 @@
 // Swipes: fingers that flick in one direction.
 #pragma once
 
+#include "bindings/uikit/swipe_gesture_recognizer.hpp"
+
 #include "desktop/uikit/gestures/gesture_rule.hpp"
 
 namespace desktop {
@@ -11,10 +13,9 @@ public:
     static constexpr double shortest = 50;
     static constexpr double longest = 0.5;
 
-    /// The platform's bits.
-    enum Direction : unsigned long { rightward = 1, leftward = 2, upward = 4, downward = 8 };
+    using Direction = ui::SwipeGestureRecognizerDirection;
 
-    unsigned long directions = rightward;
+    Direction directions = Direction::right;
     unsigned long touches = 1;
 
     GestureStep down(Fingers fingers, double now) override;

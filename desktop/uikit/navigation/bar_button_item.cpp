@@ -1,6 +1,8 @@
 // Bar button items: what the system's look like, and sending their actions.
 #include "desktop/uikit/navigation/bar_button_item.hpp"
 
+#include "bindings/uikit/bar_button_item.hpp"
+
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -116,8 +118,8 @@ ui::View BarButtonItem::view() {
         return customView_;
     }
     if (!button_) {
-        button_ = ui::Button::ofType(ui::ButtonType::system);
-        button_.addTarget(self(), objc::selector<"pressed">(), ui::control_events::touchUpInside);
+        button_ = ui::Button::withType(ui::ButtonType::system);
+        button_.addTarget(self(), objc::selector<"pressed">(), ui::ControlEvents::touchUpInside);
         contentChanged();
     }
     return button_;
@@ -131,8 +133,8 @@ void BarButtonItem::contentChanged() {
     button_.titleLabel().setFont(
         ui::Font::system(titleSize, bold ? ui::Font::semibold : ui::Font::regular));
     button_.setTitle(image_ ? ns::String() : static_cast<ns::String>(title_),
-                     ui::control_state::normal);
-    button_.setImage(image_, ui::control_state::normal);
+                     ui::ControlState::normal);
+    button_.setImage(image_, ui::ControlState::normal);
     button_.setEnabled(enabled_);
     button_.setAccessibilityLabel(title_);
     if (tintColor_) {
@@ -151,7 +153,7 @@ double BarButtonItem::width(double barHeight) {
 
 void BarButtonItem::pressed() {
     const objc::Strong<ui::BarButtonItem> kept = self();
-    ui::Responder target = target_.assume<ui::Responder>();
+    auto target = static_cast<objc::Object>(target_).assume<ui::Responder>();
     for (ui::Responder next = button_; !target && next; next = next.nextResponder()) {
         target = next.respondsToSelector(action_) ? next : ui::Responder();
     }

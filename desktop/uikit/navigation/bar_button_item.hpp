@@ -1,6 +1,8 @@
 // UIBarButtonItem: a button, a view or a space in a bar.
 #pragma once
 
+#include "bindings/objc/weak.hpp"
+#include "bindings/uikit/bar_button_item.hpp"
 #include "bindings/uikit/button.hpp"
 #include "bindings/uikit/navigation_bar.hpp"
 
@@ -39,7 +41,7 @@ private:
     objc::Strong<ui::Button> button_;
     ui::BarButtonStyle style_ = ui::BarButtonStyle::plain;
     ui::BarButtonSystemItem systemItem_ = ordinary;
-    objc::Object target_; // not retained, as on the phone
+    objc::Weak<objc::Object> target_;
     SEL action_ = nullptr;
     double width_ = 0;
     long tag_ = 0;

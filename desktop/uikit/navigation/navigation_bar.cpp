@@ -1,6 +1,8 @@
 // Navigation bars: the title, the way back and the buttons of the top item.
 #include "desktop/uikit/navigation/navigation_bar.hpp"
 
+#include "bindings/uikit/bar_button_item.hpp"
+
 #include "desktop/uikit/navigation/bar_button_item.hpp"
 #include "desktop/uikit/navigation/navigation_item.hpp"
 
@@ -136,18 +138,18 @@ void NavigationBar::showBackButton(ui::NavigationItem top) {
     }
     const auto previous = items_.at(count - 2);
     const ns::String title = NavigationItem::of(previous).backTitle();
-    backButton_ = ui::Button::ofType(ui::ButtonType::system);
+    backButton_ = ui::Button::withType(ui::ButtonType::system);
     backButton_.setImage(
-        ui::Image::systemNamed(u"chevron.left"_ns,
-                               ui::SymbolConfiguration::of(21, ui::SymbolWeight::regular)),
-        ui::control_state::normal);
+        ui::Image::systemNamed(u"chevron.left"_ns, ui::ImageSymbolConfiguration::withPointSize(
+                                                       21, ui::SymbolWeight::regular)),
+        ui::ControlState::normal);
     backButton_.titleLabel().setFont(ui::Font::system(titleSize));
-    backButton_.setTitle(title ? title : u"返回"_ns, ui::control_state::normal);
+    backButton_.setTitle(title ? title : u"返回"_ns, ui::ControlState::normal);
     constexpr double space = 6; // between chevron and title
     backButton_.setTitleEdgeInsets({0, space, 0, -space});
     backButton_.setContentEdgeInsets({0, 0, 0, space});
     backButton_.addTarget(self(), objc::selector<"backPressed">(),
-                          ui::control_events::touchUpInside);
+                          ui::ControlEvents::touchUpInside);
     self().addSubview(backButton_);
 }
 

@@ -1,6 +1,7 @@
 // UINavigationBar: the title of a screen, small in the bar or large below it, and its buttons.
 #pragma once
 
+#include "bindings/uikit/bar_button_item.hpp"
 #include "bindings/uikit/button.hpp"
 #include "bindings/uikit/label.hpp"
 #include "bindings/uikit/navigation_bar.hpp"
@@ -34,7 +35,7 @@ private:
     void placeSmallTitle(double left, double right, double top);
     [[nodiscard]] CGSize sizeThatFits(CGSize room) const;
 
-    objc::Strong<ns::Array> items_;
+    objc::Copied<ns::Array> items_;
     objc::Strong<ui::Label> titleLabel_;
     objc::Strong<ui::View> titleView_;
     objc::Strong<ui::Button> backButton_;

@@ -3,11 +3,13 @@
 
 #include "bindings/foundation/exception.hpp"
 #include "bindings/uikit/application.hpp"
+#include "bindings/uikit/screen.hpp"
+#include "desktop/uikit/controllers/view_controller.hpp"
 #include "desktop/uikit/navigation/navigation_bar.hpp"
 #include "desktop/uikit/navigation/toolbar.hpp"
 #include "desktop/uikit/presentation/transition.hpp"
 #include "desktop/uikit/presentation/transition_view.hpp"
-#include "desktop/uikit/view_controller.hpp"
+#include "desktop/uikit/values/color.hpp"
 
 #include <algorithm>
 
@@ -19,10 +21,7 @@ using namespace ns::literals;
 constexpr double pushDuration = 0.35;
 
 /// The platform's bars let what is behind them shine through, so blurred that it is a grey.
-ui::Color barColor() {
-    constexpr double white = 0.976;
-    return ui::Color::white(white, 1);
-}
+ui::Color barColor() { return Color::adaptive({0.976, 0.976, 0.976}, {0.086, 0.086, 0.086}); }
 
 ui::Color lineColor() { return ui::Color::sendClass<"separatorColor", ui::Color>(); }
 
@@ -83,9 +82,14 @@ ui::NavigationController NavigationController::initWithRoot(ui::ViewController r
 void NavigationController::loadView() {
     const auto view = LayoutContainerKind::make<"initWithFrame:">(CGRect());
     view.setBackgroundColor(ui::Color::systemBackground());
-    using namespace ui::autoresizing;
+    using enum ui::ViewAutoresizing;
     view.setAutoresizingMask(flexibleWidth | flexibleHeight);
-    LayoutContainer::of(view).arrange = [this](CGRect bounds) { layOut(bounds); };
+    // The view may outlive its controller, as at the end of a presentation.
+    LayoutContainer::of(view).arrange = [known = objc::Weak(self())](CGRect bounds) {
+        if (const auto kept = known.strong(); kept) {
+            of(kept).layOut(bounds);
+        }
+    };
     barBackground_ = ui::View::withFrame({});
     barBackground_.setBackgroundColor(barColor());
     barLine_ = ui::View::withFrame({});
@@ -244,7 +248,7 @@ void NavigationController::layOut(CGRect bounds) {
     const double width = bounds.size.width;
     const double barHeight = barHidden_ ? 0 : bar_.sizeThatFits({width, 0}).height;
     const double toolbarHeight = toolbarHidden_ ? 0 : Toolbar::barHeight;
-    const double line = 1 / ui::Screen::main().scale();
+    const double line = 1 / ui::Screen::mainScreen().scale();
     const double bottom = safe.top + barHeight;
     bar_.setFrame({{0, safe.top}, {width, barHeight}});
     barBackground_.setFrame({{}, {width, bottom}});

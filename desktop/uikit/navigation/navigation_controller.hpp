@@ -1,6 +1,7 @@
 // UINavigationController: a stack of screens below a bar.
 #pragma once
 
+#include "bindings/objc/weak.hpp"
 #include "bindings/uikit/navigation_controller.hpp"
 #include "bindings/uikit/toolbar.hpp"
 
@@ -50,7 +51,7 @@ private:
     objc::Strong<ui::View> barLine_;
     objc::Strong<ui::Toolbar> toolbar_;
     objc::Strong<ui::View> toolbarBackground_;
-    objc::Object delegate_;
+    objc::Weak<objc::Object> delegate_;
     bool barHidden_ = false;
     bool toolbarHidden_ = true;
 };

@@ -1,6 +1,7 @@
 // UINavigationItem: what a navigation bar shows for a screen.
 #pragma once
 
+#include "bindings/uikit/bar_button_item.hpp"
 #include "bindings/uikit/navigation_bar.hpp"
 
 #include "desktop/class.hpp"

@@ -2,6 +2,7 @@
 // is asked about it.
 #pragma once
 
+#include "bindings/objc/weak.hpp"
 #include "bindings/uikit/popover_presentation_controller.hpp"
 
 #include "desktop/class.hpp"
@@ -11,20 +12,20 @@ namespace desktop {
 class PresentationController
     : public PlatformClass<PresentationController, ui::PresentationController> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
             objc::property<"delegate", &PresentationController::delegate_>(),
         };
     }
 
 private:
-    objc::Object delegate_;
+    objc::Weak<objc::Object> delegate_;
 };
 
 class PopoverPresentationController
     : public PlatformClass<PopoverPresentationController, ui::PopoverPresentationController> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
             objc::property<"sourceView", &PopoverPresentationController::sourceView_>(),
             objc::property<"sourceRect", &PopoverPresentationController::sourceRect_,
@@ -42,7 +43,7 @@ public:
     }
     /// In the anchor view's coordinates; all of it unless a rectangle was set.
     [[nodiscard]] CGRect anchor() const { return hasRect_ ? sourceRect_ : anchorView().bounds(); }
-    [[nodiscard]] unsigned long sides() const { return sides_; }
+    [[nodiscard]] ui::PopoverArrowDirection sides() const { return sides_; }
     [[nodiscard]] ui::Color background() const { return background_; }
 
 private:
@@ -52,7 +53,7 @@ private:
     objc::Strong<objc::Object> barButtonItem_;
     objc::Strong<ui::Color> background_;
     CGRect sourceRect_;
-    unsigned long sides_ = ui::popover_arrow::any;
+    ui::PopoverArrowDirection sides_ = ui::PopoverArrowDirection::any;
     bool hasRect_ = false;
 };
 

@@ -2,14 +2,15 @@
 #include "desktop/uikit/presentation/presentation.hpp"
 
 #include "bindings/foundation/exception.hpp"
+#include "bindings/uikit/activity_view_controller.hpp"
 #include "bindings/uikit/alert_controller.hpp"
 #include "desktop/uikit/alerts/alert_controller.hpp"
+#include "desktop/uikit/application/screen.hpp"
+#include "desktop/uikit/controllers/view_controller.hpp"
 #include "desktop/uikit/presentation/popover_presentation_controller.hpp"
 #include "desktop/uikit/presentation/transition.hpp"
 #include "desktop/uikit/presentation/transition_view.hpp"
-#include "desktop/uikit/screen.hpp"
-#include "desktop/uikit/view.hpp"
-#include "desktop/uikit/view_controller.hpp"
+#include "desktop/uikit/views/view.hpp"
 
 #include <algorithm>
 
@@ -17,8 +18,6 @@ namespace desktop {
 namespace {
 
 using namespace ns::literals;
-
-constexpr double sheetCornerRadius = 10;
 
 /// What a popover keeps clear of the edges of the safe area.
 constexpr double popoverMargin = 10;
@@ -89,7 +88,10 @@ Presentation::Presentation(ui::ViewController presenting, ui::ViewController pre
 
 Presentation::Look Presentation::lookFor(ui::ViewController presented) {
     if (const auto alert = presented.as<ui::AlertController>(); alert) {
-        return alert.style() == ui::AlertStyle::alert ? Look::alert : Look::actionSheet;
+        return alert.preferredStyle() == ui::AlertStyle::alert ? Look::alert : Look::actionSheet;
+    }
+    if (presented.as<ui::ActivityViewController>()) {
+        return Look::sheet; // whatever style it was given, as on the phone
     }
     using Style = ui::ModalPresentation;
     switch (ViewController::of(presented).phoneStyle()) {
@@ -146,12 +148,14 @@ void Presentation::enter(ui::Window window, bool animated) {
 }
 
 void Presentation::buildViews(CGRect bounds, ui::View view) {
-    using namespace ui::autoresizing;
+    using enum ui::ViewAutoresizing;
     container_ = TransitionViewKind::make<"initWithFrame:">(bounds);
     container_.setAutoresizingMask(flexibleWidth | flexibleHeight);
+    // What is drawn around the presented view looks as the view does.
+    container_.setOverrideUserInterfaceStyle(presented_.overrideUserInterfaceStyle());
     const auto dimming = DimmingViewKind::make<"initWithFrame:">(bounds);
     dimming.setAutoresizingMask(flexibleWidth | flexibleHeight);
-    dimming.setBackgroundColor(ui::Color::white(0, this->dimming()));
+    dimming.setBackgroundColor(ui::Color::withWhite(0, this->dimming()));
     if (look_ == Look::popover || look_ == Look::actionSheet) {
         DimmingView::of(dimming).tapped = [presented = presented_] { tapBeside(presented); };
     }
@@ -162,9 +166,9 @@ void Presentation::buildViews(CGRect bounds, ui::View view) {
             PopoverPresentationController::of(ViewController::of(presented_).knownPopover());
         stage_ = PopoverView::around(view, popover.background());
     } else if (look_ == Look::sheet) {
-        stage_ = ui::View::withFrame({});
+        stage_ = SheetViewKind::make<"initWithFrame:">(CGRect());
         stage_.setClipsToBounds(true);
-        stage_.layer().setCornerRadius(sheetCornerRadius);
+        stage_.layer().setCornerRadius(SheetView::cornerRadius);
         stage_.addSubview(view);
     } else {
         stage_ = view;
@@ -183,8 +187,10 @@ void Presentation::place(CGRect bounds) {
         break;
     case Look::sheet: {
         const CGRect frame = sheetFrame(bounds, ScreenGeometry::current().safeArea);
+        stage_.layer().setCornerRadius(frame.origin.y > 0 ? SheetView::cornerRadius : 0);
         // The lower corners lie below the screen.
-        stage_.setFrame({frame.origin, {frame.size.width, frame.size.height + sheetCornerRadius}});
+        stage_.setFrame(
+            {frame.origin, {frame.size.width, frame.size.height + SheetView::cornerRadius}});
         presented_.view().setFrame({{}, frame.size});
         break;
     }

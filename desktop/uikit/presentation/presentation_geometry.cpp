@@ -1,7 +1,6 @@
 // The platform's places of sheets and popovers.
 #include "desktop/uikit/presentation/presentation_geometry.hpp"
 
-#include "bindings/uikit/popover_presentation_controller.hpp"
 #include "desktop/coregraphics/affine.hpp"
 
 #include <algorithm>
@@ -11,17 +10,17 @@
 namespace desktop {
 namespace {
 
-namespace sides = ui::popover_arrow;
+using Side = ui::PopoverArrowDirection;
 
 /// As `std::clamp`, for bounds that may be the wrong way round: the lower one wins.
 double within(double value, double low, double high) {
     return std::max(low, std::min(value, high));
 }
 
-bool isVertical(unsigned long side) { return side == sides::up || side == sides::down; }
+bool isVertical(Side side) { return side == Side::up || side == Side::down; }
 
 /// The room for the box when its arrow is on that side of it and points at the anchor.
-CGRect roomBeside(CGRect anchor, CGRect room, unsigned long side) {
+CGRect roomBeside(CGRect anchor, CGRect room, Side side) {
     const double left = room.origin.x;
     const double top = room.origin.y;
     const double right = left + room.size.width;
@@ -29,13 +28,13 @@ CGRect roomBeside(CGRect anchor, CGRect room, unsigned long side) {
     constexpr double arrow = PopoverPlace::arrowHeight;
     double from = 0;
     switch (side) {
-    case sides::up:
+    case Side::up:
         from = within(anchor.origin.y + anchor.size.height + arrow, top, bottom);
         return {{left, from}, {room.size.width, bottom - from}};
-    case sides::down:
+    case Side::down:
         from = within(anchor.origin.y - arrow, top, bottom);
         return {{left, top}, {room.size.width, from - top}};
-    case sides::left:
+    case Side::left:
         from = within(anchor.origin.x + anchor.size.width + arrow, left, right);
         return {{from, top}, {right - from, room.size.height}};
     default:
@@ -49,7 +48,7 @@ double share(CGSize content, CGRect room) {
            std::min(1.0, room.size.height / std::max(1.0, content.height));
 }
 
-PopoverPlace placeOn(unsigned long side, CGRect anchor, CGSize content, CGRect room) {
+PopoverPlace placeOn(Side side, CGRect anchor, CGSize content, CGRect room) {
     const CGRect free = roomBeside(anchor, room, side);
     const CGSize size{within(content.width, 0, free.size.width),
                       within(content.height, 0, free.size.height)};
@@ -61,9 +60,9 @@ PopoverPlace placeOn(unsigned long side, CGRect anchor, CGSize content, CGRect r
     PopoverPlace place;
     place.side = side;
     if (isVertical(side)) {
-        origin.y = side == sides::up ? free.origin.y : bottom;
+        origin.y = side == Side::up ? free.origin.y : bottom;
     } else {
-        origin.x = side == sides::left ? free.origin.x : right;
+        origin.x = side == Side::left ? free.origin.x : right;
     }
     place.box = {origin, size};
     // The arrow keeps clear of the rounded corners.
@@ -71,9 +70,9 @@ PopoverPlace placeOn(unsigned long side, CGRect anchor, CGSize content, CGRect r
     constexpr double arrow = PopoverPlace::arrowHeight;
     if (isVertical(side)) {
         place.tip = {within(middle.x, origin.x + clear, origin.x + size.width - clear),
-                     side == sides::up ? origin.y - arrow : origin.y + size.height + arrow};
+                     side == Side::up ? origin.y - arrow : origin.y + size.height + arrow};
     } else {
-        place.tip = {side == sides::left ? origin.x - arrow : origin.x + size.width + arrow,
+        place.tip = {side == Side::left ? origin.x - arrow : origin.x + size.width + arrow,
                      within(middle.y, origin.y + clear, origin.y + size.height - clear)};
     }
     return place;
@@ -82,6 +81,9 @@ PopoverPlace placeOn(unsigned long side, CGRect anchor, CGSize content, CGRect r
 } // namespace
 
 CGRect sheetFrame(CGRect screen, UIEdgeInsets safeArea) {
+    if (screen.size.width > screen.size.height) {
+        return screen; // there is no room to spare
+    }
     constexpr double gap = 10; // below the status bar
     const double top = safeArea.top + gap;
     return {{screen.origin.x, screen.origin.y + top},
@@ -90,25 +92,25 @@ CGRect sheetFrame(CGRect screen, UIEdgeInsets safeArea) {
 
 CGRect PopoverPlace::frame() const {
     CGRect all = box;
-    if (side == sides::up || side == sides::down) {
-        all.origin.y -= side == sides::up ? arrowHeight : 0;
+    if (side == Side::up || side == Side::down) {
+        all.origin.y -= side == Side::up ? arrowHeight : 0;
         all.size.height += arrowHeight;
     } else {
-        all.origin.x -= side == sides::left ? arrowHeight : 0;
+        all.origin.x -= side == Side::left ? arrowHeight : 0;
         all.size.width += arrowHeight;
     }
     return all;
 }
 
-PopoverPlace popoverPlace(CGRect anchor, CGSize content, CGRect room,
-                          unsigned long permittedSides) {
-    constexpr std::array order{sides::up, sides::down, sides::left, sides::right};
-    unsigned long best = 0;
+PopoverPlace popoverPlace(CGRect anchor, CGSize content, CGRect room, Side permittedSides) {
+    constexpr std::array order{Side::up, Side::down, Side::left, Side::right};
+    Side best{};
     double bestShare = -1;
-    for (const unsigned long side : order) {
+    for (const Side side : order) {
         const double fits = share(content, roomBeside(anchor, room, side));
         // With no permitted side at all, every side is.
-        const bool permitted = (permittedSides & sides::any) == 0 || (permittedSides & side) != 0;
+        const bool permitted =
+            !objc::haveAny(permittedSides, Side::any) || objc::haveAny(permittedSides, side);
         if (permitted && fits > bestShare) {
             best = side;
             bestShare = fits;

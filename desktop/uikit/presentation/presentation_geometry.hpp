@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bindings/coregraphics/geometry.hpp"
+#include "bindings/uikit/popover_presentation_controller.hpp"
 
 namespace desktop {
 
@@ -12,8 +13,8 @@ namespace desktop {
 struct PopoverPlace {
     /// Without the arrow.
     CGRect box;
-    /// The side of the box that the arrow is on (`ui::popover_arrow`).
-    unsigned long side = 0;
+    /// The side of the box that the arrow is on.
+    ui::PopoverArrowDirection side{};
     /// Where the arrow points to.
     CGPoint tip;
 
@@ -28,6 +29,6 @@ struct PopoverPlace {
 /// Puts a popover for `content` next to `anchor`, within `room`: on the first permitted side where
 /// it fits, or else on the one with the most room, made smaller. The box never leaves the room.
 [[nodiscard]] PopoverPlace popoverPlace(CGRect anchor, CGSize content, CGRect room,
-                                        unsigned long permittedSides);
+                                        ui::PopoverArrowDirection permittedSides);
 
 } // namespace desktop

@@ -3,12 +3,12 @@
 
 #include "bindings/uikit/popover_presentation_controller.hpp"
 #include "desktop/coregraphics/graphics_context.hpp"
-#include "desktop/uikit/color.hpp"
+#include "desktop/uikit/values/color.hpp"
 
 namespace desktop {
 namespace {
 
-namespace sides = ui::popover_arrow;
+using Side = ui::PopoverArrowDirection;
 
 /// The arrow as a triangle whose base lies a little inside of the box.
 void traceArrow(cairo_t* context, const PopoverPlace& place) {
@@ -16,10 +16,10 @@ void traceArrow(cairo_t* context, const PopoverPlace& place) {
     constexpr double half = PopoverPlace::arrowBase / 2;
     constexpr double length = PopoverPlace::arrowHeight + overlap;
     const CGPoint tip = place.tip;
-    const double sign = place.side == sides::up || place.side == sides::left ? 1 : -1;
+    const double sign = place.side == Side::up || place.side == Side::left ? 1 : -1;
     cairo_new_path(context);
     cairo_move_to(context, tip.x, tip.y);
-    if (place.side == sides::up || place.side == sides::down) {
+    if (place.side == Side::up || place.side == Side::down) {
         cairo_line_to(context, tip.x + half, tip.y + sign * length);
         cairo_line_to(context, tip.x - half, tip.y + sign * length);
     } else {

@@ -23,7 +23,7 @@ struct LayoutContainerKind : objc::Kind<LayoutContainerKind, "UILayoutContainerV
 template <class Kind>
 class ArrangedView : public PlatformClass<ArrangedView<Kind>, Kind> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{objc::method<"layoutSubviews", &ArrangedView::layoutSubviews>()};
     }
 
@@ -42,6 +42,27 @@ using TransitionView = ArrangedView<TransitionViewKind>;
 /// Holds the bars and the screens of a container.
 using LayoutContainer = ArrangedView<LayoutContainerKind>;
 
+struct SheetViewKind : objc::Kind<SheetViewKind, "UIDropShadowView", ui::View> {
+    using Kind::Kind;
+};
+
+/// The card of a sheet. Its lower corners lie below the screen, and out of the safe area, too.
+class SheetView : public PlatformClass<SheetView, SheetViewKind> {
+public:
+    static auto methods() {
+        return std::array{objc::method<"safeAreaInsets", &SheetView::safeAreaInsets>()};
+    }
+
+    static constexpr double cornerRadius = 10;
+
+private:
+    [[nodiscard]] UIEdgeInsets safeAreaInsets() const {
+        auto insets = super<"safeAreaInsets", UIEdgeInsets>();
+        insets.bottom += cornerRadius;
+        return insets;
+    }
+};
+
 struct DimmingViewKind : objc::Kind<DimmingViewKind, "UIDimmingView", ui::View> {
     using Kind::Kind;
 };
@@ -49,7 +70,7 @@ struct DimmingViewKind : objc::Kind<DimmingViewKind, "UIDimmingView", ui::View> 
 /// Keeps touches from what lies behind it, and tells of taps.
 class DimmingView : public PlatformClass<DimmingView, DimmingViewKind> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
             objc::method<"touchesBegan:withEvent:", &DimmingView::ignore>(),
             objc::method<"touchesMoved:withEvent:", &DimmingView::ignore>(),
@@ -77,7 +98,7 @@ struct PopoverViewKind : objc::Kind<PopoverViewKind, "_UIPopoverView", ui::View>
 /// Draws the box with its arrow; holds one view, rounded as the box.
 class PopoverView : public PlatformClass<PopoverView, PopoverViewKind> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{objc::method<"drawRect:", &PopoverView::drawRect>()};
     }
 

@@ -13,19 +13,18 @@ namespace {
 constexpr double thickness = 3;
 constexpr double gap = 3;
 
-objc::Strong<ui::View> mark(ui::View scrollView, double white) {
+objc::Strong<ui::View> mark(ui::View scrollView, ui::Color color) {
     const auto view = ui::View::withFrame({});
-    constexpr double opacity = 0.35;
     view.setUserInteractionEnabled(false);
-    view.setBackgroundColor(ui::Color::white(white, opacity));
+    view.setBackgroundColor(color);
     view.layer().setCornerRadius(thickness / 2);
     scrollView.addSubview(view);
     return view;
 }
 
-void showIn(ui::View scrollView, objc::Strong<ui::View>& view, double white) {
+void showIn(ui::View scrollView, objc::Strong<ui::View>& view, ui::Color color) {
     if (!view) {
-        view = mark(scrollView, white);
+        view = mark(scrollView, color);
     }
 }
 
@@ -42,12 +41,12 @@ void fadeOut(const objc::Strong<ui::View>& view) {
 
 } // namespace
 
-void ScrollIndicators::show(ui::View scrollView, const ScrollExtent& extent, double white) {
+void ScrollIndicators::show(ui::View scrollView, const ScrollExtent& extent, ui::Color color) {
     if (extent.vertical) {
-        showIn(scrollView, vertical_, white);
+        showIn(scrollView, vertical_, color);
     }
     if (extent.horizontal) {
-        showIn(scrollView, horizontal_, white);
+        showIn(scrollView, horizontal_, color);
     }
     place(extent);
 }

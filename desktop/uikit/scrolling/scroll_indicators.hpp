@@ -19,7 +19,7 @@ struct ScrollExtent {
 class ScrollIndicators {
 public:
     /// Brings the marks up, or to where they belong now.
-    void show(ui::View scrollView, const ScrollExtent& extent, double white);
+    void show(ui::View scrollView, const ScrollExtent& extent, ui::Color color);
     /// Moves marks that are up.
     void place(const ScrollExtent& extent) const;
     /// Lets the marks fade, and go.

@@ -57,10 +57,9 @@ double pageTarget(double start, double offset, double velocity, double length, S
     }
     constexpr double fling = 300; // points a second
     const double from = std::round(start / length);
-    const double nearest = std::round(offset / length);
-    double page = nearest;
-    if (std::abs(velocity) > fling && nearest == from) {
-        page = from + std::copysign(1, velocity);
+    double page = std::round(offset / length);
+    if (std::abs(velocity) > fling) { // on to the next edge that way, wherever the drag went
+        page = velocity > 0 ? std::ceil(offset / length) : std::floor(offset / length);
     }
     return range.nearest(std::clamp(page, from - 1, from + 1) * length);
 }

@@ -1,8 +1,8 @@
 // Finding what the wheel scrolls.
 #include "desktop/uikit/scrolling/wheel.hpp"
 
-#include "desktop/uikit/scroll_view.hpp"
-#include "desktop/uikit/touch_dispatcher.hpp"
+#include "desktop/uikit/events/touch_dispatcher.hpp"
+#include "desktop/uikit/scrolling/scroll_view.hpp"
 
 #include "bindings/objc/pool.hpp"
 

@@ -11,6 +11,8 @@ const rows = [
     [["wheel"], "滚动指针下的视图", "Scrolls the view under the pointer"],
     [["A…Z"], "点按屏幕后输入文字，支持输入法", "Types after a click on the phone; input methods work"],
     [["Esc"], "离开手机，回到页面按钮", "Leaves the phone for the page's buttons"],
+    [["R"], "旋转手机：竖屏、左横屏、右横屏", "Turns the phone: portrait, landscape left, landscape right"],
+    [["D"], "切换浅色与深色外观", "Switches between light and dark"],
     [["Tab"], "在页面控件之间移动", "Moves between the page's controls"],
     [["←", "→"], "在面板标签之间切换", "Moves between the panels' tabs"],
     [["?"], "打开此帮助", "Opens this help"],

@@ -4,6 +4,7 @@ import { Connection } from "./connection.js";
 import { element } from "./element.js";
 import { Fingers } from "./fingers.js";
 import { showHelp } from "./help.js";
+import { holdPhone } from "./holding.js";
 import { typeInto } from "./keyboard.js";
 import { applicationsPanel } from "./panels/applications.js";
 import { eventsPanel } from "./panels/events.js";
@@ -163,6 +164,7 @@ connection.addEventListener("welcome", (event) => {
     showPage();
     fitScreen();
 });
+screen.addEventListener("turned", fitScreen);
 connection.addEventListener("refused", (event) => {
     tell(word("failed") + /** @type {CustomEvent} */ (event).detail.why);
 });
@@ -173,6 +175,9 @@ typeInto(field, part("help"), connection);
 part("glass").addEventListener("pointerdown", () => field.focus({ preventScroll: true }));
 part("take-back").onclick = () => connection.open();
 part("help").onclick = showHelp;
+const holding = holdPhone(connection, attempt);
+part("rotate").onclick = holding.turn;
+part("appearance").onclick = holding.switchAppearance;
 part("language").onclick = () => {
     switchLanguage();
     showPage();
@@ -185,8 +190,15 @@ field.addEventListener("blur", () => {
 });
 window.addEventListener("keydown", (event) => {
     const types = event.target instanceof HTMLInputElement || event.target instanceof HTMLTextAreaElement;
-    if (event.key === "?" && !types) {
+    if (types || event.ctrlKey || event.metaKey || event.altKey) {
+        return;
+    }
+    if (event.key === "?") {
         showHelp();
+    } else if (event.key === "r") {
+        holding.turn();
+    } else if (event.key === "d") {
+        holding.switchAppearance();
     }
 });
 const shownPanel = () => Object.values(panels).find(({ panel }) => !panel.hidden);

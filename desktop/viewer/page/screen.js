@@ -25,8 +25,8 @@ export function readFrame(bytes) {
     return frame;
 }
 
-/** Keeps a canvas like the phone's screen, and as large as its surroundings allow. */
-export class Screen {
+/** Keeps a canvas like the phone's screen, and as large as its surroundings allow. Tells "turned". */
+export class Screen extends EventTarget {
     /** Points of the phone, as the phone tells them. */
     size = { width: 390, height: 844 };
     /** CSS pixels a point. */
@@ -45,6 +45,7 @@ export class Screen {
      * @param {Connection} connection
      */
     constructor(canvas, connection) {
+        super();
         this.#canvas = canvas;
         this.#connection = connection;
         const context = canvas.getContext("2d", { alpha: false });
@@ -60,6 +61,10 @@ export class Screen {
             this.size = /** @type {CustomEvent} */ (event).detail.screen;
             this.#shownScale = 0;
             this.fit();
+        });
+        connection.addEventListener("screen", (event) => {
+            this.size = /** @type {CustomEvent} */ (event).detail.screen;
+            this.dispatchEvent(new Event("turned"));
         });
     }
 

@@ -10,6 +10,8 @@ const words = {
     typingOn: ["正在向手机输入 · Esc 退出", "Typing goes to the phone · Esc leaves"],
     openBeside: ["在新标签页中打开", "Open in a new tab"],
     typingOff: ["点按屏幕后即可输入", "Click the phone to type"],
+    rotate: ["旋转", "Rotate"],
+    appearance: ["深色／浅色", "Light or dark"],
     screenshot: ["截图", "Screenshot"],
     help: ["键盘与手势", "Keys and gestures"],
     language: ["English", "中文"],

@@ -8,5 +8,5 @@
 extern "C" {
 int access(const char* path, int mode);
 int close(int descriptor);
-ssize_t read(int descriptor, void* bytes, size_t size);
+ssize_t pread(int descriptor, void* bytes, size_t size, off_t offset);
 }

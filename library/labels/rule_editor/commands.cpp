@@ -6,8 +6,7 @@
 #include "bindings/uikit/text_storage.hpp"
 #include "library/common/notice.hpp"
 #include "library/labels/rule_editor/editor_text.hpp"
-#include "library/labels/rule_kind.hpp"
-#include "library/startup/preferences.hpp"
+#include "library/preferences/preferences.hpp"
 
 #include <algorithm>
 #include <array>
@@ -21,7 +20,7 @@ using objc::Object;
 /// Moves the caret by lines, unless it is at that end of the text already.
 void moveCaret(ui::TextView editor, ui::LayoutDirection direction) {
     const ui::TextInput input(editor);
-    const long lines = startup::Preferences::read().on(startup::keys.moveFiveLines) ? 5 : 1;
+    const long lines = preferences::Preferences::read().on(preferences::keys.moveFiveLines) ? 5 : 1;
     const ui::TextPosition caret = input.selectedTextRange().start();
     const ui::TextPosition end =
         direction == ui::LayoutDirection::up ? input.beginningOfDocument() : input.endOfDocument();
@@ -53,7 +52,7 @@ void pageDown(ui::View host, Object) {
 
 template <RuleKind Kind>
 void insertMarker(ui::View host, Object) {
-    insertAtCaret(host, ruleKindNames(Kind).marker);
+    insertRule(host, Kind, nullptr);
 }
 
 void deleteLines(ui::View host, Object) {
@@ -65,17 +64,18 @@ void deleteLines(ui::View host, Object) {
 
 void exportText(ui::View host, Object) {
     const ui::TextView editor = inputTextView(host);
-    ui::Pasteboard::general().setString(ns::String::from(withoutHelp(editor.text().utf16())));
-    constexpr double height = 0.5;
+    ui::Pasteboard::generalPasteboard().setString(
+        ns::String::from(withoutHelp(editor.text().utf16())));
     constexpr double seconds = 1.5;
-    showNotice(host.window(), u"所有内容已经复制到剪贴板！"_ns, height, seconds);
+    showNotice(editor.window(), u"所有内容已经复制到剪贴板！"_ns, {.height = 0.5}, seconds);
 }
 
 } // namespace
 
-void insertAtCaret(ui::View host, std::u16string_view text) {
+void insertRule(ui::View host, RuleKind kind, ns::String value) {
     const ui::TextView editor = inputTextView(host);
     const unsigned long caret = std::min(editor.selectedRange().location, editor.text().length());
+    const std::u16string text = std::u16string(ruleKindNames(kind).marker) + value.utf16();
     editor.textStorage().replace({caret, 0}, ns::String::from(text));
     editor.setSelectedRange({caret + text.size(), 0});
 }

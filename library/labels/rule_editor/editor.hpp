@@ -6,14 +6,15 @@
 #include "bindings/uikit/picker_view.hpp"
 #include "bindings/uikit/text_view.hpp"
 #include "bindings/uikit/window.hpp"
+#include "library/labels/rule_kind.hpp"
 
 #include <span>
-#include <string_view>
 
 namespace wentra::labels {
 
 // The editor belongs to the view whose long press opened it, its host: the host is target, delegate
-// and data source of all its parts, and keeps them as properties. Main thread only.
+// and data source of all its parts, and keeps them as properties. It lives for as long as the
+// editor is open (`keepHostWhileOpen`), perhaps no longer. Main thread only.
 
 /// The text view with the rules; nil before the editor was opened.
 [[nodiscard]] ui::TextView inputTextView(ui::View host);
@@ -31,15 +32,16 @@ void setFontNames(ui::View host, ns::Array names);
 [[nodiscard]] ns::Timer pickerTimer(ui::View host);
 void setPickerTimer(ui::View host, ns::Timer timer);
 
-/// Inserts text before the selection, which stays in the text, and puts the caret behind it.
-void insertAtCaret(ui::View host, std::u16string_view text);
+/// Inserts the kind's marker and the value (nil: none) before the selection, which stays in the
+/// text, and puts the caret behind it.
+void insertRule(ui::View host, RuleKind kind, ns::String value);
 
 /// Takes the editor off the screen: every text view and every button that lies directly in the key
 /// window, whoever put it there.
 void removeEditor(ui::View host);
 
-/// Gives a view the editor's look: white with a blue rim and round corners.
-void makeCard(ui::View view);
+/// Gives a view the editor's look: white with a blue border and round corners.
+void applyEditorLook(ui::View view);
 
 /// Adds the hidden font picker to the text view's window, and fills it.
 void addFontPicker(ui::View host, ui::TextView editor);

@@ -1,9 +1,9 @@
 // The table of the buttons, and how they are made.
 #include "library/labels/rule_editor/editor_buttons.hpp"
 
-#include "bindings/uikit/button.hpp"
-#include "bindings/uikit/layout_anchor.hpp"
+#include "bindings/uikit/layout_item.hpp"
 #include "bindings/uikit/window.hpp"
+#include "library/common/buttons.hpp"
 
 #include <array>
 #include <string_view>
@@ -39,19 +39,18 @@ constexpr std::array rows{
     ButtonRow{u"宽度", Column::left, 371, &objc::selector<"kdButtonPressed:">},
 };
 
-constexpr UIEdgeInsets allAround(double points) { return {points, points, points, points}; }
+constexpr UIEdgeInsets equalInsets(double points) { return {points, points, points, points}; }
 
 ui::Button addButton(ui::View host, ui::Window window, std::u16string_view title, SEL action,
-                     double padding) {
-    const auto button = ui::Button::ofType(ui::ButtonType::system);
-    button.setTitle(ns::String::from(title), ui::control_state::normal);
-    button.setContentEdgeInsets(allAround(padding));
-    button.setBackgroundColor(ui::Color::white(1, 0.9));
-    button.layer().setCornerRadius(5);
+                     double padding, double textSize = 0) {
+    const ButtonLook look{.title = ns::String::from(title),
+                          .textSize = textSize,
+                          .background = ui::Color::withWhite(1, 0.9),
+                          .cornerRadius = 5};
+    const auto button = makeButton(look, host, action);
+    button.setContentEdgeInsets(equalInsets(padding));
+    button.setOverrideUserInterfaceStyle(ui::InterfaceStyle::light); // as its background is
     button.setClipsToBounds(true);
-    if (action != nullptr) {
-        button.addTarget(host, action, ui::control_events::touchUpInside);
-    }
     window.addSubview(button);
     return button;
 }
@@ -78,8 +77,7 @@ void addConfirmation(ui::View host, ui::TextView editor) {
     constexpr double textSize = 19;
     const ui::Window window = editor.window();
     const ui::Button button =
-        addButton(host, window, u"确定", objc::selector<"savePressed:">(), padding);
-    button.titleLabel().setFont(ui::Font::system(textSize));
+        addButton(host, window, u"确定", objc::selector<"savePressed:">(), padding, textSize);
     const auto place = ui::constrained(button);
     place.centerX().equalTo(ui::LayoutItem(window).centerX()).activate();
     place.top().equalTo(ui::LayoutItem(editor).bottom(), below).activate();

@@ -3,25 +3,26 @@
 
 #include "bindings/foundation/timer.hpp"
 #include "bindings/objc/associated.hpp"
+#include "bindings/uikit/picker_view.hpp"
 
 #include <array>
 
 namespace wentra::labels {
 namespace {
 
-/// The getter and the setter of a property that the host keeps.
+/// The getter and the setter of a property that the host retains.
 template <objc::Literal Name, class Kind>
-struct Kept {
+struct HostProperty {
     static Kind get(ui::View host) { return objc::associated<Name, Kind>(host); }
     static void set(ui::View host, Kind part) {
         objc::associate<Name>(host, part, objc::Association::retainNonatomic);
     }
 };
 
-using Input = Kept<"inputTextView", ui::TextView>;
-using Picker = Kept<"fontPickerView", ui::PickerView>;
-using FontNames = Kept<"fontNames", ns::Array>;
-using PickerTimer = Kept<"timer", ns::Timer>;
+using Input = HostProperty<"inputTextView", ui::TextView>;
+using Picker = HostProperty<"fontPickerView", ui::PickerView>;
+using FontNames = HostProperty<"fontNames", ns::Array>;
+using PickerTimer = HostProperty<"timer", ns::Timer>;
 
 } // namespace
 

@@ -1,6 +1,7 @@
 // Words, lines and pages of the rule editor.
 #include "library/labels/rule_editor/editor_text.hpp"
 
+#include "library/common/occurrences.hpp"
 #include "library/labels/rule_text.hpp"
 
 #include <algorithm>
@@ -58,12 +59,9 @@ ns::Range linesOf(std::u16string_view text, ns::Range selection) {
 bool endsWithFourBreaks(std::u16string_view text) { return text.ends_with(u"\n\n\n\n"); }
 
 std::u16string withoutHelp(std::u16string_view text) {
-    std::u16string rest;
-    for (std::size_t help = text.find(helpText); help != text.npos; help = text.find(helpText)) {
-        rest.append(text.substr(0, help));
-        text.remove_prefix(help + helpText.size());
-    }
-    return rest.append(text);
+    std::u16string rest(text);
+    replaceAll(rest, helpText, u"");
+    return rest;
 }
 
 double previousPage(double offset, double height) { return std::max(offset - height, 0.0); }

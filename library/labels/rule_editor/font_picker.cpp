@@ -1,8 +1,7 @@
 // The list of fonts: what is chosen is inserted half a second later.
 #include "library/labels/rule_editor/editor.hpp"
 
-#include "bindings/uikit/layout_anchor.hpp"
-#include "library/labels/rule_kind.hpp"
+#include "bindings/uikit/layout_item.hpp"
 
 #include <array>
 
@@ -37,7 +36,7 @@ void selected(ui::View host, ui::PickerView, long row, long) {
 void insertName(ui::View host, ns::Timer timer) {
     fontPickerView(host).setHidden(true);
     const auto name = timer.userInfo().as<ns::String>();
-    insertAtCaret(host, std::u16string(ruleKindNames(RuleKind::font).marker) + name.utf16());
+    insertRule(host, RuleKind::font, name);
     setPickerTimer(host, nullptr);
 }
 
@@ -49,7 +48,7 @@ void addFontPicker(ui::View host, ui::TextView editor) {
     picker.setDataSource(host);
     picker.setDelegate(host);
     picker.setHidden(true);
-    makeCard(picker);
+    applyEditorLook(picker);
     editor.window().addSubview(picker);
     const ui::LayoutItem text(editor);
     const auto place = ui::constrained(picker);

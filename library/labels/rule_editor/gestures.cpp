@@ -1,11 +1,9 @@
 // Gestures on the rule editor's text view.
 #include "library/labels/rule_editor/editor.hpp"
 
-#include "bindings/uikit/pinch_gesture_recognizer.hpp"
 #include "bindings/uikit/tap_gesture_recognizer.hpp"
 #include "bindings/uikit/text_input.hpp"
 #include "library/common/draggable_view.hpp"
-#include "library/common/zoom.hpp"
 #include "library/labels/rule_editor/editor_text.hpp"
 
 #include <array>
@@ -17,11 +15,7 @@ void drag(ui::View, ui::PanGestureRecognizer pan) {
     moveAlong(pan.view(), pan, pan.view().superview());
 }
 
-/// Without bounds, other than the panels.
-void pinch(ui::View, ui::PinchGestureRecognizer pinch) {
-    pinch.view().setTransform(scaled(pinch.view().transform(), pinch.scale()));
-    pinch.setScale(1);
-}
+void pinch(ui::View, ui::PinchGestureRecognizer pinch) { scaleAlong(pinch.view(), pinch); }
 
 /// How many units of the text lie before the tap.
 std::size_t positionOf(ui::TapGestureRecognizer tap, ui::TextView editor) {

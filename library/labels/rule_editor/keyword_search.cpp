@@ -1,10 +1,9 @@
 // The search: every occurrence of a keyword turns orange.
-#include "library/labels/rule_editor/keyword_search.hpp"
-
-#include "bindings/uikit/alert_controller.hpp"
-#include "bindings/uikit/text_attributes.hpp"
-#include "library/common/screens.hpp"
 #include "library/labels/rule_editor/editor.hpp"
+
+#include "bindings/uikit/text_attributes.hpp"
+#include "library/common/alert.hpp"
+#include "library/common/case_insensitive_search.hpp"
 
 #include <array>
 
@@ -17,39 +16,23 @@ void highlight(ui::View host, ns::String keyword) {
     const ui::TextView editor = inputTextView(host);
     const ns::String text = editor.text();
     const auto coloured = ns::MutableAttributedString::make<"initWithString:">(text);
-    for (const ns::Range range : occurrences(text, keyword)) {
+    for (const ns::Range range : occurrencesIgnoringCase(text, keyword)) {
         coloured.addAttribute(ui::attributes::foregroundColor(), ui::Color::orange(), range);
     }
     editor.setAttributedText(coloured);
 }
 
 void ask(ui::View host, objc::Object) {
-    const auto alert =
-        ui::AlertController::with(u"关键词"_ns, u"请输入要搜索的关键词"_ns, ui::AlertStyle::alert);
-    alert.addTextField({});
-    const auto field = alert.textFields().first().assume<ui::TextField>();
-    const auto search = [kept = objc::Strong(host), keyword = objc::Strong(field)](
-                            ui::AlertAction) { kept.send<"highlightKeyword:">(keyword.text()); };
-    alert.addAction(ui::AlertAction::with(u"确定"_ns, ui::AlertActionStyle::normal,
-                                          ui::AlertAction::Handler::from(search)));
-    topViewController().present(alert, true);
+    Alert(u"关键词"_ns, u"请输入要搜索的关键词"_ns)
+        .field()
+        .action(u"确定"_ns,
+                [kept = objc::Strong(host)](ui::TextField keyword) {
+                    kept.send<"highlightKeyword:">(keyword.text());
+                })
+        .present();
 }
 
 } // namespace
-
-std::vector<ns::Range> occurrences(ns::String text, ns::String keyword) {
-    std::vector<ns::Range> found;
-    if (!text || keyword.length() == 0) {
-        return found;
-    }
-    ns::Range rest{0, text.length()};
-    while (const auto range = text.findIgnoringCase(keyword, rest)) {
-        found.push_back(*range);
-        const unsigned long end = range->location + range->length;
-        rest = {end, text.length() - end};
-    }
-    return found;
-}
 
 std::span<const objc::Change> keywordSearch() {
     static constexpr std::array changes{

@@ -1,23 +1,20 @@
 // How the rule editor comes up: by a long press on its host.
 #include "library/labels/rule_editor/editor.hpp"
 
-#include "bindings/uikit/layout_anchor.hpp"
-#include "bindings/uikit/long_press_gesture_recognizer.hpp"
-#include "bindings/uikit/pan_gesture_recognizer.hpp"
-#include "bindings/uikit/pinch_gesture_recognizer.hpp"
-#include "bindings/uikit/tap_gesture_recognizer.hpp"
+#include "bindings/uikit/layout_item.hpp"
 #include "bindings/uikit/text_attributes.hpp"
+#include "library/common/gestures.hpp"
+#include "library/common/outline.hpp"
 #include "library/labels/rule_editor/editor_buttons.hpp"
+#include "library/labels/rule_editor/host_keeper.hpp"
 #include "library/labels/rule_text.hpp"
 #include "library/labels/stored_rules.hpp"
-#include "library/startup/preferences.hpp"
+#include "library/preferences/preferences.hpp"
 
 #include <array>
 
 namespace wentra::labels {
 namespace {
-
-using ui::GestureRecognizer;
 
 constexpr double pressDuration = 0.5;
 
@@ -25,10 +22,7 @@ void attach(ui::View host) {
     if (host.gestureRecognizers().count() > 0) {
         return;
     }
-    const auto press = GestureRecognizer::with<ui::LongPressGestureRecognizer>(
-        host, objc::selector<"handleLongPress33:">());
-    press.setMinimumPressDuration(pressDuration);
-    host.addGestureRecognizer(press);
+    addPress(host, host, objc::selector<"handleLongPress33:">(), pressDuration);
 }
 
 ns::AttributedString styled(std::u16string_view text, ui::Color color, ui::Font font) {
@@ -42,12 +36,13 @@ ns::AttributedString styled(std::u16string_view text, ui::Color color, ui::Font 
 
 /// The help and below it the stored rules.
 ns::AttributedString openingText() {
-    const auto preferences = startup::Preferences::read();
-    const RuleSpacing spacing = preferences.on(startup::keys.spacedRules)
+    const auto preferences = preferences::Preferences::read();
+    const RuleSpacing spacing = preferences.on(preferences::keys.spacedRules)
                                     ? RuleSpacing::blankLines
                                     : RuleSpacing::consecutiveLines;
     const auto text = ns::MutableAttributedString::make();
-    text.append(styled(helpText, ui::Color::red().withAlpha(0.7), ui::Font::boldSystem(12.6)));
+    text.append(
+        styled(helpText, ui::Color::red().withAlphaComponent(0.7), ui::Font::boldSystem(12.6)));
     text.append(styled(listRules(storedRuleSet(), spacing), ui::Color::darkGray(), nullptr));
     return text;
 }
@@ -60,7 +55,7 @@ ui::TextView makeTextView(ui::View host) {
     editor.setEditable(true);
     editor.setSelectable(true);
     editor.setTextContainerInset({15, besideText, besideText, besideText});
-    makeCard(editor);
+    applyEditorLook(editor);
     return editor;
 }
 
@@ -77,20 +72,14 @@ void place(ui::TextView editor, ui::Window window) {
 }
 
 void addGestures(ui::View host, ui::TextView editor) {
-    editor.addGestureRecognizer(
-        GestureRecognizer::with<ui::PanGestureRecognizer>(host, objc::selector<"handleDrag:">()));
-    editor.addGestureRecognizer(GestureRecognizer::with<ui::PinchGestureRecognizer>(
-        host, objc::selector<"zerkpinchGesture:">()));
-    const auto doubleTap = GestureRecognizer::with<ui::TapGestureRecognizer>(
-        host, objc::selector<"zerkhandleDoubleTap:">());
-    doubleTap.setNumberOfTapsRequired(2);
-    editor.addGestureRecognizer(doubleTap);
-    editor.addGestureRecognizer(
-        GestureRecognizer::with<ui::TapGestureRecognizer>(host, objc::selector<"handleTap:">()));
+    addPan(editor, host, objc::selector<"handleDrag:">());
+    addPinch(editor, host, objc::selector<"zerkpinchGesture:">());
+    addTap(editor, host, objc::selector<"zerkhandleDoubleTap:">(), 2);
+    addTap(editor, host, objc::selector<"handleTap:">());
 }
 
 bool hasTextView(ui::View host) {
-    for (const objc::Object view : host.subviews()) {
+    for (const ui::View view : host.subviews()) {
         if (view.as<ui::TextView>()) {
             return true;
         }
@@ -98,7 +87,7 @@ bool hasTextView(ui::View host) {
     return false;
 }
 
-void open(ui::View host, GestureRecognizer press) {
+void open(ui::View host, ui::GestureRecognizer press) {
     const ui::Window window = host.window();
     if (press.state() != ui::GestureState::began || hasTextView(host) || !window) {
         return;
@@ -110,17 +99,16 @@ void open(ui::View host, GestureRecognizer press) {
     addEditorButtons(host, editor);
     addGestures(host, editor);
     addFontPicker(host, editor);
+    keepHostWhileOpen(host, editor);
 }
 
 } // namespace
 
-void makeCard(ui::View view) {
+void applyEditorLook(ui::View view) {
     view.setBackgroundColor(ui::Color::white());
+    view.setOverrideUserInterfaceStyle(ui::InterfaceStyle::light); // as its background is
     view.setClipsToBounds(true);
-    const ca::Layer layer = view.layer();
-    layer.setCornerRadius(6);
-    layer.setBorderColor(ui::Color::blue().withAlpha(0.4).cgColor());
-    layer.setBorderWidth(2.5);
+    drawOutline(view, {6, 2.5, ui::Color::blue().withAlphaComponent(0.4)});
 }
 
 std::span<const objc::Change> editorOpening() {

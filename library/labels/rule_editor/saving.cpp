@@ -7,7 +7,7 @@
 #include "library/labels/stored_rules.hpp"
 #include "library/labels/strings_file.hpp"
 #include "library/labels/term_correction.hpp"
-#include "library/startup/preferences.hpp"
+#include "library/preferences/preferences.hpp"
 
 #include <array>
 
@@ -23,11 +23,12 @@ void saveRules(ui::View, ui::TextView editor) {
 /// corrected when the user wants that.
 std::u16string prepared(std::u16string_view text) {
     std::u16string rules = convertStringsFile(text);
-    const bool corrects = startup::Preferences::read().on(startup::keys.correctTerms);
+    const bool corrects = preferences::Preferences::read().on(preferences::keys.correctTerms);
     return corrects ? correctTerms(rules) : rules;
 }
 
 void save(ui::View host, objc::Object) {
+    const objc::Strong<ui::View> kept = host; // perhaps by the editor alone, which goes here
     for (const objc::Object view : keyWindow().subviews().copied()) {
         if (const auto editor = view.as<ui::TextView>(); editor) {
             editor.setText(ns::String::from(prepared(editor.text().utf16())));
@@ -39,6 +40,7 @@ void save(ui::View host, objc::Object) {
 
 void textChanged(ui::View host, ui::TextView editor) {
     if (endsWithFourBreaks(editor.text().utf16())) {
+        const objc::Strong<ui::View> kept = host; // perhaps by the editor alone, which goes here
         host.send<"saveRulesFromTextView:">(editor);
         removeEditor(host);
     }
@@ -47,9 +49,8 @@ void textChanged(ui::View host, ui::TextView editor) {
 } // namespace
 
 void removeEditor(ui::View host) {
-    for (const objc::Object each : keyWindow().subviews().copied()) {
-        if (const auto view = each.assume<ui::View>();
-            each.as<ui::TextView>() || each.as<ui::Button>()) {
+    for (const ui::View view : keyWindow().subviews().copied()) {
+        if (view.as<ui::TextView>() || view.as<ui::Button>()) {
             view.removeFromSuperview();
         }
     }

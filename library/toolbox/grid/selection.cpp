@@ -1,144 +1,69 @@
 // The picked tiles, their colours and their tokens.
 #include "library/toolbox/grid/selection.hpp"
 
-#include "library/toolbox/grid/statistics.hpp"
-
-#include <array>
-
 namespace wentra::toolbox {
 namespace {
 
-ui::Color tapColour() {
-    constexpr double alpha = 0.25;
-    return ui::Color::rgba(0, 0, 1, alpha);
-}
-
-ui::Color slideColour() {
-    constexpr double alpha = 0.8;
-    return ui::Color::rgba(173 / 255.0, 216 / 255.0, 230 / 255.0, alpha);
-}
-
-void colourTile(FloatingViewController controller, ns::IndexPath path, ui::Color colour) {
-    controller.wordsCollectionView().cellAt(path).contentView().setBackgroundColor(colour);
-}
-
-/// The rows of the set of picked tiles, kept in step with it, so that a slide need not walk
-/// through all of it at each movement.
-class PickedRows {
-public:
-    /// In step with that set. Others may empty or replace the set, which its count tells.
-    const RowSet& of(ns::MutableSet set) {
-        if (set != set_ || set.count() != count_) {
-            rows_ = {};
-            for (const objc::Object path : set.allObjects()) {
-                rows_.insert(path.assume<ns::IndexPath>().item());
-            }
-            remember(set);
-        }
-        return rows_;
-    }
-    void add(ns::MutableSet set, ns::IndexPath path) {
-        if (set) {
-            of(set);
-            set.add(path);
-            rows_.insert(path.item());
-            remember(set);
-        }
-    }
-    void remove(ns::MutableSet set, ns::IndexPath path) {
-        if (set) {
-            of(set);
-            set.remove(path);
-            rows_.erase(path.item());
-            remember(set);
-        }
-    }
-
-private:
-    void remember(ns::MutableSet set) {
-        set_ = set;
-        count_ = set.count();
-    }
-
-    objc::Strong<ns::MutableSet> set_;
-    unsigned long count_ = 0;
-    RowSet rows_;
-};
-
-PickedRows& rows() {
-    static auto* only = new PickedRows; // lives as long as the process
-    return *only;
-}
-
-void tapped(FloatingViewController controller, ui::CollectionView, ns::IndexPath path) {
-    pick(controller, path, PickedBy::tap);
-    updateStatistics(controller);
-}
-
-void untapped(FloatingViewController controller, ui::CollectionView, ns::IndexPath path) {
-    unpick(controller, path);
-    updateStatistics(controller);
-}
-
-void select(FloatingViewController controller, ns::IndexPath path) {
-    if (path && !controller.selectedIndexPaths().contains(path)) {
-        pick(controller, path, PickedBy::slide);
-        updateStatistics(controller);
-    }
-}
-
-void deselect(FloatingViewController controller, ns::IndexPath path) {
-    if (path && controller.selectedIndexPaths().contains(path)) {
-        unpick(controller, path);
-        updateStatistics(controller);
-    }
+ui::Color colourOf(PickedBy gesture) {
+    constexpr double tapAlpha = 0.25;
+    constexpr double slideAlpha = 0.8;
+    return gesture == PickedBy::tap
+               ? ui::Color::withRed(0, 0, 1, tapAlpha)
+               : ui::Color::withRed(173 / 255.0, 216 / 255.0, 230 / 255.0, slideAlpha);
 }
 
 } // namespace
 
-ns::String tokenAt(FloatingViewController controller, ns::IndexPath path) {
-    const ns::Array words = controller.wordsArray();
-    const long row = path && path.section() == 0 ? path.item() : -1;
-    const bool there = row >= 0 && static_cast<unsigned long>(row) < words.count();
-    return there ? words.at(static_cast<unsigned long>(row)).as<ns::String>() : nullptr;
+void Selection::begin() {
+    paths_ = ns::MutableSet::make();
+    tokens_ = ns::MutableArray::make();
 }
 
-void pick(FloatingViewController controller, ns::IndexPath path, PickedBy gesture) {
-    const ns::String token = tokenAt(controller, path);
+std::optional<long> Selection::outside(long first, long last) const {
+    const ns::Enumerator paths = paths_.objects();
+    while (const objc::Object path = paths.next()) {
+        const long row = path.assume<ns::IndexPath>().item();
+        if (row < first || row > last) {
+            return row;
+        }
+    }
+    return std::nullopt;
+}
+
+void Selection::pick(ns::IndexPath path, PickedBy gesture) {
+    const ns::String token = tiles_.tokenAt(path);
     if (!token) {
         return;
     }
-    colourTile(controller, path, gesture == PickedBy::tap ? tapColour() : slideColour());
-    controller.setSelectedString(token);
-    controller.selectedWords().add(token);
-    rows().add(controller.selectedIndexPaths(), path);
+    tiles_.colour(path, colourOf(gesture));
+    lastToken_ = token;
+    tokens_.add(token);
+    paths_.add(path);
 }
 
-void unpick(FloatingViewController controller, ns::IndexPath path) {
+void Selection::unpick(ns::IndexPath path) const {
     if (!path) {
         return;
     }
-    colourTile(controller, path, ui::Color::white());
-    if (const ns::String token = tokenAt(controller, path); token) {
-        controller.selectedWords().removeEqual(token);
+    tiles_.colour(path, ui::Color::white());
+    if (const ns::String token = tiles_.tokenAt(path); token) {
+        tokens_.remove(token);
     }
-    rows().remove(controller.selectedIndexPaths(), path);
+    paths_.remove(path);
 }
 
-const RowSet& pickedRows(FloatingViewController controller) {
-    return rows().of(controller.selectedIndexPaths());
-}
-
-std::span<const objc::Change> selectionCategory() {
-    static constexpr std::array changes{
-        objc::addition<"ZKFloatingViewController",
-                       "collectionView:didSelectItemAtIndexPath:", &tapped>(),
-        objc::addition<"ZKFloatingViewController",
-                       "collectionView:didDeselectItemAtIndexPath:", &untapped>(),
-        objc::addition<"ZKFloatingViewController", "selectItemAtIndexPath:", &select>(),
-        objc::addition<"ZKFloatingViewController", "deselectItemAtIndexPath:", &deselect>(),
-    };
-    return changes;
+void Selection::unpickAll(ns::Array paths) const {
+    for (const objc::Object path : paths) {
+        tiles_.colour(path.assume<ns::IndexPath>(), ui::Color::white());
+    }
+    const auto unpicked = ns::Set::withArray(paths);
+    const ns::Array picked = paths_.allObjects();
+    paths_.removeAll();
+    for (const objc::Object path : picked) {
+        if (!unpicked.contains(path)) {
+            paths_.add(path); // a tile of an earlier text
+        }
+    }
 }
 
 } // namespace wentra::toolbox

@@ -1,10 +1,8 @@
 // Counting tokens, and the counts' labels.
 #include "library/toolbox/grid/statistics.hpp"
 
-#include "library/startup/preferences.hpp"
-#include "library/toolbox/grid/text_counts.hpp"
+#include "library/preferences/preferences.hpp"
 
-#include <array>
 #include <charconv>
 #include <limits>
 #include <string>
@@ -20,19 +18,6 @@ TextCounts countsOf(ns::Array tokens) {
     return counts;
 }
 
-/// The counts of the whole text, which stays the same while tiles are picked.
-const TextCounts& totals(ns::Array tokens) {
-    struct Counted {
-        objc::Strong<ns::Array> tokens;
-        TextCounts counts;
-    };
-    static auto* last = new Counted; // lives as long as the process
-    if (last->tokens != tokens) {
-        *last = {tokens, countsOf(tokens)};
-    }
-    return last->counts;
-}
-
 void tell(ui::Label label, std::u16string_view what, unsigned long count) {
     std::array<char, std::numeric_limits<unsigned long>::digits10 + 1> digits{};
     const char* const first = digits.data();
@@ -44,23 +29,46 @@ void tell(ui::Label label, std::u16string_view what, unsigned long count) {
 
 } // namespace
 
-void updateStatistics(FloatingViewController controller) {
-    if (!startup::Preferences::read().on(startup::keys.countUses)) {
-        return;
-    }
-    const TextCounts whole = totals(controller.wordsArray());
-    const TextCounts picked = countsOf(controller.selectedWords());
-    tell(controller.totalWordsLabel(), u"总文字数量：", whole.words);
-    tell(controller.totalSymbolsLabel(), u"总符号数量：", whole.symbols);
-    tell(controller.selectedWordsLabel(), u"选中的文字数量：", picked.words);
-    tell(controller.selectedSymbolsLabel(), u"选中的符号数量：", picked.symbols);
+ui::Label Statistics::added(CGPoint origin, double width) const {
+    constexpr double height = 20;
+    constexpr double textSize = 12; // beside the buttons of the last row
+    const auto label = ui::Label::withFrame({origin, {width, height}});
+    label.setFont(ui::Font::system(textSize));
+    self().view().addSubview(label);
+    return label;
 }
 
-std::span<const objc::Change> statisticsCategory() {
-    static constexpr std::array changes{
-        objc::addition<"ZKFloatingViewController", "updateStatistics", &updateStatistics>(),
-    };
-    return changes;
+void Statistics::add(double totalsTop, double selectionsTop) {
+    constexpr double left = 15;
+    constexpr double right = 225;
+    constexpr double totalWidth = 180;
+    constexpr double selectedWidth = 230;
+    totalWords_ = added({left, totalsTop}, totalWidth);
+    totalSymbols_ = added({right, totalsTop}, totalWidth);
+    // Its left end lies under a button.
+    totalSymbols_.setTextAlignment(ui::TextAlignment::center);
+    selectedWords_ = added({left, selectionsTop}, selectedWidth);
+    selectedSymbols_ = added({right, selectionsTop}, selectedWidth);
+}
+
+const TextCounts& Statistics::totals() {
+    if (counted_ != tiles_.tokens()) {
+        counted_ = tiles_.tokens();
+        totals_ = countsOf(counted_);
+    }
+    return totals_;
+}
+
+void Statistics::update() {
+    if (!preferences::Preferences::read().on(preferences::keys.countUses)) {
+        return;
+    }
+    const TextCounts& whole = totals();
+    const TextCounts picked = countsOf(selection_.tokens());
+    tell(totalWords_, u"总文字数量：", whole.words);
+    tell(totalSymbols_, u"总符号数量：", whole.symbols);
+    tell(selectedWords_, u"选中的文字数量：", picked.words);
+    tell(selectedSymbols_, u"选中的符号数量：", picked.symbols);
 }
 
 } // namespace wentra::toolbox

@@ -17,8 +17,8 @@ class Measurements {
 public:
     explicit Measurements(double gridWidth) : gridWidth_(gridWidth) {
         constexpr double standardSize = 18;
-        font_ = ui::Font::system(
-            storedSize(startup::Preferences::read(), startup::keys.gridRowHeight, standardSize));
+        font_ = ui::Font::system(storedSize(preferences::Preferences::read(),
+                                            preferences::keys.gridRowHeight, standardSize));
     }
 
     [[nodiscard]] double gridWidth() const { return gridWidth_; }

@@ -7,9 +7,9 @@
 
 namespace wentra::toolbox {
 
-BodyLayout BodyLayout::from(const startup::Preferences& preferences) {
-    using startup::keys;
-    const auto size = [&preferences](const startup::Number& key, double standard) {
+BodyLayout BodyLayout::from(const preferences::Preferences& preferences) {
+    using preferences::keys;
+    const auto size = [&preferences](const preferences::Number& key, double standard) {
         return storedSize(preferences, key, standard);
     };
     return {.top = size(keys.touchViewTop, 150),

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "bindings/coregraphics/geometry.hpp"
-#include "library/startup/preferences.hpp"
+#include "library/preferences/preferences.hpp"
 
 #include <array>
 
@@ -26,7 +26,7 @@ struct BodyLayout {
     double buttonShade;
     std::array<double, 3> rowTops;
 
-    static BodyLayout from(const startup::Preferences& preferences);
+    static BodyLayout from(const preferences::Preferences& preferences);
 
     [[nodiscard]] CGRect body(double screenWidth) const;
     [[nodiscard]] CGRect grid(double screenWidth) const;

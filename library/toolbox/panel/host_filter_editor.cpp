@@ -2,13 +2,15 @@
 #include "library/toolbox/panel/host_filter_editor.hpp"
 
 #include "bindings/dispatch/dispatch.hpp"
-#include "bindings/uikit/long_press_gesture_recognizer.hpp"
-#include "library/startup/preference_writing.hpp"
-#include "library/startup/preferences.hpp"
+#include "bindings/uikit/keyboard.hpp"
+#include "bindings/uikit/navigation_controller.hpp"
+#include "library/common/buttons.hpp"
+#include "library/common/keyboard_insets.hpp"
+#include "library/common/screens.hpp"
+#include "library/preferences/preference_writing.hpp"
+#include "library/preferences/preferences.hpp"
 #include "library/toolbox/panel/buttons.hpp"
 #include "library/toolbox/panel/host_screens.hpp"
-
-#include <array>
 
 namespace wentra::toolbox {
 namespace {
@@ -22,49 +24,24 @@ ui::TextView addText(ui::View view) {
     const CGSize size = view.bounds().size;
     const auto text = ui::TextView::withFrame({{0, top}, {size.width, size.height - otherHeight}});
     text.setFont(ui::Font::system(textSize));
-    text.setAutoresizingMask(ui::autoresizing::flexibleWidth | ui::autoresizing::flexibleHeight);
+    text.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth |
+                             ui::ViewAutoresizing::flexibleHeight);
     text.setText(
-        ns::String::from(startup::Preferences::read().text(startup::keys.blockedHosts[0])));
+        ns::String::from(preferences::Preferences::read().text(preferences::keys.blockedHosts[0])));
     view.addSubview(text);
     return text;
 }
 
-struct EditorButton {
-    ns::String title;
-    ns::String symbol;
-    SEL action;
-};
-
 /// `half`: 0 left, 1 right.
-void addButton(ui::View view, double half, const EditorButton& row, objc::Object target) {
+void addButton(ui::View view, double half, ButtonLook look, objc::Object target, SEL action) {
     constexpr double top = 45;
     constexpr double height = 45;
     constexpr double shade = 0.95;
     const double width = view.bounds().size.width / 2;
-    const auto button = ui::Button::ofType(ui::ButtonType::system);
-    button.setFrame({{half * width, top}, {width, height}});
-    button.setTitle(row.title, ui::control_state::normal);
-    button.setImage(ui::Image::systemNamed(row.symbol), ui::control_state::normal);
+    look.frame = {{half * width, top}, {width, height}};
+    const auto button = makeButton(look, target, action);
     styleButton(button, ButtonTone::usual, shade);
-    button.addTarget(target, row.action, ui::control_events::touchUpInside);
     view.addSubview(button);
-}
-
-void open(FloatingViewController controller, ui::LongPressGestureRecognizer press) {
-    if (press.state() != ui::GestureState::began) {
-        return;
-    }
-    const auto screen = ui::ViewController::make();
-    screen.setModalPresentationStyle(ui::ModalPresentation::fullScreen);
-    const ui::View view = screen.view();
-    view.setBackgroundColor(ui::Color::systemBackground());
-    controller.setAdstextView(addText(view));
-    addButton(view, 0, {u"保存内容"_ns, u"checkmark.square"_ns, objc::selector<"saveContent:">()},
-              controller);
-    addButton(view, 1,
-              {u"关闭窗口"_ns, u"chevron.down.square"_ns, objc::selector<"close1ButtonPressed:">()},
-              controller);
-    presentOverHost(controller, screen);
 }
 
 /// A word in the middle of the view that fades after a while.
@@ -87,32 +64,52 @@ void notify(ui::View view) {
     });
 }
 
-void save(FloatingViewController controller, objc::Object) {
-    const ui::TextView editor = controller.adstextView();
-    if (!editor) {
-        return;
-    }
-    const ns::String text = editor.text();
-    startup::storePreference(u"Host过滤屏蔽"_ns, text ? text : u""_ns);
-    notify(editor.superview());
-}
-
-void close(FloatingViewController controller, objc::Object) {
-    constexpr bool animated = true;
-    const ui::Responder screen = controller.adstextView().superview().nextResponder();
-    screen.as<ui::ViewController>().dismiss(animated);
-    controller.setAdstextView(nullptr);
-}
-
 } // namespace
 
-std::span<const objc::Change> hostFilterEditorCategory() {
-    static constexpr std::array changes{
-        objc::addition<"ZKFloatingViewController", "longPressedStopRecordButton:", &open>(),
-        objc::addition<"ZKFloatingViewController", "saveContent:", &save>(),
-        objc::addition<"ZKFloatingViewController", "close1ButtonPressed:", &close>(),
-    };
-    return changes;
+void HostFilterEditor::open(ui::LongPressGestureRecognizer press) {
+    if (press.state() != ui::GestureState::began) {
+        return;
+    }
+    const auto screen = ui::ViewController::make();
+    screen.setModalPresentationStyle(ui::ModalPresentation::fullScreen);
+    const ui::View view = screen.view();
+    view.setBackgroundColor(ui::Color::systemBackground());
+    text_ = addText(view);
+    addButton(view, 0, {.title = u"保存内容"_ns, .symbol = u"checkmark.square"_ns}, self(),
+              objc::selector<"saveContent:">());
+    addButton(view, 1, {.title = u"关闭窗口"_ns, .symbol = u"chevron.down.square"_ns}, self(),
+              objc::selector<"close1ButtonPressed:">());
+    presentOverHost(self(), screen);
+}
+
+void HostFilterEditor::save(objc::Object) {
+    if (!text_) {
+        return;
+    }
+    const ns::String text = text_.text();
+    if (preferences::storePreference(preferences::keys.blockedHosts[0], text ? text : u""_ns)) {
+        notify(text_.superview());
+    }
+}
+
+void HostFilterEditor::close(objc::Object) {
+    constexpr bool animated = true;
+    const ui::Responder screen = text_.superview().nextResponder();
+    screen.as<ui::ViewController>().dismiss(animated);
+    text_ = nullptr;
+}
+
+void HostFilterEditor::keyboardAppears(ns::Notification notification) {
+    const CGRect bar = self().navigationController().navigationBar().frame();
+    const CGRect keyboard = ui::keyboard::frameEnd(notification);
+    setInsets(text_,
+              {keyWindow().safeAreaInsets().top + bar.size.height, 0, keyboard.size.height, 0});
+}
+
+void HostFilterEditor::keyboardDisappears(ns::Notification) {
+    UIEdgeInsets insets = text_.contentInset();
+    insets.bottom = 0;
+    setInsets(text_, insets);
 }
 
 } // namespace wentra::toolbox

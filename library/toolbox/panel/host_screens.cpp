@@ -2,26 +2,8 @@
 #include "library/toolbox/panel/host_screens.hpp"
 
 #include "bindings/uikit/application.hpp"
-#include "library/common/screens.hpp"
-
-#include <array>
 
 namespace wentra::toolbox {
-namespace {
-
-ui::Window window(FloatingViewController) { return activeWindow(); }
-
-ui::ViewController top(FloatingViewController) { return topViewController(); }
-
-ui::Window firstWindow(FloatingViewController) {
-    return ui::Application::shared().windows().first().assume<ui::Window>();
-}
-
-ui::ModalPresentation adapted(FloatingViewController, objc::Object) {
-    return ui::ModalPresentation::none;
-}
-
-} // namespace
 
 void presentOverHost(FloatingViewController controller, ui::ViewController screen) {
     constexpr bool animated = true;
@@ -29,15 +11,8 @@ void presentOverHost(FloatingViewController controller, ui::ViewController scree
     (host ? host : ui::ViewController(controller)).present(screen, animated);
 }
 
-std::span<const objc::Change> hostScreenCategory() {
-    static constexpr std::array changes{
-        objc::addition<"ZKFloatingViewController", "getWindow", &window>(),
-        objc::addition<"ZKFloatingViewController", "getCurrentViewController", &top>(),
-        objc::addition<"ZKFloatingViewController", "keyWindow", &firstWindow>(),
-        objc::addition<"ZKFloatingViewController",
-                       "adaptivePresentationStyleForPresentationController:", &adapted>(),
-    };
-    return changes;
+ui::Window HostScreens::first() const {
+    return ui::Application::sharedApplication().windows().first().assume<ui::Window>();
 }
 
 } // namespace wentra::toolbox

@@ -1,10 +1,10 @@
 // Where the panel's screens come up.
 #pragma once
 
-#include "bindings/objc/hook.hpp"
+#include "bindings/objc/part.hpp"
+#include "bindings/uikit/window.hpp"
+#include "library/common/screens.hpp"
 #include "library/toolbox/floating_view_controller.hpp"
-
-#include <span>
 
 namespace wentra::toolbox {
 
@@ -12,8 +12,27 @@ namespace wentra::toolbox {
 /// the host has no controller.
 void presentOverHost(FloatingViewController controller, ui::ViewController screen);
 
-/// `getWindow`, `getCurrentViewController`, `keyWindow`, and how popovers adapt to a phone: not at
-/// all.
-std::span<const objc::Change> hostScreenCategory();
+/// The host's windows and screens under the controller's selectors.
+class HostScreens : public objc::Part<FloatingViewController> {
+public:
+    using Part::Part;
+    static HostScreens& of(objc::Object controller);
+    static constexpr auto methods() {
+        return std::array{
+            objc::method<"getWindow", &ScreenLookups::window>(),
+            objc::method<"getCurrentViewController", &ScreenLookups::controller>(),
+            objc::method<"keyWindow", &HostScreens::first>(),
+            objc::method<"adaptivePresentationStyleForPresentationController:",
+                         &HostScreens::adapted>(),
+        };
+    }
+
+private:
+    [[nodiscard]] ui::Window first() const;
+    /// Popovers stay popovers on a phone.
+    [[nodiscard]] ui::ModalPresentation adapted(objc::Object) const {
+        return ui::ModalPresentation::none;
+    }
+};
 
 } // namespace wentra::toolbox

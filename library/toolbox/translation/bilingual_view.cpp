@@ -3,18 +3,17 @@
 
 #include "bindings/avfaudio/speech_synthesizer.hpp"
 #include "bindings/objc/peer.hpp"
-#include "bindings/uikit/activity_view_controller.hpp"
 #include "bindings/uikit/application.hpp"
-#include "bindings/uikit/button.hpp"
-#include "bindings/uikit/pan_gesture_recognizer.hpp"
 #include "bindings/uikit/pasteboard.hpp"
-#include "bindings/uikit/pinch_gesture_recognizer.hpp"
+#include "bindings/uikit/screen.hpp"
 #include "bindings/uikit/text_view.hpp"
+#include "library/common/buttons.hpp"
 #include "library/common/draggable_view.hpp"
-#include "library/common/screens.hpp"
-#include "library/common/zoom.hpp"
+#include "library/common/gestures.hpp"
+#include "library/common/outline.hpp"
+#include "library/common/sharing.hpp"
+#include "library/common/speaking.hpp"
 #include "library/toolbox/translation/replacing.hpp"
-#include "library/toolbox/translation/speaking.hpp"
 
 #include <array>
 
@@ -30,29 +29,29 @@ constexpr double originalTop = 50;
 constexpr double translatedTop = 270;
 constexpr double delayBeforeSpeaking = 0.2;
 
-class Own : public objc::Peer<Own, BilingualView> {
+class BilingualViewPeer : public objc::Peer<BilingualViewPeer, BilingualView> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
             objc::method<"initWithTitle:message:originalText:translatedText:",
-                         &Own::initWithTexts>(),
-            objc::property<"originalTextView", &Own::originalTextView_>(),
-            objc::property<"translatedTextView", &Own::translatedTextView_>(),
-            objc::property<"moveRecognizer", &Own::moveRecognizer_>(),
-            objc::property<"pinchRecognizer", &Own::pinchRecognizer_>(),
-            objc::property<"synth", &Own::synth_>(),
-            objc::method<"handleMoveGesture:", &Own::handleMove>(),
-            objc::method<"handlePinchGesture:", &Own::handlePinch>(),
-            objc::method<"shareOriginalTextButtonClicked", &Own::shareOriginal>(),
-            objc::method<"shareTranslatedTextButtonClicked", &Own::shareTranslated>(),
-            objc::method<"copyOriginalTextButtonClicked", &Own::copyOriginal>(),
-            objc::method<"copyTranslatedTextButtonClicked", &Own::copyTranslated>(),
-            objc::method<"readOriginalButtonClicked", &Own::readOriginal>(),
-            objc::method<"readTranslatedButtonClicked", &Own::readTranslated>(),
-            objc::method<"useOriginalTextButtonClicked", &Own::useOriginal>(),
-            objc::method<"restoreOriginalButtonClicked", &Own::restoreOriginal>(),
-            objc::method<"stopSpeakingButtonClicked", &Own::stopSpeech>(),
-            objc::method<"closeButtonClicked", &Own::close>(),
+                         &BilingualViewPeer::initWithTexts>(),
+            objc::property<"originalTextView", &BilingualViewPeer::originalTextView_>(),
+            objc::property<"translatedTextView", &BilingualViewPeer::translatedTextView_>(),
+            objc::property<"moveRecognizer", &BilingualViewPeer::moveRecognizer_>(),
+            objc::property<"pinchRecognizer", &BilingualViewPeer::pinchRecognizer_>(),
+            objc::property<"synth", &BilingualViewPeer::synth_>(),
+            objc::method<"handleMoveGesture:", &BilingualViewPeer::handleMove>(),
+            objc::method<"handlePinchGesture:", &BilingualViewPeer::handlePinch>(),
+            objc::method<"shareOriginalTextButtonClicked", &BilingualViewPeer::shareOriginal>(),
+            objc::method<"shareTranslatedTextButtonClicked", &BilingualViewPeer::shareTranslated>(),
+            objc::method<"copyOriginalTextButtonClicked", &BilingualViewPeer::copyOriginal>(),
+            objc::method<"copyTranslatedTextButtonClicked", &BilingualViewPeer::copyTranslated>(),
+            objc::method<"readOriginalButtonClicked", &BilingualViewPeer::readOriginal>(),
+            objc::method<"readTranslatedButtonClicked", &BilingualViewPeer::readTranslated>(),
+            objc::method<"useOriginalTextButtonClicked", &BilingualViewPeer::useOriginal>(),
+            objc::method<"restoreOriginalButtonClicked", &BilingualViewPeer::restoreOriginal>(),
+            objc::method<"stopSpeakingButtonClicked", &BilingualViewPeer::stopSpeech>(),
+            objc::method<"closeButtonClicked", &BilingualViewPeer::close>(),
         };
     }
 
@@ -64,15 +63,13 @@ private:
     void addMessage(ns::String message);
     void addButtons();
     void addGestures();
-    template <objc::Literal Action>
-    void addButton(ns::String title, CGRect frame);
-    template <objc::Literal Action>
-    void addGridButton(ns::String title, int index);
+    void addButton(ns::String title, CGRect frame, SEL action, ui::ViewAutoresizing autoresizing);
+    void addGridButton(ns::String title, int index, SEL action);
 
     void handleMove(ui::PanGestureRecognizer pan);
-    void handlePinch(ui::PinchGestureRecognizer pinch);
-    void shareOriginal() { share(originalTextView_.text()); }
-    void shareTranslated() { share(translatedTextView_.text()); }
+    void handlePinch(ui::PinchGestureRecognizer pinch) { scaleAlong(self(), pinch); }
+    void shareOriginal() { shareText(originalTextView_.text()); }
+    void shareTranslated() { shareText(translatedTextView_.text()); }
     void copyOriginal() { copy(originalTextView_.text()); }
     void copyTranslated() { copy(translatedTextView_.text()); }
     void readOriginal() {
@@ -87,8 +84,7 @@ private:
     void restoreOriginal() { restoreReplacedText(originalTextView_.text(), self()); }
     void stopSpeech() { stopSpeaking(synth_); }
     void close();
-    static void share(ns::String text);
-    static void copy(ns::String text) { ui::Pasteboard::general().setString(text); }
+    static void copy(ns::String text) { ui::Pasteboard::generalPasteboard().setString(text); }
 
     objc::Strong<ui::TextView> originalTextView_;
     objc::Strong<ui::TextView> translatedTextView_;
@@ -97,14 +93,14 @@ private:
     objc::Strong<av::SpeechSynthesizer> synth_;
 };
 
-BilingualView Own::initWithTexts(ns::String title, ns::String message, ns::String original,
-                                 ns::String translated) {
-    const double width = ui::Screen::main().bounds().size.width;
+BilingualView BilingualViewPeer::initWithTexts(ns::String title, ns::String message,
+                                               ns::String original, ns::String translated) {
+    const double width = ui::Screen::mainScreen().bounds().size.width;
     super<"initWithFrame:", ui::View>(CGRect{{20, 60}, {width - 40, dialogHeight}});
-    self().setBackgroundColor(ui::Color::white(1, 0.97));
-    self().layer().setCornerRadius(12);
-    self().layer().setBorderWidth(0.5);
-    self().layer().setBorderColor(ui::Color::lightGray().cgColor());
+    self().setBackgroundColor(ui::Color::withWhite(1, 0.97));
+    self().setOverrideUserInterfaceStyle(ui::InterfaceStyle::light); // as its background is
+    self().setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth);
+    drawOutline(self(), {12, 0.5, ui::Color::lightGray()});
     synth_ = av::SpeechSynthesizer::make();
     addTitle(title);
     originalTextView_ = addText(original, originalTop);
@@ -117,29 +113,29 @@ BilingualView Own::initWithTexts(ns::String title, ns::String message, ns::Strin
     return self();
 }
 
-void Own::addTitle(ns::String title) {
+void BilingualViewPeer::addTitle(ns::String title) {
     const auto label = ui::Label::withFrame({{0, margin}, {self().bounds().size.width, 30}});
     label.setText(title);
     label.setTextAlignment(ui::TextAlignment::center);
+    label.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth);
     label.setFont(ui::Font::boldSystem(17));
     self().addSubview(label);
 }
 
-ui::TextView Own::addText(ns::String text, double top) {
+ui::TextView BilingualViewPeer::addText(ns::String text, double top) {
     const double width = self().bounds().size.width - 2 * margin;
     const auto view = ui::TextView::withFrame({{margin, top}, {width, textHeight}});
+    view.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth);
     view.setText(text);
     view.setFont(ui::Font::system(15));
-    view.layer().setCornerRadius(6);
-    view.layer().setBorderWidth(0.5);
-    view.layer().setBorderColor(ui::Color::lightGray().cgColor());
+    drawOutline(view, {6, 0.5, ui::Color::lightGray()});
     self().addSubview(view);
     return view;
 }
 
 /// Tells of an error, where there is no translation. It is no text of the dialog's: it is neither
 /// copied nor stored.
-void Own::addMessage(ns::String message) {
+void BilingualViewPeer::addMessage(ns::String message) {
     const auto label = ui::Label::withFrame({{margin, margin}, translatedTextView_.bounds().size});
     label.setText(message);
     label.setTextColor(ui::Color::secondaryLabel());
@@ -149,72 +145,62 @@ void Own::addMessage(ns::String message) {
     translatedTextView_.addSubview(label);
 }
 
-template <objc::Literal Action>
-void Own::addButton(ns::String title, CGRect frame) {
-    const auto button = ui::Button::ofType(ui::ButtonType::system);
-    button.setFrame(frame);
-    button.setTitle(title, ui::control_state::normal);
-    button.titleLabel().setFont(ui::Font::system(14));
-    button.setBackgroundColor(ui::Color::white(0.95, 1));
-    button.layer().setCornerRadius(6);
-    button.addTarget(self(), objc::selector<Action>(), ui::control_events::touchUpInside);
+void BilingualViewPeer::addButton(ns::String title, CGRect frame, SEL action,
+                                  ui::ViewAutoresizing autoresizing) {
+    const ButtonLook look{.title = title,
+                          .frame = frame,
+                          .textSize = 14,
+                          .background = ui::Color::withWhite(0.95, 1),
+                          .cornerRadius = 6};
+    const auto button = makeButton(look, self(), action);
+    button.setAutoresizingMask(autoresizing);
     self().addSubview(button);
 }
 
-template <objc::Literal Action>
-void Own::addGridButton(ns::String title, int index) {
+void BilingualViewPeer::addGridButton(ns::String title, int index, SEL action) {
+    using enum ui::ViewAutoresizing;
     constexpr int columns = 4;
     const double width = (self().bounds().size.width - 50) * 0.25;
-    addButton<Action>(
-        title, {{margin + (width + margin) * (index % columns), 465.5 + 39.0 * (index / columns)},
-                {width, 29}});
+    const int row = index / columns;
+    const int column = index % columns;
+    addButton(title, {{margin + (width + margin) * column, 465.5 + 39.0 * row}, {width, 29}},
+              action, flexibleLeftMargin | flexibleWidth | flexibleRightMargin);
 }
 
-void Own::addButtons() {
+void BilingualViewPeer::addButtons() {
     const double width = self().bounds().size.width;
-    addButton<"shareOriginalTextButtonClicked">(u"分享原文"_ns, {{margin, 235.5}, {80, 29}});
-    addButton<"shareTranslatedTextButtonClicked">(u"分享翻译"_ns, {{width - 90, 235.5}, {80, 29}});
-    addGridButton<"copyOriginalTextButtonClicked">(u"复制原文"_ns, 0);
-    addGridButton<"copyTranslatedTextButtonClicked">(u"复制翻译"_ns, 1);
-    addGridButton<"readOriginalButtonClicked">(u"朗读原文"_ns, 2);
-    addGridButton<"readTranslatedButtonClicked">(u"朗读翻译"_ns, 3);
-    addGridButton<"useOriginalTextButtonClicked">(u"直接替换"_ns, 4);
-    addGridButton<"restoreOriginalButtonClicked">(u"恢复默认"_ns, 5);
-    addGridButton<"stopSpeakingButtonClicked">(u"停止朗读"_ns, 6);
-    addGridButton<"closeButtonClicked">(u"关闭窗口"_ns, 7);
+    addButton(u"分享原文"_ns, {{margin, 235.5}, {80, 29}},
+              objc::selector<"shareOriginalTextButtonClicked">(),
+              ui::ViewAutoresizing::flexibleRightMargin);
+    addButton(u"分享翻译"_ns, {{width - 90, 235.5}, {80, 29}},
+              objc::selector<"shareTranslatedTextButtonClicked">(),
+              ui::ViewAutoresizing::flexibleLeftMargin);
+    addGridButton(u"复制原文"_ns, 0, objc::selector<"copyOriginalTextButtonClicked">());
+    addGridButton(u"复制翻译"_ns, 1, objc::selector<"copyTranslatedTextButtonClicked">());
+    addGridButton(u"朗读原文"_ns, 2, objc::selector<"readOriginalButtonClicked">());
+    addGridButton(u"朗读翻译"_ns, 3, objc::selector<"readTranslatedButtonClicked">());
+    addGridButton(u"直接替换"_ns, 4, objc::selector<"useOriginalTextButtonClicked">());
+    addGridButton(u"恢复默认"_ns, 5, objc::selector<"restoreOriginalButtonClicked">());
+    addGridButton(u"停止朗读"_ns, 6, objc::selector<"stopSpeakingButtonClicked">());
+    addGridButton(u"关闭窗口"_ns, 7, objc::selector<"closeButtonClicked">());
 }
 
-void Own::addGestures() {
-    moveRecognizer_ = ui::GestureRecognizer::with<ui::PanGestureRecognizer>(
-        self(), objc::selector<"handleMoveGesture:">());
-    pinchRecognizer_ = ui::GestureRecognizer::with<ui::PinchGestureRecognizer>(
-        self(), objc::selector<"handlePinchGesture:">());
-    self().addGestureRecognizer(moveRecognizer_);
-    self().addGestureRecognizer(pinchRecognizer_);
+void BilingualViewPeer::addGestures() {
+    moveRecognizer_ = addPan(self(), self(), objc::selector<"handleMoveGesture:">());
+    pinchRecognizer_ = addPinch(self(), self(), objc::selector<"handlePinchGesture:">());
 }
 
-void Own::handleMove(ui::PanGestureRecognizer pan) { moveAlong(self(), pan, self().superview()); }
-
-void Own::handlePinch(ui::PinchGestureRecognizer pinch) {
-    self().setTransform(scaled(self().transform(), pinch.scale()));
-    pinch.setScale(1);
+void BilingualViewPeer::handleMove(ui::PanGestureRecognizer pan) {
+    moveAlong(self(), pan, self().superview());
 }
 
-void Own::share(ns::String text) {
-    const auto items = ns::MutableArray::make();
-    items.add(text);
-    const auto sheet = ui::ActivityViewController::sharing(items);
-    sheet.setModalPresentationStyle(ui::ModalPresentation::overCurrentContext);
-    topViewController().present(sheet, true);
-}
-
-void Own::close() {
+void BilingualViewPeer::close() {
     stopSpeaking(synth_);
     self().removeFromSuperview();
 }
 
 } // namespace
 
-void registerBilingualView() { Own::registerClass(); }
+void registerBilingualView() { BilingualViewPeer::registerClass(); }
 
 } // namespace wentra::toolbox

@@ -9,24 +9,23 @@ namespace {
 
 using namespace ns::literals;
 
-void tell(ui::View over, ns::String text) {
-    constexpr double height = 0.25;
+void notify(ui::View over, ns::String text) {
     constexpr double seconds = 0.7;
-    showNotice(over, text, height, seconds);
+    showNotice(over, text, {.height = 0.25}, seconds);
 }
 
 } // namespace
 
 void replaceText(ns::String original, ns::String translated, ui::View over) {
     labels::storeTextRule(original.utf16(), translated.utf16());
-    tell(over, u"替换成功,切屏查看结果。"_ns);
+    notify(over, u"替换成功,切屏查看结果。"_ns);
 }
 
 void restoreReplacedText(ns::String shown, ui::View over) {
     if (shown) {
         labels::removeTextRuleShowing(shown.utf16());
     }
-    tell(over, u"删除词汇,已恢复默认❗️"_ns);
+    notify(over, u"删除词汇,已恢复默认❗️"_ns);
 }
 
 } // namespace wentra::toolbox

@@ -1,15 +1,15 @@
 // The alert's actions, each shown only when its preference is on.
 #include "library/toolbox/translation/result_alert.hpp"
 
-#include "bindings/uikit/alert_controller.hpp"
 #include "bindings/uikit/pasteboard.hpp"
+#include "library/common/alert.hpp"
 #include "library/common/screens.hpp"
+#include "library/common/speaking.hpp"
 #include "library/labels/stored_rules.hpp"
-#include "library/startup/preference_keys.hpp"
-#include "library/startup/preferences.hpp"
+#include "library/preferences/preference_keys.hpp"
+#include "library/preferences/preferences.hpp"
 #include "library/toolbox/translation/edit_alert.hpp"
 #include "library/toolbox/translation/replacing.hpp"
-#include "library/toolbox/translation/speaking.hpp"
 
 #include <array>
 
@@ -17,7 +17,7 @@ namespace wentra::toolbox {
 namespace {
 
 using namespace ns::literals;
-using startup::keys;
+using preferences::keys;
 
 constexpr double delayBeforeSpeaking = 0.3;
 
@@ -31,7 +31,7 @@ struct Subject {
 /// An error has no texts: there is nothing to copy then, and the pasteboard stays as it is.
 void copy(ns::String text) {
     if (text) {
-        ui::Pasteboard::general().setString(text);
+        ui::Pasteboard::generalPasteboard().setString(text);
     }
 }
 
@@ -58,7 +58,7 @@ void restore(const Subject& subject) {
 }
 
 struct ResultAction {
-    const startup::Switch& preference;
+    const preferences::Switch& preference;
     std::u16string_view title;
     void (*run)(const Subject&);
 };
@@ -76,21 +76,16 @@ constexpr std::array resultActions{
 } // namespace
 
 void presentResultAlert(const TranslationResult& result, av::SpeechSynthesizer synthesizer) {
-    const auto alert =
-        ui::AlertController::with(result.title, result.message, ui::AlertStyle::alert);
-    const auto preferences = startup::Preferences::read();
+    const Alert alert(result.title, result.message);
+    const auto preferences = preferences::Preferences::read();
     const Subject subject{result.original, result.translated, synthesizer};
     for (const ResultAction& action : resultActions) {
         if (preferences.on(action.preference)) {
-            const auto run = action.run;
-            alert.addAction(ui::AlertAction::with(
-                ns::String::from(action.title), ui::AlertActionStyle::normal,
-                ui::AlertAction::Handler::from([run, subject](ui::AlertAction) { run(subject); })));
+            alert.action(ns::String::from(action.title),
+                         [run = action.run, subject] { run(subject); });
         }
     }
-    alert.addAction(ui::AlertAction::with(u"关闭窗口"_ns, ui::AlertActionStyle::normal, {}));
-    alert.setModalPresentationStyle(ui::ModalPresentation::overCurrentContext);
-    topViewController().present(alert, true);
+    alert.action(u"关闭窗口"_ns).covering(ui::ModalPresentation::overCurrentContext).present();
 }
 
 } // namespace wentra::toolbox

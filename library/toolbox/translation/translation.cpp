@@ -1,17 +1,19 @@
-// The road of a translation: text, requests, answers, dialog.
+// From the text through requests and answers to the dialog.
 #include "library/toolbox/translation/translation.hpp"
 
 #include "bindings/commoncrypto/digest.hpp"
 #include "bindings/dispatch/dispatch.hpp"
-#include "bindings/foundation/json.hpp"
+#include "bindings/foundation/json_serialization.hpp"
 #include "bindings/foundation/url_session.hpp"
 #include "bindings/safariservices/safari_view_controller.hpp"
 #include "bindings/uikit/application.hpp"
+#include "bindings/uikit/button.hpp"
 #include "bindings/uikit/pasteboard.hpp"
 #include "library/common/screens.hpp"
 #include "library/common/text_encoding.hpp"
-#include "library/startup/preference_keys.hpp"
-#include "library/startup/preferences.hpp"
+#include "library/common/text_parts.hpp"
+#include "library/preferences/preference_keys.hpp"
+#include "library/preferences/preferences.hpp"
 #include "library/toolbox/floating_view_controller.hpp"
 #include "library/toolbox/translation/bilingual_view.hpp"
 #include "library/toolbox/translation/result_alert.hpp"
@@ -26,7 +28,7 @@ namespace wentra::toolbox {
 namespace {
 
 using namespace ns::literals;
-using startup::keys;
+using preferences::keys;
 
 /// The synthesizer that reads aloud; a controller that was never shown has none yet.
 av::SpeechSynthesizer synthesizerOf(FloatingViewController controller) {
@@ -39,8 +41,8 @@ av::SpeechSynthesizer synthesizerOf(FloatingViewController controller) {
 void showResult(FloatingViewController controller, ns::String title, ns::String message,
                 ns::String original, ns::String translated) {
     const TranslationResult result{title, message, original, translated};
-    if (startup::Preferences::read().on(keys.bilingualStyle)) {
-        const auto window = ui::Application::shared().windows().first().assume<ui::Window>();
+    if (preferences::Preferences::read().on(keys.bilingualStyle)) {
+        const auto window = ui::Application::sharedApplication().windows().first();
         window.addSubview(BilingualView::with(result));
     } else {
         presentResultAlert(result, synthesizerOf(controller));
@@ -54,7 +56,7 @@ void showError(FloatingViewController controller, ns::String message) {
 
 /// The translation in the service's answer; empty when there is none, as in an error's answer.
 std::u16string translationIn(ns::Data answer) {
-    const auto object = ns::JsonSerialization::object(answer).as<ns::Dictionary>();
+    const auto object = ns::JsonSerialization::object(answer).value.as<ns::Dictionary>();
     const auto results = object.get(u"trans_result"_ns).as<ns::Array>();
     const auto first = results.first().as<ns::Dictionary>();
     return first.get(u"dst"_ns).as<ns::String>().utf16();
@@ -99,15 +101,17 @@ void request(const std::shared_ptr<Translation>& translation, std::size_t index,
     const std::string sign = sha256(signedText(account, line, salt));
     const std::string address = translationAddress(account, line, target, salt, sign);
     const auto completion = ns::UrlSession::Handler::from(
-        // The translation goes on to the main thread: its controller must not end on another.
-        [translation, index](ns::Data answer, ns::UrlResponse, ns::Error error) mutable {
+        // The translation goes on to the main thread: its controller must not end on another. What
+        // is captured by its own name would be constant here, and copied instead of moved.
+        [translation = translation, index](ns::Data answer, ns::UrlResponse,
+                                           ns::Error error) mutable {
             dispatch::async(
                 dispatch::mainQueue(),
                 [translation = std::move(translation), index, answer = objc::Strong(answer),
                  error = objc::Strong(error)] { receive(*translation, index, answer, error); });
         });
     ns::UrlSession::sharedSession()
-        .dataTask(ns::Url::from(ns::String::fromUtf8(address)), completion)
+        .dataTask(ns::Url::withString(ns::String::fromUtf8(address)), completion)
         .resume();
 }
 
@@ -115,7 +119,7 @@ void translateByService(FloatingViewController controller, ns::String text,
                         const TranslationAccount& account) {
     const std::u16string units = text.utf16();
     const std::string_view target = targetLanguage(units);
-    const std::vector<std::u16string> lines = linesOf(units);
+    const std::vector<std::u16string_view> lines = splitLines(units);
     const auto translation = std::make_shared<Translation>(
         Translation{controller, text, TranslationBatch(lines.size())});
     for (std::size_t index = 0; index < lines.size(); ++index) {
@@ -125,7 +129,7 @@ void translateByService(FloatingViewController controller, ns::String text,
 
 void translateOnPage(ns::String text) {
     const auto address = ns::String::fromUtf8(translationPageAddress(text.utf16()));
-    const auto browser = sf::SafariViewController::with(ns::Url::from(address));
+    const auto browser = sf::SafariViewController::with(ns::Url::withString(address));
     topViewController().present(browser, true);
 }
 
@@ -135,13 +139,13 @@ ns::String textToTranslate(FloatingViewController controller, ns::String text) {
     if (words.count() == 0) {
         return text;
     }
-    const ns::String joined = words.joined(u" "_ns);
+    const ns::String joined = words.componentsJoined(u" "_ns);
     words.removeAll();
     return joined;
 }
 
 void translate(FloatingViewController controller, ns::String given) {
-    const auto preferences = startup::Preferences::read();
+    const auto preferences = preferences::Preferences::read();
     const TranslationAccount account{preferences.text(keys.translationIdentifier),
                                      preferences.text(keys.translationSecret)};
     if (account.identifier.empty() || account.secret.empty()) {
@@ -159,7 +163,7 @@ void translate(FloatingViewController controller, ns::String given) {
 }
 
 void translatePasteboard(FloatingViewController controller, objc::Object /*sender*/) {
-    translate(controller, ui::Pasteboard::general().string());
+    translate(controller, ui::Pasteboard::generalPasteboard().string());
 }
 
 void translateGiven(FloatingViewController controller, objc::Object /*sender*/, ns::String text) {
@@ -167,7 +171,7 @@ void translateGiven(FloatingViewController controller, objc::Object /*sender*/, 
 }
 
 void translateText(FloatingViewController controller, ns::String text) {
-    controller.send<"wzjhButtonClicked:selectedText:">(ui::Button::ofType(ui::ButtonType::system),
+    controller.send<"wzjhButtonClicked:selectedText:">(ui::Button::withType(ui::ButtonType::system),
                                                        text);
 }
 

@@ -1,5 +1,7 @@
-// Counts answers and joins lines.
+// Counts answers.
 #include "library/toolbox/translation/translation_batch.hpp"
+
+#include "library/common/text_parts.hpp"
 
 namespace wentra::toolbox {
 
@@ -9,14 +11,7 @@ std::optional<std::u16string> TranslationBatch::complete(std::size_t line,
     if (--outstanding_ != 0) {
         return std::nullopt;
     }
-    std::u16string joined;
-    for (const std::u16string& each : lines_) {
-        if (&each != &lines_.front()) {
-            joined += u'\n';
-        }
-        joined += each;
-    }
-    return joined;
+    return joined(lines_, u"\n");
 }
 
 } // namespace wentra::toolbox

@@ -12,11 +12,6 @@ namespace {
 constexpr std::string_view serviceAddress = "https://fanyi-api.baidu.com/api/trans/vip/translate";
 constexpr std::string_view pageAddress = "https://translate.google.com/";
 
-constexpr bool isNewline(char16_t unit) {
-    return (unit >= u'\n' && unit <= u'\r') || unit == u'\x85' || unit == u'\x2028' ||
-           unit == u'\x2029';
-}
-
 } // namespace
 
 bool containsChinese(std::u16string_view text) {
@@ -26,18 +21,6 @@ bool containsChinese(std::u16string_view text) {
 
 std::string_view targetLanguage(std::u16string_view text) {
     return containsChinese(text) ? "auto" : "zh";
-}
-
-std::vector<std::u16string> linesOf(std::u16string_view text) {
-    std::vector<std::u16string> lines;
-    for (;;) {
-        const auto* const end = std::ranges::find_if(text, isNewline);
-        lines.emplace_back(text.begin(), end);
-        if (end == text.end()) {
-            return lines;
-        }
-        text.remove_prefix(lines.back().size() + 1);
-    }
 }
 
 std::string encodedForService(std::u16string_view text) { return percentEncoded(text, "-._~/?"); }

@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace wentra::toolbox {
 
@@ -14,10 +13,6 @@ bool containsChinese(std::u16string_view text);
 /// The language a text is translated to, as the service names it: "auto" for Chinese text (the
 /// service then chooses English), "zh" for any other.
 std::string_view targetLanguage(std::u16string_view text);
-
-/// The text's lines without their ends, empty lines included; a text without any has one. Each of
-/// the newline characters ends a line: U+000A…U+000D, U+0085, U+2028 and U+2029.
-std::vector<std::u16string> linesOf(std::u16string_view text);
 
 /// The account at the translation service.
 struct TranslationAccount {

@@ -90,7 +90,7 @@ struct ListenerKind : objc::Kind<ListenerKind, "SpeechTestListener"> {
 /// Writes down what a synthesizer tells its delegate: "start a", "finish a", …
 class Listener : public desktop::PlatformClass<Listener, ListenerKind> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
             objc::method<"speechSynthesizer:didStartSpeechUtterance:", &Listener::started>(),
             objc::method<"speechSynthesizer:didFinishSpeechUtterance:", &Listener::finished>(),

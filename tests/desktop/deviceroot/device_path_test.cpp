@@ -31,8 +31,9 @@ TEST_F(DevicePathTest, LeadsUnderTheRoot) {
         {"/var/mobile/../../../../../..", ""},
         {"/var/mobile/..x/...", "/var/mobile/..x/..."},
     };
-    for (const auto& [path, place] : cases)
+    for (const auto& [path, place] : cases) {
         EXPECT_EQ(DevicePath(path).get(), real(place).string()) << path;
+    }
 }
 
 TEST_F(DevicePathTest, LeavesOtherPathsAlone) {
@@ -76,8 +77,9 @@ TEST_F(DevicePathTest, FindsTheDevicePathOfARealOne) {
     EXPECT_STREQ(devicePathOf(real("/var/mobile/x").c_str()), "/var/mobile/x");
     EXPECT_STREQ(devicePathOf(real("/Library").c_str()), "/Library");
     for (const std::string& path : {real("/etc/passwd").string(), real("/var/mobilex").string(),
-                                    std::string("/var/mobile/x"), std::string("x")})
+                                    std::string("/var/mobile/x"), std::string("x")}) {
         EXPECT_EQ(devicePathOf(path.c_str()), path);
+    }
 }
 
 } // namespace

@@ -16,8 +16,9 @@ protected:
     DeviceRootTest() {
         std::string pattern = (std::filesystem::temp_directory_path() / "device.XXXXXX").string();
         root_ = std::filesystem::canonical(mkdtemp(pattern.data()));
-        for (const char* folder : {"var/mobile", "var/jb", "Library", "usr/bin"})
+        for (const char* folder : {"var/mobile", "var/jb", "Library", "usr/bin"}) {
             std::filesystem::create_directories(root_ / folder);
+        }
         previous_ = deviceroot_get();
         deviceroot_set(root_.c_str());
     }

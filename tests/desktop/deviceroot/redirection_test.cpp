@@ -119,8 +119,9 @@ TEST_F(RedirectionTest, ServesTheStandardLibrary) {
     EXPECT_EQ(read("/var/jb/copy/b/c"), "text");
     fs::rename("/var/jb/copy", "/Library/copy");
     int entries = 0;
-    for (const auto& entry : fs::recursive_directory_iterator("/Library/copy"))
+    for (const auto& entry : fs::recursive_directory_iterator("/Library/copy")) {
         entries += entry.exists() ? 1 : 0;
+    }
     EXPECT_EQ(entries, 2);
     EXPECT_EQ(fs::remove_all("/Library/copy"), 3u);
     EXPECT_FALSE(fs::exists(real("/Library/copy")));
@@ -132,8 +133,9 @@ TEST_F(RedirectionTest, ListsFolders) {
     dirent** names = nullptr;
     const int count = scandir("/var/mobile", &names, nullptr, alphasort);
     EXPECT_EQ(count, 3);
-    for (int index = 0; index < count; ++index)
+    for (int index = 0; index < count; ++index) {
         free(names[index]);
+    }
     free(names);
 }
 

@@ -47,8 +47,9 @@ TEST(FontCatalogue, FindsFontsByAnyOfTheirNames) {
 
 TEST(FontCatalogue, KnowsWhatItDoesNotHave) {
     for (const char* name :
-         {"", " ", "AINile-Bold", "Helvetica-", "NoSuchFont", "\xFF\xFE", "Bold"})
+         {"", " ", "AINile-Bold", "Helvetica-", "NoSuchFont", "\xFF\xFE", "Bold"}) {
         EXPECT_FALSE(fontNamed(name, 12)) << name;
+    }
     EXPECT_TRUE(fontNames("NoSuchFamily").empty());
 }
 
@@ -67,8 +68,9 @@ TEST(FontCatalogue, ListsEveryFamilyOnce) {
     for (const std::string& family : families) {
         EXPECT_FALSE(fontNames(family).empty()) << family;
         EXPECT_TRUE(fontNamed(family, 10)) << family;
-        for (const std::string& name : fontNames(family))
+        for (const std::string& name : fontNames(family)) {
             EXPECT_TRUE(fontNamed(name, 10)) << name;
+        }
     }
     const std::vector<std::string> menlo{"Menlo-Regular", "Menlo-Bold", "Menlo-Italic",
                                          "Menlo-BoldItalic"};
@@ -87,8 +89,9 @@ TEST(FontMetrics, AreThoseOfAPhone) {
 }
 
 TEST(FontMetrics, AreZeroForSizesThatDrawNothing) {
-    for (const double size : {0.0, -1.0, std::nan(""), -HUGE_VAL})
+    for (const double size : {0.0, -1.0, std::nan(""), -HUGE_VAL}) {
         EXPECT_EQ(metrics({.size = size}).lineHeight, 0) << size;
+    }
     EXPECT_TRUE(std::isfinite(metrics({.size = HUGE_VAL}).lineHeight));
 }
 

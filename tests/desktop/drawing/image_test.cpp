@@ -23,8 +23,9 @@ Image sample() {
 
 std::vector<std::byte> jpeg() {
     guchar pixels[8 * 8 * 3] = {};
-    for (std::size_t index = 0; index < sizeof pixels; index += 3)
+    for (std::size_t index = 0; index < sizeof pixels; index += 3) {
         pixels[index + 1] = 255;
+    }
     GdkPixbuf* pixbuf =
         gdk_pixbuf_new_from_data(pixels, GDK_COLORSPACE_RGB, FALSE, 8, 8, 8, 24, nullptr, nullptr);
     gchar* bytes = nullptr;
@@ -72,8 +73,9 @@ TEST(Image, RefusesWhatIsNoPicture) {
         constexpr std::size_t signature = 16;
         EXPECT_FALSE(Image::decode(std::span(file).first(signature)));
         std::vector<std::byte> damaged = file;
-        for (std::size_t index = signature; index < damaged.size(); ++index)
+        for (std::size_t index = signature; index < damaged.size(); ++index) {
             damaged[index] = std::byte{0x55};
+        }
         EXPECT_FALSE(Image::decode(damaged));
     }
 }
@@ -82,8 +84,9 @@ TEST(Image, IsClearWhereItEndsEarly) {
     const std::vector<std::byte> png = sample().png();
     for (std::size_t length = 0; length < png.size(); ++length) {
         const auto image = Image::decode(std::span(png).first(length));
-        if (!image)
+        if (!image) {
             continue;
+        }
         EXPECT_EQ(image->size(), sample().size());
         const Colour last = image->pixel(7, 3);
         EXPECT_TRUE(last == sample().pixel(7, 3) || last.alpha == 0) << length;
@@ -100,8 +103,9 @@ TEST(Image, RefusesHugePictures) {
 
 TEST(Image, TakesOnlyScalesThatMakeSense) {
     const std::vector<std::byte> png = sample().png();
-    for (const double scale : {0.0, -2.0, std::nan("")})
+    for (const double scale : {0.0, -2.0, std::nan("")}) {
         EXPECT_EQ(Image::decode(png, scale)->scale(), 1);
+    }
 }
 
 } // namespace

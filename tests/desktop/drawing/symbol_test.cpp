@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -11,8 +14,8 @@ using desktop::symbol;
 using desktop::SymbolStyle;
 
 /// How much ink a symbol has, in pixels.
-double ink(const SymbolStyle& style) {
-    const auto image = symbol("xmark", style, 3);
+double ink(const SymbolStyle& style, const char* name) {
+    const auto image = symbol(name, style, 3);
     double sum = 0;
     for (int y = 0; y < image->pixelHeight(); ++y) {
         for (int x = 0; x < image->pixelWidth(); ++x) {
@@ -72,8 +75,31 @@ TEST(Symbols, GoWithTextOfTheirSize) {
 }
 
 TEST(Symbols, AreHeavierInHeavierWeights) {
-    EXPECT_GT(ink({17, 700}), 1.2 * ink({17, 400}));
-    EXPECT_EQ(ink({17, 100}), ink({17, 400}));
+    for (const char* name : {"xmark", "dongsign.square"}) {
+        EXPECT_GT(ink({17, 700}, name), 1.2 * ink({17, 400}, name));
+        EXPECT_EQ(ink({17, 100}, name), ink({17, 400}, name));
+    }
+}
+
+/// The ink of a symbol at places of it, from 0 to 9 in both directions: `#` all, `.` none.
+std::string look(const char* name, const std::vector<std::pair<int, int>>& places) {
+    const auto image = symbol(name, {50}, 3);
+    std::string seen;
+    for (const auto& [x, y] : places) {
+        const double alpha = image
+                                 ->pixel((2 * x + 1) * image->pixelWidth() / 20,
+                                         (2 * y + 1) * image->pixelHeight() / 20)
+                                 .alpha;
+        seen += alpha > 0.9 ? '#' : alpha < 0.1 ? '.' : '?';
+    }
+    return seen;
+}
+
+TEST(Symbols, AreDrawnByHandWhereTheIconSetHasNone) {
+    EXPECT_EQ(look("dot.viewfinder", {{4, 4}, {1, 0}, {8, 9}, {4, 0}, {2, 2}}), "###..");
+    EXPECT_EQ(look("square.fill.text.grid.1x2", {{1, 2}, {1, 8}, {6, 0}, {6, 1}}), "###.");
+    EXPECT_EQ(look("app.badge.checkmark", {{7, 0}, {2, 1}, {8, 2}, {5, 1}, {4, 5}}), "###..");
+    EXPECT_EQ(look("dongsign.square", {{1, 0}, {8, 9}, {4, 3}, {4, 1}, {7, 7}}), "###..");
 }
 
 TEST(Symbols, SurviveAnySize) {

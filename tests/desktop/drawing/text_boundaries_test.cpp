@@ -30,8 +30,9 @@ TEST(TextBoundaries, KeepCharactersTogether) {
              Case{u"abc", 3, {3, 3}},
              Case{u"", 0, {0, 0}},
              Case{std::u16string(3000, u'x') + u"😀", 3001, {3000, 3002}},
-         })
+         }) {
         EXPECT_EQ(composedCharacter(text, unit), expected) << unit;
+    }
 }
 
 TEST(TextBoundaries, FindWords) {

@@ -27,15 +27,17 @@ public:
 
 std::u16string paragraphs(std::size_t count) {
     std::u16string text;
-    for (std::size_t i = 0; i < count; ++i)
+    for (std::size_t i = 0; i < count; ++i) {
         text += u"Some words, 一些文字, in paragraph after paragraph.\n";
+    }
     return text;
 }
 
 std::u16string words(std::size_t count) {
     std::u16string text;
-    for (std::size_t i = 0; i < count; ++i)
+    for (std::size_t i = 0; i < count; ++i) {
         text += i % 7 == 3 ? u"中文 " : u"word ";
+    }
     return text;
 }
 
@@ -67,8 +69,9 @@ TEST_P(TextFlowLikeOneLayout, WhereverOneLooksFirst) {
     TextFlow flow(source);
     flow.setWidth(300);
     const std::size_t length = source.length();
-    for (const std::size_t unit : {length, length / 2, length / 3, std::size_t{0}})
+    for (const std::size_t unit : {length, length / 2, length / 3, std::size_t{0}}) {
         flow.caret(unit);
+    }
     const double height = length > 0 ? layout.size().height : layout.caretRectangle(0).height;
     EXPECT_NEAR(flow.size().height, height, 0.5);
     for (std::size_t unit = 0; unit <= length; unit += 97) {
@@ -137,6 +140,20 @@ TEST(TextFlow, SelectsLineByLine) {
     EXPECT_NEAR(lines[0].x + lines[0].width, 300, 0.1);
     EXPECT_NEAR(lines[2].x + lines[2].width, flow.caret(9).x, 0.1);
     EXPECT_EQ(flow.rectangles({1, 9}, lines[1].y + 1, lines[1].y + 2).size(), 1u);
+}
+
+TEST(TextFlow, SelectsWhatIsReadFromRightToLeft) {
+    const Plain source(u"שלום abc\nab");
+    TextFlow flow(source);
+    flow.setWidth(300);
+    const auto word = flow.rectangles({1, 3}, 0, 10);
+    ASSERT_EQ(word.size(), 1u);
+    EXPECT_NEAR(word[0].x + word[0].width, flow.caret(1).x, 0.1);
+    EXPECT_NEAR(word[0].x, flow.caret(3).x, 0.1);
+    EXPECT_EQ(flow.rectangles({2, 6}, 0, 10).size(), 2u) << "the rest of a word and a letter";
+    const auto lines = flow.rectangles({1, 11}, 0, 1000);
+    EXPECT_EQ(lines.front().x, 0) << "to where the line ends";
+    EXPECT_EQ(lines.back().x, 0);
 }
 
 TEST(TextFlow, TypingIntoAMillionCharactersIsFast) {

@@ -29,8 +29,9 @@ double ink(const TextLayout& layout, Size area = {200, 60}) {
     const Image image = canvas.snapshot();
     double sum = 0;
     for (int y = 0; y < image.pixelHeight(); ++y) {
-        for (int x = 0; x < image.pixelWidth(); ++x)
+        for (int x = 0; x < image.pixelWidth(); ++x) {
             sum += image.pixel(x, y).alpha;
+        }
     }
     return sum / (image.pixelWidth() * image.pixelHeight());
 }
@@ -49,16 +50,18 @@ TEST(TextLayout, MeasuresOneLine) {
 
 TEST(TextLayout, KeepsLinesEquallyHighInAllScripts) {
     const double height = lay(u"A").size().height;
-    for (const char16_t* text : {u"设置", u"😀", u"A设😀", u"あ한", u"مرحبا"})
+    for (const char16_t* text : {u"设置", u"😀", u"A设😀", u"あ한", u"مرحبا"}) {
         EXPECT_EQ(lay(text).size().height, height);
+    }
 }
 
 TEST(TextLayout, HasAGlyphForEverything) {
     for (const char16_t* text :
          {u"悬浮文本替换器,长按可输入或拖动窗口,双指捏合,双击缩放。在文本替换中↲代表换行。",
           u"Hello 你好 123 😀 ❤️ 👨‍👩‍👧 🇨🇳 é ①",
-          u"《书名》“引号”……——、，。！？", u"a\x01\x7F\x9F\u200B", u"繁體中文 日本語 한국어"})
+          u"《书名》“引号”……——、，。！？", u"a\x01\x7F\x9F\u200B", u"繁體中文 日本語 한국어"}) {
         EXPECT_EQ(lay(text).unknownGlyphCount(), 0u);
+    }
 }
 
 TEST(TextLayout, DrawsWeightsAndFamiliesDifferently) {
@@ -109,8 +112,9 @@ TEST(TextLayout, CountsLines) {
         {u"abc", {.width = -5}, 0},
         {u"abc", {.width = std::nan("")}, 0},
     };
-    for (const auto& [text, frame, lines] : cases)
+    for (const auto& [text, frame, lines] : cases) {
         EXPECT_EQ(lay(text, frame).lineCount(), lines) << frame.width << " " << lines;
+    }
 }
 
 TEST(TextLayout, StacksLines) {
@@ -120,8 +124,9 @@ TEST(TextLayout, StacksLines) {
     EXPECT_NEAR(lines.lastBaseline() - lines.firstBaseline(), 2 * (height + 4), 1e-9);
     EXPECT_NEAR(lines.size().height, 3 * height + 8, 0.34);
     EXPECT_EQ(lines.lineRectangle(3), Rectangle{});
-    for (const double spacing : {-4.0, std::nan(""), infinite})
+    for (const double spacing : {-4.0, std::nan(""), infinite}) {
         EXPECT_NEAR(lay(u"a\nb", {.lineSpacing = spacing}).size().height, 2 * height, 0.34);
+    }
 }
 
 TEST(TextLayout, Aligns) {
@@ -138,6 +143,14 @@ TEST(TextLayout, Aligns) {
     const TextLayout justified =
         lay(u"some words in lines", {.width = 90, .alignment = TextAlignment::justified});
     EXPECT_NEAR(justified.lineRectangle(0).width, 90, 0.1);
+}
+
+TEST(TextLayout, AddsNoHyphensToBrokenWords) {
+    const TextLayout broken = lay(u"nnnnnnnnnnnnnnnnnnnn", {.width = 100});
+    ASSERT_GT(broken.lineCount(), 1u);
+    const std::size_t first = broken.lineUnits(0).end;
+    const std::u16string line(first, u'n');
+    EXPECT_NEAR(broken.lineRectangle(0).width, lay(line).lineRectangle(0).width, 0.1);
 }
 
 TEST(TextLayout, TruncatesTheLastLine) {
@@ -200,10 +213,11 @@ TEST(TextLayout, ShowsExactlyOneEllipsis) {
 TEST(TextLayout, DoesNotTruncateWhatFits) {
     const double width = lay(u"Settings 设置").size().width;
     for (const LineBreakMode mode : {LineBreakMode::truncatingTail, LineBreakMode::truncatingHead,
-                                     LineBreakMode::truncatingMiddle, LineBreakMode::clipping})
+                                     LineBreakMode::truncatingMiddle, LineBreakMode::clipping}) {
         EXPECT_FALSE(
             lay(u"Settings 设置", {.width = width, .lineBreakMode = mode, .maximumLines = 1})
                 .isTruncated());
+    }
 }
 
 TEST(TextLayout, CutsClippedLinesOff) {
@@ -213,8 +227,9 @@ TEST(TextLayout, CutsClippedLinesOff) {
     Canvas canvas({100, 30}, 1);
     line.draw(canvas.context(), {});
     const Image image = canvas.snapshot();
-    for (int y = 0; y < 30; ++y)
+    for (int y = 0; y < 30; ++y) {
         EXPECT_EQ(image.pixel(31, y).alpha, 0);
+    }
 }
 
 TEST(TextLayout, SetsRunsInTheirOwnLook) {
@@ -265,8 +280,9 @@ TEST(TextLayout, SurvivesBrokenText) {
             const TextLayout layout =
                 lay(broken, {.width = width, .lineBreakMode = mode, .maximumLines = 3});
             EXPECT_EQ(layout.unknownGlyphCount(), 0u);
-            for (std::size_t index = 0; index <= broken.size(); ++index)
+            for (std::size_t index = 0; index <= broken.size(); ++index) {
                 EXPECT_TRUE(std::isfinite(layout.caretRectangle(index).x));
+            }
         }
     }
 }
@@ -297,22 +313,26 @@ TEST(TextLayout, MeasuresOnSeveralThreads) {
     const Size expected = lay(u"Settings 设置").size();
     std::vector<std::thread> threads;
     std::atomic<int> equal = 0;
-    for (int count = 0; count < 4; ++count)
+    for (int count = 0; count < 4; ++count) {
         threads.emplace_back([&] { equal += lay(u"Settings 设置").size() == expected ? 1 : 0; });
-    for (std::thread& thread : threads)
+    }
+    for (std::thread& thread : threads) {
         thread.join();
+    }
     EXPECT_EQ(equal, 4);
 }
 
 TEST(TextLayout, SetsLongTextAsShortText) {
     std::u16string paragraph;
-    for (int count = 0; count < 300; ++count)
+    for (int count = 0; count < 300; ++count) {
         paragraph += u"some words 和中文 ";
+    }
     const TextLayout layout = lay(paragraph, {.width = 300});
     EXPECT_GT(layout.lineCount(), 100u);
     // A line that was set anew at a seam would be shorter than its neighbours.
-    for (std::size_t line = 0; line + 1 < layout.lineCount(); ++line)
+    for (std::size_t line = 0; line + 1 < layout.lineCount(); ++line) {
         EXPECT_GT(layout.lineRectangle(line).width, 240) << line;
+    }
     EXPECT_FALSE(layout.isTruncated());
 }
 

@@ -1,6 +1,6 @@
 // What Foundation makes of JSON.
 #include "bindings/foundation/dictionary.hpp"
-#include "bindings/foundation/json.hpp"
+#include "bindings/foundation/json_serialization.hpp"
 #include "bindings/foundation/number.hpp"
 #include "bindings/objc/pool.hpp"
 
@@ -11,7 +11,7 @@ namespace {
 using namespace ns::literals;
 
 objc::Object parsed(std::string_view text) {
-    return ns::JsonSerialization::object(ns::Data::from(text));
+    return ns::JsonSerialization::object(ns::Data::from(text)).value;
 }
 
 /// The value under "v" of `{"v":…}`.
@@ -41,7 +41,7 @@ TEST(Json, BrokenTextIsNil) {
                              "{\"a\":1", "[\"\\u12\"]"}) {
         EXPECT_EQ(parsed(text), nullptr) << text;
     }
-    EXPECT_EQ(ns::JsonSerialization::object(nullptr), nullptr);
+    EXPECT_TRUE(ns::JsonSerialization::object(nullptr).error);
 }
 
 } // namespace

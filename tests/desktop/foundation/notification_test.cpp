@@ -22,7 +22,7 @@ protected:
     ~MainOperationQueue() override { center.send<"removeObserver:">(observer); }
 
     void observe() {
-        observer = center.observe(
+        observer = center.addObserverForName(
             u"DesktopTest"_ns, nullptr, ns::OperationQueue::mainQueue(),
             objc::Block<void(ns::Notification)>::from([this](ns::Notification notification) {
                 ++calls;

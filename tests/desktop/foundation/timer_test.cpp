@@ -95,4 +95,14 @@ TEST_F(Timer, ADelayedMessageKeepsItsPartiesAndCanBeCancelled) {
     EXPECT_EQ((fired.send<"retainCount", unsigned long>()), before);
 }
 
+TEST_F(Timer, ADelayedMessageIsCancelledByItsOwnSelector) {
+    for (const SEL selector : {objc::selector<"addObject:">(), objc::selector<"removeObject:">()}) {
+        fired.send<"performSelector:withObject:afterDelay:">(selector, u"one"_ns, 1.0);
+    }
+    ns::MutableArray::sendClass<"cancelPreviousPerformRequestsWithTarget:selector:object:">(
+        fired, objc::selector<"removeObject:">(), u"one"_ns);
+    advance(2);
+    EXPECT_EQ(fired.count(), 1U);
+}
+
 } // namespace

@@ -1,8 +1,10 @@
 // Loading by NSURLSession: real HTTP and HTTPS on the loopback address.
 #include "bindings/foundation/array.hpp"
-#include "bindings/foundation/json.hpp"
+#include "bindings/foundation/http_url_response.hpp"
+#include "bindings/foundation/json_serialization.hpp"
 #include "bindings/foundation/number.hpp"
 #include "bindings/foundation/thread.hpp"
+#include "bindings/foundation/url_connection.hpp"
 #include "bindings/foundation/url_session.hpp"
 #include "bindings/objc/pool.hpp"
 #include "desktop/class.hpp"
@@ -35,7 +37,7 @@ struct Outcome {
     bool onMainThread = false;
 };
 
-ns::Url urlFrom(const std::string& text) { return ns::Url::from(ns::String::fromUtf8(text)); }
+ns::Url urlFrom(const std::string& text) { return ns::Url::withString(ns::String::fromUtf8(text)); }
 
 std::string bytesOf(ns::Data data) {
     return {static_cast<const char*>(data.send<"bytes", const void*>()), data.length()};
@@ -59,7 +61,19 @@ std::future<Outcome> load(ns::UrlRequest request,
     return promise->get_future();
 }
 
-Outcome loaded(const std::string& url) { return load(ns::UrlRequest::withUrl(urlFrom(url))).get(); }
+/// What has been promised; a failure and a value of nothing when it does not come.
+template <typename Value>
+Value awaited(std::future<Value> future) {
+    if (future.wait_for(std::chrono::minutes(1)) != std::future_status::ready) {
+        ADD_FAILURE() << "what has been promised does not come";
+        return Value();
+    }
+    return future.get();
+}
+
+Outcome loaded(const std::string& url) {
+    return awaited(load(ns::UrlRequest::withUrl(urlFrom(url))));
+}
 
 std::string response(const std::string& body, const std::string& head = "200 OK\r\n") {
     return "HTTP/1.1 " + head + "Content-Length: " + std::to_string(body.size()) +
@@ -93,7 +107,7 @@ TEST_F(UrlSession, LoadsFromTheTranslationServiceUnderItsRealName) {
     EXPECT_EQ(outcome.status, 200);
     EXPECT_EQ(outcome.url, translationUrl("hello"));
     EXPECT_FALSE(outcome.onMainThread);
-    const auto json = ns::JsonSerialization::object(ns::Data::from(outcome.body));
+    const auto json = ns::JsonSerialization::object(ns::Data::from(outcome.body)).value;
     const auto results = json.as<ns::Dictionary>().get(u"trans_result"_ns).as<ns::Array>();
     EXPECT_EQ(results.first().assume<ns::Dictionary>().get(u"dst"_ns).assume<ns::String>().utf8(),
               "你好");
@@ -108,8 +122,9 @@ TEST_F(UrlSession, LoadsFromTheTranslationServiceUnderItsRealName) {
 TEST_F(UrlSession, FailuresOfTheServiceArrive) {
     EXPECT_NE(loaded(translationUrl("hello", "00")).body.find("54001"), std::string::npos);
     EXPECT_NE(loaded(translationUrl("!error")).body.find("54003"), std::string::npos);
-    EXPECT_EQ(ns::JsonSerialization::object(ns::Data::from(loaded(translationUrl("!json")).body)),
-              nullptr);
+    EXPECT_EQ(
+        ns::JsonSerialization::object(ns::Data::from(loaded(translationUrl("!json")).body)).value,
+        nullptr);
     const Outcome broken = loaded(translationUrl("!500"));
     EXPECT_EQ(broken.status, 500);
     EXPECT_EQ(broken.error, 0);
@@ -122,7 +137,7 @@ TEST_F(UrlSession, ALateAnswerHoldsUpNoOther) {
     auto late = load(ns::UrlRequest::withUrl(urlFrom(translationUrl("!late"))));
     EXPECT_EQ(loaded(translationUrl("hello")).status, 200);
     EXPECT_EQ(late.wait_for(std::chrono::seconds(0)), std::future_status::timeout);
-    EXPECT_EQ(late.get().status, 200);
+    EXPECT_EQ(awaited(std::move(late)).status, 200);
 }
 
 TEST_F(UrlSession, TwoHundredAtOnceAllComeBack) {
@@ -132,7 +147,7 @@ TEST_F(UrlSession, TwoHundredAtOnceAllComeBack) {
             load(ns::UrlRequest::withUrl(urlFrom(translationUrl("line" + std::to_string(i))))));
     }
     for (int i = 0; i < 200; ++i) {
-        const Outcome outcome = outcomes[static_cast<std::size_t>(i)].get();
+        const Outcome outcome = awaited(std::move(outcomes[static_cast<std::size_t>(i)]));
         EXPECT_NE(outcome.body.find("\"line" + std::to_string(i) + "\""), std::string::npos)
             << outcome.description;
     }
@@ -166,17 +181,12 @@ TEST_F(UrlSession, NothingLeavesTheMachineNotEvenByARedirection) {
 }
 
 TEST_F(UrlSession, NeitherDoesFoundationsOlderLoading) {
-    struct Connection : objc::Kind<Connection, "NSURLConnection"> {};
-    const auto load = [](const std::string& url, id* error) {
-        return Connection::sendClass<"sendSynchronousRequest:returningResponse:error:", ns::Data>(
-            ns::UrlRequest::withUrl(urlFrom(url)), static_cast<void*>(nullptr),
-            static_cast<void*>(error));
+    const auto load = [](const std::string& url) {
+        return ns::UrlConnection::sendSynchronous(ns::UrlRequest::withUrl(urlFrom(url)));
     };
-    id error = nullptr;
-    EXPECT_EQ(load("https://example.com/", &error), nullptr);
-    EXPECT_EQ(objc::wrap<ns::Error>(error).code(), -1003);
+    EXPECT_EQ(load("https://example.com/").error.code(), -1003);
     const PlainServer server([](const std::string&) { return response("here"); });
-    EXPECT_EQ(bytesOf(load(server.url("/"), &error)), "here");
+    EXPECT_EQ(bytesOf(load(server.url("/")).value), "here");
 }
 
 TEST_F(UrlSession, FollowsRedirectionsWithinLimits) {
@@ -191,7 +201,7 @@ TEST_F(UrlSession, FollowsRedirectionsWithinLimits) {
     });
     const auto request = ns::MutableUrlRequest::withUrl(urlFrom(server.url("/form")));
     request.setHttpMethod(u"POST"_ns);
-    const Outcome outcome = load(request).get();
+    const Outcome outcome = awaited(load(request));
     EXPECT_EQ(outcome.body, "there");
     EXPECT_EQ(outcome.url, server.url("/end"));
     EXPECT_EQ(loaded(server.url("/circle")).error, -1007);
@@ -203,7 +213,7 @@ TEST_F(UrlSession, SendsMethodHeadersAndBody) {
         received = request;
         return response("");
     });
-    const auto configuration = ns::UrlSessionConfiguration::defaultConfiguration();
+    const auto configuration = ns::UrlSessionConfiguration::defaultSessionConfiguration();
     const auto common = ns::MutableDictionary::make();
     common.set(u"one"_ns, u"X-Common"_ns);
     common.set(u"lost"_ns, u"X-Own"_ns);
@@ -213,7 +223,7 @@ TEST_F(UrlSession, SendsMethodHeadersAndBody) {
     request.setHttpBody(ns::Data::from("body"));
     request.setValue(u"own 值"_ns, u"X-Own"_ns);
     request.setValue(u"a\r\nX-Evil: 1"_ns, u"X-Broken"_ns);
-    EXPECT_EQ(load(request, ns::UrlSession::with(configuration)).get().status, 200);
+    EXPECT_EQ(awaited(load(request, ns::UrlSession::with(configuration))).status, 200);
     EXPECT_TRUE(received.starts_with("PUT /path?q=%E4 HTTP/1.1\r\n")) << received;
     EXPECT_NE(received.find("X-Common: one\r\n"), std::string::npos) << received;
     EXPECT_NE(received.find("X-Own: own 值\r\n"), std::string::npos) << received;
@@ -243,12 +253,12 @@ TEST_F(UrlSession, GivesUpAfterTheTimeThatTheRequestGrants) {
     std::promise<void> done;
     {
         const PlainServer server([&done](const std::string&) {
-            done.get_future().wait();
+            awaited(done.get_future());
             return std::string();
         });
         const auto request = ns::MutableUrlRequest::withUrl(urlFrom(server.url("/")));
         request.setTimeoutInterval(0.3);
-        EXPECT_EQ(load(request).get().error, -1001);
+        EXPECT_EQ(awaited(load(request)).error, -1001);
         done.set_value();
     }
 }
@@ -263,7 +273,7 @@ TEST_F(UrlSession, CancelledTasksSaySo) {
     running.resume();
     running.resume();
     running.cancel();
-    EXPECT_EQ(code.get_future().get(), -999);
+    EXPECT_EQ(awaited(code.get_future()), -999);
     EXPECT_EQ(running.state(), ns::UrlSessionTaskState::completed);
     EXPECT_EQ(running.error().code(), -999);
     running.cancel();
@@ -271,8 +281,32 @@ TEST_F(UrlSession, CancelledTasksSaySo) {
     code = {};
     const auto fresh = session.dataTask(urlFrom(translationUrl("hello")), handler);
     fresh.cancel();
-    EXPECT_EQ(code.get_future().get(), -999);
+    EXPECT_EQ(awaited(code.get_future()), -999);
     fresh.resume();
+}
+
+TEST_F(UrlSession, ATaskResumedTwiceLoadsOnce) {
+    std::atomic<int> requests{0};
+    const PlainServer server([&requests](const std::string& request) {
+        requests += request.starts_with("GET /twice ") ? 1 : 0;
+        return response("here");
+    });
+    std::atomic<int> answers{0};
+    std::promise<void> promise;
+    const auto task = ns::UrlSession::sharedSession().dataTask(
+        urlFrom(server.url("/twice")),
+        ns::UrlSession::Handler::from([&](ns::Data, ns::UrlResponse, ns::Error) {
+            if (answers++ == 0) {
+                promise.set_value();
+            }
+        }));
+    task.resume();
+    task.resume();
+    awaited(promise.get_future());
+    task.resume();
+    EXPECT_EQ(loaded(server.url("/after")).body, "here"); // a second load would be before it
+    EXPECT_EQ(requests, 1);
+    EXPECT_EQ(answers, 1);
 }
 
 TEST_F(UrlSession, IsUsedFromSeveralThreads) {
@@ -304,7 +338,7 @@ TEST_F(UrlSession, DownloadsToAFileThatIsGoneAfterwards) {
                     promise.set_value({path.utf8(), bytesOf(ns::Data::withContentsOfFile(path))});
                 }))
         .resume();
-    const auto [path, content] = promise.get_future().get();
+    const auto [path, content] = awaited(promise.get_future());
     EXPECT_EQ(content, "the file");
     for (int i = 0; i < 500 && access(path.c_str(), F_OK) == 0; ++i) {
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
@@ -319,7 +353,7 @@ struct DelegateKind : objc::Kind<DelegateKind, "SessionTestDelegate"> {
 /// Writes down what a session tells its delegate.
 class Delegate : public desktop::PlatformClass<Delegate, DelegateKind> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
             objc::method<"URLSession:dataTask:didReceiveData:", &Delegate::data>(),
             objc::method<"URLSession:downloadTask:didWriteData:totalBytesWritten:"
@@ -363,7 +397,7 @@ protected:
     /// What the delegate was told by the time its session is invalid.
     std::string told() {
         session.finishTasksAndInvalidate();
-        Delegate::of(delegate).over.get_future().wait();
+        awaited(Delegate::of(delegate).over.get_future());
         return Delegate::of(delegate).told;
     }
 
@@ -371,7 +405,7 @@ protected:
     PlainServer server{[this](const std::string&) { return response(content); }};
     DelegateKind delegate = DelegateKind::make();
     ns::UrlSession session = ns::UrlSession::with(
-        ns::UrlSessionConfiguration::defaultConfiguration(), delegate, nullptr);
+        ns::UrlSessionConfiguration::defaultSessionConfiguration(), delegate, nullptr);
 };
 
 TEST_F(UrlSessionDelegate, GetsTheDataInOrderThenTheEnd) {

@@ -13,7 +13,10 @@ namespace {
 using namespace ns::literals;
 using objc::Association;
 
-struct Thing : objc::Kind<Thing, "NSObject"> {};
+objc::Object makeThing() {
+    return objc::send<"new", objc::Object>(objc::object(objc::Object::classObject()))
+        .send<"autorelease", objc::Object>();
+}
 
 /// An object whose end can be seen: a block that holds the only reference to `*life`.
 objc::Object mortal(std::weak_ptr<int>& life) {
@@ -26,10 +29,10 @@ TEST(AssociatedObjects, RetainedValuesDieWithTheirOwner) {
     const objc::Pool pool;
     std::weak_ptr<int> life;
     {
-        objc::Strong<Thing> owner;
+        objc::Strong<objc::Object> owner;
         {
             const objc::Pool inner;
-            owner = Thing::make();
+            owner = makeThing();
             objc::associate<"key">(owner, mortal(life), Association::retainNonatomic);
         }
         EXPECT_FALSE(life.expired());
@@ -41,7 +44,7 @@ TEST(AssociatedObjects, RetainedValuesDieWithTheirOwner) {
 
 TEST(AssociatedObjects, ReplacedAndRemovedValuesAreReleased) {
     const objc::Pool pool;
-    const auto owner = Thing::make();
+    const auto owner = makeThing();
     std::weak_ptr<int> first;
     std::weak_ptr<int> second;
     {
@@ -58,7 +61,7 @@ TEST(AssociatedObjects, ReplacedAndRemovedValuesAreReleased) {
 
 TEST(AssociatedObjects, AssignedValuesAreNotOwnedAndCopiedOnesAreCopies) {
     const objc::Pool pool;
-    const auto owner = Thing::make();
+    const auto owner = makeThing();
     std::weak_ptr<int> life;
     {
         const objc::Pool inner;

@@ -2,14 +2,14 @@
 #include "tests/desktop/uikit/touch_fixture.hpp"
 
 #include "desktop/quartzcore/screen_changes.hpp"
-#include "desktop/uikit/view.hpp"
+#include "desktop/uikit/views/view.hpp"
 
 #include <cmath>
 #include <limits>
 
 namespace {
 
-namespace option = ui::animation_options;
+using Option = ui::ViewAnimationOptions;
 
 class AnimationTest : public tests::TouchTest {
 protected:
@@ -21,9 +21,9 @@ protected:
         view.removeFromSuperview();
         advance(5); // what is under way writes into this test
     }
-    void animate(double seconds, std::function<void()> changes, unsigned long options = 0,
+    void animate(double seconds, std::function<void()> changes, Option options = {},
                  double delay = 0) {
-        ui::View::animate(seconds, delay, options | option::curveLinear,
+        ui::View::animate(seconds, delay, options | Option::curveLinear,
                           ui::View::Changes::from(std::move(changes)),
                           ui::View::Completion::from(
                               [this](bool finished) { completions += finished ? 'y' : 'n'; }));
@@ -89,7 +89,7 @@ TEST_F(AnimationTest, DelaysRepetitionsAndReturns) {
         [this] {
             view.setCenter({150, 50});
         },
-        0, 2);
+        {}, 2);
     advance(2);
     EXPECT_NEAR(shown().position.x, 50, 1e-9);
     advance(0.25);
@@ -100,7 +100,7 @@ TEST_F(AnimationTest, DelaysRepetitionsAndReturns) {
         [this] {
             view.setCenter({50, 50});
         },
-        option::repeat | option::autoreverse);
+        Option::repeat | Option::autoreverse);
     advance(100.75);
     EXPECT_NEAR(shown().position.x, 75, 1e-6);
     advance(1);
@@ -119,7 +119,7 @@ TEST_F(AnimationTest, InnerBlocksInheritUnlessTheySayOtherwise) {
             [&] {
                 other.setCenter({150, 50});
             },
-            option::overrideInheritedDuration);
+            Option::overrideInheritedDuration);
         ui::View::performWithoutAnimation(ui::View::Changes::from([&] {
             EXPECT_FALSE((ui::View::sendClass<"areAnimationsEnabled", bool>()));
             animate(1, [&] { still.setCenter({150, 50}); });
@@ -140,7 +140,7 @@ TEST_F(AnimationTest, AViewThatLeavesTheWindowBreaksItsAnimationOff) {
     EXPECT_EQ(completions, "n");
     window_.addSubview(view);
     animate(
-        1, [this] { view.setAlpha(1); }, option::repeat);
+        1, [this] { view.setAlpha(1); }, Option::repeat);
     advance(0.5);
     {
         const objc::Pool pool;
@@ -157,7 +157,7 @@ TEST_F(AnimationTest, TouchesAreForViewsAtRestAndGoByWhatIsSet) {
         [this] {
             view.setFrame({{200, 200}, {100, 100}});
         },
-        option::allowUserInteraction);
+        Option::allowUserInteraction);
     EXPECT_EQ(window_.hitTest({250, 250}, nullptr), view);
     EXPECT_EQ(window_.hitTest({50, 50}, nullptr), window_);
     animate(1, [this] { view.setAlpha(0.5); });

@@ -3,6 +3,10 @@
 
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/label.hpp"
+#include "bindings/uikit/layout_anchor.hpp"
+#include "bindings/uikit/layout_constraint.hpp"
+#include "bindings/uikit/layout_guide.hpp"
+#include "bindings/uikit/screen.hpp"
 #include "bindings/uikit/scroll_view.hpp"
 #include "desktop/uikit/constraints/layout_anchor.hpp"
 #include "desktop/uikit/constraints/layout_guide.hpp"
@@ -12,8 +16,6 @@
 namespace {
 
 using namespace ns::literals;
-using desktop::AnchorKind;
-using desktop::ConstraintKind;
 
 class ConstraintsTest : public tests::UIKitTest {
 protected:
@@ -27,18 +29,20 @@ protected:
         parent.addSubview(view);
     }
     template <objc::Literal Name>
-    static AnchorKind anchor(objc::Object item) {
-        return item.send<Name, AnchorKind>();
+    static ui::LayoutAnchor anchor(objc::Object item) {
+        return item.send<Name, ui::LayoutAnchor>();
     }
-    static ConstraintKind on(ConstraintKind constraint) {
+    static ui::LayoutConstraint on(ui::LayoutConstraint constraint) {
         constraint.send<"setActive:">(objc::Boolean(true));
         return constraint;
     }
-    static ConstraintKind equal(AnchorKind one, AnchorKind other, double constant = 0) {
-        return on(one.send<"constraintEqualToAnchor:constant:", ConstraintKind>(other, constant));
+    static ui::LayoutConstraint equal(ui::LayoutAnchor one, ui::LayoutAnchor other,
+                                      double constant = 0) {
+        return on(
+            one.send<"constraintEqualToAnchor:constant:", ui::LayoutConstraint>(other, constant));
     }
-    static ConstraintKind length(AnchorKind one, double points) {
-        return on(one.send<"constraintEqualToConstant:", ConstraintKind>(points));
+    static ui::LayoutConstraint length(ui::LayoutAnchor one, double points) {
+        return on(one.send<"constraintEqualToConstant:", ui::LayoutConstraint>(points));
     }
     /// All four edges, `gap` inside of the other item's.
     static void fill(ui::View view, objc::Object other, double gap) {
@@ -58,7 +62,7 @@ TEST_F(ConstraintsTest, EdgesSizesAndCentresPlaceViews) {
     equal(anchor<"centerXAnchor">(dot), anchor<"centerXAnchor">(box));
     equal(anchor<"centerYAnchor">(dot), anchor<"centerYAnchor">(box), 10);
     on(anchor<"widthAnchor">(dot)
-           .send<"constraintEqualToAnchor:multiplier:constant:", ConstraintKind>(
+           .send<"constraintEqualToAnchor:multiplier:constant:", ui::LayoutConstraint>(
                anchor<"widthAnchor">(box), 0.25, 5.0));
     const auto height = length(anchor<"heightAnchor">(dot), 30);
     root.layoutIfNeeded();
@@ -82,10 +86,10 @@ TEST_F(ConstraintsTest, SiblingsInequalitiesAndPriorities) {
     equal(anchor<"leftAnchor">(a), anchor<"leftAnchor">(root));
     equal(anchor<"leftAnchor">(b), anchor<"rightAnchor">(a), 8);
     equal(anchor<"rightAnchor">(b), anchor<"rightAnchor">(root));
-    on(anchor<"widthAnchor">(a).send<"constraintLessThanOrEqualToConstant:", ConstraintKind>(
+    on(anchor<"widthAnchor">(a).send<"constraintLessThanOrEqualToConstant:", ui::LayoutConstraint>(
         100.0));
     const auto wish =
-        anchor<"widthAnchor">(a).send<"constraintEqualToConstant:", ConstraintKind>(250.0);
+        anchor<"widthAnchor">(a).send<"constraintEqualToConstant:", ui::LayoutConstraint>(250.0);
     wish.send<"setPriority:">(700.0F);
     on(wish);
     root.layoutIfNeeded();
@@ -103,7 +107,7 @@ TEST_F(ConstraintsTest, LabelsClingToTheirTextAndWrapWhereTheyMust) {
         add(root, label);
         equal(anchor<"leadingAnchor">(label), anchor<"leadingAnchor">(root), 10);
         on(anchor<"trailingAnchor">(label)
-               .send<"constraintLessThanOrEqualToAnchor:", ConstraintKind>(
+               .send<"constraintLessThanOrEqualToAnchor:", ui::LayoutConstraint>(
                    anchor<"trailingAnchor">(root)));
     }
     equal(anchor<"topAnchor">(one), anchor<"topAnchor">(root));
@@ -122,12 +126,12 @@ TEST_F(ConstraintsTest, LabelsClingToTheirTextAndWrapWhereTheyMust) {
 }
 
 TEST_F(ConstraintsTest, GuidesAndMarginsAndTheSafeArea) {
-    const auto window = ui::Window::withFrame(ui::Screen::main().bounds());
+    const auto window = ui::Window::withFrame(ui::Screen::mainScreen().bounds());
     const auto safe = constrained(window);
     fill(safe, window.send<"safeAreaLayoutGuide", objc::Object>(), 0);
     const auto inMargins = constrained(safe);
     fill(inMargins, safe.send<"layoutMarginsGuide", objc::Object>(), 0);
-    const auto guide = desktop::GuideKind::make();
+    const auto guide = ui::LayoutGuide::make();
     window.send<"addLayoutGuide:">(guide);
     equal(anchor<"topAnchor">(guide), anchor<"topAnchor">(safe), 100);
     length(anchor<"heightAnchor">(guide), 7);
@@ -159,8 +163,8 @@ TEST_F(ConstraintsTest, TheSizeThatFitsConstraints) {
     const auto inner = constrained(root);
     fill(inner, root, 15);
     length(anchor<"heightAnchor">(inner), 70);
-    on(anchor<"widthAnchor">(inner).send<"constraintGreaterThanOrEqualToConstant:", ConstraintKind>(
-        40.0));
+    on(anchor<"widthAnchor">(inner)
+           .send<"constraintGreaterThanOrEqualToConstant:", ui::LayoutConstraint>(40.0));
     EXPECT_EQ((root.send<"systemLayoutSizeFittingSize:", CGSize>(CGSize{0, 0})), (CGSize{70, 100}));
     EXPECT_EQ((root.send<"systemLayoutSizeFittingSize:", CGSize>(CGSize{500, 0})),
               (CGSize{500, 100}));
@@ -177,7 +181,7 @@ TEST_F(ConstraintsTest, WhatLeavesTakesItsConstraintsAlong) {
     root.layoutIfNeeded();
     EXPECT_ANY_THROW(on(across)) << "no view in common";
 
-    objc::Strong<ConstraintKind> kept;
+    objc::Strong<ui::LayoutConstraint> kept;
     {
         const objc::Pool pool;
         const auto lone = ui::View::withFrame({});

@@ -4,6 +4,7 @@
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/label.hpp"
 #include "bindings/uikit/navigation_bar.hpp"
+#include "bindings/uikit/screen.hpp"
 #include "bindings/uikit/stack_view.hpp"
 #include "bindings/uikit/view_controller.hpp"
 #include "desktop/drawing/image.hpp"
@@ -104,13 +105,13 @@ TEST_F(LayoutTest, StacksGrowWithTheirLabelsAndForgetRemovedViews) {
 }
 
 TEST_F(LayoutTest, TheScreenShowsColoursRoundCornersBordersAndOpacity) {
-    const auto window = ui::Window::withFrame(ui::Screen::main().bounds());
+    const auto window = ui::Window::withFrame(ui::Screen::mainScreen().bounds());
     window.setBackgroundColor(ui::Color::white());
     const auto box = ui::View::withFrame({{100, 300}, {100, 100}});
-    box.setBackgroundColor(ui::Color::rgba(1, 0, 0, 1));
+    box.setBackgroundColor(ui::Color::withRed(1, 0, 0, 1));
     box.layer().setCornerRadius(20);
     box.layer().setBorderWidth(4);
-    box.layer().setBorderColor(ui::Color::rgba(0, 0, 1, 1).cgColor());
+    box.layer().setBorderColor(ui::Color::withRed(0, 0, 1, 1).cgColor());
     box.setClipsToBounds(true);
     const auto inner = ui::View::withFrame({{0, 0}, {50, 50}});
     inner.setBackgroundColor(ui::Color::black());

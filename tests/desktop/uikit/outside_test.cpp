@@ -40,8 +40,8 @@ protected:
 };
 
 TEST_F(Outside, OpenedUrlsAreTold) {
-    const ui::Application application = ui::Application::shared();
-    const auto url = ns::Url::from(u"taobao://s/?q=1"_ns);
+    const ui::Application application = ui::Application::sharedApplication();
+    const auto url = ns::Url::withString(u"taobao://s/?q=1"_ns);
     EXPECT_TRUE(application.canOpenUrl(url));
     EXPECT_TRUE(application.openUrl(url));
     EXPECT_TRUE(told("openURL", u"url"_ns).isEqual(u"taobao://s/?q=1"_ns));
@@ -64,17 +64,22 @@ TEST_F(Outside, SoundsAreTold) {
 TEST_F(Outside, AShareSheetTellsItsItemsAndCloses) {
     const auto items = ns::MutableArray::make();
     items.add(u"text"_ns);
-    items.add(ns::Url::from(u"file:///tmp/a"_ns));
+    items.add(ns::Url::withString(u"file:///tmp/a"_ns));
     const auto sheet = ui::ActivityViewController::sharing(items);
     int closed = 0;
     sheet.setCompletionWithItemsHandler(ui::ActivityViewController::CompletionWithItems::from(
         [&](ns::String, bool completed, ns::Array, objc::Object) {
             closed += completed ? 10 : 1;
         }));
+    sheet.setModalPresentationStyle(ui::ModalPresentation::overCurrentContext);
     root_.present(sheet, true);
     const auto texts = told("share", u"items"_ns).as<ns::Array>();
     ASSERT_EQ(texts.count(), 2U);
     EXPECT_TRUE(texts.at(1).isEqual(u"file:///tmp/a"_ns));
+    EXPECT_EQ(sheet.view().convertRect(sheet.view().bounds(), nullptr),
+              (CGRect{{0, 57}, {390, 787}}))
+        << "a card below the status bar";
+    EXPECT_EQ(sheet.view().safeAreaInsets(), (UIEdgeInsets{0, 0, 34, 0}));
     tap({360, 80}); // the close button
     desktop::run_loop::runUntilIdle();
     EXPECT_EQ(closed, 1);
@@ -82,14 +87,15 @@ TEST_F(Outside, AShareSheetTellsItsItemsAndCloses) {
 }
 
 TEST_F(Outside, AWebPageIsToldAndLeft) {
-    const auto page = sf::SafariViewController::with(ns::Url::from(u"https://example.com/a"_ns));
+    const auto page =
+        sf::SafariViewController::with(ns::Url::withString(u"https://example.com/a"_ns));
     root_.present(page, false);
     EXPECT_TRUE(told("webLoad", u"url"_ns).isEqual(u"https://example.com/a"_ns));
     EXPECT_EQ(root_.presentedViewController(), page);
     tap({30, 69}); // the done button
     desktop::run_loop::runUntilIdle();
     EXPECT_FALSE(root_.presentedViewController());
-    EXPECT_ANY_THROW(sf::SafariViewController::with(ns::Url::from(u"taobao://s"_ns)));
+    EXPECT_ANY_THROW(sf::SafariViewController::with(ns::Url::withString(u"taobao://s"_ns)));
     EXPECT_ANY_THROW(sf::SafariViewController::with(nullptr));
 }
 

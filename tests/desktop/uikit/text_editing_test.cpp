@@ -2,8 +2,8 @@
 #include "tests/desktop/uikit/text_fixture.hpp"
 
 #include "bindings/uikit/pasteboard.hpp"
-#include "desktop/uikit/first_responder.hpp"
-#include "desktop/uikit/keyboard_input.hpp"
+#include "desktop/uikit/events/first_responder.hpp"
+#include "desktop/uikit/keyboard/keyboard_input.hpp"
 
 namespace {
 
@@ -58,9 +58,9 @@ TEST_F(TextEditing, WhatTheApplicationWritesAsksNobody) {
 TEST_F(TextEditing, AFieldTellsItsDelegateAndItsTargets) {
     field_.setDelegate(textLog_);
     field_.addTarget(textLog_, objc::selector<"editingChanged">(),
-                     ui::control_events::editingChanged);
+                     ui::ControlEvents::editingChanged);
     field_.addTarget(textLog_, objc::selector<"editingDidEndOnExit">(),
-                     ui::control_events::editingDidEndOnExit);
+                     ui::ControlEvents::editingDidEndOnExit);
     field_.becomeFirstResponder();
     EXPECT_EQ(takeSeen(), "shouldBegin didBegin");
     keyboard::insertText(u"a\nb"_ns);
@@ -70,9 +70,33 @@ TEST_F(TextEditing, AFieldTellsItsDelegateAndItsTargets) {
     text().refused = "shouldReturn";
     keyboard::pressReturn();
     EXPECT_EQ(takeSeen(), "shouldReturn");
-    ui::Pasteboard::general().setString(u"x\ny"_ns);
+    ui::Pasteboard::generalPasteboard().setString(u"x\ny"_ns);
     field_.send<"paste:">(objc::Object());
     EXPECT_EQ(field_.text().utf8(), "abx y");
+}
+
+TEST_F(TextEditing, AFieldMayBeClearedAsEditingBegins) {
+    for (const bool clears : {false, true}) {
+        field_.setText(u"former"_ns);
+        field_.send<"setClearsOnBeginEditing:">(objc::Boolean(clears));
+        EXPECT_TRUE(field_.becomeFirstResponder());
+        EXPECT_EQ(field_.text().utf8(), clears ? "" : "former");
+        EXPECT_TRUE(field_.resignFirstResponder());
+    }
+}
+
+TEST_F(TextEditing, TypingAttributesHoldUntilTheCaretMoves) {
+    view_.setText(u"ab"_ns);
+    const auto typing = [this] {
+        return view_.send<"typingAttributes", ns::Dictionary>().get(
+            ui::attributes::foregroundColor());
+    };
+    const auto attributes = ns::MutableDictionary::make();
+    attributes.set(ui::Color::red(), ui::attributes::foregroundColor());
+    view_.send<"setTypingAttributes:">(attributes);
+    EXPECT_TRUE(typing().isEqual(ui::Color::red()));
+    view_.setSelectedRange({1, 0});
+    EXPECT_FALSE(typing().isEqual(ui::Color::red())) << "those of the text around it";
 }
 
 TEST_F(TextEditing, TheFocusPassesFromOneToTheOther) {
@@ -199,7 +223,7 @@ TEST_F(TextEditing, ActionsAreOfferedWhereTheyMakeSense) {
     const SEL paste = objc::selector<"paste:">();
     const SEL select = objc::selector<"select:">();
     const SEL selectAll = objc::selector<"selectAll:">();
-    ui::Pasteboard::general().setString(nullptr);
+    ui::Pasteboard::generalPasteboard().setString(nullptr);
     EXPECT_FALSE(can(cut) || can(paste) || can(select) || can(selectAll));
     view_.setText(u"some words"_ns);
     EXPECT_TRUE(!can(cut) && can(select) && can(selectAll));

@@ -4,9 +4,10 @@
 #include "tests/desktop/uikit/uikit_fixture.hpp"
 
 #include "bindings/uikit/application.hpp"
+#include "bindings/uikit/screen.hpp"
 #include "desktop/runtime/clock.hpp"
 #include "desktop/runtime/run_loop.hpp"
-#include "desktop/uikit/touch_dispatcher.hpp"
+#include "desktop/uikit/events/touch_dispatcher.hpp"
 
 #include <cmath>
 #include <functional>
@@ -22,7 +23,9 @@ struct TouchLogKind : objc::Kind<TouchLogKind, "WTTestTouchLog"> {
 /// A target of actions.
 class TouchLog : public objc::Peer<TouchLog, TouchLogKind, objc::Boundary::propagates> {
 public:
-    static auto methods() { return std::array{objc::method<"handle:", &TouchLog::handle>()}; }
+    static constexpr auto methods() {
+        return std::array{objc::method<"handle:", &TouchLog::handle>()};
+    }
     static SEL action() { return objc::selector<"handle:">(); }
 
     std::vector<ui::GestureState> states;
@@ -44,7 +47,7 @@ struct TouchedViewKind : objc::Kind<TouchedViewKind, "WTTestTouchedView", ui::Vi
 /// A view that notes touches: "b" began, "m" moved, "e" ended, "c" cancelled, for each touch.
 class TouchedView : public objc::Peer<TouchedView, TouchedViewKind, objc::Boundary::propagates> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
             objc::method<"touchesBegan:withEvent:", &TouchedView::note<'b'>>(),
             objc::method<"touchesMoved:withEvent:", &TouchedView::note<'m'>>(),
@@ -58,11 +61,11 @@ public:
 
 private:
     template <char Letter>
-    void note(ns::Set touches, ui::Event) {
-        for (const objc::Object touch : touches.allObjects()) {
+    void note(ns::SetOf<ui::Touch> touches, ui::Event) {
+        for (const ui::Touch touch : touches.allObjects()) {
             seen += Letter;
             if (then) {
-                then(touch.assume<ui::Touch>());
+                then(touch);
             }
         }
     }
@@ -81,7 +84,7 @@ protected:
         desktop::Clock::shared().setMode(desktop::Clock::Mode::real);
     }
 
-    TouchTest() : window_(ui::Window::withFrame(ui::Screen::main().bounds())) {
+    TouchTest() : window_(ui::Window::withFrame(ui::Screen::mainScreen().bounds())) {
         window_.makeKeyAndVisible();
     }
     ~TouchTest() override {

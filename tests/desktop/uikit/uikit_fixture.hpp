@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bindings/objc/pool.hpp"
+#include "desktop/platform/platform.hpp"
 #include "desktop/uikit/uikit.hpp"
 
 #include <gtest/gtest.h>
@@ -13,7 +14,7 @@ class UIKitTest : public testing::Test {
 protected:
     static void SetUpTestSuite() {
         static const bool once = [] {
-            desktop::uikit::registerClasses();
+            desktop::registerPlatform();
             desktop::uikit::startApplication({390, 844, 3});
             return true;
         }();

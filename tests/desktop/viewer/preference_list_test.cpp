@@ -1,5 +1,5 @@
 // The page's list of preferences has exactly the keys that the library reads, of the same kinds.
-#include "library/startup/preference_keys.hpp"
+#include "library/preferences/preference_keys.hpp"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -10,7 +10,7 @@
 
 namespace {
 
-using namespace wentra::startup;
+using namespace wentra::preferences;
 using Kinds = std::map<std::string, std::string>;
 
 nlohmann::json groups() {

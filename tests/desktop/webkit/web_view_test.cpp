@@ -18,7 +18,7 @@ struct ListenerKind : objc::Kind<ListenerKind, "WebTestListener"> {
 /// Writes down the steps of navigations; may stop them at the first.
 class Listener : public desktop::PlatformClass<Listener, ListenerKind> {
 public:
-    static auto methods() {
+    static constexpr auto methods() {
         return std::array{
             objc::method<"webView:didStartProvisionalNavigation:", &Listener::started>(),
             objc::method<"webView:didFinishNavigation:", &Listener::finished>(),
@@ -51,7 +51,7 @@ protected:
     }
 
     objc::Object load(ns::String address) {
-        const auto request = ns::MutableUrlRequest::withUrl(ns::Url::from(address));
+        const auto request = ns::MutableUrlRequest::withUrl(ns::Url::withString(address));
         request.setValue(u"1"_ns, u"X-Test"_ns);
         return view.load(request);
     }

@@ -60,8 +60,9 @@ TEST(ScanHexadecimal, readsTheLeadingNumber) {
         {u"100000000", 0xFFFFFFFF},
         {u"123456789abcdef0123456789", 0xFFFFFFFF},
     };
-    for (const auto& each : cases)
+    for (const auto& each : cases) {
         EXPECT_EQ(scanHexadecimal(each.text), each.number) << std::u16string(each.text).size();
+    }
 }
 
 TEST(ScanHexadecimal, survivesHugeTexts) {
@@ -98,8 +99,9 @@ TEST(HexColour, takesASignOrSixUnits) {
         {u"😄😄😄", black},
         {u"红红红红红红", black},
     };
-    for (const auto& each : cases)
+    for (const auto& each : cases) {
         EXPECT_EQ(hexColour(each.text), each.colour) << std::u16string(each.text).size();
+    }
 }
 
 } // namespace

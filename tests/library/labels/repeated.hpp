@@ -14,8 +14,9 @@ inline constexpr std::size_t tenMegabytes = 10'000'000 / sizeof(char16_t);
 inline std::u16string repeated(std::u16string_view part, std::size_t units = tenMegabytes) {
     std::u16string text;
     text.reserve(units);
-    while (text.size() + part.size() <= units)
+    while (text.size() + part.size() <= units) {
         text.append(part);
+    }
     return text;
 }
 

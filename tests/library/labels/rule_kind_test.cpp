@@ -11,8 +11,9 @@ namespace wentra::labels {
 namespace {
 
 TEST(RuleKind, everyOrderNamesEveryKindOnce) {
-    for (const RuleKindOrder& order : {recognitionOrder, storingOrder, listingOrder})
+    for (const RuleKindOrder& order : {recognitionOrder, storingOrder, listingOrder}) {
         EXPECT_EQ(std::set<RuleKind>(order.begin(), order.end()).size(), ruleKindCount);
+    }
 }
 
 TEST(RuleKind, noTwoKindsShareAMarkerOrAKey) {
@@ -34,8 +35,9 @@ TEST(RuleKind, eachKindIsStoredUnderItsOwnKey) {
         {RuleKind::horizontal, u"横向zerk"}, {RuleKind::vertical, u"纵向zerk"},
         {RuleKind::alpha, u"透明zerk"},
     };
-    for (const auto& [kind, key] : expected)
+    for (const auto& [kind, key] : expected) {
         EXPECT_EQ(ruleKindNames(kind).defaultsKey, key);
+    }
 }
 
 } // namespace

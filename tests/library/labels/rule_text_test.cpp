@@ -21,16 +21,18 @@ using KindKeyValue = std::tuple<RuleKind, std::u16string, std::u16string>;
 std::vector<KindKeyValue> flattened(const RuleSet& rules) {
     std::vector<KindKeyValue> flat;
     for (const RuleKind kind : listingOrder) {
-        for (const Rule& rule : rules[kind])
+        for (const Rule& rule : rules[kind]) {
             flat.emplace_back(kind, rule.key, rule.value);
+        }
     }
     return flat;
 }
 
 RuleSet ruleSet(const std::vector<KindKeyValue>& flat) {
     RuleSet rules;
-    for (const auto& [kind, key, value] : flat)
+    for (const auto& [kind, key, value] : flat) {
         rules[kind].assign(key, value);
+    }
     return rules;
 }
 
@@ -69,8 +71,9 @@ TEST(ParseRules, readsOneLine) {
         {u"\0===\0\0"sv, {{RuleKind::text, u"\0"s, u"\0\0"s}}},
         {u"\xD83D===\xDE04"sv, {{RuleKind::text, u"\xD83D"s, u"\xDE04"s}}},
     };
-    for (const LineCase& each : cases)
+    for (const LineCase& each : cases) {
         EXPECT_EQ(flattened(parseRules(each.line)), each.rules) << std::u16string(each.line).size();
+    }
 }
 
 TEST(ParseRules, firstMarkerInRecognitionOrderDecidesTheKind) {
@@ -85,8 +88,9 @@ TEST(ParseRules, firstMarkerInRecognitionOrderDecidesTheKind) {
         {u"a#z=1#k=2", {{RuleKind::width, u"a#z=1", u"2"}}},
         {u"a===b===c#=d", {}},
     };
-    for (const LineCase& each : cases)
+    for (const LineCase& each : cases) {
         EXPECT_EQ(flattened(parseRules(each.line)), each.rules) << std::u16string(each.line).size();
+    }
 }
 
 TEST(ParseRules, laterLineWinsWithinItsKind) {

@@ -43,8 +43,9 @@ TEST(ConvertStringsFile, replacesWhatTheExpressionMatches) {
         {u"“a”=“b”;", u"“a”=“b”;"},
         {u"\"\xD800\0\"=\"\0\xDC00\";"sv, u"\xD800\0===\0\xDC00"sv},
     };
-    for (const Conversion& each : cases)
+    for (const Conversion& each : cases) {
         EXPECT_EQ(convertStringsFile(each.text), each.converted);
+    }
 }
 
 TEST(ConvertStringsFile, noMatchCrossesALineTerminator) {
@@ -59,8 +60,9 @@ TEST(ConvertStringsFile, noMatchCrossesALineTerminator) {
             std::ranges::replace(result, u'@', terminator);
             return result;
         };
-        for (const Conversion& each : cases)
+        for (const Conversion& each : cases) {
             EXPECT_EQ(convertStringsFile(terminated(each.text)), terminated(each.converted));
+        }
     }
     EXPECT_EQ(convertStringsFile(u"\"a\0\u0084\u2027\"=\"b\";"sv), u"a\0\u0084\u2027===b"sv);
 }

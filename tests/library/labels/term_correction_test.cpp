@@ -18,8 +18,9 @@ struct Correction {
 
 TEST(CorrectTerms, keepsTextWithoutKnownTerms) {
     for (const std::u16string_view text :
-         {u""sv, u"lpm"sv, u"支 架"sv, u"空格"sv, u"\xD83D\0\xDE04"sv, u"颜色Alpha"sv})
+         {u""sv, u"lpm"sv, u"支 架"sv, u"空格"sv, u"\xD83D\0\xDE04"sv, u"颜色Alpha"sv}) {
         EXPECT_EQ(correctTerms(text), text);
+    }
 }
 
 TEST(CorrectTerms, correctsEveryOccurrence) {
@@ -34,8 +35,9 @@ TEST(CorrectTerms, correctsEveryOccurrence) {
         {u"停靠码头", u"DockDock"},
         {u"重新重新呼吸", u"重新注销"},
     };
-    for (const Correction& each : cases)
+    for (const Correction& each : cases) {
         EXPECT_EQ(correctTerms(each.text), each.corrected);
+    }
 }
 
 TEST(CorrectTerms, earlierCorrectionConsumesWhatALaterOneWanted) {
@@ -44,8 +46,9 @@ TEST(CorrectTerms, earlierCorrectionConsumesWhatALaterOneWanted) {
         {u"打开支架", u"左括号"},   {u"闭合支架", u"右括号"}, {u"支架", u"括号"},
         {u"捆绑包id", u"Bundleid"},
     };
-    for (const Correction& each : cases)
+    for (const Correction& each : cases) {
         EXPECT_EQ(correctTerms(each.text), each.corrected);
+    }
 }
 
 TEST(CorrectTerms, earlierCorrectionMakesWhatALaterOneWants) {
@@ -53,8 +56,9 @@ TEST(CorrectTerms, earlierCorrectionMakesWhatALaterOneWants) {
         {u"打开式支架", u"左括号"}, {u"公开支架", u"左括号"}, {u"开放支架", u"左括号"},
         {u"公开放", u"打打开"},     {u"公开式", u"打开式"},
     };
-    for (const Correction& each : cases)
+    for (const Correction& each : cases) {
         EXPECT_EQ(correctTerms(each.text), each.corrected);
+    }
 }
 
 TEST(CorrectTerms, survivesHugeTexts) {

@@ -29,8 +29,9 @@ struct Replacement {
 };
 
 void expectReplacements(const std::vector<Replacement>& cases) {
-    for (const Replacement& each : cases)
+    for (const Replacement& each : cases) {
         EXPECT_EQ(replacedBy(each.rules, each.text), each.shown);
+    }
 }
 
 TEST(ReplacedText, prefixRuleReplacesWhatPrecedesTheFirstColon) {

@@ -1,50 +1,46 @@
 // Loading the library into the desktop platform: every hook in its place, the toolbox in its time.
 #include "library/startup/start_up.hpp"
 
+#include "bindings/foundation/notification_center.hpp"
 #include "bindings/objc/hook.hpp"
 #include "bindings/objc/pool.hpp"
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/text_view.hpp"
 #include "desktop/foundation/url_session.hpp"
+#include "desktop/platform/platform.hpp"
 #include "desktop/runtime/clock.hpp"
 #include "desktop/runtime/run_loop.hpp"
 #include "desktop/uikit/uikit.hpp"
-#include "library/blocking/request_hooks.hpp"
-#include "library/common/draggable_view.hpp"
-#include "library/editing/edit_menu_hooks.hpp"
-#include "library/editing/text_gesture_hooks.hpp"
-#include "library/labels/color_from_string.hpp"
-#include "library/labels/label_text_hooks.hpp"
-#include "library/labels/long_press_copy.hpp"
-#include "library/labels/rule_editor/editor.hpp"
-#include "library/labels/rule_editor_hooks.hpp"
-#include "library/scratchpad/scratch_pad_hook.hpp"
 #include "library/toolbox/view_model.hpp"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 #include <vector>
 
 namespace wentra::startup {
 namespace {
 
-using Tables = std::vector<std::span<const objc::Change>>;
-
-Tables allTables() {
-    return {
-        draggableCategory(),         labels::longPressCopyCategory(), labels::colourCategory(),
-        labels::editorProperties(),  labels::editorOpening(),         labels::editorSaving(),
-        labels::editorCommands(),    labels::editorGestures(),        labels::fontPicking(),
-        labels::keywordSearch(),     labels::colourChoosing(),        editing::menuItemCategory(),
-        editing::speechCategories(), labels::longPressCopyLoad(),     labels::labelTextLoad(),
-        labels::yyLabelTextLoad(),   scratchpad::scratchPadHooks(),   blocking::requestHooks(),
-        labels::containerHooks(),    labels::labelTextHooks(),        labels::cameraHooks(),
-        editing::editMenuHooks(),    editing::textGestureHooks()};
+/// Every table that start-up installs.
+std::vector<std::span<const objc::Change>> allTables() {
+    std::vector<std::span<const objc::Change>> tables;
+    for (const Face& face : faces()) {
+        for (const Table category : face.categories) {
+            tables.push_back(category());
+        }
+    }
+    for (const Step& step : steps()) {
+        for (const Table hooks : step.hooks) {
+            tables.push_back(hooks());
+        }
+    }
+    return tables;
 }
 
 IMP implementation(const objc::Change& change) {
-    const Class cls = objc::detail::target(change.className, change.side);
+    const Class cls = change.side == objc::Side::type ? objc_getMetaClass(change.className)
+                                                      : objc_lookUpClass(change.className);
     const SEL name = sel_registerName(change.selector);
     const Method method = cls != nullptr ? class_getInstanceMethod(cls, name) : nullptr;
     return method != nullptr ? method_getImplementation(method) : nullptr;
@@ -61,6 +57,25 @@ std::map<std::string, IMP> implementations() {
     return found;
 }
 
+/// The names that are observed on the main queue, as they come.
+std::vector<std::string> observed;
+IMP formerObserve = nullptr;
+id keepObserved(id self, SEL message, id name, id object, id queue, id block) {
+    if (queue == ns::OperationQueue::mainQueue().raw()) {
+        observed.push_back(objc::wrap<ns::String>(name).utf8());
+    }
+    return objc::invoke<objc::Object>(formerObserve, self, message, name, object, queue, block)
+        .raw();
+}
+
+/// Not a hook: the desktop's Foundation writes the block's type in its own way.
+void watchObservers() {
+    const Method method =
+        class_getInstanceMethod(objc_lookUpClass("NSNotificationCenter"),
+                                sel_registerName("addObserverForName:object:queue:usingBlock:"));
+    formerObserve = method_setImplementation(method, reinterpret_cast<IMP>(&keepObserved));
+}
+
 int updates = 0;
 void countUpdate(objc::Next<void()> next, toolbox::ViewModel) {
     ++updates;
@@ -71,11 +86,14 @@ TEST(StartUp, InstallsEveryRowOnceAndTheToolboxLater) {
     const objc::Pool pool;
     desktop::Clock::shared().setMode(desktop::Clock::Mode::virtual_);
     desktop::foundation::installUrlSessions();
-    desktop::uikit::registerClasses();
+    desktop::registerPlatform();
     desktop::uikit::startApplication({390, 844, 3});
 
+    watchObservers();
     const auto before = implementations();
     startUp();
+    EXPECT_EQ(std::ranges::count(observed, std::string("UIMenuControllerWillShowMenuNotification")),
+              1);
     const auto after = implementations();
     // Applications' own classes, frameworks that the desktop does not have, and methods that exist
     // on no platform: the table has rows for them all the same.
@@ -111,17 +129,37 @@ TEST(StartUp, InstallsEveryRowOnceAndTheToolboxLater) {
     EXPECT_EQ(updates, 1);
 }
 
-TEST(StartUp, RunsInTheFixedOrder) {
-    std::vector<std::string_view> names;
-    for (const Step& step : steps()) {
-        names.push_back(step.name);
+/// "UILabel setText:, …": the first row of each of a step's tables.
+std::string firstRows(const Step& step) {
+    std::string rows;
+    for (const Table hooks : step.hooks) {
+        rows += (rows.empty() ? "" : ", ") + hooks().front().description();
     }
-    ASSERT_EQ(names.size(), 12U);
-    EXPECT_EQ(names[1], "UILabel(LongPressCopy) load");
-    EXPECT_EQ(names[2], "UILabel(hook) load");
-    EXPECT_EQ(names[3], "YYLabel load");
-    for (std::size_t initialiser = 1; initialiser <= 8; ++initialiser) {
-        EXPECT_EQ(names[3 + initialiser].front(), static_cast<char>('0' + initialiser));
+    return rows;
+}
+
+TEST(StartUp, InstallsItsHooksInTheFixedOrder) {
+    std::vector<std::string> rows;
+    for (const Step& step : steps()) {
+        rows.push_back(firstRows(step));
+    }
+    const std::vector<std::string> expected{
+        "", // classes and categories
+        "UILabel didMoveToSuperview",
+        "UILabel setText:",
+        "YYLabel setText:",
+        "PSSplitViewController viewDidLoad",
+        "", // the preference path and the toolbox
+        "+NSURL URLWithString:",
+        "UIStackView layoutSubviews, UILabel setText:",
+        "XCamera.XHContentView layoutSubviews",
+        "", // the observer of the edit menu
+        "UIResponder canBecomeFirstResponder",
+        "YYLabel initWithFrame:",
+    };
+    EXPECT_EQ(rows, expected);
+    for (const Step& step : steps()) {
+        EXPECT_EQ(step.action != nullptr, step.hooks.empty()) << step.name;
     }
 }
 

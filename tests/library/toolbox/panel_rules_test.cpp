@@ -2,7 +2,7 @@
 #include "library/toolbox/grid/text_counts.hpp"
 #include "library/toolbox/grid/tile_size.hpp"
 #include "library/toolbox/panel/body_layout.hpp"
-#include "tests/library/startup/property_list/property_list_writer.hpp"
+#include "tests/library/preferences/property_list/property_list_writer.hpp"
 
 #include <gtest/gtest.h>
 
@@ -14,16 +14,16 @@ namespace {
 constexpr double infinite = std::numeric_limits<double>::infinity();
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
-BodyLayout layout(const startup::WrittenEntries& entries) {
-    return BodyLayout::from(startup::Preferences::parse(startup::xmlPropertyList(entries)));
+BodyLayout layout(const preferences::WrittenEntries& entries) {
+    return BodyLayout::from(preferences::Preferences::parse(preferences::xmlPropertyList(entries)));
 }
 
 TEST(BodyLayout, HasDefaultsForWhatIsMissingOrZero) {
-    for (const startup::WrittenEntries& entries :
-         {startup::WrittenEntries{},
-          startup::WrittenEntries{{"触摸窗口起点", 0.0},
-                                  {"表格窗口高度", 0.0},
-                                  {"三排功能位置", std::string("inf")}}}) {
+    for (const preferences::WrittenEntries& entries :
+         {preferences::WrittenEntries{},
+          preferences::WrittenEntries{{"触摸窗口起点", 0.0},
+                                      {"表格窗口高度", 0.0},
+                                      {"三排功能位置", std::string("inf")}}}) {
         const BodyLayout standard = layout(entries);
         EXPECT_EQ(standard.body(390), (CGRect{{0, 150}, {390, 1050}}));
         EXPECT_EQ(standard.grid(390), (CGRect{{12, 0}, {366, 320}}));

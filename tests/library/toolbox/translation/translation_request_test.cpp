@@ -7,7 +7,6 @@ namespace wentra::toolbox {
 namespace {
 
 using namespace std::string_view_literals;
-using Lines = std::vector<std::u16string>;
 
 TEST(TranslationRequest, TakesTextForChineseFromTheSecondIdeographOn) {
     for (const auto& [text, target] : std::vector<std::pair<std::u16string_view, std::string_view>>{
@@ -22,17 +21,6 @@ TEST(TranslationRequest, TakesTextForChineseFromTheSecondIdeographOn) {
          }) {
         EXPECT_EQ(targetLanguage(text), target) << text.size();
     }
-}
-
-TEST(TranslationRequest, EndsALineAtEveryNewlineCharacter) {
-    EXPECT_EQ(linesOf(u""), Lines{u""});
-    EXPECT_EQ(linesOf(u"\n"), (Lines{u"", u""}));
-    EXPECT_EQ(linesOf(u"a\r\nb\n\nc"), (Lines{u"a", u"", u"b", u"", u"c"}));
-    EXPECT_EQ(linesOf(u"a\vb\fc\x85"
-                      u"d\x2028"
-                      u"e\x2029"),
-              (Lines{u"a", u"b", u"c", u"d", u"e", u""}));
-    EXPECT_EQ(linesOf(u"a\tb\x1C"), Lines{u"a\tb\x1C"});
 }
 
 TEST(TranslationRequest, EncodesAllButAsciiLettersDigitsAndSixCharacters) {

@@ -1,0 +1,29 @@
+// NSPropertyListSerialization: property lists as bytes.
+#pragma once
+
+#include "bindings/foundation/data.hpp"
+
+namespace ns {
+
+/// The platform's numbers.
+enum class PropertyListFormat : unsigned long { xml = 100, binary = 200 };
+
+struct PropertyListSerialization
+    : objc::Kind<PropertyListSerialization, "NSPropertyListSerialization"> {
+    using Kind::Kind;
+
+    /// An error when `list` holds anything that a property list cannot.
+    static Result<Data> data(objc::Object list, PropertyListFormat format) {
+        const ErrorPointer error;
+        return error.result(sendClass<"dataWithPropertyList:format:options:error:", Data>(
+            list, format, 0UL, error.out()));
+    }
+    /// The list in the bytes, of whichever format, immutable; an error when they hold none.
+    static Result<objc::Object> propertyList(Data data) {
+        const ErrorPointer error;
+        return error.result(sendClass<"propertyListWithData:options:format:error:", objc::Object>(
+            data, 0UL, static_cast<void*>(nullptr), error.out()));
+    }
+};
+
+} // namespace ns

@@ -1,0 +1,20 @@
+// UICollectionViewFlowLayout: items in lines.
+#pragma once
+
+#include "bindings/uikit/collection_view_layout.hpp"
+
+namespace ui {
+
+struct CollectionViewFlowLayout
+    : objc::Kind<CollectionViewFlowLayout, "UICollectionViewFlowLayout", CollectionViewLayout> {
+    using Kind::Kind;
+
+    /// In points, at least, between the items of a line.
+    void setMinimumInteritemSpacing(double points) const {
+        send<"setMinimumInteritemSpacing:">(points);
+    }
+    /// In points, at least, between lines.
+    void setMinimumLineSpacing(double points) const { send<"setMinimumLineSpacing:">(points); }
+};
+
+} // namespace ui

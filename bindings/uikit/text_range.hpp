@@ -1,0 +1,16 @@
+// UITextRange.
+#pragma once
+
+#include "bindings/uikit/text_position.hpp"
+
+namespace ui {
+
+struct TextRange : objc::Kind<TextRange, "UITextRange"> {
+    using Kind::Kind;
+
+    [[nodiscard]] TextPosition start() const { return send<"start", TextPosition>(); }
+    [[nodiscard]] TextPosition end() const { return send<"end", TextPosition>(); }
+    [[nodiscard]] bool isEmpty() const { return send<"isEmpty", bool>(); }
+};
+
+} // namespace ui

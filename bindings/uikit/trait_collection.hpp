@@ -1,0 +1,37 @@
+// UITraitCollection.
+#pragma once
+
+#include "bindings/objc/kind.hpp"
+
+namespace ui {
+
+/// Appearances; the platform's numbers.
+enum class InterfaceStyle : long { unspecified = 0, light = 1, dark = 2 };
+
+/// How much room there is in one direction; the platform's numbers.
+enum class SizeClass : long { unspecified = 0, compact = 1, regular = 2 };
+
+struct TraitCollection : objc::Kind<TraitCollection, "UITraitCollection"> {
+    using Kind::Kind;
+
+    /// What holds where drawing or layout is under way.
+    static TraitCollection current() {
+        return sendClass<"currentTraitCollection", TraitCollection>();
+    }
+    /// Tells the style only.
+    static TraitCollection with(InterfaceStyle style) {
+        return sendClass<"traitCollectionWithUserInterfaceStyle:", TraitCollection>(style);
+    }
+    [[nodiscard]] InterfaceStyle userInterfaceStyle() const {
+        return send<"userInterfaceStyle", InterfaceStyle>();
+    }
+    [[nodiscard]] SizeClass horizontalSizeClass() const {
+        return send<"horizontalSizeClass", SizeClass>();
+    }
+    [[nodiscard]] SizeClass verticalSizeClass() const {
+        return send<"verticalSizeClass", SizeClass>();
+    }
+    [[nodiscard]] double displayScale() const { return send<"displayScale", double>(); }
+};
+
+} // namespace ui

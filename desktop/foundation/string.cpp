@@ -1,0 +1,147 @@
+// What GNUstep would refuse or change goes around its converter.
+#include "desktop/foundation/string.hpp"
+
+#include "bindings/foundation/string.hpp"
+#include "bindings/objc/hook.hpp"
+#include "bindings/objc/pool.hpp"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace desktop::foundation {
+namespace {
+
+bool isHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
+bool isLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
+
+bool isPairAt(std::u16string_view text, std::size_t at) {
+    return isHighSurrogate(text[at]) && at + 1 < text.size() && isLowSurrogate(text[at + 1]);
+}
+
+/// How much of the text is well-formed.
+std::size_t wellFormedLength(std::u16string_view text) {
+    std::size_t at = 0;
+    while (at < text.size()) {
+        const bool isPair = isPairAt(text, at);
+        if (!isPair && (isHighSurrogate(text[at]) || isLowSurrogate(text[at]))) {
+            break;
+        }
+        at += isPair ? 2 : 1;
+    }
+    return at;
+}
+
+bool isWellFormed(std::u16string_view text) { return wellFormedLength(text) == text.size(); }
+
+bool beginsWithMark(std::u16string_view text) {
+    return text.starts_with(u'\uFEFF') || text.starts_with(u'\uFFFE');
+}
+
+/// A string of one unit of any kind, cut out of one that GNUstep makes.
+ns::String single(char16_t unit) {
+    constexpr ns::Range first{0, 1};
+    constexpr ns::Range second{1, 1};
+    const bool isFirst = isHighSurrogate(unit);
+    const std::u16string pair = isFirst                ? std::u16string{unit, 0xDC00}
+                                : isLowSurrogate(unit) ? std::u16string{0xD800, unit}
+                                                       : std::u16string{u'x', unit};
+    return ns::String::from(pair).send<"substringWithRange:", ns::String>(isFirst ? first : second);
+}
+
+/// Puts the text together of parts that GNUstep makes.
+void append(std::u16string_view text, ns::MutableString whole) {
+    while (!text.empty()) {
+        const std::size_t length = beginsWithMark(text) ? 0 : wellFormedLength(text);
+        const ns::String part =
+            length > 0 ? ns::String::from(text.substr(0, length)) : single(text[0]);
+        whole.append(part);
+        text.remove_prefix(std::max<std::size_t>(length, 1));
+    }
+}
+
+using Maker = objc::Next<ns::String(const char16_t*, unsigned long)>;
+ns::String make(Maker next, ns::String self, const char16_t* units, unsigned long length) {
+    const std::u16string_view text(units, length);
+    if (isWellFormed(text) && !beginsWithMark(text)) {
+        return next(units, length);
+    }
+    const objc::Pool pool;
+    if (const auto empty = self.as<ns::MutableString>(); empty) {
+        const auto whole = empty.send<"init", ns::MutableString>();
+        append(text, whole);
+        return whole;
+    }
+    const auto whole = ns::MutableString::make<"init">();
+    append(text, whole);
+    self.send<"release">();
+    return whole.send<"copy", ns::String>();
+}
+
+constexpr unsigned utf16BigEndian = 0x90000100; // encodings are half as wide in GNUstep
+
+/// The strings of binary property lists, which hold any units; GNUstep gives nil for some of them.
+using Decoder = objc::Next<ns::String(const void*, unsigned long, unsigned)>;
+ns::String decode(Decoder next, ns::String self, const void* bytes, unsigned long length,
+                  unsigned encoding) {
+    if (encoding != utf16BigEndian || length % 2 != 0) {
+        return next(bytes, length, encoding);
+    }
+    const std::string_view pairs(static_cast<const char*>(bytes), length);
+    std::u16string text;
+    text.reserve(length / 2);
+    for (std::size_t at = 0; at < length; at += 2) {
+        text += static_cast<char16_t>(static_cast<unsigned char>(pairs[at]) << 8 |
+                                      static_cast<unsigned char>(pairs[at + 1]));
+    }
+    return self.send<"initWithCharacters:length:", ns::String>(
+        text.data(), static_cast<unsigned long>(text.size()));
+}
+
+using Encoder = objc::Next<const char*()>;
+const char* encode(Encoder next, ns::String self) {
+    return isWellFormed(self.utf16()) ? next() : nullptr;
+}
+
+struct UnicodeText : objc::Kind<UnicodeText, "GSUnicodeString", ns::String> {
+    using Kind::Kind;
+};
+
+/// Whether two strings of the same length have the same units.
+bool haveSameUnits(ns::String one, ns::String other, std::size_t length) {
+    constexpr std::size_t block = 64;
+    std::array<char16_t, block> left{};
+    std::array<char16_t, block> right{};
+    for (std::size_t at = 0; at < length; at += block) {
+        const ns::Range range{at, std::min(block, length - at)};
+        one.getCharacters(left.data(), range);
+        other.getCharacters(right.data(), range);
+        if (!std::equal(left.begin(), left.begin() + range.length, right.begin())) {
+            return false;
+        }
+    }
+    return true;
+}
+
+using Comparison = objc::Next<bool(objc::Object)>;
+bool isEqual(Comparison next, ns::String self, objc::Object other) {
+    const auto text = other.as<UnicodeText>();
+    if (!text) {
+        return next(other);
+    }
+    const std::size_t length = self.length();
+    return length == text.length() && haveSameUnits(self, text, length);
+}
+
+} // namespace
+
+void installStrings() {
+    objc::install(objc::hook<"GSUnicodeString", "isEqual:", &isEqual>());
+    objc::install(objc::hook<"NSString", "initWithCharacters:length:", &make>());
+    objc::install(objc::hook<"GSPlaceholderString", "initWithBytes:length:encoding:", &decode>());
+    objc::install(objc::hook<"GSUnicodeString", "UTF8String", &encode>());
+    objc::install(objc::hook<"GSMutableString", "UTF8String", &encode>());
+}
+
+} // namespace desktop::foundation

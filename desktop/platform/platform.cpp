@@ -1,0 +1,21 @@
+// Registering every framework, in the order in which they build on each other.
+#include "desktop/platform/platform.hpp"
+
+#include "desktop/avfaudio/speech_synthesizer.hpp"
+#include "desktop/safariservices/safari_view_controller.hpp"
+#include "desktop/uikit/uikit.hpp"
+#include "desktop/webkit/web_view.hpp"
+
+#include "bindings/objc/pool.hpp"
+
+namespace desktop {
+
+void registerPlatform() {
+    const objc::Pool pool;
+    uikit::registerClasses();
+    registerSpeechClasses();
+    registerWebClasses();
+    SafariViewController::registerClass();
+}
+
+} // namespace desktop

@@ -1,0 +1,171 @@
+// The host: a process in which an application runs on the desktop platform, with the library in it.
+#include "desktop/host/app.hpp"
+#include "desktop/host/automation.hpp"
+#include "desktop/host/device_folder.hpp"
+#include "desktop/host/event_recording.hpp"
+#include "desktop/host/main_loop.hpp"
+#include "desktop/host/options.hpp"
+#include "desktop/host/settings_bundle.hpp"
+
+#include "bindings/foundation/user_defaults.hpp"
+#include "bindings/objc/boundary.hpp"
+#include "bindings/objc/pool.hpp"
+#include "desktop/foundation/foundation.hpp"
+#include "desktop/platform/platform.hpp"
+#include "desktop/uikit/uikit.hpp"
+#include "desktop/viewer/access.hpp"
+#include "desktop/viewer/listener.hpp"
+#include "desktop/viewer/phone.hpp"
+#include "desktop/viewer/supervisor.hpp"
+
+#include <cstdio>
+#include <dlfcn.h>
+#include <functional>
+
+namespace {
+
+using namespace desktop;
+using namespace desktop::host;
+
+constexpr int usageFailure = 2;
+
+const App& chosenApp(const Options& options) {
+    const App* app = appNamed(options.application);
+    if (app == nullptr) {
+        throw UsageError("unknown application: " + options.application);
+    }
+    return *app;
+}
+
+void readContent(const App& app, const Options& options) {
+    if (!options.content) {
+        return;
+    }
+    if (app.readContent == nullptr) {
+        throw UsageError("--content: the texts of " + options.application + " are fixed");
+    }
+    app.readContent(*options.content);
+}
+
+void listApplications() {
+    for (const App* app : apps()) {
+        std::printf("%-10s %s\n", app->name, app->bundleIdentifier);
+    }
+}
+
+std::filesystem::path libraryFile(const Options& options) {
+    return options.library.value_or(std::filesystem::read_symlink("/proc/self/exe").parent_path() /
+                                    "../lib/Wentra.so");
+}
+
+void loadLibrary(const std::filesystem::path& file) {
+    if (dlopen(std::filesystem::absolute(file).c_str(), RTLD_NOW | RTLD_LOCAL) == nullptr) {
+        throw std::runtime_error(std::string("cannot load the library: ") + dlerror());
+    }
+}
+
+/// Brings the application up in the order of a phone: its classes exist before any library does.
+void launch(const App& app, const Options& options) {
+    const objc::Pool pool;
+    app.registerClasses();
+    if (options.loadsLibrary) {
+        loadLibrary(libraryFile(options));
+    }
+    uikit::startApplication({options.screen.width, options.screen.height, options.screen.scale});
+    app.launch();
+}
+
+/// Brings the device and the application up, lets `drive` run the main thread, and saves what is
+/// to be saved. Gives the exit status.
+int runDevice(const App& app, const Options& options, const std::function<void(Values&)>& drive) {
+    const objc::Pool pool;
+    try {
+        watchForStop();
+        Clock::shared().setMode(options.clockMode());
+        foundation::install(options.bundle.value_or(app.bundleIdentifier));
+        recordEvents();
+        registerPlatform();
+        Values values; // before the library can change how its parts are made
+        launch(app, options);
+        drive(values);
+        ns::UserDefaults::standardUserDefaults().synchronize();
+        return EXIT_SUCCESS;
+    } catch (...) {
+        const objc::ExceptionText text = objc::describeCurrentException();
+        std::fprintf(stderr, "host: %s: %s\n", text.name.c_str(), text.reason.c_str());
+        return EXIT_FAILURE;
+    }
+}
+
+/// Gives the device the settings bundle's pictures where they are wanted.
+void furnish(const DeviceFolder& device, const Options& options) {
+    if (options.settingsBundle || options.viewer) {
+        addSettingsBundle(device.path());
+    }
+}
+
+int runForScript(const App& app, const Options& options) {
+    Streams streams;
+    const DeviceFolder device(options.root);
+    furnish(device, options);
+    return runDevice(app, options, [&](Values& values) { automate(streams, values); });
+}
+
+int runAlone(const App& app, const Options& options) {
+    const DeviceFolder device(options.root);
+    furnish(device, options);
+    std::fprintf(stderr, "Wentra host %s: %s, device folder %s\n", WENTRA_VERSION, app.name,
+                 device.path().c_str());
+    return runDevice(app, options, [](Values&) { runUntilStopped(); });
+}
+
+int runForPage(const App& app, const Options& options) {
+    const viewer::Listener listener(options.port);
+    const viewer::Door door{listener.socket(), viewer::freshToken()};
+    const DeviceFolder device(options.root);
+    furnish(device, options);
+    std::printf("Wentra %s, data folder %s\nhttp://127.0.0.1:%u/%s/\n", WENTRA_VERSION,
+                device.path().c_str(), unsigned{listener.port()}, door.token.c_str());
+    return viewer::supervise(app.name, [&](const viewer::Start& start) {
+        Options asked = options;
+        if (start.application != app.name) {
+            asked.bundle.reset(); // it was given for the first application
+        }
+        return runDevice(*appNamed(start.application), asked, [&](Values& values) {
+            const viewer::Phone phone(door, start, device.path(), values);
+            runUntilStopped();
+        });
+    });
+}
+
+int run(const Options& options) {
+    const App& app = chosenApp(options);
+    readContent(app, options);
+    if (options.automation) {
+        return runForScript(app, options);
+    }
+    return options.viewer ? runForPage(app, options) : runAlone(app, options);
+}
+
+} // namespace
+
+int main(int count, char** words) {
+    try {
+        const Options options = parseOptions({words + 1, words + count});
+        if (options.help) {
+            std::fputs(usage, stdout);
+            return EXIT_SUCCESS;
+        }
+        if (options.listsApplications) {
+            listApplications();
+            return EXIT_SUCCESS;
+        }
+        return run(options);
+    } catch (const UsageError& error) {
+        std::fprintf(stderr, "%shost: %s\n", usage, error.what());
+        return usageFailure;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "host: %s\n", error.what());
+        return EXIT_FAILURE;
+    }
+}

@@ -1,0 +1,162 @@
+// Walking the views: transforms, opacity, clipping and borders of each view's layer.
+#include "desktop/uikit/application/compositor.hpp"
+
+#include "desktop/coregraphics/affine.hpp"
+#include "desktop/coregraphics/graphics_context.hpp"
+#include "desktop/uikit/application/application.hpp"
+#include "desktop/uikit/application/screen.hpp"
+#include "desktop/uikit/application/status_bar.hpp"
+#include "desktop/uikit/traits/screen_traits.hpp"
+#include "desktop/uikit/traits/trait_collection.hpp"
+#include "desktop/uikit/values/color.hpp"
+#include "desktop/uikit/values/image.hpp"
+#include "desktop/uikit/views/view.hpp"
+
+namespace desktop {
+namespace {
+
+// Stamps that no layer has.
+constexpr std::uint64_t screenStamp = 1;
+constexpr std::uint64_t statusBarStamp = 2;
+constexpr std::uint64_t homeIndicatorStamp = 3;
+constexpr std::uint64_t lightStatusBarStamp = 4;
+
+AffineTransform affine(const CGAffineTransform& t) { return {t.a, t.b, t.c, t.d, t.tx, t.ty}; }
+
+Size screenSize() {
+    const CGSize size = ScreenGeometry::current().size;
+    return {size.width, size.height};
+}
+
+/// Whether its class has a way to draw that is not UIView's, which draws nothing.
+bool drawsItself(ui::View view) {
+    const SEL draw = objc::selector<"drawRect:">();
+    return objc::lookUp(view.raw(), draw) !=
+           class_getMethodImplementation(View::registeredClass(), draw);
+}
+
+/// Whether what lies below the system's marks is dark, as far as the platform looks at it.
+bool isDark() {
+    const ui::Window window = Application::shared().keyWindow();
+    const Traits traits = window ? View::of(window).traits() : screenTraits();
+    return traits.style == ui::InterfaceStyle::dark;
+}
+
+class Walk {
+public:
+    Walk(Composition& result, double scale) : result_(result), list_(result.list), scale_(scale) {}
+
+    void screen() {
+        const CGAffineTransform points{scale_, 0, 0, scale_, 0, 0};
+        const Size size = screenSize();
+        const PlacedBox everything{affine(points), {0, 0, size.width, size.height}};
+        list_.add({.stamp = screenStamp, .shape = everything, .colour = {0, 0, 0, 1}});
+        for (const ui::Window window : Application::shared().visibleWindows()) {
+            add(window, points, DisplayGroup::none);
+        }
+        const Colour ink = systemInk(isDark());
+        if (!ScreenGeometry::current().isLandscape()) {
+            list_.add({.kind = DisplayItem::Kind::content,
+                       .stamp = ink == systemInk(true) ? lightStatusBarStamp : statusBarStamp,
+                       .shape = {affine(points), statusBarArea(size)}});
+        }
+        const Rectangle indicator = homeIndicatorArea(size);
+        list_.add({.stamp = homeIndicatorStamp,
+                   .shape = {affine(points), indicator, indicator.height / 2},
+                   .colour = ink});
+    }
+
+private:
+    void add(ui::View view, const CGAffineTransform& parent, int group) {
+        const View& peer = View::of(view);
+        const Layer& layer = peer.layer();
+        const LayerValues shown = layer.presented();
+        const CGAffineTransform place = concatenated(shown.toSuperlayer(), parent);
+        if (layer.isHidden() || !(shown.opacity > 0) || !inverted(place)) {
+            return;
+        }
+        const PlacedBox shape{affine(place), rectangle(shown.bounds), shown.cornerRadius};
+        DisplayItem item{.group = group, .stamp = layer.contentStamp(), .shape = shape};
+        if (shown.opacity < 1) {
+            item.group = list_.addGroup({.kind = DisplayGroup::Kind::opacity,
+                                         .parent = group,
+                                         .stamp = item.stamp,
+                                         .opacity = static_cast<double>(shown.opacity)});
+        }
+        addFill(item, shown.backgroundColor);
+        addInside(view, item, place);
+        addBorder(item, layer);
+    }
+
+    void addFill(DisplayItem item, const Colour& colour) {
+        item.colour = colour;
+        if (colour.alpha > 0) {
+            list_.add(item);
+        }
+    }
+
+    /// The view's own drawing, and its subviews.
+    void addInside(ui::View view, DisplayItem item, const CGAffineTransform& place) {
+        const View& peer = View::of(view);
+        if (peer.layer().masksToBounds()) {
+            item.group = list_.addGroup({.kind = DisplayGroup::Kind::clip,
+                                         .parent = item.group,
+                                         .stamp = item.stamp,
+                                         .shape = item.shape});
+            if (list_.groups.back().extents.isEmpty()) {
+                return;
+            }
+        }
+        if (drawsItself(view) || peer.layer().contents()) {
+            item.kind = DisplayItem::Kind::content;
+            list_.add(item);
+            result_.views.emplace(item.stamp, view);
+        }
+        for (const auto& child : peer.children()) {
+            add(child, place, item.group);
+        }
+    }
+
+    void addBorder(DisplayItem item, const Layer& layer) {
+        if (layer.borderWidth() > 0) {
+            const ui::Color colour = layer.borderUIColor();
+            item.kind = DisplayItem::Kind::border;
+            item.colour = Color::valueOf(colour ? colour : ui::Color::black());
+            item.lineWidth = layer.borderWidth();
+            list_.add(item);
+        }
+    }
+
+    Composition& result_;
+    DisplayList& list_;
+    double scale_;
+};
+
+} // namespace
+
+void Composition::draw(std::uint64_t stamp, Canvas& canvas) const {
+    if (stamp == statusBarStamp || stamp == lightStatusBarStamp) {
+        drawStatusBar(canvas, screenSize(), systemInk(stamp == lightStatusBarStamp));
+        return;
+    }
+    const auto view = views.find(stamp);
+    if (view == views.end()) {
+        return;
+    }
+    const Layer& layer = View::of(view->second).layer();
+    if (const Image* image = UIImage::valueOf(layer.contents().as<ui::Image>()); image != nullptr) {
+        canvas.draw(*image, rectangle(layer.bounds()));
+    }
+    const CurrentCanvas current(canvas);
+    const CurrentTraits traits(View::of(view->second).traits());
+    view->second.drawRect(layer.bounds());
+}
+
+Composition composition(PixelRectangle screen, double scale) {
+    Composition result;
+    result.list.screen = screen;
+    Walk(result, scale).screen();
+    return result;
+}
+
+} // namespace desktop

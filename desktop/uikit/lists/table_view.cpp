@@ -1,0 +1,391 @@
+// Tables: measuring rows, and making cells for those that are seen.
+#include "desktop/uikit/lists/table_view.hpp"
+
+#include "bindings/foundation/exception.hpp"
+#include "bindings/objc/pool.hpp"
+#include "desktop/coregraphics/affine.hpp"
+#include "desktop/uikit/scrolling/scroll_rules.hpp"
+
+#include <algorithm>
+#include <utility>
+
+namespace desktop {
+
+using namespace ns::literals;
+
+std::vector<objc::MethodRow> TableView::methods() {
+    using Self = TableView;
+    return {
+        objc::method<"initWithFrame:style:", &Self::initWithStyle>(),
+        objc::method<"initWithFrame:", &Self::initWithFrame>(),
+        objc::method<"style", &Self::style_>(),
+        objc::property<"dataSource", &Self::dataSource, &Self::setDataSource>(),
+        objc::property<"rowHeight", &Self::rowHeight_, &Self::lookChanged>(),
+        objc::property<"estimatedRowHeight", &Self::estimatedRowHeight_>(),
+        objc::property<"sectionHeaderHeight", &Self::sectionHeaderHeight_, &Self::lookChanged>(),
+        objc::property<"separatorStyle", &Self::separatorStyle_, &Self::lookChanged>(),
+        objc::property<"separatorInset", &Self::separatorInset_, &Self::lookChanged>(),
+        objc::property<"separatorColor", &Self::separatorColor_, &Self::lookChanged>(),
+        objc::property<"tableHeaderView", &Self::tableHeaderView, &Self::setTableHeaderView>(),
+        objc::property<"tableFooterView", &Self::tableFooterView, &Self::setTableFooterView>(),
+        objc::method<"numberOfSections", &Self::numberOfSections>(),
+        objc::method<"numberOfRowsInSection:", &Self::numberOfRows>(),
+        objc::method<"reloadData", &Self::reloadData>(),
+        objc::method<"reloadRowsAtIndexPaths:withRowAnimation:", &Self::reloadRows>(),
+        objc::method<"insertRowsAtIndexPaths:withRowAnimation:", &Self::insertRows>(),
+        objc::method<"deleteRowsAtIndexPaths:withRowAnimation:", &Self::deleteRows>(),
+        objc::method<"reloadSections:withRowAnimation:", &Self::reloadSections>(),
+        objc::method<"beginUpdates", &Self::beginUpdates>(),
+        objc::method<"endUpdates", &Self::endUpdates>(),
+        objc::method<"registerClass:forCellReuseIdentifier:", &Self::registerCellClass>(),
+        objc::method<"dequeueReusableCellWithIdentifier:", &Self::dequeue>(),
+        objc::method<"dequeueReusableCellWithIdentifier:forIndexPath:", &Self::dequeueFor>(),
+        objc::method<"layoutSubviews", &Self::layoutSubviews>(),
+        objc::method<"cellForRowAtIndexPath:", &Self::cellAt>(),
+        objc::method<"indexPathForCell:", &Self::pathForCell>(),
+        objc::method<"indexPathForRowAtPoint:", &Self::pathAt>(),
+        objc::method<"rectForRowAtIndexPath:", &Self::rectForRow>(),
+        objc::method<"visibleCells", &Self::visibleCells>(),
+        objc::method<"indexPathsForVisibleRows", &Self::visiblePaths>(),
+        objc::method<"scrollToRowAtIndexPath:atScrollPosition:animated:", &Self::scrollTo>(),
+        objc::method<"indexPathForSelectedRow", &Self::selectedPath>(),
+        objc::method<"indexPathsForSelectedRows", &Self::selectedPaths>(),
+        objc::method<"selectRowAtIndexPath:animated:scrollPosition:", &Self::selectRow>(),
+        objc::method<"deselectRowAtIndexPath:animated:", &Self::deselectRow>(),
+        objc::property<"allowsSelection", &Self::allowsSelection_>(),
+        objc::property<"allowsMultipleSelection", &Self::allowsMultipleSelection_>(),
+        objc::method<"touchesBegan:withEvent:", &Self::touchesBegan>(),
+        objc::method<"touchesEnded:withEvent:", &Self::touchesEnded>(),
+        objc::method<"touchesCancelled:withEvent:", &Self::touchesCancelled>(),
+    };
+}
+
+ui::View TableView::initWithStyle(CGRect frame, long style) {
+    super<"initWithFrame:", ui::View>(frame);
+    style_ = style;
+    separatorColor_ = ui::Color::named("separatorColor");
+    self().send<"setAlwaysBounceVertical:">(objc::Boolean(true));
+    self().setBackgroundColor(style == 0 ? ui::Color::systemBackground()
+                                         : ui::Color::named("systemGroupedBackgroundColor"));
+    return self();
+}
+
+ui::View TableView::initWithFrame(CGRect frame) {
+    return self().send<"initWithFrame:style:", ui::View>(frame, 0L);
+}
+
+void TableView::setDataSource(objc::Object source) {
+    dataSource_ = source;
+    self().send<"reloadData">();
+}
+
+void TableView::setTableHeaderView(ui::View view) {
+    header_.removeFromSuperview();
+    header_ = view;
+    self().addSubview(view);
+    rowsChanged();
+}
+
+void TableView::setTableFooterView(ui::View view) {
+    footer_.removeFromSuperview();
+    footer_ = view;
+    self().addSubview(view);
+    rowsChanged();
+}
+
+long TableView::numberOfSections() {
+    if (!counts_) {
+        std::vector<long> counts;
+        const long sections = answers<"numberOfSectionsInTableView:">(dataSource_)
+                                  ? dataSource().send<"numberOfSectionsInTableView:", long>(self())
+                                  : (dataSource_ ? 1 : 0);
+        for (long index = 0; index < sections; ++index) {
+            counts.push_back(std::max(
+                0L, dataSource().send<"tableView:numberOfRowsInSection:", long>(self(), index)));
+        }
+        counts_ = std::move(counts);
+    }
+    return static_cast<long>(counts_->size());
+}
+
+long TableView::numberOfRows(long section) {
+    return section >= 0 && section < numberOfSections()
+               ? (*counts_)[static_cast<std::size_t>(section)]
+               : 0;
+}
+
+void TableView::reloadData() {
+    selection_.clear();
+    pressed_.clear();
+    rowsChanged();
+}
+
+/// What the data source says is asked anew; what is selected stays so where it still exists.
+void TableView::rowsChanged() {
+    putAllAway();
+    counts_.reset();
+    isPrepared_ = false;
+    const auto exists = [this](ItemIndex index) {
+        return index.item < numberOfRows(index.section);
+    };
+    selection_.keepOnly(exists);
+    pressed_.keepOnly(exists);
+    self().setNeedsLayout();
+}
+
+void TableView::reloadRows(ns::Array paths, long) {
+    for (const ItemIndex index : indexesOf(paths)) {
+        selection_.remove(index);
+    }
+    rowsChanged();
+}
+
+void TableView::insertRows(ns::Array paths, long) {
+    selection_.itemsWereInserted(indexesOf(paths));
+    pressed_.itemsWereInserted(indexesOf(paths));
+    rowsChanged();
+}
+
+void TableView::deleteRows(ns::Array paths, long) {
+    selection_.itemsWereDeleted(indexesOf(paths));
+    pressed_.itemsWereDeleted(indexesOf(paths));
+    rowsChanged();
+}
+
+double TableView::headerHeight(long section) const {
+    const objc::Object asked = delegate();
+    if (answers<"tableView:heightForHeaderInSection:">(asked)) {
+        return std::max(0.0,
+                        asked.send<"tableView:heightForHeaderInSection:", double>(self(), section));
+    }
+    const bool hasTitle =
+        answers<"tableView:titleForHeaderInSection:">(dataSource_) &&
+        dataSource().send<"tableView:titleForHeaderInSection:", ns::String>(self(), section);
+    return hasTitle ? sectionHeaderHeight_ : 0;
+}
+
+FlowSection TableView::section(long index) {
+    const objc::Object asked = delegate();
+    const bool asks = answers<"tableView:heightForRowAtIndexPath:">(asked);
+    constexpr double standardHeight = 44;
+    const double width = self().bounds().size.width;
+    FlowSection section;
+    section.inset.top = headerHeight(index);
+    const long count = numberOfRows(index);
+    for (long row = 0; row < count; ++row) {
+        const double height = asks ? asked.send<"tableView:heightForRowAtIndexPath:", double>(
+                                         self(), ns::IndexPath::forItem(row, index))
+                                   : rowHeight_;
+        // A negative height asks for the standard one.
+        section.items.push_back({width, height < 0 ? standardHeight : height});
+    }
+    return section;
+}
+
+void TableView::prepare() {
+    const double width = self().bounds().size.width;
+    if (width != std::exchange(latestWidth_, width)) {
+        isPrepared_ = false;
+    }
+    if (std::exchange(isPrepared_, true)) {
+        return;
+    }
+    const objc::Pool pool;
+    std::vector<FlowSection> sections;
+    sectionTops_.clear();
+    double top = heightBefore();
+    for (long index = 0; index < numberOfSections(); ++index) {
+        sections.push_back(section(index));
+        sectionTops_.push_back(top);
+        top += sections.back().inset.top;
+        for (const CGSize& row : sections.back().items) {
+            top += row.height;
+        }
+    }
+    placement_ = FlowPlacement(sections, width);
+    self().setContentSize(
+        {width, heightBefore() + placement_.height() + footer_.bounds().size.height});
+}
+
+CGRect TableView::frameOf(ItemIndex index) const {
+    CGRect frame = placement_.frame(index);
+    frame.origin = {0, frame.origin.y + heightBefore()};
+    frame.size.width = self().bounds().size.width;
+    return frame;
+}
+
+void TableView::registerCellClass(Class cls, ns::String identifier) {
+    cells_.registerClass(cls, identifier);
+}
+
+/// Nil when no cell waits and no class is registered: the data source makes one.
+ui::TableViewCell TableView::dequeue(ns::String identifier) {
+    if (const auto cell = cells_.takeUnused(identifier); cell) {
+        return cell.autoreleased();
+    }
+    const Class cls = cells_.classFor(identifier);
+    return cls == nullptr ? ui::TableViewCell()
+                          : objc::send<"alloc", objc::Object>(objc::object(cls))
+                                .send<"initWithStyle:reuseIdentifier:", objc::Object>(
+                                    TableCellStyle::plain, identifier)
+                                .send<"autorelease", ui::TableViewCell>();
+}
+
+ui::TableViewCell TableView::dequeueFor(ns::String identifier, ns::IndexPath path) {
+    const ui::TableViewCell cell = dequeue(identifier);
+    if (!cell) {
+        ns::Exception::with(u"NSInternalInconsistencyException"_ns,
+                            u"no class is registered for that cell identifier"_ns)
+            .raise();
+    }
+    cell.setFrame(rectForRow(path)); // the data source may place things by it
+    return cell;
+}
+
+void TableView::layoutSubviews() {
+    super<"layoutSubviews">();
+    prepare();
+    const double width = self().bounds().size.width;
+    header_.setFrame({{}, {width, heightBefore()}});
+    footer_.setFrame(
+        {{0, heightBefore() + placement_.height()}, {width, footer_.bounds().size.height}});
+    showVisibleCells();
+    showHeaders();
+}
+
+void TableView::showVisibleCells() {
+    const objc::Pool pool;
+    CGRect seen = self().bounds();
+    seen.origin.y -= heightBefore();
+    const std::vector<ItemIndex> wanted = placement_.itemsIn(seen);
+    const auto shown = cells_.shown(); // a copy: it is changed
+    for (const auto& [index, cell] : shown) {
+        if (!std::ranges::binary_search(wanted, index)) {
+            putAway(index);
+        }
+    }
+    for (const ItemIndex index : wanted) {
+        ui::TableViewCell cell = cells_.at(index);
+        if (!cell) {
+            cell = dataSource().send<"tableView:cellForRowAtIndexPath:", ui::TableViewCell>(
+                self(), index.path());
+            if (!cell || !placement_.contains(index)) {
+                continue; // the source knows of fewer rows by now
+            }
+            cells_.show(index, cell);
+            mark(index, selection_.contains(index));
+            self().insertSubview(cell, 0);
+            tell<"tableView:willDisplayCell:forRowAtIndexPath:">(cell, index.path());
+        }
+        cell.setFrame(frameOf(index));
+        TableViewCell::of(cell).setSeparator(
+            separatorStyle_ == 0 ? ui::Color::clear() : static_cast<ui::Color>(separatorColor_),
+            separatorInset_.left);
+    }
+}
+
+/// A view of the delegate's, or the title on the platform's grey.
+ui::View TableView::makeHeader(long section) const {
+    if (const objc::Object asked = delegate();
+        answers<"tableView:viewForHeaderInSection:">(asked)) {
+        return asked.send<"tableView:viewForHeaderInSection:", ui::View>(self(), section);
+    }
+    if (!answers<"tableView:titleForHeaderInSection:">(dataSource_)) {
+        return nullptr;
+    }
+    const auto view = ui::View::withFrame({});
+    const auto label = ui::Label::withFrame({{16, 0}, {200, 0}});
+    const bool isPlain = style_ == 0;
+    constexpr double plainSize = 17;
+    constexpr double groupedSize = 13;
+    label.setText(
+        dataSource().send<"tableView:titleForHeaderInSection:", ns::String>(self(), section));
+    label.setFont(isPlain ? ui::Font::system(plainSize, ui::Font::semibold)
+                          : ui::Font::system(groupedSize));
+    label.setTextColor(isPlain ? ui::Color::label() : ui::Color::secondaryLabel());
+    label.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth |
+                              ui::ViewAutoresizing::flexibleHeight);
+    view.setBackgroundColor(isPlain ? ui::Color::named("secondarySystemBackgroundColor")
+                                    : ui::Color::clear());
+    view.setFrame({{}, {232, 0}});
+    view.addSubview(label);
+    return view;
+}
+
+void TableView::showHeaders() {
+    for (long index = 0; index < static_cast<long>(sectionTops_.size()); ++index) {
+        const CGRect frame{{0, sectionTops_[static_cast<std::size_t>(index)]},
+                           {self().bounds().size.width, headerHeight(index)}};
+        if (frame.size.height <= 0 || !intersects(frame, self().bounds())) {
+            headers_[index].removeFromSuperview();
+            headers_.erase(index);
+            continue;
+        }
+        if (!headers_.contains(index)) {
+            headers_[index] = makeHeader(index);
+            self().addSubview(headers_[index]);
+        }
+        headers_[index].setFrame(frame);
+    }
+}
+
+void TableView::putAway(ItemIndex index) {
+    const auto cell = cells_.putAway(index);
+    tell<"tableView:didEndDisplayingCell:forRowAtIndexPath:">(static_cast<ui::TableViewCell>(cell),
+                                                              index.path());
+}
+
+void TableView::putAllAway() {
+    const auto shown = cells_.shown(); // a copy: it is changed
+    for (const auto& [index, cell] : shown) {
+        putAway(index);
+    }
+    for (const auto& [index, view] : std::exchange(headers_, {})) {
+        view.removeFromSuperview();
+    }
+}
+
+ui::TableViewCell TableView::cellAt(ns::IndexPath path) const {
+    return path ? cells_.at(ItemIndex::of(path)) : ui::TableViewCell();
+}
+
+ns::IndexPath TableView::pathForCell(ui::TableViewCell cell) const {
+    const auto index = cells_.itemOf(cell, self());
+    return index ? index->path() : ns::IndexPath();
+}
+
+ns::IndexPath TableView::pathAt(CGPoint point) {
+    prepare();
+    constexpr double least = 1e-3; // a rectangle that meets what is at the point
+    const auto found = placement_.itemsIn({{point.x, point.y - heightBefore()}, {least, least}});
+    return found.empty() ? ns::IndexPath() : found.front().path();
+}
+
+CGRect TableView::rectForRow(ns::IndexPath path) {
+    prepare();
+    return path && placement_.contains(ItemIndex::of(path)) ? frameOf(ItemIndex::of(path))
+                                                            : CGRect();
+}
+
+void TableView::scrollTo(ns::IndexPath path, long position, bool animated) {
+    const CGRect row = rectForRow(path);
+    if (row == CGRect()) {
+        return;
+    }
+    enum Position : long { none = 0, top = 1, middle = 2, bottom = 3 };
+    if (position == none) {
+        self().send<"scrollRectToVisible:animated:">(row, objc::Boolean(animated));
+        return;
+    }
+    const auto inset = self().send<"adjustedContentInset", UIEdgeInsets>();
+    const double room = self().bounds().size.height;
+    const double offset = position == top ? row.origin.y - inset.top
+                          : position == middle
+                              ? row.origin.y + (row.size.height - room) / 2
+                              : row.origin.y + row.size.height - room + inset.bottom;
+    const auto range = ScrollRange::of(self().contentSize().height, room, inset.top, inset.bottom);
+    self().send<"setContentOffset:animated:">(
+        CGPoint{self().contentOffset().x, range.nearest(offset)}, objc::Boolean(animated));
+}
+
+} // namespace desktop

@@ -1,0 +1,120 @@
+// UITableView: rows of a data source, of which only the visible ones have cells.
+#pragma once
+
+#include "bindings/objc/weak.hpp"
+#include "bindings/uikit/event.hpp"
+#include "bindings/uikit/scroll_view.hpp"
+#include "bindings/uikit/table_view.hpp"
+#include "bindings/uikit/table_view_cell.hpp"
+#include "bindings/uikit/touch.hpp"
+
+#include "desktop/class.hpp"
+#include "desktop/uikit/lists/cell_store.hpp"
+#include "desktop/uikit/lists/flow_rules.hpp"
+#include "desktop/uikit/lists/item_selection.hpp"
+#include "desktop/uikit/lists/table_view_cell.hpp"
+
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace desktop {
+
+class TableView : public PlatformClass<TableView, ui::TableView> {
+public:
+    static std::vector<objc::MethodRow> methods();
+
+private:
+    ui::View initWithStyle(CGRect frame, long style);
+    ui::View initWithFrame(CGRect frame);
+    [[nodiscard]] objc::Object dataSource() const { return dataSource_; }
+    void setDataSource(objc::Object source);
+    [[nodiscard]] objc::Object delegate() const { return self().send<"delegate", objc::Object>(); }
+    [[nodiscard]] ui::View tableHeaderView() const { return header_; }
+    void setTableHeaderView(ui::View view);
+    [[nodiscard]] ui::View tableFooterView() const { return footer_; }
+    void setTableFooterView(ui::View view);
+
+    // Rows.
+    [[nodiscard]] long numberOfSections();
+    [[nodiscard]] long numberOfRows(long section);
+    void reloadData();
+    void rowsChanged();
+    void reloadRows(ns::Array paths, long animation);
+    void insertRows(ns::Array paths, long animation);
+    void deleteRows(ns::Array paths, long animation);
+    void reloadSections(objc::Object, long) { rowsChanged(); }
+    void beginUpdates() {}
+    void endUpdates() { rowsChanged(); }
+    void prepare();
+    [[nodiscard]] FlowSection section(long index);
+    [[nodiscard]] double headerHeight(long section) const;
+    [[nodiscard]] double heightBefore() const { return header_.bounds().size.height; }
+    [[nodiscard]] CGRect frameOf(ItemIndex index) const;
+
+    // Cells.
+    void registerCellClass(Class cls, ns::String identifier);
+    [[nodiscard]] ui::TableViewCell dequeue(ns::String identifier);
+    [[nodiscard]] ui::TableViewCell dequeueFor(ns::String identifier, ns::IndexPath path);
+    void layoutSubviews();
+    void showVisibleCells();
+    void showHeaders();
+    [[nodiscard]] ui::View makeHeader(long section) const;
+    [[nodiscard]] ui::TableViewCell cellAt(ns::IndexPath path) const;
+    [[nodiscard]] ns::IndexPath pathForCell(ui::TableViewCell cell) const;
+    [[nodiscard]] ns::IndexPath pathAt(CGPoint point);
+    [[nodiscard]] CGRect rectForRow(ns::IndexPath path);
+    [[nodiscard]] ns::Array visibleCells() const { return cells_.cells(); }
+    [[nodiscard]] ns::Array visiblePaths() const { return cells_.paths(); }
+    void scrollTo(ns::IndexPath path, long position, bool animated);
+    void putAway(ItemIndex index);
+    void putAllAway();
+    void lookChanged() { rowsChanged(); }
+
+    // Selection and touches, in table_view_selection.cpp.
+    [[nodiscard]] ns::IndexPath selectedPath() const;
+    [[nodiscard]] ns::Array selectedPaths() const;
+    void selectRow(ns::IndexPath path, bool animated, long position);
+    void deselectRow(ns::IndexPath path, bool animated);
+    void mark(ItemIndex index, bool selected);
+    void touchesBegan(ns::SetOf<ui::Touch> touches, ui::Event event);
+    void touchesEnded(ns::SetOf<ui::Touch> touches, ui::Event event);
+    void touchesCancelled(ns::SetOf<ui::Touch> touches, ui::Event event);
+    std::set<ItemIndex> release();
+    void selectByTouch(ItemIndex index);
+    void deselectByTouch(ItemIndex index);
+    template <objc::Literal Name>
+    [[nodiscard]] bool answers(objc::Object receiver) const {
+        return receiver && receiver.respondsToSelector(objc::selector<Name>());
+    }
+    template <objc::Literal Name, class... Arguments>
+    void tell(Arguments... arguments) const {
+        if (const objc::Object told = delegate(); answers<Name>(told)) {
+            told.send<Name>(self(), arguments...);
+        }
+    }
+
+    long style_ = 0;
+    objc::Weak<objc::Object> dataSource_;
+    double rowHeight_ = 44;
+    double estimatedRowHeight_ = -1;
+    double sectionHeaderHeight_ = 28;
+    long separatorStyle_ = 1;
+    UIEdgeInsets separatorInset_{0, 16, 0, 0};
+    objc::Strong<ui::Color> separatorColor_;
+    objc::Strong<ui::View> header_;
+    objc::Strong<ui::View> footer_;
+    std::optional<std::vector<long>> counts_; // of the sections' rows, until the next change
+    std::vector<double> sectionTops_;
+    FlowPlacement placement_; // a row fills a line
+    bool isPrepared_ = false;
+    double latestWidth_ = 0;
+    CellStore<ui::TableViewCell> cells_;
+    std::map<long, objc::Strong<ui::View>> headers_;
+    ItemSelection selection_;
+    ItemSelection pressed_; // one at most
+    bool allowsSelection_ = true;
+    bool allowsMultipleSelection_ = false;
+};
+
+} // namespace desktop

@@ -1,0 +1,110 @@
+// UIImage's makers, measures and drawing.
+#include "desktop/uikit/values/image.hpp"
+
+#include "desktop/uikit/application/screen.hpp"
+#include "desktop/uikit/values/color.hpp"
+#include "desktop/uikit/values/symbol_configuration.hpp"
+
+namespace desktop {
+namespace {
+
+/// Pixels a point, as the platform reads them off a file's name: "star@3x.png" has 3.
+double scaleOf(const std::string& path) {
+    for (const auto& [mark, scale] : {std::pair("@2x.", 2.0), std::pair("@3x.", 3.0)}) {
+        if (path.find(mark) != std::string::npos) {
+            return scale;
+        }
+    }
+    return 1;
+}
+
+} // namespace
+
+ui::Image UIImage::withContentsOfFile(Class, ns::String path) {
+    const std::string file = path.utf8();
+    auto picture = Image::load(file, scaleOf(file));
+    if (!picture) {
+        return nullptr;
+    }
+    const auto image = ui::Image::make();
+    of(image).value_ = std::move(picture);
+    return image;
+}
+
+ui::Image UIImage::systemNamedInStyle(Class, ns::String name, ui::ImageSymbolConfiguration style) {
+    const std::string symbolName = name.utf8();
+    auto picture =
+        symbol(symbolName, SymbolConfiguration::styleOf(style), ScreenGeometry::current().scale);
+    if (!picture) {
+        return nullptr;
+    }
+    const auto image = ui::Image::make();
+    of(image).value_ = std::move(picture);
+    of(image).symbolName_ = symbolName;
+    return image;
+}
+
+ui::Image UIImage::copied() const {
+    const auto image = ui::Image::make();
+    of(image).value_ = value_;
+    of(image).symbolName_ = symbolName_;
+    of(image).tint_ = tint_;
+    of(image).renderingMode_ = renderingMode_;
+    return image;
+}
+
+ui::Image UIImage::withTintAndMode(ui::Color color, ui::RenderingMode mode) const {
+    const ui::Image image = copied();
+    of(image).tint_ = color;
+    of(image).renderingMode_ = mode;
+    return image;
+}
+
+ui::Image UIImage::withRenderingMode(ui::RenderingMode mode) const {
+    const ui::Image image = copied();
+    of(image).renderingMode_ = mode;
+    return image;
+}
+
+ui::Image UIImage::inStyle(ui::ImageSymbolConfiguration style) const {
+    if (!isSymbol()) {
+        return self();
+    }
+    const ui::Image image = systemNamedInStyle(nullptr, ns::String::fromUtf8(symbolName_), style);
+    of(image).tint_ = tint_;
+    of(image).renderingMode_ = renderingMode_;
+    return image;
+}
+
+const Image* UIImage::valueOf(ui::Image image) {
+    return image && of(image).value_ ? &*of(image).value_ : nullptr;
+}
+
+void UIImage::draw(ui::Image image, Canvas& canvas, const Rectangle& area, ui::Color tint) {
+    const Image* picture = valueOf(image);
+    if (picture == nullptr) {
+        return;
+    }
+    using Mode = ui::RenderingMode;
+    const UIImage& peer = of(image);
+    const bool isShape = peer.renderingMode_ == Mode::alwaysTemplate ||
+                         (peer.renderingMode_ == Mode::automatic && peer.isSymbol());
+    if (peer.tint_ && peer.renderingMode_ != Mode::alwaysTemplate) {
+        canvas.fillShape(*picture, area, Color::valueOf(peer.tint_));
+    } else if (isShape) {
+        canvas.fillShape(*picture, area, Color::valueOf(tint));
+    } else {
+        canvas.draw(*picture, area);
+    }
+}
+
+ns::String UIImage::description() const {
+    return isSymbol() ? ns::String::fromUtf8("<UIImage symbol(system: " + symbolName_ + ")>")
+                      : super<"description", ns::String>();
+}
+
+CGSize UIImage::size() const {
+    return value_ ? CGSize{value_->size().width, value_->size().height} : CGSize();
+}
+
+} // namespace desktop

@@ -1,0 +1,57 @@
+// Measuring strings.
+#include "desktop/uikit/values/string_drawing.hpp"
+
+#include "bindings/objc/hook.hpp"
+#include "bindings/uikit/string_drawing.hpp"
+#include "desktop/drawing/text_layout.hpp"
+#include "desktop/uikit/values/attributed_text.hpp"
+#include "desktop/uikit/values/font.hpp"
+
+namespace desktop {
+namespace {
+
+/// How many units the line break at the text's end has.
+std::size_t lineBreakLength(std::u16string_view text) {
+    constexpr std::u16string_view lineBreaks = u"\n\r\u0085\u2028\u2029";
+    if (text.ends_with(u"\r\n")) {
+        return 2;
+    }
+    return !text.empty() && lineBreaks.find(text.back()) != lineBreaks.npos ? 1 : 0;
+}
+
+/// A line break at the end takes no room, unless there is nothing else.
+std::u16string measured(ns::String text) {
+    std::u16string units = text.utf16();
+    const std::size_t length = lineBreakLength(units);
+    if (length > 0 && length == units.size()) {
+        return u" ";
+    }
+    units.resize(units.size() - length);
+    return units;
+}
+
+CGRect boundingRect(ns::String text, CGSize room, ui::StringDrawingOptions options,
+                    ns::Dictionary attributes, objc::Object) {
+    constexpr double standardSize = 12; // where the attributes name no font
+    TextRun plain;
+    plain.font = UIFont::valueOf(ui::Font::system(standardSize));
+    TextFrame frame;
+    frame.lineBreakMode = LineBreakMode::wordWrapping;
+    if (objc::haveAny(options, ui::StringDrawingOptions::usesLineFragmentOrigin)) {
+        frame.width = room.width;
+        frame.height = room.height;
+    } else {
+        frame.maximumLines = 1;
+    }
+    const Size size = TextLayout(measured(text), lookOf(attributes, plain), frame).size();
+    return {{}, {size.width, size.height}};
+}
+
+} // namespace
+
+void installStringDrawing() {
+    objc::install(objc::addition<"NSString", "boundingRectWithSize:options:attributes:context:",
+                                 &boundingRect>());
+}
+
+} // namespace desktop

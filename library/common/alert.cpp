@@ -1,0 +1,40 @@
+// Builds the platform's alert controller step by step.
+#include "library/common/alert.hpp"
+
+#include "bindings/uikit/popover_presentation_controller.hpp"
+#include "library/common/screens.hpp"
+
+namespace wentra {
+
+const Alert& Alert::field(ns::String placeholder, ns::String text) const {
+    const auto configure = [placeholder = objc::Copied(placeholder),
+                            text = objc::Copied(text)](ui::TextField field) {
+        field.setPlaceholder(placeholder);
+        field.setText(text);
+    };
+    controller_.addTextField(ui::AlertController::Configuration::from(configure));
+    return *this;
+}
+
+const Alert& Alert::action(ns::String title, ui::AlertActionStyle style) const {
+    controller_.addAction(ui::AlertAction::with(title, style, {}));
+    return *this;
+}
+
+const Alert& Alert::from(ui::View view, CGRect rect) const {
+    const auto popover = controller_.popoverPresentationController();
+    popover.setSourceView(view);
+    popover.setSourceRect(rect);
+    return *this;
+}
+
+const Alert& Alert::covering(ui::ModalPresentation style) const {
+    controller_.setModalPresentationStyle(style);
+    return *this;
+}
+
+void Alert::present() const { topViewController().present(controller_, true); }
+
+objc::Strong<ui::TextField> Alert::firstField() const { return controller_.textFields().first(); }
+
+} // namespace wentra

@@ -1,0 +1,27 @@
+// The keyboard's notifications, and insets.
+#include "library/common/keyboard_insets.hpp"
+
+#include "bindings/uikit/keyboard.hpp"
+
+namespace wentra {
+
+void watchKeyboard(objc::Object observer) {
+    const auto center = ns::NotificationCenter::defaultCenter();
+    center.addObserver(observer, objc::selector<"keyboardWillShow:">(), ui::keyboard::willShow(),
+                       nullptr);
+    center.addObserver(observer, objc::selector<"keyboardWillHide:">(), ui::keyboard::willHide(),
+                       nullptr);
+}
+
+void stopWatchingKeyboard(objc::Object observer) {
+    const auto center = ns::NotificationCenter::defaultCenter();
+    center.removeObserver(observer, ui::keyboard::willShow(), nullptr);
+    center.removeObserver(observer, ui::keyboard::willHide(), nullptr);
+}
+
+void setInsets(ui::ScrollView view, const UIEdgeInsets& insets) {
+    view.setContentInset(insets);
+    view.setScrollIndicatorInsets(insets);
+}
+
+} // namespace wentra

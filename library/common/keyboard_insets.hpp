@@ -1,0 +1,16 @@
+// Room for the keyboard in what scrolls.
+#pragma once
+
+#include "bindings/uikit/scroll_view.hpp"
+
+namespace wentra {
+
+/// From now on the observer is sent `keyboardWillShow:` and `keyboardWillHide:` with the keyboard's
+/// notifications. It is not retained: it stops watching before it ends.
+void watchKeyboard(objc::Object observer);
+void stopWatchingKeyboard(objc::Object observer);
+
+/// Keeps the content and the scroll indicators away from the view's edges, in points.
+void setInsets(ui::ScrollView view, const UIEdgeInsets& insets);
+
+} // namespace wentra

@@ -1,0 +1,36 @@
+// One search for the places, one copy for the replacing.
+#include "library/common/occurrences.hpp"
+
+#include <utility>
+
+namespace wentra {
+
+std::vector<ns::Range> occurrences(std::u16string_view text, std::u16string_view sought) {
+    std::vector<ns::Range> found;
+    if (sought.empty()) {
+        return found;
+    }
+    for (std::size_t place = text.find(sought); place != text.npos;
+         place = text.find(sought, place + sought.size())) {
+        found.push_back({place, sought.size()});
+    }
+    return found;
+}
+
+void replaceAll(std::u16string& text, std::u16string_view sought, std::u16string_view replacement) {
+    const std::vector<ns::Range> found = occurrences(text, sought);
+    if (found.empty()) {
+        return;
+    }
+    std::u16string replaced;
+    replaced.reserve(text.size());
+    std::size_t copied = 0;
+    for (const ns::Range& range : found) {
+        replaced.append(text, copied, range.location - copied).append(replacement);
+        copied = range.location + range.length;
+    }
+    replaced.append(text, copied);
+    text = std::move(replaced);
+}
+
+} // namespace wentra

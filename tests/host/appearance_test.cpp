@@ -1,0 +1,35 @@
+// The phone's appearance, as scripts change it and see it.
+#include "tests/support/phone.hpp"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using tests::Json;
+using tests::Phone;
+
+class Appearance : public testing::Test {
+protected:
+    Json appearance(const Json& set) { return phone_.result({{"do", "appearance"}, {"set", set}}); }
+
+    Phone phone_;
+};
+
+TEST_F(Appearance, IsLightUntilItIsSet) {
+    EXPECT_EQ(phone_.result({{"do", "appearance"}}), "light");
+    EXPECT_EQ(appearance("dark"), "dark");
+    EXPECT_EQ(phone_.result({{"do", "appearance"}}), "dark");
+    EXPECT_EQ(appearance("light"), "light");
+    EXPECT_NE(phone_.error({{"do", "appearance"}, {"set", "grey"}}), "");
+}
+
+TEST_F(Appearance, ReachesWhatTheApplicationShows) {
+    appearance("dark");
+    const Json label = phone_.find({{"text", "Hello, world"}})[0];
+    EXPECT_EQ(label["textColor"], "#ffffffff");
+    EXPECT_EQ(label["style"], "dark");
+    appearance("light");
+    EXPECT_EQ(phone_.node(label)["textColor"], "#000000ff");
+}
+
+} // namespace

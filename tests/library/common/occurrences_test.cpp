@@ -1,0 +1,43 @@
+// Searching with and without regard to case, and replacing.
+#include "library/common/occurrences.hpp"
+
+#include "library/common/case_insensitive_search.hpp"
+#include "tests/desktop/uikit/uikit_fixture.hpp"
+
+namespace wentra {
+namespace {
+
+using namespace ns::literals;
+using Places = std::vector<ns::Range>;
+
+TEST(Occurrences, DoNotOverlap) {
+    EXPECT_EQ(occurrences(u"aaaaa", u"aa"), (Places{{0, 2}, {2, 2}}));
+    EXPECT_EQ(occurrences(u"Hello hello", u"hello"), (Places{{6, 5}}));
+    EXPECT_EQ(occurrences(u"😀a😀", u"😀"), (Places{{0, 2}, {3, 2}}));
+    EXPECT_EQ(occurrences(u"a", u""), Places{});
+    EXPECT_EQ(occurrences(u"", u"a"), Places{});
+}
+
+TEST(Occurrences, AreReplacedInOnePass) {
+    std::u16string text = u"aaXaX";
+    replaceAll(text, u"aa", u"aaa");
+    EXPECT_EQ(text, u"aaaXaX");
+    replaceAll(text, u"X", u"");
+    EXPECT_EQ(text, u"aaaa");
+    replaceAll(text, u"", u"b");
+    EXPECT_EQ(text, u"aaaa");
+}
+
+using CaseInsensitiveSearch = tests::UIKitTest;
+
+TEST_F(CaseInsensitiveSearch, FindsEveryCase) {
+    EXPECT_EQ(occurrencesIgnoringCase(u"Hello hello 世 HELLO"_ns, u"hello"_ns),
+              (Places{{0, 5}, {6, 5}, {14, 5}}));
+    EXPECT_EQ(occurrencesIgnoringCase(u"aAaAa"_ns, u"AA"_ns), (Places{{0, 2}, {2, 2}}));
+    EXPECT_EQ(occurrencesIgnoringCase(u"a"_ns, u""_ns), Places{});
+    EXPECT_EQ(occurrencesIgnoringCase(u"a"_ns, nullptr), Places{});
+    EXPECT_EQ(occurrencesIgnoringCase(nullptr, u"a"_ns), Places{});
+}
+
+} // namespace
+} // namespace wentra

@@ -1,0 +1,62 @@
+// What passes through the edit menu's hooks, and the synthesizer that a text view keeps.
+#include "library/editing/edit_menu_hooks.hpp"
+
+#include "bindings/foundation/string.hpp"
+#include "bindings/objc/hook.hpp"
+#include "bindings/objc/pool.hpp"
+#include "bindings/uikit/text_view.hpp"
+#include "desktop/platform/platform.hpp"
+
+#include <gtest/gtest.h>
+
+namespace wentra::editing {
+namespace {
+
+using namespace ns::literals;
+
+void install(std::span<const objc::Change> changes) {
+    for (const objc::Change& change : changes) {
+        objc::install(change);
+    }
+}
+
+struct Question {
+    SEL action = nullptr;
+    objc::Object sender;
+};
+Question asked;
+
+bool note(objc::Next<bool(SEL, objc::Object)>, objc::Object, SEL action, objc::Object sender) {
+    asked = {action, sender};
+    return false;
+}
+
+TEST(EditMenuHooks, AskTheFormerMethodWithItsOwnArguments) {
+    const objc::Pool pool;
+    desktop::registerPlatform();
+    objc::install(objc::hook<"UIResponder", "canPerformAction:withSender:", &note>());
+    install(editMenuHooks());
+    const auto view = ui::View::withFrame({});
+    const auto action = objc::selector<"copy:">();
+    EXPECT_FALSE((view.send<"canPerformAction:withSender:", bool>(action, u"sender"_ns)));
+    EXPECT_EQ(asked.action, action);
+    EXPECT_TRUE(asked.sender && asked.sender.isEqual(u"sender"_ns));
+}
+
+TEST(SpeechCategories, ATextViewRetainsItsSynthesizer) {
+    const objc::Pool pool;
+    desktop::registerPlatform();
+    install(speechCategories());
+    const auto view = ui::TextView::withFrame({});
+    const auto synthesizer = ui::View::withFrame({});
+    const auto owners = [&] { return synthesizer.send<"retainCount", unsigned long>(); };
+    const unsigned long before = owners();
+    view.send<"setSynth:">(synthesizer);
+    EXPECT_EQ(owners(), before + 1);
+    EXPECT_EQ((view.send<"synth", objc::Object>()), synthesizer);
+    view.send<"setSynth:">(objc::Object());
+    EXPECT_EQ(owners(), before);
+}
+
+} // namespace
+} // namespace wentra::editing
