@@ -87,10 +87,12 @@ sed -i 's/arm64-ios/x86_64-ios-simulator/' stubs/*.tbd
 refuse 'plain arm64'
 
 # What is in it.
-printf 'extern "C" [[gnu::visibility("default")]] int wentra() { return 1; }\n' >>library.cpp
-printf '[[gnu::section("__DATA,__objc_selrefs"), gnu::used]] static const char* name = "text";' >>library.cpp
-printf 'extern const char* path; const char* path = "/home/somebody/file";' >>library.cpp
-printf '[[gnu::constructor]] static void more() { NSLog((void*)path); }\n' >>library.cpp
+cat >>library.cpp <<'END'
+extern "C" [[gnu::visibility("default")]] int wentra() { return 1; }
+[[gnu::section("__DATA,__objc_selrefs"), gnu::used]] static const char* name = "text";
+extern const char* path; const char* path = "/home/somebody/file";
+[[gnu::constructor]] static void more() { NSLog((void*)path); }
+END
 sed -i "s/nullptr)/(void*)\"\/var\/jb\/Library\/File\")/" library.cpp
 refuse 'exports nothing' 'machine that built it' 'one initialiser' 'selectors to make' \
     "jailbreak's root"
