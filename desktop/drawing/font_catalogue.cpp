@@ -7,6 +7,9 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <functional>
+#include <map>
+#include <mutex>
 #include <tuple>
 
 namespace desktop {
@@ -139,6 +142,18 @@ const Face* faceNamed(std::string_view name) {
     return nearestFace(name, 400, false);
 }
 
+/// The same for names that were asked for before, as labels ask for few names often.
+const Face* knownFace(std::string_view name) {
+    static std::mutex mutex;
+    static std::map<std::string, const Face*, std::less<>> known;
+    const std::scoped_lock lock(mutex);
+    auto found = known.find(name);
+    if (found == known.end()) {
+        found = known.emplace(name, faceNamed(name)).first;
+    }
+    return found->second;
+}
+
 std::string systemName(const Font& font) {
     constexpr const char* weights[] = {"Ultralight", "Thin", "Light", "Regular", "Medium",
                                        "Semibold",   "Bold", "Heavy", "Black"};
@@ -150,7 +165,7 @@ std::string systemName(const Font& font) {
 } // namespace
 
 std::optional<Font> fontNamed(std::string_view name, double size) {
-    const Face* face = faceNamed(name);
+    const Face* face = knownFace(name);
     if (face == nullptr) {
         return std::nullopt;
     }

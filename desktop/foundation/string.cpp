@@ -6,7 +6,8 @@
 #include "bindings/objc/pool.hpp"
 
 #include <algorithm>
-#include <array>
+#include <cstddef>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -108,30 +109,30 @@ struct UnicodeText : objc::Kind<UnicodeText, "GSUnicodeString", ns::String> {
     using Kind::Kind;
 };
 
-/// Whether two strings of the same length have the same units.
-bool haveSameUnits(ns::String one, ns::String other, std::size_t length) {
-    constexpr std::size_t block = 64;
-    std::array<char16_t, block> left{};
-    std::array<char16_t, block> right{};
-    for (std::size_t at = 0; at < length; at += block) {
-        const ns::Range range{at, std::min(block, length - at)};
-        one.getCharacters(left.data(), range);
-        other.getCharacters(right.data(), range);
-        if (!std::equal(left.begin(), left.begin() + range.length, right.begin())) {
-            return false;
-        }
-    }
-    return true;
+/// A variable of that class, as it lies in the object.
+template <class Value>
+Value variable(UnicodeText text, std::ptrdiff_t offset) {
+    Value value;
+    std::memcpy(&value, reinterpret_cast<const std::byte*>(text.raw()) + offset, sizeof value);
+    return value;
+}
+
+std::ptrdiff_t offsetOf(const char* name) {
+    return ivar_getOffset(class_getInstanceVariable(UnicodeText::classObject(), name));
+}
+
+/// The units where the string keeps them. Each look into a dictionary compares its key, and
+/// messages for the length and a copy would be most of what that costs.
+std::u16string_view unitsOf(UnicodeText text) {
+    static const std::ptrdiff_t contents = offsetOf("_contents");
+    static const std::ptrdiff_t count = offsetOf("_count");
+    return {variable<const char16_t*>(text, contents), variable<unsigned int>(text, count)};
 }
 
 using Comparison = objc::Next<bool(objc::Object)>;
-bool isEqual(Comparison next, ns::String self, objc::Object other) {
+bool isEqual(Comparison next, UnicodeText self, objc::Object other) {
     const auto text = other.as<UnicodeText>();
-    if (!text) {
-        return next(other);
-    }
-    const std::size_t length = self.length();
-    return length == text.length() && haveSameUnits(self, text, length);
+    return text ? unitsOf(self) == unitsOf(text) : next(other);
 }
 
 } // namespace

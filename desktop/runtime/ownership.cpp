@@ -11,7 +11,8 @@ void objc_release(id object) noexcept { objc::send<"release">(object); }
 id objc_autorelease(id object) noexcept { return objc::send<"autorelease", id>(object); }
 
 void* objc_autoreleasePoolPush() noexcept {
-    return objc::send<"new", id>(objc::object(objc_getClass("NSAutoreleasePool")));
+    static const id pools = objc::object(objc_getClass("NSAutoreleasePool"));
+    return objc::send<"new", id>(pools);
 }
 
 void objc_autoreleasePoolPop(void* pool) noexcept { objc::send<"drain">(static_cast<id>(pool)); }
