@@ -26,19 +26,19 @@ constexpr std::array frameRules{
 
 } // namespace
 
-void applyFrameRules(ui::View label, ns::String text, const preferences::Preferences& preferences) {
+void applyFrameRules(ui::View label, const AskedText& asked) {
     for (const FrameRule& rule : frameRules) {
-        if (!preferences.on(rule.key)) {
+        if (!asked.on(rule.key)) {
             continue;
         }
-        if (const auto value = StoredRules(rule.kind).number(text); value) {
+        if (const auto value = asked.rules(rule.kind).number(asked.text); value) {
             CGRect frame = label.frame();
             rule.change(frame, *value);
             label.setFrame(frame);
         }
     }
-    if (preferences.on(preferences::keys.changeAlpha)) {
-        if (const auto alpha = StoredRules(RuleKind::alpha).number(text); alpha) {
+    if (asked.on(preferences::keys.changeAlpha)) {
+        if (const auto alpha = asked.rules(RuleKind::alpha).number(asked.text); alpha) {
             label.setAlpha(*alpha);
         }
     }

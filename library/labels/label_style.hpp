@@ -13,17 +13,28 @@
 
 namespace wentra::labels {
 
+/// One text on its way to a label, and what is read for it: the switches once, and where the rules
+/// are. Good for this label only.
+struct AskedText {
+    ns::String text; ///< as the application gave it
+    preferences::Preferences preferences = preferences::Preferences::read();
+    ns::UserDefaults defaults = ns::UserDefaults::standardUserDefaults();
+
+    [[nodiscard]] bool on(const preferences::Switch& key) const { return preferences.on(key); }
+    [[nodiscard]] StoredRules rules(RuleKind kind) const { return {defaults, kind}; }
+};
+
 // `Label` is any handle with a frame, an alpha, a font and a text colour: UILabel's or YYLabel's.
 // Rules are looked up by the text as the application gave it, each kind only when its switch is on.
 // Main thread, normally; nothing here is kept between two labels but the global font.
 
 /// Colours the text.
 template <class Label>
-void applyColourRule(Label label, ns::String text, const preferences::Preferences& preferences) {
-    if (!preferences.on(preferences::keys.recolour)) {
+void applyColourRule(Label label, const AskedText& asked) {
+    if (!asked.on(preferences::keys.recolour)) {
         return;
     }
-    if (const ns::String digits = StoredRules(RuleKind::colour).text(text); digits) {
+    if (const ns::String digits = asked.rules(RuleKind::colour).text(asked.text); digits) {
         const Colour colour = colourFromRgb(scanHexadecimal(digits.utf16()));
         label.setTextColor(ui::Color::withRed(colour.red, colour.green, colour.blue, colour.alpha));
     }
@@ -31,57 +42,64 @@ void applyColourRule(Label label, ns::String text, const preferences::Preference
 
 /// Sets the current font at the size of the text's own rule.
 template <class Label>
-void applyTextSizeRule(Label label, ns::String text, const preferences::Preferences& preferences) {
-    if (!preferences.on(preferences::keys.resize)) {
+void applyTextSizeRule(Label label, const AskedText& asked) {
+    if (!asked.on(preferences::keys.resize)) {
         return;
     }
-    if (const auto size = StoredRules(RuleKind::size).number(text); size) {
+    if (const auto size = asked.rules(RuleKind::size).number(asked.text); size) {
         label.setFont(label.font().withSize(*size));
     }
 }
 
 /// The same, or the global size when that is switched on: then the text's own rule does not count.
 template <class Label>
-void applySizeRules(Label label, ns::String text, const preferences::Preferences& preferences) {
-    if (!preferences.on(preferences::keys.globalFontSize)) {
-        applyTextSizeRule(label, text, preferences);
+void applySizeRules(Label label, const AskedText& asked) {
+    if (!asked.on(preferences::keys.globalFontSize)) {
+        applyTextSizeRule(label, asked);
         return;
     }
-    if (!preferences.on(preferences::keys.resize)) {
+    if (!asked.on(preferences::keys.resize)) {
         return;
     }
-    const auto size = StoredRules(RuleKind::size).number(ns::String::from(globalSizeKey));
+    using namespace ns::literals;
+    const auto size = asked.rules(RuleKind::size).number(u"A全局大小"_ns);
     if (size) {
-        const double increase = preferences.number(preferences::keys.globalFontSizeIncrease);
+        const double increase = asked.preferences.number(preferences::keys.globalFontSizeIncrease);
         label.setFont(label.font().withSize(increase + *size));
     }
 }
 
 /// Height, width, horizontal and vertical position, each keeping the rest of the frame; then alpha.
-void applyFrameRules(ui::View label, ns::String text, const preferences::Preferences& preferences);
+void applyFrameRules(ui::View label, const AskedText& asked);
 
-/// Sets the font of the text's own rule at the current size; an unknown name sets no font, as
-/// given.
+/// Sets the font of that name at the current size; an unknown name sets no font, as given. Nil: the
+/// text has no rule.
 template <class Label>
-void applyTextFontRule(Label label, ns::String text, const preferences::Preferences& preferences) {
-    if (!preferences.on(preferences::keys.changeFont)) {
-        return;
-    }
-    if (const ns::String name = StoredRules(RuleKind::font).text(text); name) {
+void applyTextFont(Label label, ns::String name) {
+    if (name) {
         label.setFont(ui::Font::withName(name, label.font().pointSize()));
+    }
+}
+
+/// The font of the text's own rule.
+template <class Label>
+void applyTextFontRule(Label label, const AskedText& asked) {
+    if (asked.on(preferences::keys.changeFont)) {
+        applyTextFont(label, asked.rules(RuleKind::font).text(asked.text));
     }
 }
 
 /// The same, unless a global font is in force. A global font that was used once stays in force
 /// until the process ends, even after its switch is turned off.
 template <class Label>
-void applyFontRules(Label label, ns::String text, const preferences::Preferences& preferences) {
-    if (!preferences.on(preferences::keys.changeFont)) {
+void applyFontRules(Label label, const AskedText& asked) {
+    if (!asked.on(preferences::keys.changeFont)) {
         return;
     }
-    const ns::String name = preferences.on(preferences::keys.globalFont)
-                                ? StoredRules(RuleKind::font).text(ns::String::from(globalFontKey))
-                                : nullptr;
+    using namespace ns::literals;
+    const StoredRules fonts = asked.rules(RuleKind::font);
+    const ns::String name =
+        asked.on(preferences::keys.globalFont) ? fonts.text(u"A全局字体"_ns) : nullptr;
     if (name) {
         rememberGlobalFont(ui::Font::withName(name, label.font().pointSize()));
     }
@@ -89,7 +107,7 @@ void applyFontRules(Label label, ns::String text, const preferences::Preferences
         label.setFont(font);
         return;
     }
-    applyTextFontRule(label, text, preferences);
+    applyTextFont(label, fonts.text(asked.text));
 }
 
 } // namespace wentra::labels

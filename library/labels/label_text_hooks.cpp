@@ -7,7 +7,6 @@
 #include "library/labels/label_style.hpp"
 #include "library/labels/stored_rules.hpp"
 #include "library/labels/text_replacement.hpp"
-#include "library/preferences/preferences.hpp"
 
 #include <array>
 
@@ -15,17 +14,23 @@ namespace wentra::labels {
 namespace {
 
 using namespace ns::literals;
-using preferences::Preferences;
+
+/// The value of the text rule with that key. The text that was asked for is looked up as the object
+/// that it is: making another costs more than all the rest.
+std::optional<std::u16string> textRule(const StoredRules& rules, std::u16string_view key,
+                                       std::u16string_view units, ns::String text) {
+    const ns::String value = rules.text(key == units ? text : ns::String::from(key));
+    return value ? std::optional(value.utf16()) : std::nullopt;
+}
 
 /// The text that a label shows instead: `text` itself when no rule says otherwise.
-ns::String replaced(ns::String text) {
-    const StoredRules rules(RuleKind::text);
-    const auto result = replacedText(
-        text.utf16(), [&rules](std::u16string_view key) -> std::optional<std::u16string> {
-            const ns::String value = rules.text(ns::String::from(key));
-            return value ? std::optional(value.utf16()) : std::nullopt;
-        });
-    return result ? ns::String::from(*result) : text;
+ns::String replaced(const AskedText& asked) {
+    const StoredRules rules = asked.rules(RuleKind::text);
+    const std::u16string units = asked.text.utf16();
+    const auto result = replacedText(units, [&](std::u16string_view key) {
+        return rules ? textRule(rules, key, units, asked.text) : std::nullopt;
+    });
+    return result ? ns::String::from(*result) : asked.text;
 }
 
 /// Hosts do pass nil, and objects that are no strings; these are none of our business.
@@ -43,12 +48,12 @@ void rewriteLabel(objc::Next<void(ns::String)> next, ui::Label label, ns::String
         return;
     }
     const objc::Pool pool; // a background thread may have none
-    const Preferences preferences = Preferences::read();
-    style([&] { applyColourRule(label, text, preferences); });
-    style([&] { applySizeRules(label, text, preferences); });
-    style([&] { applyFrameRules(label, text, preferences); });
-    style([&] { applyFontRules(label, text, preferences); });
-    next(replaced(text));
+    const AskedText asked{text};
+    style([&] { applyColourRule(label, asked); });
+    style([&] { applySizeRules(label, asked); });
+    style([&] { applyFrameRules(label, asked); });
+    style([&] { applyFontRules(label, asked); });
+    next(replaced(asked));
 }
 
 void rewriteYYLabel(objc::Next<void(ns::String)> next, apps::YYLabel label, ns::String text) {
@@ -57,12 +62,12 @@ void rewriteYYLabel(objc::Next<void(ns::String)> next, apps::YYLabel label, ns::
         return;
     }
     const objc::Pool pool;
-    const Preferences preferences = Preferences::read();
-    style([&] { applyColourRule(label, text, preferences); });
-    style([&] { applyTextSizeRule(label, text, preferences); });
-    style([&] { applyFrameRules(label, text, preferences); });
-    style([&] { applyTextFontRule(label, text, preferences); });
-    next(replaced(text));
+    const AskedText asked{text};
+    style([&] { applyColourRule(label, asked); });
+    style([&] { applyTextSizeRule(label, asked); });
+    style([&] { applyFrameRules(label, asked); });
+    style([&] { applyTextFontRule(label, asked); });
+    next(replaced(asked));
 }
 
 /// One text is never shown by any label: it only makes the label's font small.

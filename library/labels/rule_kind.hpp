@@ -41,12 +41,6 @@ inline constexpr RuleKindOrder listingOrder{
     RuleKind::text,       RuleKind::colour,   RuleKind::size,  RuleKind::height, RuleKind::width,
     RuleKind::horizontal, RuleKind::vertical, RuleKind::alpha, RuleKind::font};
 
-/// Key, in the map of size rules, of the size every label gets.
-inline constexpr std::u16string_view globalSizeKey = u"A全局大小";
-
-/// Key, in the map of font rules, of the font every label gets.
-inline constexpr std::u16string_view globalFontKey = u"A全局字体";
-
 /// How one kind of rule is written and stored.
 struct RuleKindNames {
     /// What stands between the key and the value of a rule.

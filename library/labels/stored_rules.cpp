@@ -40,8 +40,8 @@ void storeMap(RuleKind kind, ns::Dictionary map) {
 
 } // namespace
 
-StoredRules::StoredRules(RuleKind kind)
-    : map_(ns::UserDefaults::standardUserDefaults().dictionary(defaultsKey(kind))) {}
+StoredRules::StoredRules(ns::UserDefaults defaults, RuleKind kind)
+    : map_(defaults.dictionary(defaultsKey(kind))) {}
 
 ns::String StoredRules::text(ns::String key) const { return map_.get(key).as<ns::String>(); }
 
@@ -57,10 +57,11 @@ std::optional<double> StoredRules::number(ns::String key) const {
 }
 
 RuleSet storedRuleSet() {
+    const auto defaults = ns::UserDefaults::standardUserDefaults();
     RuleSet rules;
     for (const RuleKind kind : listingOrder) {
-        const StoredRules stored(kind);
-        const auto map = ns::UserDefaults::standardUserDefaults().dictionary(defaultsKey(kind));
+        const StoredRules stored(defaults, kind);
+        const auto map = defaults.dictionary(defaultsKey(kind));
         for (const objc::Object entry : map.allKeys()) {
             const auto key = entry.as<ns::String>();
             if (const ns::String value = stored.text(key); key && value) {

@@ -13,7 +13,10 @@ namespace wentra::labels {
 /// other. Entries that are not of the expected type count as absent.
 class StoredRules {
 public:
-    explicit StoredRules(RuleKind kind);
+    StoredRules(ns::UserDefaults defaults, RuleKind kind);
+
+    /// Whether there are any, which spares making keys to look up.
+    explicit operator bool() const { return static_cast<bool>(map_); }
 
     /// The rule's value as text, or nil.
     [[nodiscard]] ns::String text(ns::String key) const;
