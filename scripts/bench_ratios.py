@@ -15,6 +15,8 @@ RATIOS = [
      "at most 1.5"),
     ("label text without rules / plain read, binary", "setText/binary_without_rules",
      "plainRead/binary", "at most 1.5"),
+    ("of that the platform's own setText: / plain read", "platformText", "plainRead/xml", ""),
+    ("of that nine maps and a look into each / plain read", "ruleMaps", "plainRead/xml", ""),
     ("label text with nine rules / plain read, XML", "setText/xml_with_rules", "plainRead/xml",
      "at most 2"),
     ("label text with nine rules / plain read, binary", "setText/binary_with_rules",
