@@ -71,7 +71,7 @@ void HostFilterEditor::open(ui::LongPressGestureRecognizer press) {
         return;
     }
     const auto screen = ui::ViewController::make();
-    screen.setModalPresentationStyle(ui::ModalPresentation::fullScreen);
+    screen.setModalPresentationStyle(ui::ModalPresentation::overFullScreen);
     const ui::View view = screen.view();
     view.setBackgroundColor(ui::Color::systemBackground());
     text_ = addText(view);
