@@ -36,7 +36,10 @@ NewLayout changed(const LayoutValues& values, Change change) {
 
 NewLayout toggledLayout(const LayoutValues& values) {
     const LayoutValue& row = values[firstRow];
-    const bool enlarged = row.current.value_or(0) > row.original;
+    if (!row.current) {
+        return {};
+    }
+    const bool enlarged = *row.current > row.original;
     return changed(values, [enlarged](long long current, long long original) {
         return enlarged ? original : sum(current, step);
     });

@@ -24,6 +24,7 @@ using LayoutValues = std::array<LayoutValue, layoutKeys.size()>;
 using NewLayout = std::array<std::optional<long long>, layoutKeys.size()>;
 
 /// Enlarged by 180 points, or, when the first row is lower than at first, as everything was.
+/// Nothing without a stored first row, which tells the two apart.
 [[nodiscard]] NewLayout toggledLayout(const LayoutValues& values);
 
 /// Shrunk by 180 points, or as it was where more than that had been added. A grid that is lower

@@ -159,13 +159,14 @@ TEST(ToolboxPanelSize, ToggledTwiceIsAsItWas) {
     EXPECT_EQ(phone.node(phone.panel("wordsCollectionView")).at("frame"), (Json{12, 0, 366, 320}));
 }
 
-TEST(ToolboxPanelSize, ToggledWithoutASizeOnlyRewrites) {
-    ToolboxPanel phone(Json{{"kqwzfc", false}});
+TEST(ToolboxPanelSize, ToggledWithoutAFirstRowOnlyRewrites) {
+    const Json withoutFirstRow{{"kqwzfc", false}, {"表格窗口高度", 200}};
+    ToolboxPanel phone(withoutFirstRow);
     phone.result({{"do", "pasteboard"}, {"set", "text"}});
     const long changes = phone.pasteboardChanges();
     phone.set({{"later", 1}}); // the panel knows the file as it was
     phone.tap("视图变更");
-    EXPECT_EQ(phone.preferences(), (Json{{"kqwzfc", false}}));
+    EXPECT_EQ(phone.preferences(), withoutFirstRow);
     EXPECT_EQ(phone.pasteboardChanges(), changes + 1);
 }
 
@@ -216,6 +217,9 @@ TEST(ToolboxPanelHostFilter, IsEditedAndSaved) {
     phone.press("结束录屏", 0.6);
     phone.advance(1);
     EXPECT_EQ(phone.result({{"do", "screens"}}).size(), screens.size() + 1) << "once a press";
+    const Json over = phone.panel("getCurrentViewController");
+    constexpr int overFullScreen = 5;
+    EXPECT_EQ(phone.message(over, "modalPresentationStyle"), overFullScreen);
     const Json editor = phone.node(phone.panel("adstextView"));
     EXPECT_EQ(editor.at("frame"), (Json{0, 90, 390, 694}));
     EXPECT_EQ(editor.at("text"), "ads.example,");

@@ -45,11 +45,18 @@ TEST(LayoutValues, TheFirstRowAloneDecides) {
 
 TEST(LayoutValues, MissingOnesStayMissing) {
     LayoutValues values = usual;
-    values[0] = {};
-    EXPECT_EQ(toggledLayout(values), (NewLayout{std::nullopt, 548, 587, 790, 500}));
+    values[2] = {};
+    EXPECT_EQ(toggledLayout(values), (NewLayout{509, 548, std::nullopt, 790, 500}));
     EXPECT_EQ(toggledLayout({}), NewLayout{});
     values[4] = {};
     EXPECT_EQ(shrunkLayout(values), NewLayout{});
+}
+
+TEST(LayoutValues, WithoutTheFirstRowTheOthersStay) {
+    LayoutValues values = usual;
+    values[0] = {};
+    EXPECT_EQ(toggledLayout(values), NewLayout{});
+    EXPECT_EQ(shrunkLayout(values), (NewLayout{std::nullopt, 188, 227, 430, 140}));
 }
 
 TEST(LayoutValues, ShrinkDownToAGridOf142) {
