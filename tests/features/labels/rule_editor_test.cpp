@@ -61,6 +61,7 @@ TEST_F(RuleEditor, OpensWithTheHelpAndTheStoredRules) {
     const auto length = phone.message(phone.message(editor, "textStorage"), "length").get<int>();
     EXPECT_EQ(colourAt(length - 2), "#555555ff");
     EXPECT_EQ(editor["frame"], (Json{55, 83, 280, 627}));
+    EXPECT_EQ(phone.message(editor, "textContainerInset")["insets"], (Json{15, 6, 6, 6}));
     EXPECT_EQ(phone.find({{"class", "UIButton"}}).size(), 17U);
     const auto frame = [this](const char* title) {
         return phone.find({{"title", title}})[0]["frame"];
@@ -71,6 +72,13 @@ TEST_F(RuleEditor, OpensWithTheHelpAndTheStoredRules) {
     EXPECT_NEAR(frame("宽度")[0].get<double>(), 9, 1e-6);
     EXPECT_EQ(frame("宽度")[1], 454);
     EXPECT_TRUE(phone.swallowed().empty());
+}
+
+TEST_F(RuleEditor, RulesStandApartOnDemand) {
+    phone.saveRules("Name===名字\nhello#÷=16");
+    phone.turnOn({"kqghxs"});
+    open();
+    EXPECT_TRUE(text().ends_with(helpEnd + "Name===名字\n\nhello#÷=16\n\n")) << text();
 }
 
 TEST_F(RuleEditor, OpensOnlyWhereNothingElseListens) {

@@ -96,6 +96,16 @@ TEST(FloatingPanel, OpensAfterATapOnTheBall) {
     EXPECT_TRUE(phone.swallowed().empty());
 }
 
+TEST(FloatingPanel, TakesTheHostsKeyboardAway) {
+    Toolbox phone(shown);
+    const Json field = phone.make("UITextField", {10, 600, 200, 30});
+    phone.message(phone.window(), "addSubview:", {field});
+    phone.message(field, "becomeFirstResponder");
+    EXPECT_EQ(phone.message(field, "isFirstResponder"), true);
+    phone.openPanel();
+    EXPECT_EQ(phone.message(field, "isFirstResponder"), false);
+}
+
 TEST(FloatingPanel, WaitsThreeTenthsOfASecond) {
     Toolbox phone(shown);
     phone.result({{"do", "tap"}, {"on", phone.ball()}});

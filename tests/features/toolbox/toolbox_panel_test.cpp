@@ -202,6 +202,7 @@ TEST(ToolboxPanelCrosshair, FollowsAPressWhenItIsWanted) {
             EXPECT_EQ(label.at("text"), "X:130.00, Y:100.50");
             EXPECT_EQ(label.at("textColor"), "#ff0000e0");
             EXPECT_EQ(label.at("font").at("size"), 13);
+            EXPECT_EQ(label.at("frame"), (Json{65, 67, 130, 30}));
             EXPECT_EQ(across.at("frame"), (Json{0, 100.5, 390, 1}));
             EXPECT_EQ(down.at("frame"), (Json{130, 0, 1, 844}));
         }
@@ -314,6 +315,20 @@ TEST(ToolboxPanelScreens, AreThoseOfTheHost) {
     const Json container = phone.node(phone.panel("createContainerView"));
     EXPECT_EQ(container.at("frame"), (Json{220, 50, 140, 60}));
     EXPECT_EQ(container.at("recognizers").at(0).at("action"), "dragContainer:");
+}
+
+TEST(ToolboxPanelCapture, ItsContainerFollowsTheFinger) {
+    ToolboxPanel phone;
+    const Json container = phone.panel("createContainerView");
+    phone.message(phone.window(), "addSubview:", {container});
+    const auto touch = [&phone](const char* phase, double x, double y) {
+        phone.result({{"do", "touch"}, {"phase", phase}, {"points", {{0, x, y}}}});
+    };
+    touch("began", 290, 80);
+    touch("moved", 290, 95);
+    touch("moved", 300, 130);
+    touch("ended", 310, 150);
+    EXPECT_EQ(phone.node(container).at("frame"), (Json{240, 120, 140, 60}));
 }
 
 TEST(ToolboxPanelUnseen, ANeverShownControllerTakesEveryMessage) {

@@ -300,7 +300,10 @@ TEST(WordGrid, SharesWhatIsPickedWithItsBlanks) {
     phone.result({{"do", "events"}});
     phone.tap("分享文字");
     phone.advance(1);
-    EXPECT_EQ(phone.panel("getCurrentViewController").at("class"), "UIActivityViewController");
+    const Json sheet = phone.panel("getCurrentViewController");
+    EXPECT_EQ(sheet.at("class"), "UIActivityViewController");
+    constexpr int overCurrentContext = 6;
+    EXPECT_EQ(phone.message(sheet, "modalPresentationStyle"), overCurrentContext);
     std::vector<Json> shared;
     for (const Json& event : phone.result({{"do", "events"}})) {
         EXPECT_NE(event.at("kind"), "exception");

@@ -92,6 +92,7 @@ TEST_F(ScreenParts, OutlinesAndInsetsReachTheirLayersAndIndicators) {
     EXPECT_EQ(view.layer().borderWidth(), 2.5);
     setInsets(view, {1, 2, 3, 4});
     EXPECT_EQ(view.contentInset().bottom, 3);
+    EXPECT_EQ((view.send<"scrollIndicatorInsets", UIEdgeInsets>().bottom), 3);
 }
 
 } // namespace

@@ -93,6 +93,15 @@ TEST_F(PreferenceWriting, ChangesOneEntryOfEveryFormThatIsRead) {
     }
 }
 
+TEST_F(PreferenceWriting, WhoeverReadsMeanwhileHasTheFormerFile) {
+    write(xmlPropertyList({{"kqwzgs", true}}));
+    const std::string before = bytes();
+    std::ifstream reader(file(), std::ios::binary);
+    EXPECT_TRUE(storePreference(keys.blockedHosts[0], u"a,"_ns));
+    EXPECT_NE(bytes(), before);
+    EXPECT_EQ(std::string(std::istreambuf_iterator(reader), {}), before);
+}
+
 TEST_F(PreferenceWriting, MakesAMissingFileAndLeavesAForeignOneAlone) {
     EXPECT_TRUE(storePreference(keys.recolour, ns::Number::from(true)));
     EXPECT_TRUE(Preferences::read().on(keys.recolour));
