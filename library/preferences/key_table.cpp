@@ -8,43 +8,43 @@
 #include <array>
 #include <bit>
 #include <cstdint>
+#include <utility>
 
 namespace wentra::preferences {
 namespace {
 
+// For the compiler only: the program finds the same keys where they lie.
 constexpr auto knownKeys = std::bit_cast<std::array<Key, knownKeyCount>>(keys);
 static_assert(knownKeyCount < 256, "an index takes one byte of the table");
 
-// A name as the bytes of a file spell it.
-struct Name {
-    std::array<char, 2 * Key::capacity> bytes{};
-    std::size_t size = 0;
+constexpr std::string_view utf8Name(std::size_t index) { return knownKeys[index].name(); }
 
-    constexpr std::string_view view() const { return {bytes.data(), size}; }
+// A name as the bytes of a UTF-16 file spell it, most significant byte first.
+struct Utf16Name {
+    std::array<char, 2 * Key::capacity> bytes{};
+    unsigned char size = 0;
+
+    constexpr explicit Utf16Name(std::string_view name) {
+        while (!name.empty()) {
+            const auto [character, width] = decodeUtf8(name);
+            append(character >> 8);
+            append(character);
+            name.remove_prefix(width);
+        }
+    }
 
     constexpr void append(char32_t byte) { bytes[size++] = static_cast<char>(byte); }
+    constexpr std::string_view view() const { return {bytes.data(), size}; }
 };
 
-using Names = std::array<Name, knownKeyCount>;
-
-constexpr Name utf8Name(const Key& key) {
-    Name name;
-    for (const char byte : key.name()) {
-        name.append(static_cast<unsigned char>(byte));
-    }
-    return name;
+template <std::size_t... Index>
+constexpr auto spellInUtf16(std::index_sequence<Index...>) {
+    return std::array{Utf16Name(utf8Name(Index))...};
 }
 
-constexpr Name utf16Name(const Key& key) {
-    Name name;
-    for (std::string_view rest = key.name(); !rest.empty();) {
-        const auto [character, size] = decodeUtf8(rest);
-        name.append(character >> 8);
-        name.append(character);
-        rest.remove_prefix(size);
-    }
-    return name;
-}
+constexpr auto utf16Names = spellInUtf16(std::make_index_sequence<knownKeyCount>());
+
+constexpr std::string_view utf16Name(std::size_t index) { return utf16Names[index].view(); }
 
 constexpr std::size_t shortest = 4;
 
@@ -57,29 +57,25 @@ constexpr std::uint64_t digest(std::string_view name) {
     return ends ^ word(name.size() / 2 - 2) * 0x9E3779B97F4A7C15U;
 }
 
+// Tells the one known name that a name may be.
 class NameTable {
 public:
-    consteval explicit NameTable(Name (*spell)(const Key&)) {
+    consteval explicit NameTable(std::string_view (*nameAt)(std::size_t)) {
         std::array<std::uint64_t, knownKeyCount> digests{};
         for (std::size_t index = 0; index < knownKeyCount; ++index) {
-            names_[index] = spell(knownKeys[index]);
-            digests[index] = digest(names_[index].view());
+            digests[index] = digest(nameAt(index));
         }
         while (!fill(digests)) {
             multiplier_ += 2;
         }
     }
 
-    std::size_t index(std::string_view name) const {
-        if (name.size() < shortest) {
-            return knownKeyCount;
-        }
-        const std::size_t index = indices_[place(digest(name))];
-        return index < knownKeyCount && names_[index].view() == name ? index : knownKeyCount;
+    std::size_t candidate(std::string_view name) const {
+        return name.size() < shortest ? knownKeyCount : indices_[place(digest(name))];
     }
 
 private:
-    static constexpr int placeBits = 11;
+    static constexpr int placeBits = 10; // one more when the compiler gives the search up
     static constexpr unsigned char emptyPlace = knownKeyCount;
 
     constexpr std::size_t place(std::uint64_t digest) const {
@@ -101,16 +97,22 @@ private:
 
     std::uint64_t multiplier_ = 0xD6E8FEB86659FD93U;
     std::array<unsigned char, std::size_t{1} << placeBits> indices_{};
-    Names names_{};
 };
 
-constexpr NameTable utf8Names(utf8Name);
-constexpr NameTable utf16Names(utf16Name);
+constexpr NameTable utf8Table(utf8Name);
+constexpr NameTable utf16Table(utf16Name);
+
+bool isName(std::string_view name, Encoding encoding, std::size_t index) {
+    return name == (encoding == Encoding::utf8 ? reinterpret_cast<const Key*>(&keys)[index].name()
+                                               : utf16Name(index));
+}
 
 } // namespace
 
 std::size_t knownKeyIndex(std::string_view name, Encoding encoding) {
-    return (encoding == Encoding::utf8 ? utf8Names : utf16Names).index(name);
+    const NameTable& table = encoding == Encoding::utf8 ? utf8Table : utf16Table;
+    const std::size_t index = table.candidate(name);
+    return index < knownKeyCount && isName(name, encoding, index) ? index : knownKeyCount;
 }
 
 } // namespace wentra::preferences
