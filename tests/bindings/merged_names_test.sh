@@ -1,18 +1,12 @@
 #!/usr/bin/env bash
 # Checks that the check of merged names tells two sources that collide from two that do not.
 set -euo pipefail
-check="$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)/merged_names.sh"
-folder="$(mktemp -d)"
-trap 'rm -r "$folder"' EXIT
+source "$(dirname "${BASH_SOURCE[0]}")/../support/expectations.sh"
+check="$root/tests/bindings/merged_names.sh"
 cd "$folder"
 
-fail() {
-    printf 'FAILED: %s\n' "$1" >&2
-    exit 1
-}
-
-# source FILE CLASS: a class in an unnamed namespace, reached through a template as a peer is.
-source() {
+# compile FILE CLASS: a class in an unnamed namespace, reached through a template as a peer is.
+compile() {
     cat >"$1.cpp" <<SOURCE
 template <auto Member>
 struct Call {
@@ -32,10 +26,10 @@ SOURCE
     g++ -std=c++20 -c "$1.cpp"
 }
 
-source first Own
-source second Other
+compile first Own
+compile second Other
 "$check" first.o second.o || fail 'names of their own are refused'
 
-source second Own
+compile second Own
 ! "$check" first.o second.o 2>errors || fail 'a shared name is accepted'
 grep -q 'Own::value' errors || fail 'the shared name is not told'

@@ -1,16 +1,9 @@
 #!/usr/bin/env bash
 # Checks that the library check notices what a phone would not load, or what would harm its host.
 set -euo pipefail
-root="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
-command -v clang++-19 ld64.lld-19 >/dev/null || exit 77
-folder="$(mktemp -d)"
-trap 'rm -r "$folder"' EXIT
+source "$(dirname "${BASH_SOURCE[0]}")/../support/expectations.sh"
+needs clang++-19 ld64.lld-19
 cd "$folder"
-
-fail() {
-    printf 'FAILED: %s\n%s\n' "$1" "$output" >&2
-    exit 1
-}
 
 reset() {
     rm -rf ./*
@@ -50,18 +43,14 @@ check() {
 }
 
 check_library() {
-    status=0
-    output="$("$root/device/check/binary.py" Wentra.dylib stubs 2>&1)" || status=$?
+    run "$root/device/check/binary.py" Wentra.dylib stubs
 }
 
 # refuse PATTERN…: the library as it is now has faults that the patterns name.
 refuse() {
     check
     [[ $status == 1 ]] || fail 'faults are accepted'
-    local pattern
-    for pattern in "$@"; do
-        [[ "$output" == *"$pattern"* ]] || fail "not named: $pattern"
-    done
+    names "$@"
     reset
 }
 

@@ -1,16 +1,9 @@
 #!/usr/bin/env bash
 # Checks that the package check notices what a package manager or a phone would stumble over.
 set -euo pipefail
-root="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
-command -v dpkg-deb >/dev/null || exit 77
-folder="$(mktemp -d)"
-trap 'rm -r "$folder"' EXIT
+source "$(dirname "${BASH_SOURCE[0]}")/../support/expectations.sh"
+needs dpkg-deb
 libraries=Library/MobileSubstrate/DynamicLibraries
-
-fail() {
-    printf 'FAILED: %s\n%s\n' "$1" "$output" >&2
-    exit 1
-}
 
 # content ARCHITECTURE PREFIX FIRMWARE: lays out a package that has no fault.
 content() {
@@ -31,8 +24,7 @@ build() {
 
 # check: checks both packages; leaves $status and $output.
 check() {
-    status=0
-    output="$("$root/device/check/package.py" "$folder"/*.deb 2>&1)" || status=$?
+    run "$root/device/check/package.py" "$folder"/*.deb
 }
 
 # fault PATTERN COMMAND…: the command, run in the rootless content, makes a fault that is named so.
@@ -46,10 +38,7 @@ refuse() {
     build iphoneos-arm64 -Zxz
     check
     [[ $status == 1 ]] || fail 'faults are accepted'
-    local pattern
-    for pattern in "${named[@]}"; do
-        [[ "$output" == *"$pattern"* ]] || fail "not named: $pattern"
-    done
+    names "${named[@]}"
     named=()
     rm -rf "$folder/iphoneos-arm64"
     content iphoneos-arm64 /var/jb 15.0

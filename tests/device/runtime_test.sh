@@ -1,11 +1,10 @@
 #!/usr/bin/env bash
 # Compiles the phone's parts of the C++ library for Linux, in the phone's configuration, and runs them.
 set -euo pipefail
-root="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
+source "$(dirname "${BASH_SOURCE[0]}")/../support/expectations.sh"
 headers=/usr/lib/llvm-19/include/c++/v1
-command -v clang++-19 >/dev/null && [[ -d "$headers" ]] || exit 77
-folder="$(mktemp -d)"
-trap 'rm -r "$folder"' EXIT
+needs clang++-19
+[[ -d "$headers" ]] || exit 77
 
 clang++-19 -std=c++20 -O1 -fexceptions -fno-rtti -fno-c++-static-destructors -I"$root" \
     -nostdinc++ -isystem "$root/device/headers/configuration" -isystem "$headers" \

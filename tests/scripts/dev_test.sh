@@ -1,18 +1,7 @@
 #!/usr/bin/env bash
 # Checks how ./dev finds its words: the list, unknown words, and the way arguments are passed on.
 set -euo pipefail
-root="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
-
-fail() {
-    printf 'FAILED: %s\n' "$1" >&2
-    exit 1
-}
-
-# Runs a command; leaves its exit status in $status and what it printed in $output.
-run() {
-    status=0
-    output="$("$@" 2>&1)" || status=$?
-}
+source "$(dirname "${BASH_SOURCE[0]}")/../support/expectations.sh"
 
 run "$root/dev"
 [[ $status == 0 ]] || fail "./dev alone exits with $status"
@@ -36,8 +25,6 @@ for word in run package; do
     [[ $status == 2 ]] || fail "./dev $word with an unknown argument exits with $status instead of 2"
 done
 
-folder="$(mktemp -d)"
-trap 'rm -r "$folder"' EXIT
 mkdir -p "$folder/scripts"
 cp "$root/dev" "$folder"
 cp "$root/scripts/host.sh" "$folder/scripts"

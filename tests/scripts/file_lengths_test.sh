@@ -1,16 +1,9 @@
 #!/usr/bin/env bash
 # Checks that the project's files are short enough, and that the check refuses a long one.
 set -euo pipefail
-root="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
+source "$(dirname "${BASH_SOURCE[0]}")/../support/expectations.sh"
 check="$root/scripts/checks/file_lengths.py"
 
-fail() {
-    printf 'FAILED: %s\n' "$1" >&2
-    exit 1
-}
-
-folder="$(mktemp -d)"
-trap 'rm -r "$folder"' EXIT
 python3 "$check" "$root" || fail 'the project has files that are too long'
 
 python3 "$check" "$folder" 2>/dev/null && fail 'a folder without sources is accepted'

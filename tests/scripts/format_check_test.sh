@@ -1,16 +1,9 @@
 #!/usr/bin/env bash
 # Checks that the format check notices a badly formatted file, and rewrites it only when asked to.
 set -euo pipefail
-root="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
-command -v clang-format >/dev/null || exit 77
+source "$(dirname "${BASH_SOURCE[0]}")/../support/expectations.sh"
+needs clang-format
 
-fail() {
-    printf 'FAILED: %s\n' "$1" >&2
-    exit 1
-}
-
-folder="$(mktemp -d)"
-trap 'rm -r "$folder"' EXIT
 good='int twice(int number) { return 2 * number; }'
 bad='int twice( int number ){return 2*number;}'
 printf '%s\n' "$good" >"$folder/good.cpp"

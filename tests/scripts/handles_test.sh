@@ -1,19 +1,11 @@
 #!/usr/bin/env bash
 # Checks that the check of handles passes, and that it notices second, misplaced and misnamed ones.
 set -euo pipefail
-root="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
-folder="$(mktemp -d)"
-trap 'rm -r "$folder"' EXIT
-
-fail() {
-    printf 'FAILED: %s\n%s\n' "$1" "$output" >&2
-    exit 1
-}
+source "$(dirname "${BASH_SOURCE[0]}")/../support/expectations.sh"
 
 # check: runs the check on the copy; leaves $status and $output.
 check() {
-    status=0
-    output="$(python3 "$root/scripts/checks/handles.py" "$folder" 2>&1)" || status=$?
+    run python3 "$root/scripts/checks/handles.py" "$folder"
 }
 
 # refuse FILE HANDLE CLASS PATTERN: with that handle in that file the check must fail and say so.

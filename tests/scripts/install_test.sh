@@ -2,14 +2,7 @@
 # Checks what the installation asks of the system, with stand-ins for its tools.
 # shellcheck disable=SC2016 # The bodies of the stand-ins are expanded when they run.
 set -euo pipefail
-root="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
-folder="$(mktemp -d)"
-trap 'rm -r "$folder"' EXIT
-
-fail() {
-    printf 'FAILED: %s\n%s\n' "$1" "$output" >&2
-    exit 1
-}
+source "$(dirname "${BASH_SOURCE[0]}")/../support/expectations.sh"
 
 # tool NAME: a stand-in whose body is read from standard input.
 tool() {
