@@ -15,6 +15,7 @@
 #include "library/toolbox/panel/host_screens.hpp"
 #include "library/toolbox/panel/sizes.hpp"
 #include "library/toolbox/search_targets.hpp"
+#include "library/toolbox/translation/translation.hpp"
 
 namespace wentra::toolbox {
 namespace {
@@ -25,14 +26,14 @@ class FloatingViewControllerPeer
 public:
     static constexpr auto methods() {
         return objc::join(
-            std::array{objc::method<"viewDidLoad", &FloatingViewControllerPeer::load>(),
-                       objc::method<"viewDidLayoutSubviews", &FloatingViewControllerPeer::layOut>(),
-                       objc::method<"viewWillAppear:", &FloatingViewControllerPeer::appear>(),
-                       objc::method<"viewWillDisappear:", &FloatingViewControllerPeer::disappear>(),
-                       objc::property<"synth", &FloatingViewControllerPeer::synth_>()},
+            std::array{
+                objc::method<"viewDidLoad", &FloatingViewControllerPeer::load>(),
+                objc::method<"viewDidLayoutSubviews", &FloatingViewControllerPeer::layOut>(),
+                objc::method<"viewWillAppear:", &FloatingViewControllerPeer::appear>(),
+                objc::method<"viewWillDisappear:", &FloatingViewControllerPeer::disappear>()},
             Buttons::methods(), WordGrid::methods(), Sizes::methods(), Crosshair::methods(),
             HostFilterEditor::methods(), HostScreens::methods(), SearchTargets::methods(),
-            Capture::methods(), Download::methods(), FileLists::methods());
+            Capture::methods(), Download::methods(), FileLists::methods(), Translation::methods());
     }
 
     Buttons buttons{self()};
@@ -45,6 +46,7 @@ public:
     Capture capture{self()};
     Download download{self()};
     FileLists fileLists{self()};
+    Translation translation{self(), wordGrid.selection};
 
 private:
     void load();
@@ -54,8 +56,6 @@ private:
     /// Nothing is picked and listed yet; the preferences are read.
     void begin();
     void build(const BodyLayout& layout);
-
-    objc::Strong<av::SpeechSynthesizer> synth_;
 };
 
 void FloatingViewControllerPeer::load() {
@@ -67,7 +67,7 @@ void FloatingViewControllerPeer::load() {
 void FloatingViewControllerPeer::begin() {
     fileLists.begin();
     capture.begin();
-    synth_ = av::SpeechSynthesizer::make();
+    translation.begin();
     sizes.begin();
     searchTargets.begin(preferences::storedPreferences());
 }
@@ -115,6 +115,7 @@ SearchTargets& SearchTargets::of(objc::Object controller) {
 Capture& Capture::of(objc::Object controller) { return Whole::of(controller).capture; }
 Download& Download::of(objc::Object controller) { return Whole::of(controller).download; }
 FileLists& FileLists::of(objc::Object controller) { return Whole::of(controller).fileLists; }
+Translation& Translation::of(objc::Object controller) { return Whole::of(controller).translation; }
 
 void registerFloatingViewController() { Whole::registerClass(); }
 

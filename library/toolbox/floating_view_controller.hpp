@@ -1,7 +1,6 @@
 // ZKFloatingViewController: the toolbox panel's body, the word grid and the tools' buttons.
 #pragma once
 
-#include "bindings/avfaudio/speech_synthesizer.hpp"
 #include "bindings/foundation/array.hpp"
 #include "bindings/uikit/view_controller.hpp"
 
@@ -19,11 +18,6 @@ struct FloatingViewController
     [[nodiscard]] ns::MutableArray selectedWords() const {
         return send<"selectedWords", ns::MutableArray>();
     }
-    /// Nil before the view is loaded.
-    [[nodiscard]] av::SpeechSynthesizer synth() const {
-        return send<"synth", av::SpeechSynthesizer>();
-    }
-    void setSynth(av::SpeechSynthesizer synthesizer) const { send<"setSynth:">(synthesizer); }
 };
 
 /// Declares the class.

@@ -4,7 +4,6 @@
 #include "library/toolbox/floating_view_controller.hpp"
 #include "library/toolbox/screens_to_come.hpp"
 #include "library/toolbox/translation/bilingual_view.hpp"
-#include "library/toolbox/translation/translation.hpp"
 #include "library/toolbox/view_model.hpp"
 
 #include <array>
@@ -14,8 +13,7 @@ namespace wentra::toolbox {
 Face face() {
     static constexpr std::array<Face::Declaration, 3> classes{
         &registerFloatingViewController, &registerBilingualView, &registerViewModel};
-    // The screens to come are last: they fill what is still open.
-    static constexpr std::array<Table, 2> categories{&translationCategory, &screensToCome};
+    static constexpr std::array<Table, 1> categories{&screensToCome};
     return {classes, categories};
 }
 

@@ -10,6 +10,7 @@
 #include "library/common/buttons.hpp"
 #include "library/common/draggable_view.hpp"
 #include "library/common/gestures.hpp"
+#include "library/common/light_background.hpp"
 #include "library/common/outline.hpp"
 #include "library/common/sharing.hpp"
 #include "library/common/speaking.hpp"
@@ -97,8 +98,7 @@ BilingualView BilingualViewPeer::initWithTexts(ns::String title, ns::String mess
                                                ns::String original, ns::String translated) {
     const double width = ui::Screen::mainScreen().bounds().size.width;
     super<"initWithFrame:", ui::View>(CGRect{{20, 60}, {width - 40, dialogHeight}});
-    self().setBackgroundColor(ui::Color::withWhite(1, 0.97));
-    self().setOverrideUserInterfaceStyle(ui::InterfaceStyle::light); // as its background is
+    setLightBackground(self(), ui::Color::withWhite(1, 0.97));
     self().setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth);
     drawOutline(self(), {12, 0.5, ui::Color::lightGray()});
     synth_ = av::SpeechSynthesizer::make();

@@ -9,22 +9,18 @@
 namespace wentra::toolbox {
 
 /// Collects the translated lines of one text. The one answer that completes the batch yields the
-/// whole; after a failure none does.
+/// whole; while a line is missing, because its request failed, none does.
 class TranslationBatch {
 public:
-    explicit TranslationBatch(std::size_t lineCount)
-        : lines_(lineCount), outstanding_(static_cast<long>(lineCount)) {}
+    explicit TranslationBatch(std::size_t lineCount) : lines_(lineCount), outstanding_(lineCount) {}
 
     /// The line's translation has come. When it was the last one outstanding: all translations,
     /// joined by line breaks.
     std::optional<std::u16string> complete(std::size_t line, std::u16string_view translation);
 
-    /// A request failed: whatever comes later completes nothing.
-    void fail() { outstanding_ = 0; }
-
 private:
     std::vector<std::u16string> lines_;
-    long outstanding_;
+    std::size_t outstanding_;
 };
 
 } // namespace wentra::toolbox
