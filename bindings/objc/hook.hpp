@@ -56,6 +56,7 @@ template <auto Replacement, class Function = decltype(Replacement)>
 struct Signature;
 template <auto Replacement, class R, class Receiver, class... A>
 struct Signature<Replacement, R (*)(Next<R(A...)>, Receiver, A...)> {
+    using Kind = Receiver;
     static constexpr std::size_t argumentCount = sizeof...(A);
     static constexpr const char* types = detail::types<R(A...)>;
 
@@ -85,6 +86,7 @@ template <auto Function, class Type = decltype(Function)>
 struct Addition;
 template <auto Function, class R, class Receiver, class... A>
 struct Addition<Function, R (*)(Receiver, A...)> {
+    using Kind = Receiver;
     static constexpr const char* types = detail::types<R(A...)>;
     static constexpr std::size_t argumentCount = sizeof...(A);
     static Passed<R> call(id self, SEL name, Passed<A>... arguments) {
@@ -121,17 +123,25 @@ constexpr Change added() {
 /// Replaces an instance method through the injection framework:
 ///
 ///     void rewritten(objc::Next<void(ns::String)> next, ui::Label label, ns::String text);
-///     objc::hook<"UILabel", "setText:", &rewritten>()
+///     objc::hook<"setText:", &rewritten>()
 ///
-/// The types come from the function; a method whose own types differ is left alone. An inherited
-/// method is overridden in the named class only.
+/// The types come from the function, and so does the class, that of the receiver; a row whose
+/// function serves several classes, or one without a handle, names the class first:
+/// `hook<"UILabel", "setText:", &rewritten>()`. A method whose own types differ is left alone. An
+/// inherited method is overridden in this class only.
 template <Literal ClassName, Literal Selector, auto Replacement>
 constexpr Change hook() {
     return detail::replacement<ClassName, Selector, Side::instance, Replacement>(Change::How::hook,
                                                                                  nullptr);
 }
 
-/// The same for a class method; the replacement's receiver is the class, as an `Object`.
+template <Literal Selector, auto Replacement>
+constexpr Change hook() {
+    return hook<detail::Signature<Replacement>::Kind::className, Selector, Replacement>();
+}
+
+/// The same for a class method; the replacement's receiver is the class, as an `Object`, so that
+/// the row always names it.
 template <Literal ClassName, Literal Selector, auto Replacement>
 constexpr Change classHook() {
     return detail::replacement<ClassName, Selector, Side::type, Replacement>(Change::How::hook,
@@ -148,12 +158,21 @@ constexpr Change exchange() {
     return detail::replacement<ClassName, Selector, Side::instance, Replacement>(
         Change::How::exchange, Other.data());
 }
+template <Literal Selector, Literal Other, auto Replacement>
+constexpr Change exchange() {
+    return exchange<detail::Signature<Replacement>::Kind::className, Selector, Other,
+                    Replacement>();
+}
 
 /// Adds a method to a class that lacks it: `bool isOn(ui::View self)` under "isOn". One that the
 /// class has already is left alone.
 template <Literal ClassName, Literal Selector, auto Function>
 constexpr Change addition() {
     return detail::added<ClassName, Selector, Side::instance, Function>();
+}
+template <Literal Selector, auto Function>
+constexpr Change addition() {
+    return addition<detail::Addition<Function>::Kind::className, Selector, Function>();
 }
 
 /// The same for a class method; the function's first argument is the class, as an `Object`.

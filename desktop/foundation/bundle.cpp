@@ -20,7 +20,7 @@ ns::String bundleIdentifier(objc::Next<ns::String()> next, ns::Bundle bundle) {
 
 void installBundle(ns::String identifier) {
     mainIdentifier() = identifier;
-    objc::install(objc::hook<"NSBundle", "bundleIdentifier", &bundleIdentifier>());
+    objc::install(objc::hook<"bundleIdentifier", &bundleIdentifier>());
 }
 
 } // namespace desktop::foundation

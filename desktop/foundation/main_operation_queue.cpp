@@ -55,7 +55,7 @@ objc::Object addObserver(id center, SEL selector, ns::String name, objc::Object 
 } // namespace
 
 void installMainOperationQueue() {
-    objc::install(objc::hook<"NSOperationQueue", "addOperation:", &addOperation>());
+    objc::install(objc::hook<"addOperation:", &addOperation>());
     if (formerAddObserver != nullptr) {
         return; // once
     }

@@ -107,11 +107,9 @@ class Reader:
             elif factory in ("property", "flag"):
                 self.own("-", f"is{capitalised}" if factory == "flag" else name)
                 self.own("-", f"set{capitalised}:")
-        for kind, selector in re.findall(
-                r'objc::(addition|classAddition)<"[^"]+",\s*"([^"]+)"', text):
-            self.own("+" if kind == "classAddition" else "-", selector)
-        for other in re.findall(r'objc::exchange<"[^"]+",\s*"[^"]+",\s*"([^"]+)"', text):
-            self.own("-", other)
+        for _, kind, names, _ in self.changes(text):
+            if kind in ("addition", "classAddition", "exchange"):
+                self.own("+" if kind == "classAddition" else "-", names[-1])
 
     def own(self, side, selector):
         self.found.own_methods.add((side, selector))
@@ -168,22 +166,37 @@ class Reader:
                 return self.encode(declared[1])
         return None
 
-    def read_hooks(self, file, text):
-        for match in re.finditer(r"\bobjc::(hook|classHook|exchange)<", text):
-            parts = split(balanced(text, match.end() - 1, "<>")[0])
-            if len(parts) < 3 or not parts[0].startswith('"'):
-                continue
-            cls, selector = parts[0].strip('"'), parts[1].strip('"')
-            self.found.classes.setdefault(cls, "")
-            self.found.uses.append(Use(
-                place(file, text, match), cls, "+" if match[1] == "classHook" else "-", selector,
-                self.replacement_types(text, parts[-1]), True))
+    @staticmethod
+    def changes(text):
+        """The rows of tables of changes: match, kind, class (if named) and selectors, function."""
+        for match in re.finditer(
+                r"\bobjc::(hook|classHook|exchange|addition|classAddition)<", text):
+            *names, function = split(balanced(text, match.end() - 1, "<>")[0])
+            if names and all(name.startswith('"') for name in names):
+                yield match, match[1], [name.strip('"') for name in names], function
 
-    def replacement_types(self, text, replacement):
-        name = replacement.lstrip("&").split("::")[-1]
+    def read_hooks(self, file, text):
+        for match, kind, names, function in self.changes(text):
+            if kind not in ("hook", "classHook", "exchange"):
+                continue
+            cls, types = self.replacement(text, function)
+            selector, *_ = names[-2:] if kind == "exchange" else names[-1:]
+            if len(names) > (2 if kind == "exchange" else 1):
+                cls = names[0]
+            if cls:
+                self.found.classes.setdefault(cls, "")
+            self.found.uses.append(Use(
+                place(file, text, match), cls, "+" if kind == "classHook" else "-", selector,
+                types, True))
+
+    def replacement(self, text, function):
+        """The class that a replacement's receiver names, and its types; None: not told."""
+        name = function.lstrip("&").split("::")[-1]
         definition = re.search(rf"\b{name}\(\s*(?:objc::)?Next(?=<)", text)
         if definition is None:
-            return None
-        signature = balanced(text, definition.end(), "<>")[0]
+            return None, None
+        signature, end = balanced(text, definition.end(), "<>")
         result, arguments = signature.split("(", 1)
-        return tuple(self.encode(t) for t in [result, *split(arguments.rsplit(")", 1)[0])])
+        types = tuple(self.encode(t) for t in [result, *split(arguments.rsplit(")", 1)[0])])
+        receiver = re.match(r"\s*\w*,\s*(?:\w+::)*(\w+)", text[end:])
+        return self.kinds.get(receiver[1]) if receiver else None, types

@@ -5,6 +5,7 @@
 #include "bindings/uikit/keyboard.hpp"
 #include "library/common/buttons.hpp"
 #include "library/common/keyboard_insets.hpp"
+#include "library/common/light_background.hpp"
 #include "library/common/outline.hpp"
 #include "library/common/screens.hpp"
 
@@ -66,8 +67,7 @@ void TextViewControllerPeer::addButton(ns::String title, SEL action, double dist
 void TextViewControllerPeer::viewDidLoad() {
     super<"viewDidLoad">();
     const ui::View view = self().view();
-    view.setBackgroundColor(ui::Color::white());
-    self().setOverrideUserInterfaceStyle(ui::InterfaceStyle::light); // as its background is
+    setLightBackground(view, ui::Color::white());
     addButton(u"清空文本"_ns, objc::selector<"ClearText">(), 230);
     addButton(u"确认编辑"_ns, objc::selector<"doneEditing">(), 190);
     addButton(u"取消编辑"_ns, objc::selector<"cancelEditing">(), 145);

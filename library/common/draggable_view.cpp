@@ -94,11 +94,11 @@ void registerTrashButton() { TrashButtonPeer::registerClass(); }
 
 std::span<const objc::Change> draggableCategory() {
     static constexpr std::array changes{
-        objc::addition<"UIView", "makeDraggableAndZoomable", &makeDraggable>(),
-        objc::addition<"UIView", "makeDraggableAndZoomableWithTrashButton:", &addTrash>(),
-        objc::addition<"UIView", "handlePan:", &drag>(),
-        objc::addition<"UIView", "handlePinch:", &pinch>(),
-        objc::addition<"UIView", "handleDoubleTap:", &doubleTap>(),
+        objc::addition<"makeDraggableAndZoomable", &makeDraggable>(),
+        objc::addition<"makeDraggableAndZoomableWithTrashButton:", &addTrash>(),
+        objc::addition<"handlePan:", &drag>(),
+        objc::addition<"handlePinch:", &pinch>(),
+        objc::addition<"handleDoubleTap:", &doubleTap>(),
     };
     return changes;
 }

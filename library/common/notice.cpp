@@ -4,6 +4,7 @@
 #include "bindings/dispatch/dispatch.hpp"
 #include "bindings/uikit/label.hpp"
 #include "bindings/uikit/window.hpp"
+#include "library/common/light_background.hpp"
 
 namespace wentra {
 namespace {
@@ -21,8 +22,7 @@ void showNotice(ui::View view, ns::String text, const NoticePlace& place, double
     const auto label = ui::Label::withFrame(noticeFrame(view.bounds().size, place));
     label.setText(text);
     label.setTextAlignment(ui::TextAlignment::center);
-    label.setBackgroundColor(ui::Color::lightGray());
-    label.setOverrideUserInterfaceStyle(ui::InterfaceStyle::light); // as its background is
+    setLightBackground(label, ui::Color::lightGray());
     view.window().addSubview(label);
     dispatch::after(static_cast<std::int64_t>(seconds * nanosecondsPerSecond),
                     dispatch::mainQueue(),

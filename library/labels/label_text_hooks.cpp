@@ -87,21 +87,21 @@ void withholdOneText(objc::Next<void(ns::String)> next, ui::Label label, ns::Str
 
 std::span<const objc::Change> labelTextLoad() {
     static constexpr std::array changes{
-        objc::exchange<"UILabel", "setText:", "hook_setText:", &rewriteLabel>(),
+        objc::exchange<"setText:", "hook_setText:", &rewriteLabel>(),
     };
     return changes;
 }
 
 std::span<const objc::Change> yyLabelTextLoad() {
     static constexpr std::array changes{
-        objc::exchange<"YYLabel", "setText:", "hook_setText:", &rewriteYYLabel>(),
+        objc::exchange<"setText:", "hook_setText:", &rewriteYYLabel>(),
     };
     return changes;
 }
 
 std::span<const objc::Change> labelTextHooks() {
     static constexpr std::array changes{
-        objc::hook<"UILabel", "setText:", &withholdOneText>(),
+        objc::hook<"setText:", &withholdOneText>(),
     };
     return changes;
 }

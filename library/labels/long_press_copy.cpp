@@ -99,8 +99,8 @@ void movedToSuperview(objc::Next<void()> next, ui::Label label) {
 
 std::span<const objc::Change> longPressCopyCategory() {
     static constexpr std::array changes{
-        objc::addition<"UIView", "setupLongPressCopy", &setUp>(),
-        objc::addition<"UIView", "longPress:", &pressed>(),
+        objc::addition<"setupLongPressCopy", &setUp>(),
+        objc::addition<"longPress:", &pressed>(),
         objc::classAddition<"UILabel", "swizzleInstanceMethod:withMethod:", &swizzle>(),
     };
     return changes;
@@ -108,8 +108,7 @@ std::span<const objc::Change> longPressCopyCategory() {
 
 std::span<const objc::Change> longPressCopyLoad() {
     static constexpr std::array changes{
-        objc::exchange<"UILabel", "didMoveToSuperview", "swizzled_didMoveToSuperview",
-                       &movedToSuperview>(),
+        objc::exchange<"didMoveToSuperview", "swizzled_didMoveToSuperview", &movedToSuperview>(),
     };
     return changes;
 }

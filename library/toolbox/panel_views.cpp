@@ -3,6 +3,7 @@
 
 #include "bindings/uikit/image_view.hpp"
 #include "library/common/gestures.hpp"
+#include "library/common/light_background.hpp"
 #include "library/paths/resources.hpp"
 
 namespace wentra::toolbox {
@@ -47,9 +48,7 @@ ui::View makePanel(double height, CGSize screen, ui::Color background, ViewModel
     constexpr double cornerRadius = 7;
     const auto panel = ui::View::withFrame({{}, {screen.width, height}});
     panel.setCenter({screen.width * 0.5, screen.height * 0.5});
-    panel.setBackgroundColor(background);
-    // Its colours are the user's and those of light paper, whatever the phone's appearance.
-    panel.setOverrideUserInterfaceStyle(ui::InterfaceStyle::light);
+    setLightBackground(panel, background);
     panel.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth);
     panel.layer().setCornerRadius(cornerRadius);
     panel.setAlpha(0);

@@ -16,22 +16,22 @@ void notYetFor(FloatingViewController, objc::Object) {}
 std::span<const objc::Change> screensToCome() {
     static constexpr std::array changes{
         // The clipboard history.
-        objc::addition<"ZKFloatingViewController", "showClipboard:", &notYetFor>(),
+        objc::addition<"showClipboard:", &notYetFor>(),
         // The quick switches.
-        objc::addition<"ZKFloatingViewController", "handlePasteButtonLongPress:", &notYetFor>(),
+        objc::addition<"handlePasteButtonLongPress:", &notYetFor>(),
         // The utilities menu.
-        objc::addition<"ZKFloatingViewController", "longPress:", &notYetFor>(),
+        objc::addition<"longPress:", &notYetFor>(),
         // The list of files and crash logs.
-        objc::addition<"ZKFloatingViewController", "handlerzLongPress:", &notYetFor>(),
+        objc::addition<"handlerzLongPress:", &notYetFor>(),
         // The list of applications to search in, and pinyin.
-        objc::addition<"ZKFloatingViewController", "ljsslongPress:", &notYetFor>(),
-        objc::addition<"ZKFloatingViewController", "buttonLongPressed:", &notYetFor>(),
+        objc::addition<"ljsslongPress:", &notYetFor>(),
+        objc::addition<"buttonLongPressed:", &notYetFor>(),
         // Links, and conversion to Unicode escapes.
-        objc::addition<"ZKFloatingViewController", "ljtzButtonClicked:", &notYetFor>(),
-        objc::addition<"ZKFloatingViewController", "umzhButtonClicked:", &notYetFor>(),
+        objc::addition<"ljtzButtonClicked:", &notYetFor>(),
+        objc::addition<"umzhButtonClicked:", &notYetFor>(),
         // The screen recorder.
-        objc::addition<"ZKFloatingViewController", "startRecording", &notYet>(),
-        objc::addition<"ZKFloatingViewController", "stopRecording", &notYet>(),
+        objc::addition<"startRecording", &notYet>(),
+        objc::addition<"stopRecording", &notYet>(),
     };
     return changes;
 }

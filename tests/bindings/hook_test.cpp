@@ -22,6 +22,10 @@ int thousandfold(Object, int times) { return 1000 * times; }
 bool isLoud(Object) { return true; }
 int makers(Object) { return 3; }
 
+using NamedBell = tests::Bell<"TestNamed">;
+int addTenToNamed(Next<int(int)> next, NamedBell, int times) { return next(times) + 10; }
+bool isNamed(NamedBell) { return true; }
+
 class HookTest : public testing::Test {
     objc::Pool pool_;
 };
@@ -167,6 +171,18 @@ TEST_F(HookTest, SwizzledMethodsTradePlacesInTheirClassOnly) {
         << "the class has them itself now";
     EXPECT_EQ(it.ring(1), 1);
     EXPECT_EQ((it.send<"toll:", int>(1)), 100);
+}
+
+TEST_F(HookTest, TakesTheClassFromTheReceiverWhereTheRowNamesNone) {
+    const auto it = bell<"TestNamed">();
+    ASSERT_EQ((objc::install(objc::hook<"ring:", &addTenToNamed>())), Outcome::installed);
+    ASSERT_EQ((objc::install(objc::exchange<"toll:", "named_toll:", &addTenToNamed>())),
+              Outcome::installed);
+    ASSERT_EQ((objc::install(objc::addition<"isNamed", &isNamed>())), Outcome::installed);
+    EXPECT_EQ(it.ring(1), 11);
+    EXPECT_EQ((it.send<"toll:", int>(1)), 110);
+    EXPECT_EQ((it.send<"named_toll:", int>(1)), 100);
+    EXPECT_TRUE((it.send<"isNamed", bool>()));
 }
 
 TEST_F(HookTest, SwizzlingRefusesWhatWouldDoHarm) {

@@ -25,9 +25,9 @@ void installIndexPaths() {
     constexpr std::array changes{
         objc::classAddition<"NSIndexPath", "indexPathForItem:inSection:", &make>(),
         objc::classAddition<"NSIndexPath", "indexPathForRow:inSection:", &make>(),
-        objc::addition<"NSIndexPath", "section", &index<0>>(),
-        objc::addition<"NSIndexPath", "item", &index<1>>(),
-        objc::addition<"NSIndexPath", "row", &index<1>>(),
+        objc::addition<"section", &index<0>>(),
+        objc::addition<"item", &index<1>>(),
+        objc::addition<"row", &index<1>>(),
     };
     for (const objc::Change& change : changes) {
         objc::install(change);

@@ -29,9 +29,9 @@ void installGeometryValues() {
     objc::install(objc::classAddition<"NSValue", "valueWithCGRect:", &withRect>());
     objc::install(objc::classAddition<"NSValue", "valueWithCGPoint:", &withPoint>());
     objc::install(objc::classAddition<"NSValue", "valueWithCGSize:", &withSize>());
-    objc::install(objc::addition<"NSValue", "CGRectValue", &rect>());
-    objc::install(objc::addition<"NSValue", "CGPointValue", &point>());
-    objc::install(objc::addition<"NSValue", "CGSizeValue", &size>());
+    objc::install(objc::addition<"CGRectValue", &rect>());
+    objc::install(objc::addition<"CGPointValue", &point>());
+    objc::install(objc::addition<"CGSizeValue", &size>());
 }
 
 } // namespace desktop

@@ -46,7 +46,7 @@ void registerCustomAlertController() { CustomAlertControllerPeer::registerClass(
 
 std::span<const objc::Change> colourChoosing() {
     static constexpr std::array changes{
-        objc::addition<"UIView", "ysButtonPressed:", &choose>(),
+        objc::addition<"ysButtonPressed:", &choose>(),
     };
     return changes;
 }

@@ -82,19 +82,19 @@ void insertRule(ui::View host, RuleKind kind, ns::String value) {
 
 std::span<const objc::Change> editorCommands() {
     static constexpr std::array changes{
-        objc::addition<"UIView", "moveCursorUp:", &moveUp>(),
-        objc::addition<"UIView", "moveCursorDown:", &moveDown>(),
-        objc::addition<"UIView", "prevPage:", &pageUp>(),
-        objc::addition<"UIView", "nextPage:", &pageDown>(),
-        objc::addition<"UIView", "tmdtj:", &insertMarker<RuleKind::alpha>>(),
-        objc::addition<"UIView", "equalButtonPressed:", &insertMarker<RuleKind::text>>(),
-        objc::addition<"UIView", "dxButtonPressed:", &insertMarker<RuleKind::size>>(),
-        objc::addition<"UIView", "hxButtonPressed:", &insertMarker<RuleKind::horizontal>>(),
-        objc::addition<"UIView", "zxButtonPressed:", &insertMarker<RuleKind::vertical>>(),
-        objc::addition<"UIView", "gdButtonPressed:", &insertMarker<RuleKind::height>>(),
-        objc::addition<"UIView", "kdButtonPressed:", &insertMarker<RuleKind::width>>(),
-        objc::addition<"UIView", "deleteRowButtonPressed:", &deleteLines>(),
-        objc::addition<"UIView", "exportButtonPressed:", &exportText>(),
+        objc::addition<"moveCursorUp:", &moveUp>(),
+        objc::addition<"moveCursorDown:", &moveDown>(),
+        objc::addition<"prevPage:", &pageUp>(),
+        objc::addition<"nextPage:", &pageDown>(),
+        objc::addition<"tmdtj:", &insertMarker<RuleKind::alpha>>(),
+        objc::addition<"equalButtonPressed:", &insertMarker<RuleKind::text>>(),
+        objc::addition<"dxButtonPressed:", &insertMarker<RuleKind::size>>(),
+        objc::addition<"hxButtonPressed:", &insertMarker<RuleKind::horizontal>>(),
+        objc::addition<"zxButtonPressed:", &insertMarker<RuleKind::vertical>>(),
+        objc::addition<"gdButtonPressed:", &insertMarker<RuleKind::height>>(),
+        objc::addition<"kdButtonPressed:", &insertMarker<RuleKind::width>>(),
+        objc::addition<"deleteRowButtonPressed:", &deleteLines>(),
+        objc::addition<"exportButtonPressed:", &exportText>(),
     };
     return changes;
 }

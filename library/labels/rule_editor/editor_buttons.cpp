@@ -4,6 +4,7 @@
 #include "bindings/uikit/layout_item.hpp"
 #include "bindings/uikit/window.hpp"
 #include "library/common/buttons.hpp"
+#include "library/common/light_background.hpp"
 
 #include <array>
 #include <string_view>
@@ -43,13 +44,11 @@ constexpr UIEdgeInsets equalInsets(double points) { return {points, points, poin
 
 ui::Button addButton(ui::View host, ui::Window window, std::u16string_view title, SEL action,
                      double padding, double textSize = 0) {
-    const ButtonLook look{.title = ns::String::from(title),
-                          .textSize = textSize,
-                          .background = ui::Color::withWhite(1, 0.9),
-                          .cornerRadius = 5};
+    const ButtonLook look{
+        .title = ns::String::from(title), .textSize = textSize, .cornerRadius = 5};
     const auto button = makeButton(look, host, action);
     button.setContentEdgeInsets(equalInsets(padding));
-    button.setOverrideUserInterfaceStyle(ui::InterfaceStyle::light); // as its background is
+    setLightBackground(button, ui::Color::withWhite(1, 0.9));
     button.setClipsToBounds(true);
     window.addSubview(button);
     return button;

@@ -38,14 +38,14 @@ void setPickerTimer(ui::View host, ns::Timer timer) { PickerTimer::set(host, tim
 
 std::span<const objc::Change> editorProperties() {
     static constexpr std::array changes{
-        objc::addition<"UIView", "inputTextView", &Input::get>(),
-        objc::addition<"UIView", "setInputTextView:", &Input::set>(),
-        objc::addition<"UIView", "fontPickerView", &Picker::get>(),
-        objc::addition<"UIView", "setFontPickerView:", &Picker::set>(),
-        objc::addition<"UIView", "fontNames", &FontNames::get>(),
-        objc::addition<"UIView", "setFontNames:", &FontNames::set>(),
-        objc::addition<"UIView", "timer", &PickerTimer::get>(),
-        objc::addition<"UIView", "setTimer:", &PickerTimer::set>(),
+        objc::addition<"inputTextView", &Input::get>(),
+        objc::addition<"setInputTextView:", &Input::set>(),
+        objc::addition<"fontPickerView", &Picker::get>(),
+        objc::addition<"setFontPickerView:", &Picker::set>(),
+        objc::addition<"fontNames", &FontNames::get>(),
+        objc::addition<"setFontNames:", &FontNames::set>(),
+        objc::addition<"timer", &PickerTimer::get>(),
+        objc::addition<"setTimer:", &PickerTimer::set>(),
     };
     return changes;
 }

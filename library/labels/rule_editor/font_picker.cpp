@@ -60,12 +60,12 @@ void addFontPicker(ui::View host, ui::TextView editor) {
 
 std::span<const objc::Change> fontPicking() {
     static constexpr std::array changes{
-        objc::addition<"UIView", "fontButtonPressed:", &show>(),
-        objc::addition<"UIView", "numberOfComponentsInPickerView:", &components>(),
-        objc::addition<"UIView", "pickerView:numberOfRowsInComponent:", &rows>(),
-        objc::addition<"UIView", "pickerView:titleForRow:forComponent:", &title>(),
-        objc::addition<"UIView", "pickerView:didSelectRow:inComponent:", &selected>(),
-        objc::addition<"UIView", "updateFontWithName:", &insertName>(),
+        objc::addition<"fontButtonPressed:", &show>(),
+        objc::addition<"numberOfComponentsInPickerView:", &components>(),
+        objc::addition<"pickerView:numberOfRowsInComponent:", &rows>(),
+        objc::addition<"pickerView:titleForRow:forComponent:", &title>(),
+        objc::addition<"pickerView:didSelectRow:inComponent:", &selected>(),
+        objc::addition<"updateFontWithName:", &insertName>(),
     };
     return changes;
 }

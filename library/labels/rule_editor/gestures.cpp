@@ -44,10 +44,10 @@ void tap(ui::View host, ui::TapGestureRecognizer tap) {
 
 std::span<const objc::Change> editorGestures() {
     static constexpr std::array changes{
-        objc::addition<"UIView", "handleDrag:", &drag>(),
-        objc::addition<"UIView", "zerkpinchGesture:", &pinch>(),
-        objc::addition<"UIView", "zerkhandleDoubleTap:", &doubleTap>(),
-        objc::addition<"UIView", "handleTap:", &tap>(),
+        objc::addition<"handleDrag:", &drag>(),
+        objc::addition<"zerkpinchGesture:", &pinch>(),
+        objc::addition<"zerkhandleDoubleTap:", &doubleTap>(),
+        objc::addition<"handleTap:", &tap>(),
     };
     return changes;
 }

@@ -36,8 +36,8 @@ void ask(ui::View host, objc::Object) {
 
 std::span<const objc::Change> keywordSearch() {
     static constexpr std::array changes{
-        objc::addition<"UIView", "searchButtonPressed:", &ask>(),
-        objc::addition<"UIView", "highlightKeyword:", &highlight>(),
+        objc::addition<"searchButtonPressed:", &ask>(),
+        objc::addition<"highlightKeyword:", &highlight>(),
     };
     return changes;
 }

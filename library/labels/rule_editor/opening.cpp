@@ -4,6 +4,7 @@
 #include "bindings/uikit/layout_item.hpp"
 #include "bindings/uikit/text_attributes.hpp"
 #include "library/common/gestures.hpp"
+#include "library/common/light_background.hpp"
 #include "library/common/outline.hpp"
 #include "library/labels/rule_editor/editor_buttons.hpp"
 #include "library/labels/rule_editor/host_keeper.hpp"
@@ -105,16 +106,15 @@ void open(ui::View host, ui::GestureRecognizer press) {
 } // namespace
 
 void applyEditorLook(ui::View view) {
-    view.setBackgroundColor(ui::Color::white());
-    view.setOverrideUserInterfaceStyle(ui::InterfaceStyle::light); // as its background is
+    setLightBackground(view, ui::Color::white());
     view.setClipsToBounds(true);
     drawOutline(view, {6, 2.5, ui::Color::blue().withAlphaComponent(0.4)});
 }
 
 std::span<const objc::Change> editorOpening() {
     static constexpr std::array changes{
-        objc::addition<"UIView", "attachLongPressHandler33", &attach>(),
-        objc::addition<"UIView", "handleLongPress33:", &open>(),
+        objc::addition<"attachLongPressHandler33", &attach>(),
+        objc::addition<"handleLongPress33:", &open>(),
     };
     return changes;
 }

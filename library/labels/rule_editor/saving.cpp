@@ -59,9 +59,9 @@ void removeEditor(ui::View host) {
 
 std::span<const objc::Change> editorSaving() {
     static constexpr std::array changes{
-        objc::addition<"UIView", "saveRulesFromTextView:", &saveRules>(),
-        objc::addition<"UIView", "savePressed:", &save>(),
-        objc::addition<"UIView", "textViewDidChange:", &textChanged>(),
+        objc::addition<"saveRulesFromTextView:", &saveRules>(),
+        objc::addition<"savePressed:", &save>(),
+        objc::addition<"textViewDidChange:", &textChanged>(),
     };
     return changes;
 }

@@ -23,7 +23,7 @@ TEST_F(Screens, AControllerThatIsBeingDismissedIsNotTheTopOne) {
     first.present(second, animated);
     ASSERT_EQ(topViewController(), second);
 
-    ASSERT_EQ(objc::install(objc::hook<"UIViewController", "isBeingDismissed", &isLeaving>()),
+    ASSERT_EQ(objc::install(objc::hook<"isBeingDismissed", &isLeaving>()),
               objc::Outcome::installed);
     leaving = second;
     EXPECT_EQ(topViewController(), first);

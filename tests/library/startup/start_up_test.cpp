@@ -120,7 +120,7 @@ TEST(StartUp, InstallsEveryRowOnceAndTheToolboxLater) {
     startUp();
     EXPECT_EQ(implementations(), after) << "a second call installed something again";
 
-    objc::install(objc::hook<"ZKViewModel", "updateView", &countUpdate>());
+    objc::install(objc::hook<"updateView", &countUpdate>());
     desktop::run_loop::advance(0.29);
     EXPECT_EQ(updates, 0);
     desktop::run_loop::advance(0.02);

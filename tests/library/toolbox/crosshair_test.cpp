@@ -23,7 +23,7 @@ void activate() {
 }
 
 TEST_F(CrosshairScreens, IsAttachedWhenASceneBecomesActive) {
-    ASSERT_EQ(objc::install(objc::hook<"UIWindowScene", "activationState", &activation>()),
+    ASSERT_EQ(objc::install(objc::hook<"activationState", &activation>()),
               objc::Outcome::installed);
     registerFloatingViewController();
     const ui::View screen = root().view();
