@@ -196,7 +196,6 @@ Json Call::result() const {
     };
     switch (type.front()) {
     case '@':
-        return values_->toJson(objc::wrap(as(id{})));
     case '#':
         return values_->toJson(objc::wrap(as(id{})));
     case ':': {

@@ -123,13 +123,12 @@ void slideTo(Hand& hand, CGPoint from, CGPoint to) {
     constexpr double step = 10;
     constexpr double mostSteps = 100;
     const double way = distance(from, to);
-    const double steps = std::clamp(std::ceil(way / step), 1.0, mostSteps);
-    for (double i = 1; i <= steps; ++i) {
-        const double part = i / steps;
-        hand.moveTo(
-            i == steps ? to
-                       : CGPoint{from.x + (to.x - from.x) * part, from.y + (to.y - from.y) * part});
+    const int steps = static_cast<int>(std::clamp(std::ceil(way / step), 1.0, mostSteps));
+    for (int i = 1; i < steps; ++i) {
+        const double part = static_cast<double>(i) / steps;
+        hand.moveTo({from.x + (to.x - from.x) * part, from.y + (to.y - from.y) * part});
     }
+    hand.moveTo(to);
 }
 
 /// [[id,x,y],…], each finger once.
