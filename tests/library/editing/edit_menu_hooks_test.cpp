@@ -6,6 +6,7 @@
 #include "bindings/objc/pool.hpp"
 #include "bindings/uikit/text_view.hpp"
 #include "desktop/platform/platform.hpp"
+#include "tests/support/own_process.hpp"
 
 #include <gtest/gtest.h>
 
@@ -31,7 +32,7 @@ bool note(objc::Next<bool(SEL, objc::Object)>, objc::Object, SEL action, objc::O
     return false;
 }
 
-TEST(EditMenuHooks, AskTheFormerMethodWithItsOwnArguments) {
+void expectTheFormerMethodIsAskedWithItsOwnArguments() {
     const objc::Pool pool;
     desktop::registerPlatform();
     objc::install(objc::hook<"UIResponder", "canPerformAction:withSender:", &note>());
@@ -41,6 +42,10 @@ TEST(EditMenuHooks, AskTheFormerMethodWithItsOwnArguments) {
     EXPECT_FALSE((view.send<"canPerformAction:withSender:", bool>(action, u"sender"_ns)));
     EXPECT_EQ(asked.action, action);
     EXPECT_TRUE(asked.sender && asked.sender.isEqual(u"sender"_ns));
+}
+
+TEST(EditMenuHooks, AskTheFormerMethodWithItsOwnArguments) {
+    tests::inProcessOfItsOwn(&expectTheFormerMethodIsAskedWithItsOwnArguments);
 }
 
 TEST(SpeechCategories, ATextViewRetainsItsSynthesizer) {

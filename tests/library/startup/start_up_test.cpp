@@ -12,6 +12,7 @@
 #include "desktop/runtime/run_loop.hpp"
 #include "desktop/uikit/uikit.hpp"
 #include "library/toolbox/view_model.hpp"
+#include "tests/support/own_process.hpp"
 
 #include <gtest/gtest.h>
 
@@ -82,7 +83,7 @@ void countUpdate(objc::Next<void()> next, toolbox::ViewModel) {
     next();
 }
 
-TEST(StartUp, InstallsEveryRowOnceAndTheToolboxLater) {
+void expectEveryRowOnceAndTheToolboxLater() {
     const objc::Pool pool;
     desktop::Clock::shared().setMode(desktop::Clock::Mode::virtual_);
     desktop::foundation::installUrlSessions();
@@ -127,6 +128,10 @@ TEST(StartUp, InstallsEveryRowOnceAndTheToolboxLater) {
     EXPECT_EQ(updates, 1);
     desktop::run_loop::advance(10);
     EXPECT_EQ(updates, 1);
+}
+
+TEST(StartUp, InstallsEveryRowOnceAndTheToolboxLater) {
+    tests::inProcessOfItsOwn(&expectEveryRowOnceAndTheToolboxLater);
 }
 
 /// "UILabel setText:, …": the first row of each of a step's tables.
