@@ -63,4 +63,35 @@ TEST_F(Rotation, AlertsStandInTheMiddleAndTheKeyboardIsAsWideAsTheScreen) {
     EXPECT_NEAR(frame[1].get<double>() + frame[3].get<double>() / 2, 195, 1);
 }
 
+TEST_F(Rotation, AnOpenShareSheetIsLaidOutAnew) {
+    const Json sheet = phone_.message(
+        phone_.message({{"class", "UIActivityViewController"}}, "alloc"),
+        "initWithActivityItems:applicationActivities:", {Json::array({"turned"}), nullptr});
+    const Json root = phone_.message(phone_.window(), "rootViewController");
+    phone_.message(root, "presentViewController:animated:completion:", {sheet, false, nullptr});
+    const auto onScreen = [&](const char* text) {
+        const Json view = phone_.find({{"text", text}})[0];
+        return phone_.message(
+            view, "convertRect:toView:", {phone_.message(view, "bounds"), nullptr})["rect"];
+    };
+    const auto end = [](const Json& rect) { return rect[0].get<double>() + rect[2].get<double>(); };
+    EXPECT_EQ(end(onScreen("turned")), 390 - 16);
+    rotate("landscapeLeft");
+    EXPECT_EQ(end(onScreen("turned")), 844 - 47 - 16) << "clear of the notch";
+    EXPECT_EQ(end(onScreen("关闭")), 844 - 47 - 16);
+    rotate("portrait");
+    EXPECT_EQ(end(onScreen("turned")), 390 - 16);
+}
+
+TEST_F(Rotation, AWindowShownLaterFillsTheScreenIfItDidBefore) {
+    const Json full = phone_.make("UIWindow", {0, 0, 390, 844});
+    const Json part = phone_.make("UIWindow", {10, 10, 200, 100});
+    rotate("landscapeLeft");
+    for (const Json& window : {full, part}) {
+        phone_.message(window, "setHidden:", {false});
+    }
+    EXPECT_EQ(phone_.node(full)["frame"], (Json{0, 0, 844, 390}));
+    EXPECT_EQ(phone_.node(part)["frame"], (Json{10, 10, 200, 100}));
+}
+
 } // namespace

@@ -42,6 +42,7 @@ void addRow(ui::View view, double top, objc::Object item) {
     view.addSubview(icon);
     const double left = margin + iconWidth + margin / 2;
     const auto label = ui::Label::withFrame({{left, top}, {width - left - margin, rowHeight}});
+    label.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth);
     label.setNumberOfLines(2);
     label.setFont(ui::Font::system(15));
     label.setText(textOf(item));
@@ -62,9 +63,20 @@ ui::ActivityViewController ActivityViewController::initWithItems(ns::Array items
 
 void ActivityViewController::viewDidLoad() {
     super<"viewDidLoad">();
-    const ui::View view = self().view();
+    content_ = ui::View::withFrame(self().view().bounds());
+    self().view().addSubview(content_);
+    addBar(content_);
+    double top = barHeight;
+    for (const objc::Object item : items_) {
+        addRow(content_, top, item);
+        top += rowHeight;
+    }
+}
+
+void ActivityViewController::addBar(ui::View view) {
     const double width = view.bounds().size.width;
     const auto title = ui::Label::withFrame({{0, 0}, {width, barHeight}});
+    title.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth);
     title.setFont(ui::Font::system(17, ui::Font::semibold));
     title.setTextAlignment(ui::TextAlignment::center);
     title.setText(u"分享"_ns);
@@ -74,13 +86,16 @@ void ActivityViewController::viewDidLoad() {
     close.titleLabel().setFont(ui::Font::system(17));
     const double closeWidth = close.sizeThatFits({}).width;
     close.setFrame({{width - margin - closeWidth, 0}, {closeWidth, barHeight}});
+    close.setAutoresizingMask(ui::ViewAutoresizing::flexibleLeftMargin);
     close.addTarget(self(), objc::selector<"closePressed">(), ui::ControlEvents::touchUpInside);
     view.addSubview(close);
-    double top = barHeight;
-    for (const objc::Object item : items_) {
-        addRow(view, top, item);
-        top += rowHeight;
-    }
+}
+
+void ActivityViewController::viewDidLayoutSubviews() {
+    super<"viewDidLayoutSubviews">();
+    const UIEdgeInsets safe = self().view().safeAreaInsets();
+    const CGSize size = self().view().bounds().size;
+    content_.setFrame({{safe.left, 0}, {size.width - safe.left - safe.right, size.height}});
 }
 
 void ActivityViewController::viewWillAppear(bool animated) {

@@ -18,6 +18,7 @@ public:
             objc::property<"excludedActivityTypes", &ActivityViewController::excluded_>(),
             objc::property<"completionWithItemsHandler", &ActivityViewController::completion_>(),
             objc::method<"viewDidLoad", &ActivityViewController::viewDidLoad>(),
+            objc::method<"viewDidLayoutSubviews", &ActivityViewController::viewDidLayoutSubviews>(),
             objc::method<"viewWillAppear:", &ActivityViewController::viewWillAppear>(),
             objc::method<"closePressed", &ActivityViewController::closePressed>(),
         };
@@ -26,9 +27,13 @@ public:
 private:
     ui::ActivityViewController initWithItems(ns::Array items, ns::Array activities);
     void viewDidLoad();
+    void addBar(ui::View view);
+    void viewDidLayoutSubviews();
     void viewWillAppear(bool animated);
     void closePressed();
 
+    /// Holds everything, clear of the notch.
+    objc::Strong<ui::View> content_;
     objc::Copied<ns::Array> items_;
     objc::Copied<ns::Array> excluded_;
     objc::Copied<ui::ActivityViewController::CompletionWithItems> completion_;

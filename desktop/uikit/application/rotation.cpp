@@ -5,6 +5,7 @@
 #include "desktop/uikit/application/application.hpp"
 #include "desktop/uikit/application/screen.hpp"
 #include "desktop/uikit/application/transition_coordinator.hpp"
+#include "desktop/uikit/application/window.hpp"
 #include "desktop/uikit/controllers/view_controller.hpp"
 #include "desktop/uikit/keyboard/keyboard.hpp"
 #include "desktop/uikit/traits/screen_traits.hpp"
@@ -76,12 +77,9 @@ void arrangeAnew(ui::View view) {
 }
 
 void turn(const Windows& windows, const ScreenGeometry& coming) {
-    const CGRect former = ui::Screen::mainScreen().bounds();
     ScreenGeometry::current() = coming;
     for (const auto& window : windows) {
-        if (window.frame() == former) {
-            window.setFrame(ui::Screen::mainScreen().bounds());
-        }
+        Window::of(window).fitScreen();
         arrangeAnew(window);
     }
     spreadScreenTraits();

@@ -1,8 +1,6 @@
 // Windows: their controller, and which of them is visible and key.
 #include "desktop/uikit/application/window.hpp"
 
-#include "bindings/uikit/screen.hpp"
-
 #include "desktop/uikit/application/application.hpp"
 #include "desktop/uikit/views/view.hpp"
 
@@ -52,10 +50,18 @@ void Window::makeKeyAndVisible() {
     makeKeyWindow();
 }
 
+void Window::fitScreen() {
+    const CGRect screen = ui::Screen::mainScreen().bounds();
+    if (self().frame() == std::exchange(screen_, screen)) {
+        self().setFrame(screen);
+    }
+}
+
 void Window::setHidden(bool hidden) {
     super<"setHidden:">(hidden);
     if (!hidden) {
         View::of(self()).inherit(screenTraits()); // it is told nothing while it is hidden
+        fitScreen();
         showRootView();
         Application::shared().show(self());
     } else {

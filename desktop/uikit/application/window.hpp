@@ -1,6 +1,7 @@
 // UIWindow: the root of a view tree.
 #pragma once
 
+#include "bindings/uikit/screen.hpp"
 #include "bindings/uikit/view_controller.hpp"
 #include "bindings/uikit/window_scene.hpp"
 
@@ -30,6 +31,8 @@ public:
 
     ~Window();
     [[nodiscard]] double level() const { return level_; }
+    /// A window that fills the screen does so however the phone is held.
+    void fitScreen();
 
 private:
     ui::Window initWithFrame(CGRect frame);
@@ -49,6 +52,7 @@ private:
     objc::Strong<ui::ViewController> rootController_;
     objc::Strong<ui::WindowScene> scene_;
     double level_ = 0;
+    CGRect screen_ = ui::Screen::mainScreen().bounds();
 };
 
 } // namespace desktop
