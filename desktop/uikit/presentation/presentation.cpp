@@ -109,6 +109,8 @@ Presentation::Look Presentation::lookFor(ui::ViewController presented) {
     }
 }
 
+bool Presentation::fillsScreen() const { return look_ == Look::full || look_ == Look::over; }
+
 double Presentation::dimming() const {
     switch (look_) {
     case Look::full:
@@ -153,6 +155,9 @@ void Presentation::buildViews(CGRect bounds, ui::View view) {
     container_.setAutoresizingMask(flexibleWidth | flexibleHeight);
     // What is drawn around the presented view looks as the view does.
     container_.setOverrideUserInterfaceStyle(presented_.overrideUserInterfaceStyle());
+    if (!fillsScreen()) {
+        View::of(container_).elevate();
+    }
     const auto dimming = DimmingViewKind::make<"initWithFrame:">(bounds);
     dimming.setAutoresizingMask(flexibleWidth | flexibleHeight);
     dimming.setBackgroundColor(ui::Color::withWhite(0, this->dimming()));

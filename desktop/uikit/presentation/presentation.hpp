@@ -30,6 +30,7 @@ private:
     static constexpr long crossDissolve = 2;
 
     [[nodiscard]] static Look lookFor(ui::ViewController presented);
+    [[nodiscard]] bool fillsScreen() const;
     [[nodiscard]] double dimming() const;
     void buildViews(CGRect bounds, ui::View view);
     void place(CGRect bounds);

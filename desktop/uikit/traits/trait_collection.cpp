@@ -36,6 +36,7 @@ void setCurrent(Class, ui::TraitCollection collection) {
 std::vector<objc::MethodRow> TraitCollection::methods() {
     return {
         objc::classMethod<"traitCollectionWithUserInterfaceStyle:", &telling<&Traits::style>>(),
+        objc::classMethod<"traitCollectionWithUserInterfaceLevel:", &telling<&Traits::level>>(),
         objc::classMethod<"traitCollectionWithHorizontalSizeClass:",
                           &telling<&Traits::horizontal>>(),
         objc::classMethod<"traitCollectionWithVerticalSizeClass:", &telling<&Traits::vertical>>(),
@@ -44,6 +45,7 @@ std::vector<objc::MethodRow> TraitCollection::methods() {
         objc::classMethod<"currentTraitCollection", &current>(),
         objc::classMethod<"setCurrentTraitCollection:", &setCurrent>(),
         objc::method<"userInterfaceStyle", &TraitCollection::style>(),
+        objc::method<"userInterfaceLevel", &TraitCollection::level>(),
         objc::method<"horizontalSizeClass", &TraitCollection::horizontal>(),
         objc::method<"verticalSizeClass", &TraitCollection::vertical>(),
         objc::method<"displayScale", &TraitCollection::scale>(),
@@ -97,9 +99,10 @@ unsigned long TraitCollection::hash() const {
 ns::String TraitCollection::description() const {
     std::array<char, 160> text{};
     std::snprintf(text.data(), text.size(),
-                  "<UITraitCollection: style %ld, size classes %ld × %ld, scale %g>",
-                  static_cast<long>(traits_.style), static_cast<long>(traits_.horizontal),
-                  static_cast<long>(traits_.vertical), traits_.scale);
+                  "<UITraitCollection: style %ld, level %ld, size classes %ld × %ld, scale %g>",
+                  static_cast<long>(traits_.style), static_cast<long>(traits_.level),
+                  static_cast<long>(traits_.horizontal), static_cast<long>(traits_.vertical),
+                  traits_.scale);
     return ns::String::fromUtf8(text.data());
 }
 

@@ -24,6 +24,7 @@ public:
 
 private:
     [[nodiscard]] ui::InterfaceStyle style() const { return traits_.style; }
+    [[nodiscard]] ui::InterfaceLevel level() const { return traits_.level; }
     [[nodiscard]] ui::SizeClass horizontal() const { return traits_.horizontal; }
     [[nodiscard]] ui::SizeClass vertical() const { return traits_.vertical; }
     [[nodiscard]] double scale() const { return traits_.scale; }

@@ -15,22 +15,26 @@ Traits phoneTraits(CGSize screen, double scale, ui::InterfaceStyle style) {
     traits.horizontal = !isUpright && isLarge ? ui::SizeClass::regular : ui::SizeClass::compact;
     traits.vertical = isUpright ? ui::SizeClass::regular : ui::SizeClass::compact;
     traits.scale = scale;
+    traits.level = ui::InterfaceLevel::base;
     return traits;
 }
 
 Traits merged(Traits traits, const Traits& over) {
-    const auto take = [](auto& value, const auto& told) {
-        if (told != std::remove_cvref_t<decltype(told)>{}) {
-            value = told;
+    const auto take = [&](auto Traits::*value) {
+        if (over.*value != Traits().*value) {
+            traits.*value = over.*value;
         }
     };
-    take(traits.style, over.style);
-    take(traits.horizontal, over.horizontal);
-    take(traits.vertical, over.vertical);
-    take(traits.scale, over.scale);
+    take(&Traits::style);
+    take(&Traits::horizontal);
+    take(&Traits::vertical);
+    take(&Traits::scale);
+    take(&Traits::level);
     return traits;
 }
 
-bool differInColour(const Traits& one, const Traits& other) { return one.style != other.style; }
+bool differInColour(const Traits& one, const Traits& other) {
+    return one.style != other.style || one.level != other.level;
+}
 
 } // namespace desktop

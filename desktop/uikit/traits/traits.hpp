@@ -6,12 +6,13 @@
 
 namespace desktop {
 
-/// A value that is unspecified, or zero, tells nothing.
+/// A value that is unspecified, or no scale, tells nothing.
 struct Traits {
     ui::InterfaceStyle style = ui::InterfaceStyle::unspecified;
     ui::SizeClass horizontal = ui::SizeClass::unspecified;
     ui::SizeClass vertical = ui::SizeClass::unspecified;
     double scale = 0;
+    ui::InterfaceLevel level = ui::InterfaceLevel::unspecified;
     bool operator==(const Traits&) const = default;
 };
 

@@ -20,15 +20,17 @@ constexpr Colour colourOf(unsigned int rgba) {
     return {channel(rgba, 24), channel(rgba, 16), channel(rgba, 8), channel(rgba, 0)};
 }
 
-template <unsigned int Light, unsigned int Dark>
+template <unsigned int Light, unsigned int Dark, unsigned int DarkElevated>
 ui::Color constant(Class) {
-    return Color::adaptive(colourOf(Light), colourOf(Dark));
+    return Color::adaptive(colourOf(Light), colourOf(Dark), colourOf(DarkElevated));
 }
 
-/// A class method that answers one colour, given as 0xRRGGBBAA, or one for each appearance.
-template <objc::Literal Name, unsigned int Light, unsigned int Dark = Light>
+/// A class method that answers one colour, given as 0xRRGGBBAA, or one for each appearance and, in
+/// the dark, each level.
+template <objc::Literal Name, unsigned int Light, unsigned int Dark = Light,
+          unsigned int DarkElevated = Dark>
 objc::MethodRow named() {
-    return objc::classMethod<Name, &constant<Light, Dark>>();
+    return objc::classMethod<Name, &constant<Light, Dark, DarkElevated>>();
 }
 
 ui::Color rgba(Class, double red, double green, double blue, double alpha) {
@@ -99,12 +101,12 @@ std::vector<objc::MethodRow> Color::methods() {
         named<"secondarySystemFillColor", 0x78788028, 0x78788051>(),
         named<"tertiarySystemFillColor", 0x7676801E, 0x7676803D>(),
         named<"quaternarySystemFillColor", 0x74748014, 0x7676802D>(),
-        named<"systemBackgroundColor", 0xFFFFFFFF, 0x000000FF>(),
-        named<"secondarySystemBackgroundColor", 0xF2F2F7FF, 0x1C1C1EFF>(),
-        named<"tertiarySystemBackgroundColor", 0xFFFFFFFF, 0x2C2C2EFF>(),
-        named<"systemGroupedBackgroundColor", 0xF2F2F7FF, 0x000000FF>(),
-        named<"secondarySystemGroupedBackgroundColor", 0xFFFFFFFF, 0x1C1C1EFF>(),
-        named<"tertiarySystemGroupedBackgroundColor", 0xF2F2F7FF, 0x2C2C2EFF>(),
+        named<"systemBackgroundColor", 0xFFFFFFFF, 0x000000FF, 0x1C1C1EFF>(),
+        named<"secondarySystemBackgroundColor", 0xF2F2F7FF, 0x1C1C1EFF, 0x2C2C2EFF>(),
+        named<"tertiarySystemBackgroundColor", 0xFFFFFFFF, 0x2C2C2EFF, 0x3A3A3CFF>(),
+        named<"systemGroupedBackgroundColor", 0xF2F2F7FF, 0x000000FF, 0x1C1C1EFF>(),
+        named<"secondarySystemGroupedBackgroundColor", 0xFFFFFFFF, 0x1C1C1EFF, 0x2C2C2EFF>(),
+        named<"tertiarySystemGroupedBackgroundColor", 0xF2F2F7FF, 0x2C2C2EFF, 0x3A3A3CFF>(),
     };
 }
 
@@ -116,17 +118,23 @@ Colour Color::valueOf(ui::Color color, const Traits& traits) {
     if (peer.provider_) {
         return valueOf(peer.provider_(TraitCollection::with(traits)), traits);
     }
-    return traits.style == ui::InterfaceStyle::dark ? peer.dark_ : peer.light_;
+    if (traits.style != ui::InterfaceStyle::dark) {
+        return peer.light_;
+    }
+    return traits.level == ui::InterfaceLevel::elevated ? peer.darkElevated_ : peer.dark_;
 }
 
 Colour Color::valueOf(ui::Color color) { return valueOf(color, CurrentTraits::get()); }
 
 ui::Color Color::with(Colour value) { return adaptive(value, value); }
 
-ui::Color Color::adaptive(Colour light, Colour dark) {
+ui::Color Color::adaptive(Colour light, Colour dark) { return adaptive(light, dark, dark); }
+
+ui::Color Color::adaptive(Colour light, Colour dark, Colour darkElevated) {
     const auto color = ui::Color::make();
     of(color).light_ = light;
     of(color).dark_ = dark;
+    of(color).darkElevated_ = darkElevated;
     return color;
 }
 
@@ -137,7 +145,8 @@ ui::Color Color::withProvider(Class, ui::Color::Provider provider) {
 }
 
 bool Color::isDynamic(ui::Color color) {
-    return color && (of(color).provider_ || of(color).light_ != of(color).dark_);
+    return color && (of(color).provider_ || of(color).light_ != of(color).dark_ ||
+                     of(color).dark_ != of(color).darkElevated_);
 }
 
 ui::Color Color::resolved(const Traits& traits) const {
@@ -153,7 +162,7 @@ CGColorRef Color::cgColor() const {
 }
 
 ui::Color Color::initWithComponents(double red, double green, double blue, double alpha) {
-    light_ = dark_ = {red, green, blue, alpha};
+    light_ = dark_ = darkElevated_ = {red, green, blue, alpha};
     return self();
 }
 
@@ -166,8 +175,8 @@ ui::Color Color::withAlpha(double alpha) const {
                                 return kept.resolvedWith(traits).withAlphaComponent(alpha);
                             }));
     }
-    return adaptive({light_.red, light_.green, light_.blue, alpha},
-                    {dark_.red, dark_.green, dark_.blue, alpha});
+    const auto faded = [alpha](Colour of) { return Colour{of.red, of.green, of.blue, alpha}; };
+    return adaptive(faded(light_), faded(dark_), faded(darkElevated_));
 }
 
 bool Color::components(double* red, double* green, double* blue, double* alpha) const {
@@ -189,7 +198,8 @@ bool Color::isEqual(objc::Object other) const {
     if (!color || provider_ || of(color).provider_) {
         return other == self();
     }
-    return of(color).light_ == light_ && of(color).dark_ == dark_;
+    return of(color).light_ == light_ && of(color).dark_ == dark_ &&
+           of(color).darkElevated_ == darkElevated_;
 }
 
 unsigned long Color::hash() const {

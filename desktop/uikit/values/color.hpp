@@ -19,8 +19,9 @@ public:
     static Colour valueOf(ui::Color color, const Traits& traits);
     static Colour valueOf(ui::Color color);
     static ui::Color with(Colour value);
-    /// The one in light appearance, the other in dark.
+    /// The one in light appearance, the other in dark, at every level.
     static ui::Color adaptive(Colour light, Colour dark);
+    static ui::Color adaptive(Colour light, Colour dark, Colour darkElevated);
     /// Whether traits make a difference. Not for nil.
     static bool isDynamic(ui::Color color);
 
@@ -38,6 +39,7 @@ private:
 
     Colour light_;
     Colour dark_;
+    Colour darkElevated_;
     /// Only of a colour that is made anew each time.
     objc::Copied<ui::Color::Provider> provider_;
 };

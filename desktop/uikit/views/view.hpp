@@ -36,6 +36,8 @@ public:
     [[nodiscard]] Traits outerTraits() const;
     /// What the view is in has these traits; tells what they change.
     void inherit(const Traits& outer);
+    /// The view and what is in it stand before the rest, and look so in the dark.
+    void elevate();
 
     /// Its part in constraints, made when it is first asked for.
     [[nodiscard]] ViewConstraints& constraints();
@@ -68,7 +70,7 @@ private:
     void setTintColor(ui::Color color);
     void tintChanged();
     [[nodiscard]] ui::TraitCollection traitCollection() const;
-    [[nodiscard]] ui::InterfaceStyle overrideStyle() const { return overrideStyle_; }
+    [[nodiscard]] ui::InterfaceStyle overrideStyle() const { return overrides_.style; }
     void setOverrideStyle(ui::InterfaceStyle style);
     void showInTraits();
     [[nodiscard]] bool isOpaque() const { return true; }
@@ -129,7 +131,7 @@ private:
     /// Nil unless the background adapts.
     objc::Strong<ui::Color> dynamicBackground_;
     Traits traits_ = screenTraits();
-    ui::InterfaceStyle overrideStyle_ = ui::InterfaceStyle::unspecified;
+    Traits overrides_;
     UIEdgeInsets toldSafeArea_;
     objc::Copied<ns::String> accessibilityLabel_;
     objc::Copied<ns::String> accessibilityIdentifier_;

@@ -11,7 +11,12 @@ ui::TraitCollection View::traitCollection() const { return TraitCollection::with
 Traits View::outerTraits() const { return superview_ ? of(superview_).traits_ : screenTraits(); }
 
 void View::setOverrideStyle(ui::InterfaceStyle style) {
-    overrideStyle_ = style;
+    overrides_.style = style;
+    inherit(outerTraits());
+}
+
+void View::elevate() {
+    overrides_.level = ui::InterfaceLevel::elevated;
     inherit(outerTraits());
 }
 
@@ -25,7 +30,7 @@ void View::inherit(const Traits& outer) {
         formerOfController = ViewController::of(controller).inherit(outer);
         traits = ViewController::of(controller).traits();
     }
-    traits = merged(traits, {.style = overrideStyle_});
+    traits = merged(traits, overrides_);
     const Traits former = std::exchange(traits_, traits);
     const CurrentTraits current(traits_);
     if (former != traits_) {

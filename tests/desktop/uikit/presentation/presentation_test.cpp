@@ -290,4 +290,22 @@ TEST_F(Presenting, AContainedControllerFollowsItsView) {
     EXPECT_FALSE(other_.parent());
 }
 
+TEST_F(Presenting, WhatLeavesARimOfTheRestIsElevated) {
+    using Style = ui::ModalPresentation;
+    using Level = ui::InterfaceLevel;
+    const auto levelIn = [&](Style style) {
+        other_.setModalPresentationStyle(style);
+        root_.present(other_, false);
+        settle();
+        const Level level = other_.traitCollection().userInterfaceLevel();
+        other_.dismiss(false);
+        settle();
+        return level;
+    };
+    EXPECT_EQ(root_.traitCollection().userInterfaceLevel(), Level::base);
+    EXPECT_EQ(levelIn(Style::pageSheet), Level::elevated);
+    EXPECT_EQ(levelIn(Style::fullScreen), Level::base);
+    EXPECT_EQ(levelIn(Style::overFullScreen), Level::base);
+}
+
 } // namespace

@@ -8,6 +8,7 @@
 #include "desktop/class.hpp"
 #include "desktop/uikit/traits/trait_collection.hpp"
 #include "desktop/uikit/values/color.hpp"
+#include "desktop/uikit/views/view.hpp"
 
 #include <cmath>
 
@@ -235,9 +236,29 @@ TEST_F(TraitsTest, TheSystemsColoursAreThoseOfEachAppearance) {
     EXPECT_FALSE((ui::Color::label().send<"isEqual:", bool>(ui::Color::black())));
 }
 
+TEST_F(TraitsTest, DarkBackgroundsAreLighterWhereTheyAreElevated) {
+    using ui::InterfaceLevel;
+    const auto view = ui::View::withFrame({{}, {10, 10}});
+    window_.addSubview(view);
+    view.setBackgroundColor(ui::Color::systemBackground());
+    desktop::View::of(view).elevate();
+    EXPECT_EQ(shown(view), white);
+    makeDark();
+    EXPECT_NEAR(shown(view).blue, 0x1E / 255.0, 1e-9);
+    EXPECT_EQ(desktop::Color::valueOf(ui::Color::systemBackground()), black) << "of the screen";
+    const auto elevated = ui::TraitCollection::with(InterfaceLevel::elevated);
+    const Colour faded = desktop::Color::valueOf(
+        ui::Color::systemBackground().withAlphaComponent(0.5).resolvedWith(elevated));
+    EXPECT_NEAR(faded.red, 0x1C / 255.0, 1e-9);
+    EXPECT_EQ(faded.alpha, 0.5);
+}
+
 TEST(Traits, EachThatIsToldGoesOverTheFormer) {
-    const Traits former{InterfaceStyle::light, SizeClass::compact, SizeClass::regular, 2};
-    const Traits other{InterfaceStyle::dark, SizeClass::regular, SizeClass::compact, 3};
+    using ui::InterfaceLevel;
+    const Traits former{InterfaceStyle::light, SizeClass::compact, SizeClass::regular, 2,
+                        InterfaceLevel::elevated};
+    const Traits other{InterfaceStyle::dark, SizeClass::regular, SizeClass::compact, 3,
+                       InterfaceLevel::base};
     EXPECT_EQ(merged(former, other), other);
     EXPECT_EQ(merged(former, {}), former);
     EXPECT_EQ(merged({}, former), former);
