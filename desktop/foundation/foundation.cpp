@@ -5,6 +5,7 @@
 #include "desktop/foundation/delayed_perform.hpp"
 #include "desktop/foundation/dictionary_files.hpp"
 #include "desktop/foundation/main_operation_queue.hpp"
+#include "desktop/foundation/observers.hpp"
 #include "desktop/foundation/property_list_serialization.hpp"
 #include "desktop/foundation/refusing_protocol.hpp"
 #include "desktop/foundation/string.hpp"
@@ -28,6 +29,7 @@ void install(const std::string& bundleIdentifier) {
     installDelayedPerform();
     installTimers();
     installMainOperationQueue();
+    installObservers();
     installUrls();
     installUrlSessions();
     installRefusingProtocol();

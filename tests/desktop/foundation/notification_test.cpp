@@ -3,7 +3,9 @@
 #include "bindings/foundation/notification_center.hpp"
 #include "bindings/foundation/thread.hpp"
 #include "bindings/objc/pool.hpp"
+#include "desktop/class.hpp"
 #include "desktop/foundation/main_operation_queue.hpp"
+#include "desktop/foundation/observers.hpp"
 #include "desktop/runtime/event_log.hpp"
 #include "desktop/runtime/run_loop.hpp"
 
@@ -63,6 +65,70 @@ TEST_F(MainOperationQueue, RunsOperationsInTheirTurn) {
     EXPECT_EQ(calls, 0);
     desktop::run_loop::runUntilIdle();
     EXPECT_EQ(calls, 1);
+}
+
+struct ListenerKind : objc::Kind<ListenerKind, "NotificationTestListener"> {
+    using Kind::Kind;
+};
+
+/// Notes the names of the notifications that it gets.
+class Listener : public desktop::PlatformClass<Listener, ListenerKind> {
+public:
+    static constexpr auto methods() { return std::array{objc::method<"hear:", &Listener::hear>()}; }
+    static inline std::string heard;
+
+private:
+    void hear(ns::Notification notification) { heard += notification.name().utf8() + " "; }
+};
+
+class Observers : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        desktop::foundation::installObservers();
+        Listener::registerClass();
+    }
+    static void listen(ListenerKind listener, ns::String name, objc::Object object = nullptr) {
+        center().addObserver(listener, objc::selector<"hear:">(), name, object);
+    }
+    static ns::NotificationCenter center() { return ns::NotificationCenter::defaultCenter(); }
+    static std::string heardOf(ns::String name, objc::Object object = nullptr) {
+        Listener::heard.clear();
+        center().post(name, object);
+        return Listener::heard;
+    }
+
+    objc::Pool pool;
+};
+
+TEST_F(Observers, AreForgottenWhenTheyDie) {
+    {
+        const objc::Pool inner;
+        listen(ListenerKind::make(), u"a"_ns);
+        EXPECT_EQ(heardOf(u"a"_ns), "a ");
+    }
+    EXPECT_EQ(heardOf(u"a"_ns), "");
+}
+
+TEST_F(Observers, GetWhatTheyHaveAskedForUntilTheyTakeItBack) {
+    const auto listener = ListenerKind::make();
+    const objc::Object thing = u"thing"_ns;
+    listen(listener, u"a"_ns);
+    listen(listener, u"b"_ns, thing);
+    listen(listener, u"c"_ns);
+    listen(listener, u"c"_ns);
+    EXPECT_EQ(heardOf(u"b"_ns), "");
+    EXPECT_EQ(heardOf(u"b"_ns, thing), "b ");
+    EXPECT_EQ(heardOf(u"c"_ns, thing), "c c ");
+    center().removeObserver(listener, u"a"_ns, nullptr);
+    EXPECT_EQ(heardOf(u"a"_ns), "");
+    center().removeObserver(listener, u"b"_ns, listener);
+    EXPECT_EQ(heardOf(u"b"_ns, thing), "b ") << "that was of another object";
+    center().removeObserver(listener, nullptr, thing);
+    EXPECT_EQ(heardOf(u"b"_ns, thing), "");
+    EXPECT_EQ(heardOf(u"c"_ns), "c c ");
+    center().removeObserver(listener);
+    EXPECT_EQ(heardOf(u"c"_ns), "");
+    EXPECT_ANY_THROW(center().addObserver(nullptr, objc::selector<"hear:">(), u"a"_ns, nullptr));
 }
 
 TEST(EventLog, KeepsTheLatestInOrder) {
