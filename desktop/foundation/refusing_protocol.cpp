@@ -1,8 +1,10 @@
-// A protocol that takes every request with nowhere to go, and fails it.
+// A protocol that takes every request with nowhere to go, and fails it; and who else would load.
 #include "desktop/foundation/refusing_protocol.hpp"
 
+#include "bindings/foundation/url_connection.hpp"
 #include "bindings/foundation/url_protocol.hpp"
 #include "bindings/foundation/url_request.hpp"
+#include "bindings/objc/hook.hpp"
 #include "desktop/class.hpp"
 #include "desktop/foundation/http_values.hpp"
 #include "desktop/network/route.hpp"
@@ -46,9 +48,17 @@ private:
     void stopLoading() {}
 };
 
+/// Of `dataWithContentsOfURL:` and its like. Foundation's own way asks no protocol.
+ns::Data resourceData(objc::Next<ns::Data(bool)> next, ns::Url url, bool usesCache) {
+    return url.send<"isFileURL", bool>()
+               ? next(usesCache)
+               : ns::UrlConnection::sendSynchronous(ns::UrlRequest::withUrl(url)).value;
+}
+
 } // namespace
 
 void installRefusingProtocol() {
+    objc::install(objc::hook<"NSURL", "resourceDataUsingCache:", &resourceData>());
     RefusingProtocol::registerClass();
     ns::UrlProtocol::registerClass(RefusingProtocolKind::classObject());
 }

@@ -189,6 +189,17 @@ TEST_F(UrlSession, NeitherDoesFoundationsOlderLoading) {
     EXPECT_EQ(bytesOf(load(server.url("/")).value), "here");
 }
 
+TEST_F(UrlSession, NeitherDoesWhoOnlyWantsTheBytes) {
+    const PlainServer server([](const std::string&) { return response("here"); });
+    const auto dataOf = [](const std::string& url) {
+        return ns::Data::sendClass<"dataWithContentsOfURL:", ns::Data>(urlFrom(url));
+    };
+    EXPECT_EQ(bytesOf(dataOf(server.url("/"))), "here");
+    std::string elsewhere = server.url("/");
+    elsewhere.replace(elsewhere.find("127.0.0.1"), 9, "0.0.0.0"); // which the system takes for here
+    EXPECT_FALSE(dataOf(elsewhere));
+}
+
 TEST_F(UrlSession, FollowsRedirectionsWithinLimits) {
     const PlainServer server([](const std::string& request) {
         if (request.starts_with("POST /form ")) {
