@@ -14,8 +14,12 @@ namespace desktop::host {
 namespace {
 
 std::atomic<bool> stopRequested{false};
+std::atomic<int> signalReceived{0};
 
-void requestStop(int) { stop(); }
+void requestStop(int signal) {
+    signalReceived = signal;
+    stop();
+}
 
 } // namespace
 
@@ -35,6 +39,8 @@ void stop() {
 }
 
 bool isStopRequested() { return stopRequested; }
+
+int stopSignal() { return signalReceived; }
 
 void runWhatIsDue() {
     try {

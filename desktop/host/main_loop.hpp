@@ -13,6 +13,9 @@ void stop();
 /// Any thread.
 [[nodiscard]] bool isStopRequested();
 
+/// The signal that asked the process to stop, or 0.
+[[nodiscard]] int stopSignal();
+
 /// Runs the main thread's work until nothing is left; what the application throws meanwhile is
 /// printed and ends that piece of work only.
 void runWhatIsDue();

@@ -1,6 +1,7 @@
 // Commands for the clock, for waiting, and for what has happened meanwhile.
 #include "desktop/host/arguments.hpp"
 #include "desktop/host/commands.hpp"
+#include "desktop/host/main_loop.hpp"
 #include "desktop/host/view_search.hpp"
 
 #include "desktop/runtime/event_log.hpp"
@@ -58,6 +59,9 @@ Json wait(Session& session, const Json& request) {
         Json found = present(session.values, wanted);
         if (!found.empty()) {
             return found;
+        }
+        if (isStopRequested()) {
+            throw RequestError("the host has been asked to stop");
         }
         const Seconds left = limit - Seconds(Clock::now() - start);
         if (left <= Seconds::zero()) {

@@ -19,6 +19,7 @@
 #include "desktop/viewer/supervisor.hpp"
 
 #include <cstdio>
+#include <cstring>
 #include <dlfcn.h>
 #include <functional>
 
@@ -147,6 +148,19 @@ int run(const Options& options) {
     return options.viewer ? runForPage(app, options) : runAlone(app, options);
 }
 
+/// As the shell tells of a process that a signal has ended.
+constexpr int signalStatus = 128;
+
+/// The exit status of a run that gave `status`, and a line if it was cut short.
+int ended(int status) {
+    const int signal = stopSignal();
+    if (signal == 0) {
+        return status;
+    }
+    std::fprintf(stderr, "host: ended by SIG%s\n", sigabbrev_np(signal));
+    return signalStatus + signal;
+}
+
 } // namespace
 
 int main(int count, char** words) {
@@ -160,7 +174,7 @@ int main(int count, char** words) {
             listApplications();
             return EXIT_SUCCESS;
         }
-        return run(options);
+        return ended(run(options));
     } catch (const UsageError& error) {
         std::fprintf(stderr, "%shost: %s\n", usage, error.what());
         return usageFailure;
