@@ -2,6 +2,8 @@
 #include "library/paths/root_path.hpp"
 
 #include "desktop/deviceroot/deviceroot.hpp"
+#include "library/preferences/preference_keys.hpp"
+#include "library/preferences/preferences.hpp"
 #include "tests/support/fresh_process.hpp"
 #include "tests/support/temporary_folder.hpp"
 
@@ -58,6 +60,18 @@ protected:
             return std::string(libroot_dyn_get_root_prefix()) + "|" +
                    libroot_dyn_get_jbroot_prefix() + "|" + libroot_dyn_get_boot_uuid();
         });
+    }
+
+    /// Whether what the preference file says is so when it lies in that folder of the device.
+    bool isReadIn(const std::string& folder) {
+        const std::string file = folder + preferenceFile;
+        device_.write(file.substr(1), "<plist><dict><key>wbthxz</key><true/></dict></plist>");
+        const std::string told = onDevice([] {
+            const auto preferences = preferences::Preferences::read();
+            return std::string(preferences.on(preferences::keys.correctTerms) ? "on" : "off");
+        });
+        fs::remove(device_.path() / file.substr(1));
+        return told == "on";
     }
 
     support::TemporaryFolder device_;
@@ -131,19 +145,19 @@ TEST_F(RootPath, TheCompleteLibraryAnswersEverything) {
 
 TEST_F(RootPath, FallbacksUseThePrefixesOfAPartialLibrary) {
     install("partial");
-    EXPECT_EQ(prefixes(), "/its-root|/its-jbroot|00000000-0000-0000-0000-000000000000");
-    EXPECT_EQ(jbrootPath("/a"), "/its-jbroot/a");
-    EXPECT_EQ(rootfsPath("/its-jbroot/a"), "/a");
+    EXPECT_EQ(prefixes(), "/its-root|/Library/its-jbroot|00000000-0000-0000-0000-000000000000");
+    EXPECT_EQ(jbrootPath("/a"), "/Library/its-jbroot/a");
+    EXPECT_EQ(rootfsPath("/Library/its-jbroot/a"), "/a");
     EXPECT_EQ(rootfsPath("/a"), "/its-root/a");
 }
 
 TEST_F(RootPath, TheMarkerFolderKeepsUserDataOutOfAPartialLibrarysPrefix) {
     install("partial");
-    EXPECT_EQ(jbrootPath("/var/mobile/x"), "/its-jbroot/var/mobile/x");
+    EXPECT_EQ(jbrootPath("/var/mobile/x"), "/Library/its-jbroot/var/mobile/x");
     makeFolder("/var/LIY");
     EXPECT_EQ(jbrootPath("/var/mobile/x"), "/var/mobile/x");
-    EXPECT_EQ(jbrootPath("/a"), "/its-jbroot/a");
-    EXPECT_EQ(rootfsPath("/its-jbroot/a"), "/a");
+    EXPECT_EQ(jbrootPath("/a"), "/Library/its-jbroot/a");
+    EXPECT_EQ(rootfsPath("/Library/its-jbroot/a"), "/a");
     EXPECT_EQ(rootfsPath("/var/mobile/x"), "/its-root/var/mobile/x");
 }
 
@@ -164,6 +178,18 @@ TEST_F(RootPath, ThePreferenceFileFollowsTheLayoutAtEachCall) {
                   return before + "|" + preferencePath();
               }),
               rootful + "|/var/jb" + rootful);
+}
+
+TEST_F(RootPath, ThePreferenceFileIsReadBelowAPartialLibrarysPrefix) {
+    install("partial");
+    EXPECT_TRUE(isReadIn("/Library/its-jbroot"));
+    EXPECT_FALSE(isReadIn(""));
+    makeFolder("/var/LIY");
+    EXPECT_FALSE(isReadIn("/Library/its-jbroot"));
+    EXPECT_TRUE(isReadIn(""));
+    makeFolder("/var/jb");
+    EXPECT_FALSE(isReadIn(""));
+    EXPECT_TRUE(isReadIn("/var/jb"));
 }
 
 TEST_F(RootPath, TheRootfulFormGoesThroughTheLibrary) {

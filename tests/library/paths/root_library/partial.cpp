@@ -1,4 +1,4 @@
-// A library that knows its prefixes and nothing else.
+// A library that knows its prefixes and nothing else. Its files lie in a folder of the device's.
 extern "C" {
 
 const char* libroot_get_root_prefix();
@@ -6,5 +6,5 @@ const char* libroot_get_jbroot_prefix();
 
 const char* libroot_get_root_prefix() { return "/its-root"; }
 
-const char* libroot_get_jbroot_prefix() { return "/its-jbroot"; }
+const char* libroot_get_jbroot_prefix() { return "/Library/its-jbroot"; }
 }
