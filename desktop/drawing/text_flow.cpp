@@ -1,6 +1,8 @@
 // Divides text into blocks, sets them when they are wanted, and adds up their heights.
 #include "desktop/drawing/text_flow.hpp"
 
+#include "desktop/drawing/line_estimate.hpp"
+
 #include <algorithm>
 #include <cmath>
 #include <iterator>
@@ -60,10 +62,7 @@ void TextFlow::setSingleLine() {
     reset();
 }
 
-void TextFlow::reset() {
-    blocks_.clear();
-    widest_ = 0;
-}
+void TextFlow::reset() { blocks_.clear(); }
 
 void TextFlow::prepare() {
     if (blocks_.empty()) {
@@ -83,29 +82,18 @@ std::vector<TextFlow::Block> TextFlow::split(Stretch stretch) const {
         const std::size_t length = firstCut(text, stretch.end - stretch.start);
         const bool open =
             stretch.start + length < source_.length() && (length == 0 || text[length - 1] != u'\n');
+        const Size size = estimate(std::u16string_view(text).substr(0, length), stretch.start);
         blocks.push_back(
-            {.length = length,
-             .open = open,
-             .height = estimate(std::u16string_view(text).substr(0, length), stretch.start)});
+            {.length = length, .open = open, .width = size.width, .height = size.height});
         stretch.start += length;
     } while (stretch.start < stretch.end);
     return blocks;
 }
 
-double TextFlow::estimate(std::u16string_view text, std::size_t start) const {
+Size TextFlow::estimate(std::u16string_view text, std::size_t start) const {
     const Font font = source_.runs({start, std::min(start + 1, source_.length())}).front().font;
-    constexpr double narrow = 0.5; // of the font's size: letters, as against ideographs
-    constexpr char16_t firstIdeograph = 0x2E80;
-    double lines = 0;
-    double line = 0;
-    for (const char16_t unit : text) {
-        line += unit < firstIdeograph ? narrow : 1;
-        if (unit == u'\n') {
-            lines += std::max(1.0, std::ceil(std::exchange(line, 0.0) * font.size / width_));
-        }
-    }
-    lines += std::ceil(line * font.size / width_);
-    return std::isfinite(lines) ? lines * metrics(font).lineHeight : 0;
+    const LineEstimate lines = estimateLines(text, font, width_);
+    return {lines.width, static_cast<double>(lines.lines) * metrics(font).lineHeight};
 }
 
 void TextFlow::replaced(Stretch former, std::size_t length) {
@@ -172,7 +160,7 @@ const TextLayout& TextFlow::layout(const Place& place) {
                                               : set.lineRectangle(set.lineCount() - 1).y +
                                                     set.lineRectangle(set.lineCount() - 1).height;
         block.wasSet = true;
-        widest_ = std::max(widest_, set.size().width);
+        block.width = set.size().width;
         block.layout = std::move(set);
     }
     return *blocks_[place.index].layout;
@@ -238,16 +226,18 @@ TextFlow::Place TextFlow::blockAtHeight(double y) {
 Size TextFlow::size() {
     prepare();
     const bool exact = source_.length() <= exactLength;
+    double width = 0;
     Place place;
     for (;; place = next(place)) {
         if (exact) {
             layout(place);
         }
+        width = std::max(width, blocks_[place.index].width);
         if (isLast(place)) {
             break;
         }
     }
-    return {widest_, place.top + blocks_[place.index].height};
+    return {width, place.top + blocks_[place.index].height};
 }
 
 Rectangle TextFlow::caret(std::size_t unit) {

@@ -23,7 +23,7 @@ public:
 
 /// Sets a long text in blocks of some thousand units and keeps those that were looked at, so that
 /// an edit costs a block or two. Places are in points from the top left corner of the first line.
-/// In a text longer than `exactLength`, what was never looked at has an estimated height. One
+/// In a text longer than `exactLength`, what was never looked at has an estimated size. One
 /// thread.
 class TextFlow {
 public:
@@ -42,7 +42,7 @@ public:
     /// The source changed altogether.
     void reset();
 
-    /// The width of the widest line that was looked at, and the height of all.
+    /// The width of the widest line, and the height of all.
     Size size();
     /// 2 points wide, before the unit; units beyond the text stand at its end.
     Rectangle caret(std::size_t unit);
@@ -68,6 +68,7 @@ private:
         /// from then on it ends with a line.
         bool open = false;
         bool wasSet = false;
+        double width = 0;
         double height = 0;
         std::optional<TextLayout> layout = {};
     };
@@ -79,7 +80,7 @@ private:
 
     void prepare();
     [[nodiscard]] std::vector<Block> split(Stretch stretch) const;
-    [[nodiscard]] double estimate(std::u16string_view text, std::size_t start) const;
+    [[nodiscard]] Size estimate(std::u16string_view text, std::size_t start) const;
     [[nodiscard]] Stretch unitsOf(const Place& place) const;
     [[nodiscard]] TextFrame frame() const;
     [[nodiscard]] TextLayout set(Stretch stretch) const;
@@ -98,7 +99,6 @@ private:
     double width_ = TextFrame::unlimited;
     TextAlignment alignment_ = TextAlignment::natural;
     bool singleLine_ = false;
-    double widest_ = 0;
     std::vector<Block> blocks_;
 };
 

@@ -3,7 +3,7 @@
 
 #include "bindings/objc/hook.hpp"
 #include "bindings/uikit/string_drawing.hpp"
-#include "desktop/drawing/text_layout.hpp"
+#include "desktop/drawing/text_flow.hpp"
 #include "desktop/uikit/values/attributed_text.hpp"
 #include "desktop/uikit/values/font.hpp"
 
@@ -30,6 +30,35 @@ std::u16string measured(ns::String text) {
     return units;
 }
 
+class OneLook : public TextSource {
+public:
+    OneLook(std::u16string_view text, const TextRun& look) : text_(text), look_(look) {}
+
+    [[nodiscard]] std::size_t length() const override { return text_.size(); }
+    [[nodiscard]] std::u16string units(Stretch stretch) const override {
+        return std::u16string(text_.substr(stretch.start, stretch.end - stretch.start));
+    }
+    [[nodiscard]] std::vector<TextRun> runs(Stretch) const override { return {look_}; }
+
+private:
+    std::u16string_view text_;
+    const TextRun& look_;
+};
+
+/// What long text takes without being set; more than there is room for is set as far as it goes.
+Size sizeOf(std::u16string_view text, const TextRun& look, const TextFrame& frame) {
+    if (text.size() > TextFlow::exactLength && frame.maximumLines == 0) {
+        const OneLook source(text, look);
+        TextFlow flow(source);
+        flow.setWidth(frame.width);
+        const Size size = flow.size();
+        if (size.height <= frame.height) {
+            return size;
+        }
+    }
+    return TextLayout(text, look, frame).size();
+}
+
 CGRect boundingRect(ns::String text, CGSize room, ui::StringDrawingOptions options,
                     ns::Dictionary attributes, objc::Object) {
     constexpr double standardSize = 12; // where the attributes name no font
@@ -43,7 +72,7 @@ CGRect boundingRect(ns::String text, CGSize room, ui::StringDrawingOptions optio
     } else {
         frame.maximumLines = 1;
     }
-    const Size size = TextLayout(measured(text), lookOf(attributes, plain), frame).size();
+    const Size size = sizeOf(measured(text), lookOf(attributes, plain), frame);
     return {{}, {size.width, size.height}};
 }
 

@@ -11,6 +11,16 @@
 #include <cmath>
 
 namespace desktop {
+namespace {
+
+/// In the middle, and on whole pixels, as on the phone.
+Point textOrigin(CGRect bounds, double textHeight) {
+    const double top = (bounds.size.height - textHeight) / 2;
+    const double scale = ScreenGeometry::current().scale;
+    return {bounds.origin.x, bounds.origin.y + std::round(top * scale) / scale};
+}
+
+} // namespace
 
 ui::Label Label::initWithFrame(CGRect frame) {
     super<"initWithFrame:", ui::View>(frame);
@@ -62,15 +72,35 @@ void Label::setFont(ui::Font font) {
 void Label::setTextColor(ui::Color color) {
     textColor_ = color ? color : ui::Color::label();
     addAttribute(ui::attributes::foregroundColor(), textColor_);
+    flow_.reset();
     self().setNeedsDisplay();
 }
 
 void Label::changed() {
+    flow_.reset();
     self().setNeedsDisplay();
     // Whoever arranges this label has to look at it again.
     if (const ui::View superview = self().superview(); superview) {
         superview.setNeedsLayout();
     }
+}
+
+std::u16string Label::units(Stretch stretch) const {
+    std::u16string text(stretch.end - stretch.start, u'\0');
+    text_.getCharacters(text.data(), {stretch.start, text.size()});
+    return text;
+}
+
+std::vector<TextRun> Label::runs(Stretch stretch) const {
+    return attributed_ && stretch.start < stretch.end ? runsOf(attributed_, stretch, look())
+                                                      : std::vector{look()};
+}
+
+TextRun Label::look() const {
+    TextRun look;
+    look.font = UIFont::valueOf(font_);
+    look.colour = Color::valueOf(textColor_);
+    return look;
 }
 
 TextLayout Label::layout(double width, double height, double scale) const {
@@ -80,10 +110,8 @@ TextLayout Label::layout(double width, double height, double scale) const {
     frame.alignment = drawnAlignment(alignment_);
     frame.lineBreakMode = drawnLineBreakMode(lineBreakMode_);
     frame.maximumLines = static_cast<std::size_t>(std::max(0L, numberOfLines_));
-    TextRun look;
-    look.font = UIFont::valueOf(font_);
+    TextRun look = this->look();
     look.font.size *= scale;
-    look.colour = Color::valueOf(textColor_);
     if (!attributed_) {
         return {text_.utf16(), look, frame};
     }
@@ -105,29 +133,53 @@ double Label::scaleFor(double width) const {
     return std::clamp((width - rounding) / whole, std::clamp(minimumScale_, 0.0, 1.0), 1.0);
 }
 
+/// Whether the text is set as far as it is looked at, and its size estimated.
+bool Label::isLong() const {
+    return numberOfLines_ == 0 && length() > TextFlow::exactLength &&
+           lineBreakMode_ != ui::LineBreakMode::charWrapping;
+}
+
 void Label::drawRect(CGRect) {
     Canvas* canvas = currentCanvas();
     const CGRect bounds = self().bounds();
-    if (canvas == nullptr || !text_) {
-        return;
+    if (canvas != nullptr && text_ && !drawLongText(*canvas, bounds)) {
+        draw(*canvas, bounds);
     }
+}
+
+/// Not if the text has to end where the label does.
+bool Label::drawLongText(Canvas& canvas, CGRect bounds) {
+    if (!isLong()) {
+        return false;
+    }
+    flow_.setWidth(bounds.size.width);
+    flow_.setAlignment(drawnAlignment(alignment_));
+    const double height = flow_.size().height;
+    if (height > bounds.size.height) {
+        return false;
+    }
+    flow_.draw(canvas.context(), textOrigin(bounds, height));
+    return true;
+}
+
+void Label::draw(Canvas& canvas, CGRect bounds) const {
     const TextLayout layout =
         this->layout(bounds.size.width, bounds.size.height, scaleFor(bounds.size.width));
-    const double top = (bounds.size.height - layout.size().height) / 2;
-    // Text stands on whole pixels, as on the phone.
-    const double scale = ScreenGeometry::current().scale;
-    layout.draw(canvas->context(),
-                {bounds.origin.x, bounds.origin.y + std::round(top * scale) / scale});
+    layout.draw(canvas.context(), textOrigin(bounds, layout.size().height));
 }
 
 CGSize Label::sizeThatFits(CGSize room) const {
     const double width = numberOfLines_ == 1 || room.width <= 0 ? TextFrame::unlimited : room.width;
+    if (isLong()) {
+        TextFlow flow(*this);
+        flow.setWidth(width);
+        const Size size = flow.size();
+        return {size.width, size.height};
+    }
     const Size size = layout(width, TextFrame::unlimited).size();
     return {size.width, size.height};
 }
 
-CGSize Label::intrinsicContentSize() const {
-    return sizeThatFits({preferredWidth_, TextFrame::unlimited});
-}
+CGSize Label::intrinsicContentSize() const { return sizeThatFits({preferredWidth_, 0}); }
 
 } // namespace desktop

@@ -4,13 +4,16 @@
 #include "bindings/uikit/label.hpp"
 
 #include "desktop/class.hpp"
+#include "desktop/drawing/text_flow.hpp"
 #include "desktop/uikit/values/attributed_text.hpp"
 
 #include <optional>
 
 namespace desktop {
 
-class Label : public PlatformClass<Label, ui::Label> {
+class Canvas;
+
+class Label : public PlatformClass<Label, ui::Label>, TextSource {
 public:
     static constexpr auto methods() {
         return std::array{
@@ -31,6 +34,7 @@ public:
             objc::method<"drawRect:", &Label::drawRect>(),
             objc::method<"sizeThatFits:", &Label::sizeThatFits>(),
             objc::method<"intrinsicContentSize", &Label::intrinsicContentSize>(),
+            objc::method<"traitCollectionDidChange:", &Label::traitsChanged>(),
         };
     }
 
@@ -46,15 +50,27 @@ private:
     [[nodiscard]] ui::Color textColor() const { return textColor_; }
     void setTextColor(ui::Color color);
     void changed();
+    void traitsChanged(objc::Object) { flow_.reset(); } // it holds colours
     void drawRect(CGRect dirty);
+    void draw(Canvas& canvas, CGRect bounds) const;
+    bool drawLongText(Canvas& canvas, CGRect bounds);
     [[nodiscard]] CGSize sizeThatFits(CGSize room) const;
     [[nodiscard]] CGSize intrinsicContentSize() const;
+    [[nodiscard]] bool isLong() const;
+    [[nodiscard]] TextRun look() const;
     [[nodiscard]] TextLayout layout(double width, double height, double scale = 1) const;
     [[nodiscard]] double scaleFor(double width) const;
+
+    // TextSource
+    [[nodiscard]] std::size_t length() const override { return text_.length(); }
+    [[nodiscard]] std::u16string units(Stretch stretch) const override;
+    [[nodiscard]] std::vector<TextRun> runs(Stretch stretch) const override;
 
     objc::Copied<ns::String> text_;
     /// Only while the text was set with attributes.
     objc::Copied<ns::AttributedString> attributed_;
+    /// Text that is too long to be set as a whole.
+    TextFlow flow_{*this};
     objc::Strong<ui::Font> font_;
     objc::Strong<ui::Color> textColor_;
     ui::TextAlignment alignment_ = ui::TextAlignment::natural;

@@ -86,6 +86,19 @@ TEST_P(TextFlowLikeOneLayout, WhereverOneLooksFirst) {
 
 INSTANTIATE_TEST_SUITE_P(Texts, TextFlowLikeOneLayout, testing::Range(0, 9));
 
+TEST(TextFlow, KnowsAboutHowMuchRoomALongTextTakes) {
+    const std::u16string texts[] = {std::u16string(30'000, u'x'), std::u16string(30'000, u'W'),
+                                    std::u16string(30'000, u'字'), words(5000), paragraphs(600)};
+    for (const std::u16string& text : texts) {
+        const Plain source(text);
+        TextFlow flow(source);
+        flow.setWidth(300);
+        const Size exact = whole(text, 300).size();
+        EXPECT_NEAR(flow.size().height, exact.height, exact.height / 100) << char(text[0]);
+        EXPECT_NEAR(flow.size().width, exact.width, exact.width / 10) << char(text[0]);
+    }
+}
+
 TEST(TextFlow, IsTheSameAfterEditsAsWhenSetAnew) {
     Plain source(paragraphs(60) + words(900) + u"\n" + paragraphs(20));
     TextFlow flow(source);

@@ -47,6 +47,31 @@ TEST_F(ScreenImageTest, TellsOnceThatItIsStale) {
     EXPECT_EQ(calls, 2);
 }
 
+TEST_F(ScreenImageTest, ShowsAPartOfAVeryLongLabel) {
+    const auto label = ui::Label::withFrame({});
+    label.setNumberOfLines(0);
+    label.setText(ns::String::from(std::u16string(1'000'000, u'W')));
+    const CGSize size = label.sizeThatFits({390, 0});
+    label.setFrame({{0, -size.height / 2}, size});
+    window.addSubview(label);
+    ScreenImage screen(1);
+    screen.refresh();
+    const desktop::Image shown = screen.snapshot();
+    const auto isInked = [&shown](int y) {
+        for (int x = 0; x < shown.pixelWidth(); ++x) {
+            if (shown.pixel(x, y).red < 0.5) {
+                return true;
+            }
+        }
+        return false;
+    };
+    int inked = 0;
+    for (int y = 0; y < shown.pixelHeight(); ++y) {
+        inked += isInked(y) ? 1 : 0;
+    }
+    EXPECT_GT(inked, shown.pixelHeight() / 3) << "lines from top to bottom";
+}
+
 TEST_F(ScreenImageTest, RedrawsOnlyWhatHasChanged) {
     const auto box = ui::View::withFrame({{10, 100}, {50, 20}});
     box.setBackgroundColor(ui::Color::black());

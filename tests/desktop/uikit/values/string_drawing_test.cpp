@@ -29,6 +29,20 @@ TEST_F(StringDrawing, MeasuresWhatALabelNeeds) {
     }
 }
 
+TEST_F(StringDrawing, MeasuresLongTextAsALabelDoes) {
+    const ui::Font font = ui::Font::system(18);
+    const auto text = ns::String::from(std::u16string(1'000'000, u'x'));
+    const auto label = ui::Label::withFrame({});
+    label.setFont(font);
+    label.setNumberOfLines(0);
+    label.setText(text);
+    const CGSize size = ui::textSize(text, {300, unlimited}, font);
+    EXPECT_EQ(size, label.sizeThatFits({300, 0}));
+    const double line = ui::textSize(u"x"_ns, {300, unlimited}, font).height;
+    EXPECT_GT(size.height, 30'000 * line);
+    EXPECT_LT(ui::textSize(text, {300, 10 * line}, font).height, 11 * line);
+}
+
 TEST_F(StringDrawing, WrapsOnlyInLineFragments) {
     const ns::String text = u"one two three four"_ns;
     const auto attributes = ns::Dictionary::withObject(ui::Font::system(14), u"NSFont"_ns);
