@@ -1,4 +1,4 @@
-// Reading binary property lists into dictionaries.
+// Reading property lists into dictionaries.
 #include "desktop/foundation/dictionary_files.hpp"
 
 #include "bindings/foundation/dictionary.hpp"
@@ -9,10 +9,7 @@ namespace desktop::foundation {
 namespace {
 
 using Reader = objc::Next<ns::Dictionary(ns::String)>;
-ns::Dictionary read(Reader next, objc::Object, ns::String path) {
-    if (const ns::Dictionary dictionary = next(path); dictionary) {
-        return dictionary;
-    }
+ns::Dictionary read(Reader, objc::Object, ns::String path) {
     const auto data = ns::Data::withContentsOfFile(path);
     const auto entries =
         data ? ns::PropertyListSerialization::propertyList(data).value.as<ns::Dictionary>()

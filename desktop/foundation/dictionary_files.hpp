@@ -3,8 +3,8 @@
 
 namespace desktop::foundation {
 
-/// Lets dictionaryWithContentsOfFile: read binary property lists, as the phone's does; GNUstep's
-/// reads the text forms only.
+/// Lets dictionaryWithContentsOfFile: read whatever property lists are read; GNUstep's own way
+/// knows text forms only, and bounds no nesting.
 void installDictionaryFiles();
 
 } // namespace desktop::foundation

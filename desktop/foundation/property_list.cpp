@@ -11,13 +11,13 @@
 namespace desktop::foundation {
 namespace {
 
-objc::Object copied(objc::Object value, int levels);
+objc::Object copied(objc::Object value, std::size_t levels);
 
 objc::Object immutable(objc::Object value) {
     return value.send<"copy", objc::Object>().send<"autorelease", objc::Object>();
 }
 
-objc::Object copiedArray(ns::Array array, int levels) {
+objc::Object copiedArray(ns::Array array, std::size_t levels) {
     const auto elements = ns::MutableArray::make();
     for (const objc::Object element : array) {
         const objc::Object copy = copied(element, levels);
@@ -29,7 +29,7 @@ objc::Object copiedArray(ns::Array array, int levels) {
     return immutable(elements);
 }
 
-objc::Object copiedDictionary(ns::Dictionary dictionary, int levels) {
+objc::Object copiedDictionary(ns::Dictionary dictionary, std::size_t levels) {
     const auto entries = ns::MutableDictionary::make();
     for (const objc::Object key : dictionary.allKeys()) {
         const objc::Object copy = copied(dictionary.get(key), levels);
@@ -41,7 +41,7 @@ objc::Object copiedDictionary(ns::Dictionary dictionary, int levels) {
     return immutable(entries);
 }
 
-objc::Object copied(objc::Object value, int levels) {
+objc::Object copied(objc::Object value, std::size_t levels) {
     if (const auto array = value.as<ns::Array>(); array) {
         return levels > 0 ? copiedArray(array, levels - 1) : nullptr;
     }
@@ -55,9 +55,6 @@ objc::Object copied(objc::Object value, int levels) {
 
 } // namespace
 
-objc::Object propertyListCopy(objc::Object list) {
-    constexpr int deepest = 100;
-    return copied(list, deepest);
-}
+objc::Object propertyListCopy(objc::Object list) { return copied(list, deepestNesting); }
 
 } // namespace desktop::foundation

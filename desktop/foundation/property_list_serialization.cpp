@@ -2,18 +2,15 @@
 #include "desktop/foundation/property_list_serialization.hpp"
 
 #include "desktop/foundation/binary_property_list.hpp"
+#include "desktop/foundation/error_encoding.hpp"
 #include "desktop/foundation/property_list.hpp"
+#include "desktop/foundation/property_list_nesting.hpp"
 #include "desktop/foundation/text_property_list.hpp"
 #include "desktop/foundation/xml_property_list.hpp"
 
+#include "bindings/foundation/error.hpp"
 #include "bindings/foundation/property_list_serialization.hpp"
 #include "bindings/objc/hook.hpp"
-
-/// Where an error is to be stored.
-template <>
-struct objc::Encoding<id*> {
-    static constexpr Literal value = "^@";
-};
 
 /// Where a format is to be stored.
 template <>
@@ -23,6 +20,8 @@ struct objc::Encoding<ns::PropertyListFormat*> {
 
 namespace desktop::foundation {
 namespace {
+
+using namespace ns::literals;
 
 using Writer = objc::Next<ns::Data(objc::Object, ns::PropertyListFormat, unsigned long, id*)>;
 ns::Data write(Writer next, objc::Object, objc::Object list, ns::PropertyListFormat format,
@@ -38,17 +37,29 @@ ns::Data write(Writer next, objc::Object, objc::Object list, ns::PropertyListFor
 }
 
 using Reader = objc::Next<objc::Object(ns::Data, unsigned long, ns::PropertyListFormat*, id*)>;
+
+objc::Object refused(id* error) {
+    constexpr long corrupt = 3840; // NSPropertyListReadCorruptError
+    if (error != nullptr) {
+        *error = ns::Error::with(u"NSCocoaErrorDomain"_ns, corrupt).raw();
+    }
+    return nullptr;
+}
+
+/// GNUstep overflows the stack where lists are nested deeply.
 objc::Object read(Reader next, objc::Object, ns::Data data, unsigned long options,
                   ns::PropertyListFormat* format, id* error) {
-    const objc::Object list = next(data, options, format, error);
-    if (list || data.length() == 0) {
-        return list;
-    }
     const std::string_view bytes(static_cast<const char*>(data.send<"bytes", const void*>()),
                                  data.length());
-    return bytes.starts_with("bplist")
-               ? nullptr
-               : next(ns::Data::from(usualForm(bytes)), options, format, error);
+    const bool isText = !bytes.starts_with("bplist");
+    const std::string text = isText ? inUtf8(bytes) : std::string();
+    if (isNestedTooDeeply(isText ? text : bytes)) {
+        return refused(error);
+    }
+    const objc::Object list = next(data, options, format, error);
+    return list || !isText || text.empty()
+               ? list
+               : next(ns::Data::from(usualForm(text)), options, format, error);
 }
 
 } // namespace

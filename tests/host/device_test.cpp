@@ -70,6 +70,29 @@ TEST_F(Device, PreferencesLieBelowTheJailbreaksFolderWhereThereIsOne) {
     EXPECT_FALSE(std::filesystem::exists(root.path() / preferenceFile));
 }
 
+std::string nested(const std::string& opening, const std::string& closing) {
+    constexpr int levels = 300'000;
+    std::string document;
+    for (int level = 0; level < levels; ++level) {
+        document += opening;
+    }
+    for (int level = 0; level < levels; ++level) {
+        document += closing;
+    }
+    return document;
+}
+
+TEST_F(Device, AFileThatIsNestedTooDeeplyIsNone) {
+    const std::string files[] = {"{a=" + nested("{a=", "};") + "1;}",
+                                 "<plist>" + nested("<dict><key>a</key>", "</dict>") + "</plist>"};
+    for (const std::string& file : files) {
+        root.write(preferenceFile, file);
+        HostProcess host = start();
+        EXPECT_EQ(host.result({{"do", "preferences"}}), nullptr);
+        EXPECT_EQ(host.result({{"do", "preferences"}, {"set", {{"a", 1}}}}), json({{"a", 1}}));
+    }
+}
+
 TEST_F(Device, APreferenceFileThatIsNoneIsNull) {
     HostProcess host = start();
     for (const std::string content : {"", "not a list", "bplist00\xff\xff", "<plist><dict><key>"}) {

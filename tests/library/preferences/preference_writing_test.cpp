@@ -80,6 +80,8 @@ TEST_F(PreferenceWriting, ChangesOneEntryOfEveryFormThatIsRead) {
         "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><plist version=\"1.0\"><dict><key>kqwzgs</key>"
         "<true/><key>&#x767E;&#x5EA6;id</key><string>\xE9</string></dict></plist>",
         "{ kqwzgs = 1; \"\\U767E\\U5EA6id\" = \"é\"; }",
+        "{ 'kqwzgs' = '1'; '\\U767E\\U5EA6id' = 'é'; '\"a\\'' = ('\"{', \"'\"); }",
+        "'kqwzgs' = 'YES'; /* it's */ '百度id' = 'é'; // isn't",
         "/* strings */ kqwzgs = YES; \"百度id\" = \"é\"; // end",
     };
     for (const std::string& before : documents) {
