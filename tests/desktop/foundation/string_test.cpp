@@ -6,6 +6,7 @@
 #include "bindings/foundation/string.hpp"
 #include "bindings/objc/pool.hpp"
 #include "desktop/foundation/binary_property_list.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 #include <gtest/gtest.h>
 
@@ -70,6 +71,30 @@ TEST_F(StringUnits, HaveUtf8OnlyWhenTheyAreText) {
     EXPECT_EQ(ns::String::from(u"é😀").utf8(), "é😀");
     EXPECT_EQ((ns::String::from(u"é\xD83D").send<"UTF8String", const char*>()), nullptr);
     EXPECT_EQ((ns::String::from(u"\xDE00").send<"UTF8String", const char*>()), nullptr);
+}
+
+TEST_F(StringUnits, AByteOrderMarkInUtf8IsACharacter) {
+    for (const std::string text : {"\uFEFF", "\uFEFFab", "\uFEFF\uFEFF文", "a\uFEFF"}) {
+        EXPECT_EQ(ns::String::fromUtf8(text).utf8(), text);
+        const auto changeable = ns::MutableString::make<"initWithBytes:length:encoding:">(
+            static_cast<const void*>(text.data()), static_cast<unsigned long>(text.size()),
+            ns::StringEncoding::utf8);
+        EXPECT_EQ(changeable.utf8(), text);
+    }
+    EXPECT_EQ(ns::String::fromUtf8("\uFEFFab").length(), 3U);
+    EXPECT_FALSE(ns::String::fromUtf8("\uFEFF\xFF"));
+}
+
+TEST_F(StringUnits, AByteOrderMarkOfAFileIsNoCharacter) {
+    const support::TemporaryFolder folder;
+    folder.write("marked.txt", "\uFEFFé");
+    const auto path = ns::String::fromUtf8((folder.path() / "marked.txt").string());
+    EXPECT_EQ((ns::String::sendClass<"stringWithContentsOfFile:", ns::String>(path).utf8()), "é");
+    void* const noError = nullptr;
+    EXPECT_EQ((ns::String::sendClass<"stringWithContentsOfFile:encoding:error:", ns::String>(
+                   path, ns::StringEncoding::utf8, noError)
+                   .utf8()),
+              "é");
 }
 
 TEST_F(StringUnits, AreWhatEqualityIsAbout) {
