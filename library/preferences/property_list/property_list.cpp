@@ -2,6 +2,7 @@
 #include "library/preferences/property_list/property_list.hpp"
 
 #include "library/common/text_encoding.hpp"
+#include "library/common/white_space.hpp"
 #include "library/preferences/property_list/decimal_number.hpp"
 #include "library/preferences/property_list/slashed_text.hpp"
 #include "library/preferences/property_list/xml_text.hpp"
@@ -12,12 +13,6 @@
 
 namespace wentra::preferences {
 namespace {
-
-constexpr bool isWhiteSpace(char16_t unit) {
-    return (unit >= 0x09 && unit <= 0x0D) || unit == 0x20 || unit == 0x85 || unit == 0xA0 ||
-           unit == 0x1680 || (unit >= 0x2000 && unit <= 0x200B) || unit == 0x2028 ||
-           unit == 0x2029 || unit == 0x202F || unit == 0x205F || unit == 0x3000;
-}
 
 std::u16string_view withoutLeadingWhiteSpace(std::u16string_view text) {
     const auto* begin = std::ranges::find_if_not(text, isWhiteSpace);

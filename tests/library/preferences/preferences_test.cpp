@@ -116,6 +116,7 @@ TEST(Preferences, ConvertsValuesAsThePlatformDoes) {
         {".5", false, 0.5, u".5"},
         {"x1", false, 0, u"x1"},
         {"　7", true, 7, u"　7"},
+        {"\u200B7", false, 0, u"\u200B7"}, // has no width, but is no white space
         {"１", false, 0, u"１"},
         {"😄", false, 0, u"😄"},
     };
