@@ -1,5 +1,6 @@
 // The word grid: tiles, picking by tap and by slide, counts, and where picked words go.
 #include "tests/features/toolbox/toolbox_panel.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 namespace {
 
@@ -67,6 +68,15 @@ TEST(WordGrid, TilesOfLineBreaksAreOneLineHigh) {
     for (int index = 1; index < 5; ++index) {
         EXPECT_EQ(phone.tile(index).at("frame").at(3), height) << index;
     }
+}
+
+TEST(WordGrid, ShowsATokenThatIsVeryLong) {
+    const std::string token(1'000'000, 'x');
+    WordGrid phone(Json::array({token}));
+    EXPECT_GT(phone.tile(0).at("frame").at(3), 100'000);
+    const support::TemporaryFolder folder;
+    phone.result({{"do", "screenshot"}, {"file", (folder.path() / "screen.png").string()}});
+    EXPECT_TRUE(phone.textOf(0) == token);
 }
 
 const Json letters{"a", "b", "c", "d", "e", "f", "g", "h"};
