@@ -6,6 +6,7 @@
 #include "bindings/foundation/string.hpp"
 #include "bindings/objc/hook.hpp"
 #include "bindings/objc/pool.hpp"
+#include "desktop/foundation/text.hpp"
 
 #include <algorithm>
 #include <cstddef>
@@ -15,28 +16,6 @@
 
 namespace desktop::foundation {
 namespace {
-
-bool isHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
-bool isLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
-
-bool isPairAt(std::u16string_view text, std::size_t at) {
-    return isHighSurrogate(text[at]) && at + 1 < text.size() && isLowSurrogate(text[at + 1]);
-}
-
-/// How much of the text is well-formed.
-std::size_t wellFormedLength(std::u16string_view text) {
-    std::size_t at = 0;
-    while (at < text.size()) {
-        const bool isPair = isPairAt(text, at);
-        if (!isPair && (isHighSurrogate(text[at]) || isLowSurrogate(text[at]))) {
-            break;
-        }
-        at += isPair ? 2 : 1;
-    }
-    return at;
-}
-
-bool isWellFormed(std::u16string_view text) { return wellFormedLength(text) == text.size(); }
 
 bool beginsWithMark(std::u16string_view text) {
     return text.starts_with(u'\uFEFF') || text.starts_with(u'\uFFFE');

@@ -1,11 +1,12 @@
-// Encoding UTF-16 as UTF-8.
+// Pairs of surrogates, and UTF-16 as UTF-8.
 #include "desktop/foundation/text.hpp"
 
 namespace desktop {
 namespace {
 
-bool isHighSurrogate(char32_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
-bool isLowSurrogate(char32_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
+bool isPairAt(std::u16string_view text, std::size_t at) {
+    return isHighSurrogate(text[at]) && at + 1 < text.size() && isLowSurrogate(text[at + 1]);
+}
 
 void append(std::string& text, char32_t character) {
     const auto byte = [&text](char32_t bits) { text += static_cast<char>(bits); };
@@ -29,12 +30,24 @@ void append(std::string& text, char32_t character) {
 
 } // namespace
 
+std::size_t wellFormedLength(std::u16string_view text) {
+    std::size_t at = 0;
+    while (at < text.size()) {
+        const bool isPair = isPairAt(text, at);
+        if (!isPair && (isHighSurrogate(text[at]) || isLowSurrogate(text[at]))) {
+            break;
+        }
+        at += isPair ? 2 : 1;
+    }
+    return at;
+}
+
 std::string toUtf8(std::u16string_view text) {
     std::string result;
     result.reserve(text.size());
     for (std::size_t at = 0; at < text.size(); ++at) {
         char32_t character = text[at];
-        if (isHighSurrogate(character) && at + 1 < text.size() && isLowSurrogate(text[at + 1])) {
+        if (isPairAt(text, at)) {
             ++at;
             character = 0x10000 + ((character - 0xD800) << 10U) + (text[at] - 0xDC00U);
         } else if (isHighSurrogate(character) || isLowSurrogate(character)) {

@@ -8,6 +8,20 @@
 
 namespace desktop {
 
+[[nodiscard]] constexpr bool isHighSurrogate(char32_t unit) {
+    return unit >= 0xD800 && unit < 0xDC00;
+}
+[[nodiscard]] constexpr bool isLowSurrogate(char32_t unit) {
+    return unit >= 0xDC00 && unit < 0xE000;
+}
+
+/// How many units there are before the first lone surrogate.
+[[nodiscard]] std::size_t wellFormedLength(std::u16string_view text);
+/// Whether no surrogate of the text stands alone.
+[[nodiscard]] inline bool isWellFormed(std::u16string_view text) {
+    return wellFormedLength(text) == text.size();
+}
+
 /// The text as UTF-8, each lone surrogate as U+FFFD.
 [[nodiscard]] std::string toUtf8(std::u16string_view text);
 [[nodiscard]] inline std::string toUtf8(ns::String text) { return toUtf8(text.utf16()); }

@@ -25,8 +25,9 @@ struct Row {
     Command command;
 };
 
-constexpr std::array<Row, 23> table{{
+constexpr std::array<Row, 24> table{{
     {"send", &send},
+    {"make", &make},
     {"tree", &tree},
     {"find", &find},
     {"tap", &tap},

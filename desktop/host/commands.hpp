@@ -23,6 +23,7 @@ using Command = Json (*)(Session& session, const Json& request);
 
 // Objects and views.
 [[nodiscard]] Json send(Session& session, const Json& request);
+[[nodiscard]] Json make(Session& session, const Json& request);
 [[nodiscard]] Json tree(Session& session, const Json& request);
 [[nodiscard]] Json find(Session& session, const Json& request);
 // Fingers on the screen.

@@ -51,23 +51,21 @@ ui::AlertController frontAlert() {
     return nullptr;
 }
 
-Json toJson(ns::String text) { return text ? Json(toUtf8(text)) : Json(); }
-
 Json alertNode(ui::AlertController alert) {
     constexpr std::array actionStyles{"default", "cancel", "destructive"};
     Json fields = Json::array();
     for (const ui::TextField field : alert.textFields()) {
         fields.push_back(
-            {{"placeholder", toJson(field.placeholder())}, {"text", toJson(field.text())}});
+            {{"placeholder", textToJson(field.placeholder())}, {"text", textToJson(field.text())}});
     }
     Json actions = Json::array();
     for (const ui::AlertAction action : alert.actions()) {
-        actions.push_back({{"title", toJson(action.title())},
+        actions.push_back({{"title", textToJson(action.title())},
                            {"style", actionStyles.at(static_cast<std::size_t>(action.style()))}});
     }
     return {{"style", alert.preferredStyle() == ui::AlertStyle::alert ? "alert" : "actionSheet"},
-            {"title", toJson(alert.title())},
-            {"message", toJson(alert.message())},
+            {"title", textToJson(alert.title())},
+            {"message", textToJson(alert.message())},
             {"fields", std::move(fields)},
             {"actions", std::move(actions)}};
 }

@@ -17,12 +17,9 @@ void setPasteboardImage(const std::string& file) {
     ui::Pasteboard::generalPasteboard().setImage(image);
 }
 
-void setPasteboardText(const Json& text) {
-    if (!text.is_string() && !text.is_null()) {
-        throw RequestError("\"set\" must be a string or null");
-    }
-    ui::Pasteboard::generalPasteboard().setString(
-        text.is_null() ? ns::String() : ns::String::fromUtf8(text.get_ref<const std::string&>()));
+void setPasteboardText(const Values& values, const Json& text) {
+    ui::Pasteboard::generalPasteboard().setString(text.is_null() ? ns::String()
+                                                                 : values.toKind<ns::String>(text));
 }
 
 ns::PropertyListFormat formatArgument(const Json& request) {
@@ -42,7 +39,7 @@ Json pasteboard(Session& session, const Json& request) {
     if (argument(request, "image") != nullptr) {
         setPasteboardImage(stringArgument(request, "image"));
     } else if (const Json* text = argument(request, "set"); text != nullptr) {
-        setPasteboardText(*text);
+        setPasteboardText(session.values, *text);
     }
     return session.values.toJson(ui::Pasteboard::generalPasteboard().string());
 }

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <cstring>
 #include <deque>
 #include <limits>
@@ -64,6 +65,15 @@ public:
     void invoke(objc::Object receiver) const { invocation_.invokeWithTarget(receiver); }
 
     [[nodiscard]] Json result() const;
+    [[nodiscard]] bool givesObject() const {
+        return unqualified(signature_.returnType()).starts_with('@');
+    }
+    /// Of a method that gives an object.
+    [[nodiscard]] objc::Object objectResult() const {
+        id result = nullptr;
+        invocation_.getReturnValue(static_cast<void*>(&result));
+        return objc::wrap(result);
+    }
 
 private:
     template <class T>
@@ -260,10 +270,9 @@ ns::MethodSignature signatureFor(objc::Object receiver, const std::string& selec
     return signature;
 }
 
-} // namespace
-
-Json sendMessage(Values& values, objc::Object receiver, const std::string& selector,
-                 const Json& arguments) {
+/// The message with its arguments, to be sent to the receiver.
+Call preparedCall(Values& values, objc::Object receiver, const std::string& selector,
+                  const Json& arguments) {
     const SEL name = sel_registerName(selector.c_str());
     const auto signature = signatureFor(receiver, selector, name);
     constexpr unsigned long hidden = 2; // receiver and selector
@@ -276,8 +285,41 @@ Json sendMessage(Values& values, objc::Object receiver, const std::string& selec
     for (const Json& argument : arguments) {
         call.add(argument);
     }
+    return call;
+}
+
+/// As the platform's compiler tells: "init", a further word of the name or none, and underscores in
+/// front of it.
+bool isOfInitFamily(std::string_view selector) {
+    constexpr std::string_view init = "init";
+    selector.remove_prefix(std::min(selector.find_first_not_of('_'), selector.size()));
+    return selector.starts_with(init) &&
+           (selector.size() == init.size() ||
+            std::islower(static_cast<unsigned char>(selector[init.size()])) == 0);
+}
+
+} // namespace
+
+Json sendMessage(Values& values, objc::Object receiver, const std::string& selector,
+                 const Json& arguments) {
+    const Call call = preparedCall(values, receiver, selector, arguments);
     call.invoke(receiver);
     return call.result();
+}
+
+objc::Strong<objc::Object> makeObject(Values& values, Class cls, const std::string& selector,
+                                      const Json& arguments) {
+    if (!isOfInitFamily(selector)) {
+        throw RequestError(selector + " does not initialise an object");
+    }
+    using Owned = objc::Strong<objc::Object>;
+    auto allocated = Owned::adopt(objc::wrap(objc::object(cls)).send<"alloc", objc::Object>());
+    const Call call = preparedCall(values, allocated, selector, arguments);
+    if (!call.givesObject()) {
+        throw RequestError(selector + " gives no object");
+    }
+    call.invoke(allocated.release()); // an initialiser owns its receiver
+    return Owned::adopt(call.objectResult());
 }
 
 } // namespace desktop::host

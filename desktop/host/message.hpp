@@ -1,6 +1,7 @@
 // Messages written in JSON: arguments and results are converted by the method's type encoding.
 #pragma once
 
+#include "bindings/objc/strong.hpp"
 #include "desktop/host/values.hpp"
 
 namespace desktop::host {
@@ -10,5 +11,11 @@ namespace desktop::host {
 /// what the method throws passes through.
 [[nodiscard]] Json sendMessage(Values& values, objc::Object receiver, const std::string& selector,
                                const Json& arguments);
+
+/// Allocates an object of the class and initialises it with `selector`, of the init family, and
+/// `arguments`; nil when the initialiser gives nil. Throws RequestError as `sendMessage` does, and
+/// for other selectors.
+[[nodiscard]] objc::Strong<objc::Object>
+makeObject(Values& values, Class cls, const std::string& selector, const Json& arguments);
 
 } // namespace desktop::host

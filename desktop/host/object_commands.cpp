@@ -9,18 +9,31 @@
 #include "desktop/uikit/uikit.hpp"
 
 namespace desktop::host {
+namespace {
+
+Json methodArguments(const Json& request) {
+    const Json* arguments = argument(request, "args");
+    if (arguments != nullptr && !arguments->is_array()) {
+        throw RequestError("\"args\" must be a list");
+    }
+    return arguments != nullptr ? *arguments : Json::array();
+}
+
+} // namespace
 
 Json send(Session& session, const Json& request) {
     const objc::Object receiver = session.values.toObject(anyArgument(request, "to"));
     if (!receiver) {
         throw RequestError("\"to\" must be an object or a class, not null");
     }
-    const Json* arguments = argument(request, "args");
-    if (arguments != nullptr && !arguments->is_array()) {
-        throw RequestError("\"args\" must be a list");
-    }
     return sendMessage(session.values, receiver, stringArgument(request, "selector"),
-                       arguments != nullptr ? *arguments : Json::array());
+                       methodArguments(request));
+}
+
+Json make(Session& session, const Json& request) {
+    const Class cls = session.values.toClass({{"class", stringArgument(request, "class")}});
+    return session.values.toJson(makeObject(
+        session.values, cls, stringArgument(request, "selector"), methodArguments(request)));
 }
 
 Json tree(Session& session, const Json& request) {

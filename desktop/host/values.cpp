@@ -11,6 +11,8 @@
 #include "desktop/foundation/text.hpp"
 #include "desktop/host/structure.hpp"
 
+#include <algorithm>
+
 namespace desktop::host {
 namespace {
 
@@ -61,6 +63,17 @@ Json numberToJson(ns::Number number) {
     }
 }
 
+objc::Object fromUnits(const Json& units) {
+    constexpr std::uint64_t largest = 0xFFFF;
+    const auto isUnit = [](const Json& unit) {
+        return unit.is_number_unsigned() && unit.get<std::uint64_t>() <= largest;
+    };
+    if (!units.is_array() || !std::ranges::all_of(units, isUnit)) {
+        throw RequestError("expected a list of UTF-16 units, got " + units.dump());
+    }
+    return ns::String::from(units.get<std::u16string>());
+}
+
 objc::Object data(const Json& base64) {
     const auto bytes = ns::Data::fromBase64(ns::String::fromUtf8(text(base64)));
     if (!bytes) {
@@ -77,6 +90,14 @@ objc::Object date(const Json& seconds) {
 }
 
 } // namespace
+
+Json textToJson(ns::String text) {
+    if (!text) {
+        return nullptr;
+    }
+    const std::u16string units = text.utf16();
+    return isWellFormed(units) ? Json(toUtf8(units)) : Json{{"units", units}};
+}
 
 Values::Values()
     : makeUrl_(class_getMethodImplementation(ns::Url::classObject(),
@@ -155,6 +176,9 @@ objc::Object Values::toObject(const Json& value) const {
     if (lone(value, "class") != nullptr) {
         return objc::wrap(objc::object(toClass(value)));
     }
+    if (const Json* units = lone(value, "units")) {
+        return fromUnits(*units);
+    }
     if (const Json* address = lone(value, "url")) {
         return url(text(*address));
     }
@@ -187,7 +211,7 @@ Json Values::toJson(objc::Object object, int depth) {
         return {{"class", class_getName(reinterpret_cast<Class>(object.raw()))}};
     }
     if (const auto string = object.as<ns::String>(); string) {
-        return toUtf8(string);
+        return textToJson(string);
     }
     if (const auto value = object.as<ns::Number>(); value) {
         return numberToJson(value);

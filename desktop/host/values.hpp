@@ -7,6 +7,9 @@
 
 namespace desktop::host {
 
+/// The text as a string, or {"units":[…]} when it has half a surrogate pair; null for nil.
+[[nodiscard]] Json textToJson(ns::String text);
+
 /// Converts between JSON and objects; what JSON has no form for is known by its handle. Main
 /// thread.
 class Values {

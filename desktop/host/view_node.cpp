@@ -2,7 +2,6 @@
 #include "desktop/host/view_node.hpp"
 
 #include "bindings/uikit/font.hpp"
-#include "desktop/foundation/text.hpp"
 #include "desktop/uikit/gestures/gesture_recognizer.hpp"
 #include "desktop/uikit/traits/trait_collection.hpp"
 #include "desktop/uikit/views/view.hpp"
@@ -46,7 +45,7 @@ Json toJson(CGRect rect) {
 
 Json toJson(CGAffineTransform t) { return {t.a, t.b, t.c, t.d, t.tx, t.ty}; }
 
-Json toJson(ns::String text) { return text ? Json(toUtf8(text)) : Json(); }
+Json toJson(ns::String text) { return textToJson(text); }
 
 Json toJson(ui::Font font) {
     return font ? Json{{"name", toJson(font.fontName())}, {"size", font.pointSize()}} : Json();

@@ -8,6 +8,7 @@
 namespace {
 
 using nlohmann::json;
+using namespace std::string_literals;
 using support::HostProcess;
 
 class Values : public testing::Test {
@@ -54,8 +55,27 @@ TEST_F(Values, ObjectsComeBackAsTheyWere) {
     }
 }
 
-TEST_F(Values, ALoneSurrogateIsReplaced) {
-    EXPECT_EQ(host.message("a😀b", "substringWithRange:", {{{"range", {0, 2}}}}), "a\uFFFD");
+TEST_F(Values, ATextWithHalfAPairComesBackAsItsUnits) {
+    const json half{{"units", {97, 0xD83D}}};
+    EXPECT_EQ(host.message("a😀b", "substringWithRange:", {{{"range", {0, 2}}}}), half);
+    EXPECT_EQ(roundTrip(half), half);
+    EXPECT_EQ(host.message(half, "stringByAppendingString:", {{{"units", {0xDE00}}}}), "a😀");
+    const json label = host.result({{"do", "make"}, {"class", "UILabel"}, {"selector", "init"}});
+    host.message(label, "setText:", {half});
+    EXPECT_EQ(host.result({{"do", "tree"}, {"of", label}}).at("text"), half);
+    EXPECT_EQ(host.result({{"do", "pasteboard"}, {"set", half}}), half);
+}
+
+TEST_F(Values, UnitsOfWellFormedTextsAreStrings) {
+    EXPECT_EQ(roundTrip({{"units", json::array()}}), "");
+    EXPECT_EQ(roundTrip({{"units", {0x4F60, 0, 0xD83D, 0xDE00}}}), json("你\0😀"s));
+    for (const json& units : {json(-1), json(65536), json(1.5), json("a"), json(nullptr)}) {
+        EXPECT_NE(
+            host.error({{"do", "send"}, {"to", {{"units", {97, units}}}}, {"selector", "length"}}),
+            "")
+            << units;
+    }
+    EXPECT_NE(host.error({{"do", "send"}, {"to", {{"units", 97}}}, {"selector", "length"}}), "");
 }
 
 TEST_F(Values, ScalarsAreConvertedByTheMethodsTypes) {

@@ -5,6 +5,14 @@
 const takenOver = 4001;
 const retryMilliseconds = 700;
 
+/** Texts that have no UTF-8 form come as their units, which are at home in JavaScript's strings. */
+function revived(/** @type {string} */ _, /** @type {any} */ value) {
+    const isUnits = Array.isArray(value?.units) && Object.keys(value).length === 1;
+    return isUnits
+        ? value.units.map((/** @type {number} */ unit) => String.fromCharCode(unit)).join("")
+        : value;
+}
+
 /**
  * Dispatches a CustomEvent for each message of the phone, named by its type, with the message as
  * its detail; "frame" with the bytes of a frame; and "state" with "connecting", "connected" or
@@ -59,7 +67,7 @@ export class Connection extends EventTarget {
             this.#tell("frame", data);
             return;
         }
-        const message = JSON.parse(data);
+        const message = JSON.parse(data, revived);
         if (message.type === "answer") {
             this.#answered(message.response);
         } else {
