@@ -25,7 +25,7 @@ struct Row {
     Command command;
 };
 
-constexpr std::array<Row, 24> table{{
+constexpr std::array<Row, 25> table{{
     {"send", &send},
     {"make", &make},
     {"tree", &tree},
@@ -43,6 +43,7 @@ constexpr std::array<Row, 24> table{{
     {"pasteboard", &pasteboard},
     {"preferences", &preferences},
     {"defaults", &defaults},
+    {"serve", &serve},
     {"appearance", &appearance},
     {"rotate", &rotate},
     {"advance", &advance},

@@ -43,6 +43,8 @@ using Command = Json (*)(Session& session, const Json& request);
 [[nodiscard]] Json pasteboard(Session& session, const Json& request);
 [[nodiscard]] Json preferences(Session& session, const Json& request);
 [[nodiscard]] Json defaults(Session& session, const Json& request);
+// What the outside world answers.
+[[nodiscard]] Json serve(Session& session, const Json& request);
 // How the phone is held, and its appearance.
 [[nodiscard]] Json appearance(Session& session, const Json& request);
 [[nodiscard]] Json rotate(Session& session, const Json& request);

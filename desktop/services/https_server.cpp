@@ -63,12 +63,20 @@ asio::awaitable<void> pause(double seconds) {
     co_await timer.async_wait(use_awaitable);
 }
 
+/// HTTP has no body with these.
+bool hasBody(http::status status) {
+    return http::to_status_class(status) != http::status_class::informational &&
+           status != http::status::no_content && status != http::status::not_modified;
+}
+
 asio::awaitable<void> write(Stream& stream, const Request& request, Answer answer) {
     http::response<http::string_body> response(static_cast<http::status>(answer.status),
                                                request.version());
     response.set(http::field::content_type, answer.contentType);
     response.keep_alive(request.keep_alive());
-    response.body() = std::move(answer.body);
+    if (hasBody(response.result())) {
+        response.body() = std::move(answer.body);
+    }
     response.prepare_payload();
     beast::get_lowest_layer(stream).expires_after(quietTime);
     co_await http::async_write(stream, response, use_awaitable);

@@ -25,6 +25,87 @@ TEST(Services, ARequestToTheOutsideIsRefusedAndTold) {
     EXPECT_EQ(host.message(error, "domain"), "NSURLErrorDomain");
 }
 
+class Serving : public testing::Test {
+protected:
+    json session() { return host.message({{"class", "NSURLSession"}}, "sharedSession"); }
+    json get(const std::string& url) {
+        return ended(host.message(session(), "dataTaskWithURL:", {{{"url", url}}}));
+    }
+    /// The task, which is started, when it has ended, on real time.
+    json ended(const json& task) {
+        constexpr int completed = 3;
+        host.message(task, "resume");
+        for (int i = 0; i < 3000 && host.message(task, "state") != completed; ++i) {
+            host.error({{"do", "wait"}, {"for", {{"event", "none"}}}, {"seconds", 0.01}});
+        }
+        EXPECT_EQ(host.message(task, "state"), completed) << task;
+        return task;
+    }
+    json statusOf(const json& task) {
+        return host.message(host.message(task, "response"), "statusCode");
+    }
+    json bytesOf(const json& task) { return host.message(task, "countOfBytesReceived"); }
+    json serve(json request) {
+        request["do"] = "serve";
+        return host.result(request);
+    }
+
+    const std::string whole =
+        "https://api.douyin.wtf/api/video/douyin/?url=https://v.douyin.com/whole/";
+    support::HostProcess host = tests::automatedHost({"--app", "plain"});
+};
+
+TEST_F(Serving, AServiceAnswersWhatItIsToldTo) {
+    EXPECT_EQ(statusOf(get(whole)), 200);
+    EXPECT_EQ(serve({{"service", "links"}, {"status", 503}, {"body", "four"}}),
+              json::array({"translation", "links"}));
+    const json changed = get(whole);
+    EXPECT_EQ(statusOf(changed), 503);
+    EXPECT_EQ(bytesOf(changed), 4);
+    EXPECT_EQ(statusOf(get("https://fanyi-api.baidu.com/")), 404) << "its own answer";
+    serve({{"service", "links"}, {"status", 204}});
+    EXPECT_EQ(statusOf(get(whole)), 204);
+    serve({{"service", "links"}, {"drop", true}});
+    EXPECT_EQ(host.message(host.message(get(whole), "error"), "code"), -1005);
+    for (const json& back :
+         {json{{"service", "links"}}, json{{"service", "links"}, {"reset", true}}}) {
+        serve({{"service", "links"}, {"status", 500}});
+        serve(back);
+        EXPECT_EQ(statusOf(get(whole)), 200) << back;
+    }
+}
+
+TEST_F(Serving, AnAnswerMayBeTooLate) {
+    serve({{"service", "links"}, {"delay", 3600}});
+    const json request = host.result({{"do", "make"},
+                                      {"class", "NSMutableURLRequest"},
+                                      {"selector", "initWithURL:"},
+                                      {"args", {{{"url", whole}}}}});
+    host.message(request, "setTimeoutInterval:", {0.2});
+    const json task = ended(host.message(session(), "dataTaskWithRequest:", {request}));
+    EXPECT_EQ(host.message(host.message(task, "error"), "code"), -1001);
+}
+
+TEST_F(Serving, WhatCannotBeServedIsRefused) {
+    const std::vector<json> requests{
+        json::object(),
+        {{"service", "nobody"}},
+        {{"service", "links"}, {"status", 99}},
+        {{"service", "links"}, {"status", 600}},
+        {{"service", "links"}, {"status", 200.5}},
+        {{"service", "links"}, {"status", "200"}},
+        {{"service", "links"}, {"body", 7}},
+        {{"service", "links"}, {"drop", 1}},
+        {{"service", "links"}, {"delay", -1}},
+        {{"service", "links"}, {"reset", 1}},
+        {{"service", "links"}, {"reset", true}, {"status", 200}},
+    };
+    for (json request : requests) {
+        request["do"] = "serve";
+        EXPECT_NE(host.error(request), "") << request;
+    }
+}
+
 TEST(Services, SpeechIsAFileOnTheDevice) {
     const support::TemporaryFolder root;
     support::HostProcess host =

@@ -2,8 +2,8 @@
 #include "desktop/services/translation/translation.hpp"
 
 #include "bindings/commoncrypto/digest.hpp"
+#include "desktop/services/query.hpp"
 #include "desktop/services/translation/dictionary.hpp"
-#include "desktop/services/translation/query.hpp"
 
 #include <nlohmann/json.hpp>
 

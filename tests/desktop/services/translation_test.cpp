@@ -1,6 +1,5 @@
-// The translation service's rules: queries, signatures, the dictionary, answers.
+// The translation service's rules: signatures, the dictionary, answers.
 #include "desktop/services/translation/dictionary.hpp"
-#include "desktop/services/translation/query.hpp"
 #include "desktop/services/translation/translation.hpp"
 
 #include <gtest/gtest.h>
@@ -38,17 +37,6 @@ std::string errorOf(const std::string& target) {
 /// The first line's translation.
 std::string firstOf(const Answer& answer) {
     return json::parse(answer.body).at("trans_result").at(0).at("dst");
-}
-
-TEST(TranslationQuery, IsDecodedByteByByte) {
-    const auto query = queryOf("/p?a=%E4%BD%A0&b=x+y%2Bz&broken=100%&half=%4&empty=&flag&a%3D=1");
-    const std::map<std::string, std::string> expected{
-        {"a", "你"},   {"b", "x y+z"}, {"broken", "100%"}, {"half", "%4"},
-        {"empty", ""}, {"flag", ""},   {"a=", "1"}};
-    EXPECT_EQ(query, expected);
-    EXPECT_EQ(pathOf("/p?a"), "/p");
-    EXPECT_TRUE(queryOf("/p").empty());
-    EXPECT_TRUE(queryOf("").empty());
 }
 
 TEST(TranslationSignature, IsTheDigestOfAllFourParts) {

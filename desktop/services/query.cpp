@@ -1,9 +1,10 @@
 // Taking a query apart.
-#include "desktop/services/translation/query.hpp"
+#include "desktop/services/query.hpp"
 
+#include <algorithm>
 #include <charconv>
 
-namespace desktop::services::translation {
+namespace desktop::services {
 namespace {
 
 /// What is before the separator; `text` keeps what is behind it.
@@ -13,7 +14,7 @@ std::string_view cutOff(std::string_view& text, char separator) {
     return head;
 }
 
-std::string decoded(std::string_view text) {
+std::string percentDecoded(std::string_view text) {
     constexpr std::size_t digits = 2;
     std::string bytes;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -24,10 +25,16 @@ std::string decoded(std::string_view text) {
             bytes += static_cast<char>(byte);
             i += digits;
         } else {
-            bytes += text[i] == '+' ? ' ' : text[i];
+            bytes += text[i];
         }
     }
     return bytes;
+}
+
+std::string decoded(std::string_view text) {
+    std::string spaced(text);
+    std::ranges::replace(spaced, '+', ' ');
+    return percentDecoded(spaced);
 }
 
 } // namespace
@@ -45,4 +52,15 @@ std::map<std::string, std::string> queryOf(std::string_view target) {
     return query;
 }
 
-} // namespace desktop::services::translation
+std::string restBehind(std::string_view target, std::string_view name) {
+    cutOff(target, '?');
+    while (!target.empty()) {
+        if (target.starts_with(name) && target.substr(name.size()).starts_with('=')) {
+            return percentDecoded(target.substr(name.size() + 1));
+        }
+        cutOff(target, '&');
+    }
+    return {};
+}
+
+} // namespace desktop::services
