@@ -7,15 +7,19 @@
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/navigation_controller.hpp"
 #include "desktop/uikit/alerts/alert_controller.hpp"
+#include "desktop/uikit/presentation/presentation.hpp"
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
 namespace desktop::host {
 namespace {
 
-/// A controller, what is pushed in it, and what it presents, from the back to the front.
-void collect(ui::ViewController controller, std::vector<ui::ViewController>& shown) {
+using Controllers = std::vector<ui::ViewController>;
+
+/// A controller and what is pushed in it, from the back to the front.
+void collect(ui::ViewController controller, Controllers& shown) {
     if (!controller) {
         return;
     }
@@ -25,27 +29,36 @@ void collect(ui::ViewController controller, std::vector<ui::ViewController>& sho
             collect(pushed, shown);
         }
     }
-    // A controller inside of another one answers what that one presents.
-    if (!controller.parent()) {
-        collect(controller.presentedViewController(), shown);
-    }
 }
 
-std::vector<ui::ViewController> shownIn(ui::Window window) {
-    std::vector<ui::ViewController> shown;
+/// The window's own controller and what anybody presents in it, from the back to the front.
+Controllers shownIn(ui::Window window) {
+    Controllers shown;
     collect(window.rootViewController(), shown);
+    for (const ui::ViewController presented : Presentation::presentedIn(window)) {
+        collect(presented, shown);
+    }
     return shown;
 }
 
-/// The front-most controller of the front-most window that ends in an alert; nil when none does.
+ui::AlertController topmost(const Controllers& shown) {
+    return shown.empty() ? ui::AlertController() : shown.back().as<ui::AlertController>();
+}
+
+ui::AlertController frontAlertOf(const Controllers& shown) {
+    const auto isAlert = [](ui::ViewController each) { return each.as<ui::AlertController>(); };
+    const auto found = std::find_if(shown.rbegin(), shown.rend(), isAlert);
+    return found == shown.rend() ? ui::AlertController() : found->as<ui::AlertController>();
+}
+
+/// The alert of the front-most window that shows one; those that nothing covers come first.
 ui::AlertController frontAlert() {
     const auto windows = ui::Application::sharedApplication().windows();
-    for (unsigned long index = windows.count(); index > 0; --index) {
-        const auto shown = shownIn(windows.at(index - 1));
-        const auto alert =
-            shown.empty() ? ui::AlertController() : shown.back().as<ui::AlertController>();
-        if (alert) {
-            return alert;
+    for (const auto& alertOf : {&topmost, &frontAlertOf}) {
+        for (unsigned long index = windows.count(); index > 0; --index) {
+            if (const auto alert = alertOf(shownIn(windows.at(index - 1))); alert) {
+                return alert;
+            }
         }
     }
     return nullptr;

@@ -24,10 +24,23 @@ protected:
                      {host.message({{"class", "UIAlertAction"}},
                                    "actionWithTitle:style:handler:", {title, style, nullptr})});
     }
-    void present(const json& controller) {
-        host.message(root,
+    void present(const json& controller) { present(controller, root); }
+    void present(const json& controller, const json& presenter) {
+        host.message(presenter,
                      "presentViewController:animated:completion:", {controller, true, nullptr});
     }
+    json fresh() { return host.message({{"class", "UIViewController"}}, "new"); }
+    /// A controller that nobody contains or presents: only its view lies in the window.
+    json outsider() {
+        const json controller = fresh();
+        host.message(host.message(root, "view"), "addSubview:", {host.message(controller, "view")});
+        return controller;
+    }
+    json alertTitle() {
+        const json alert = host.result({{"do", "alert"}});
+        return alert.is_null() ? alert : alert.at("title");
+    }
+    json screens() { return host.result({{"do", "screens"}}); }
 
     support::HostProcess host = tests::automatedHost({"--app", "notes"});
     json root;
@@ -88,7 +101,6 @@ TEST_F(ControllerCommands, ADisabledActionIsRefused) {
 
 TEST_F(ControllerCommands, ScreensArePushedAndPresentedAlike) {
     EXPECT_EQ(host.result({{"do", "screens"}}), json::array({"UIViewController"}));
-    const auto fresh = [this] { return host.message({{"class", "UIViewController"}}, "new"); };
     const json navigation =
         host.message(host.message({{"class", "UINavigationController"}}, "alloc"),
                      "initWithRootViewController:", {fresh()});
@@ -104,6 +116,56 @@ TEST_F(ControllerCommands, ScreensArePushedAndPresentedAlike) {
     host.result({{"do", "advance"}, {"seconds", 1}});
     EXPECT_EQ(host.result({{"do", "find"}, {"where", {{"class", "UINavigationBar"}}}}).size(), 1U)
         << "the application's own bar";
+}
+
+TEST_F(ControllerCommands, WhatAnOutsiderPresentsIsSeen) {
+    const json alert = alertWith("Outside", 1);
+    addAction(alert, "OK", 0);
+    const json presenter = outsider();
+    present(alert, presenter);
+    EXPECT_EQ(alertTitle(), "Outside");
+    EXPECT_EQ(screens(), json::array({"UIViewController", "UIAlertController"}));
+    host.result({{"do", "alert"}, {"choose", "OK"}});
+    EXPECT_EQ(alertTitle(), nullptr);
+    EXPECT_EQ(screens(), json::array({"UIViewController"}));
+}
+
+TEST_F(ControllerCommands, ScreensAreInTheOrderInWhichTheyCame) {
+    const json navigation = host.message({{"class", "UINavigationController"}}, "new");
+    present(navigation, outsider());
+    present(alertWith("First", 0), root);
+    EXPECT_EQ(screens(),
+              json::array({"UIViewController", "UINavigationController", "UIAlertController"}));
+    present(alertWith("Second", 0), navigation);
+    EXPECT_EQ(alertTitle(), "Second");
+    host.message(navigation, "dismissViewControllerAnimated:completion:", {false, nullptr});
+    EXPECT_EQ(alertTitle(), "First");
+    EXPECT_EQ(screens(),
+              json::array({"UIViewController", "UINavigationController", "UIAlertController"}));
+}
+
+TEST_F(ControllerCommands, AnAlertBelowAnotherScreenIsSeenAndChosen) {
+    const json alert = alertWith("Below", 1);
+    addAction(alert, "OK", 0);
+    present(alert);
+    present(fresh(), outsider());
+    EXPECT_EQ(screens(),
+              json::array({"UIViewController", "UIAlertController", "UIViewController"}));
+    EXPECT_EQ(alertTitle(), "Below");
+    host.result({{"do", "alert"}, {"choose", "OK"}});
+    EXPECT_EQ(alertTitle(), nullptr);
+    EXPECT_EQ(screens(), json::array({"UIViewController", "UIViewController"}));
+}
+
+TEST_F(ControllerCommands, AnAlertMayHaveAnotherScreenOverIt) {
+    const json alert = alertWith("Presents", 1);
+    present(alert);
+    present(fresh(), alert);
+    EXPECT_EQ(alertTitle(), "Presents");
+    host.message(alert, "dismissViewControllerAnimated:completion:", {false, nullptr});
+    EXPECT_EQ(alertTitle(), "Presents");
+    host.message(root, "dismissViewControllerAnimated:completion:", {false, nullptr});
+    EXPECT_EQ(screens(), json::array({"UIViewController"}));
 }
 
 } // namespace

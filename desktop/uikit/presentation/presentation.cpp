@@ -23,6 +23,9 @@ using namespace ns::literals;
 constexpr double popoverMargin = 10;
 constexpr CGSize usualPopover{320, 480};
 
+/// Those that have not been asked to leave, in the order in which they came.
+std::vector<Presentation*> presentations;
+
 CGRect inset(CGRect rect, UIEdgeInsets by) {
     return {{rect.origin.x + by.left, rect.origin.y + by.top},
             {std::max(0.0, rect.size.width - by.left - by.right),
@@ -84,7 +87,26 @@ void tapBeside(ui::ViewController presented) {
 } // namespace
 
 Presentation::Presentation(ui::ViewController presenting, ui::ViewController presented)
-    : presenting_(presenting), presented_(presented) {}
+    : presenting_(presenting), presented_(presented) {
+    presentations.push_back(this);
+}
+
+Presentation::~Presentation() { std::erase(presentations, this); }
+
+std::vector<ui::ViewController> Presentation::presentedIn(ui::Window window) {
+    std::vector<ui::ViewController> presented;
+    for (const Presentation* each : presentations) {
+        if (window && each->window() == window) {
+            presented.push_back(each->presented_);
+        }
+    }
+    return presented;
+}
+
+/// Where it is, or will come up.
+ui::Window Presentation::window() const {
+    return container_ ? container_.window() : presenting_.view().window();
+}
 
 Presentation::Look Presentation::lookFor(ui::ViewController presented) {
     if (const auto alert = presented.as<ui::AlertController>(); alert) {
@@ -243,6 +265,7 @@ void Presentation::uncover() {
 
 void Presentation::leave(bool animated) {
     leaves_ = true;
+    std::erase(presentations, this);
     if (!container_) {
         return; // it never came
     }

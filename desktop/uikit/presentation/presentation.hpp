@@ -6,6 +6,7 @@
 #include "bindings/objc/strong.hpp"
 
 #include <memory>
+#include <vector>
 
 namespace desktop {
 
@@ -14,8 +15,15 @@ namespace desktop {
 /// what people see of it goes on upon the clock. Main thread.
 class Presentation : public std::enable_shared_from_this<Presentation> {
 public:
+    /// What is presented in that window, from the back to the front: all that has not been asked to
+    /// leave.
+    [[nodiscard]] static std::vector<ui::ViewController> presentedIn(ui::Window window);
+
     /// Both outlive the presentation's entering; the views are kept as long as they are shown.
     Presentation(ui::ViewController presenting, ui::ViewController presented);
+    Presentation(const Presentation&) = delete;
+    Presentation& operator=(const Presentation&) = delete;
+    ~Presentation();
 
     /// Puts the presented controller's view before everything in that window. Raises for a popover
     /// that belongs nowhere.
@@ -31,6 +39,7 @@ private:
 
     [[nodiscard]] static Look lookFor(ui::ViewController presented);
     [[nodiscard]] bool fillsScreen() const;
+    [[nodiscard]] ui::Window window() const;
     [[nodiscard]] double dimming() const;
     void buildViews(CGRect bounds, ui::View view);
     void place(CGRect bounds);
