@@ -21,8 +21,8 @@ class EventLog {
 public:
     static EventLog& shared();
 
-    /// Appends an event; `fields`, of property-list values, is copied. Beyond `mostEvents`, the
-    /// oldest are forgotten: perhaps nobody is watching.
+    /// Appends an event; `fields`, of values that do not change, is copied. Beyond `mostEvents`,
+    /// the oldest are forgotten: perhaps nobody is watching.
     void record(std::string kind, ns::Dictionary fields);
     /// From now on `watcher` is called with each event that is recorded, on the recording thread;
     /// null: nobody watches.

@@ -449,6 +449,23 @@ test("events are listed, those from before the page came too", async () => {
     await phone.close();
 });
 
+test("an opened address is told for a moment, and opened nowhere", async () => {
+    const phone = await Phone.open(browser, host.address, { locale: "en-US" });
+    await phone.do("send", {
+        to: await phone.do("send", { to: { class: "UIApplication" }, selector: "sharedApplication" }),
+        selector: "openURL:", args: [{ url: "taobao://s/?q=1" }],
+    });
+    await phone.page.getByText("Opened in 淘宝: taobao://s/?q=1").waitFor();
+    assert.equal(phone.page.context().pages().length, 1);
+    await phone.close();
+
+    const later = await Phone.open(browser, host.address);
+    await later.page.click("#tab-events");
+    await later.page.locator(".events").getByText("taobao://s/?q=1").first().waitFor();
+    assert.ok(await later.page.locator("#note").isHidden(), "what is over is not told again");
+    await later.close();
+});
+
 test("the screenshot has the pixels of the device", async () => {
     const png = Buffer.from(await (await fetch(`${host.address}screenshot.png`)).arrayBuffer());
     assert.deepEqual([png.readUInt32BE(16), png.readUInt32BE(20)], [1170, 2532]);

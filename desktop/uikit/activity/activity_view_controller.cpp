@@ -17,7 +17,8 @@ constexpr double margin = 16;
 constexpr double barHeight = 52;
 constexpr double rowHeight = 60;
 
-/// What is told of an item, and shown: the text, the URL, or else the object's description.
+/// What is shown of an item, and told if it is no picture: the text, the URL, or else the object's
+/// description.
 ns::String textOf(objc::Object item) {
     if (const auto url = item.as<ns::Url>(); url) {
         return url.absoluteString();
@@ -100,11 +101,11 @@ void ActivityViewController::viewDidLayoutSubviews() {
 
 void ActivityViewController::viewWillAppear(bool animated) {
     super<"viewWillAppear:">(animated);
-    const auto texts = ns::MutableArray::make();
+    const auto told = ns::MutableArray::make();
     for (const objc::Object item : items_) {
-        texts.add(textOf(item));
+        told.add(item.as<ui::Image>() ? item : textOf(item));
     }
-    EventLog::shared().record("share", ns::Dictionary::withObject(texts, u"items"_ns));
+    EventLog::shared().record("share", ns::Dictionary::withObject(told, u"items"_ns));
 }
 
 void ActivityViewController::closePressed() {

@@ -1,5 +1,6 @@
 // The application object and its list of windows.
 #include "desktop/uikit/application/application.hpp"
+#include "desktop/uikit/application/url_openers.hpp"
 
 #include "desktop/quartzcore/screen_changes.hpp"
 #include "desktop/runtime/event_log.hpp"
@@ -73,8 +74,10 @@ bool Application::openUrl(ns::Url url) {
         return false;
     }
     using namespace ns::literals;
-    EventLog::shared().record("openURL",
-                              ns::Dictionary::withObject(url.absoluteString(), u"url"_ns));
+    const auto fields = ns::MutableDictionary::make();
+    fields.set(url.absoluteString(), u"url"_ns);
+    fields.set(ns::String::from(openerOf(url.send<"scheme", ns::String>().utf16())), u"by"_ns);
+    EventLog::shared().record("openURL", fields);
     return true;
 }
 

@@ -6,6 +6,7 @@ import { Fingers } from "./fingers.js";
 import { showHelp } from "./help.js";
 import { holdPhone } from "./holding.js";
 import { typeInto } from "./keyboard.js";
+import { tellOpenedUrls } from "./opened_urls.js";
 import { applicationsPanel } from "./panels/applications.js";
 import { eventsPanel } from "./panels/events.js";
 import { pasteboardPanel } from "./panels/pasteboard.js";
@@ -95,11 +96,15 @@ async function attempt(/** @type {(() => any) | undefined} */ work) {
     }
 }
 
+let noteEnd = 0;
+
+/** Shows a line for a moment. */
 function tell(/** @type {string} */ text) {
     const note = part("note");
     note.textContent = text;
     note.hidden = false;
-    setTimeout(() => {
+    clearTimeout(noteEnd);
+    noteEnd = setTimeout(() => {
         note.hidden = true;
     }, 6000);
 }
@@ -171,6 +176,7 @@ connection.addEventListener("refused", (event) => {
 
 new Fingers(part("glass"), part("marks"), screen, connection);
 showWebPages(part("glass"), connection);
+tellOpenedUrls(connection, tell);
 typeInto(field, part("help"), connection);
 part("glass").addEventListener("pointerdown", () => field.focus({ preventScroll: true }));
 part("take-back").onclick = () => connection.open();

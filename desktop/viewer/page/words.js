@@ -76,6 +76,7 @@ const words = {
     allEvents: ["全部", "All"],
     download: ["下载", "Download"],
     close: ["关闭", "Close"],
+    openedIn: ["在{application}中打开：", "Opened in {application}: "],
     failed: ["没有成功：", "That failed: "],
 };
 
