@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace {
 
 using nlohmann::json;
@@ -22,12 +24,23 @@ TEST(Apps, HaveTheClassesThatTellThemApart) {
     EXPECT_GT(count(settings, {{"class", "UITableViewLabel"}}), 10U);
     const json window = settings.result({{"do", "tree"}}).at(0);
     EXPECT_EQ(settings.message(window, "rootViewController").at("class"), "PSSplitViewController");
-    for (const char* name : {"chat", "plain"}) {
-        HostProcess host = automatedHost({"--app", name});
-        EXPECT_EQ(
-            host.error({{"do", "send"}, {"to", {{"class", "YYLabel"}}}, {"selector", "class"}}),
-            "no such class: YYLabel");
-        EXPECT_GE(count(host, {{"class", "UILabel"}, {"visible", true}}), 2U) << name;
+    HostProcess plain = automatedHost({"--app", "plain"});
+    EXPECT_EQ(plain.error({{"do", "send"}, {"to", {{"class", "YYLabel"}}}, {"selector", "class"}}),
+              "no such class: YYLabel");
+    EXPECT_GE(count(plain, {{"class", "UILabel"}, {"visible", true}}), 2U);
+}
+
+TEST(Apps, TheChatPlaysTheApplicationThatItsBundleNames) {
+    for (const auto& [bundle, title] :
+         std::vector<std::array<const char*, 2>>{{"com.hammerandchisel.discord", "# 周末 weekend"},
+                                                 {"com.zhiliaoapp.musically", "TikTok"},
+                                                 {"com.ss.iphone.ugc.Aweme", "抖音"}}) {
+        HostProcess host = automatedHost({"--app", "chat", "--bundle", bundle});
+        EXPECT_EQ(count(host, {{"class", "UILabel"}, {"text", title}, {"visible", true}}), 1U)
+            << bundle;
+        EXPECT_EQ(count(host, {{"class", "YYLabel"}, {"text", "hello"}, {"visible", true}}), 1U)
+            << bundle;
+        EXPECT_GE(count(host, {{"class", "YYLabel"}, {"visible", true}}), 8U) << bundle;
     }
 }
 

@@ -1,10 +1,14 @@
-// The chat application: a conversation in bubbles.
+// The chat application: a conversation in bubbles, whose texts are the application's own labels.
 #include "desktop/host/app.hpp"
 #include "desktop/host/apps/screen_parts.hpp"
+#include "desktop/host/apps/yy_label.hpp"
 
+#include "bindings/applications/yy_label.hpp"
+#include "bindings/foundation/bundle.hpp"
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/screen.hpp"
 
+#include <algorithm>
 #include <array>
 
 namespace desktop::host {
@@ -18,6 +22,8 @@ struct Message {
 };
 
 constexpr std::array conversation{
+    Message{Sender::other, "hello"},
+    Message{Sender::self, "Good morning!"},
     Message{Sender::other, "周末去爬山吗？"},
     Message{Sender::self, "Sure! What time do we meet?"},
     Message{Sender::other,
@@ -27,6 +33,25 @@ constexpr std::array conversation{
     Message{Sender::self, "Name: Bob 也会来"},
 };
 
+/// Whom the application plays by its bundle identifier, and what stands above the conversation
+/// then.
+struct Role {
+    std::u16string_view bundleIdentifier;
+    std::string_view title;
+};
+
+constexpr Role usualRole{u"com.hammerandchisel.discord", "# 周末 weekend"};
+constexpr std::array otherRoles{
+    Role{u"com.zhiliaoapp.musically", "TikTok"},
+    Role{u"com.ss.iphone.ugc.Aweme", "抖音"},
+};
+
+const Role& role() {
+    const std::u16string identifier = ns::Bundle::mainBundle().bundleIdentifier().utf16();
+    const auto* const found = std::ranges::find(otherRoles, identifier, &Role::bundleIdentifier);
+    return found == otherRoles.end() ? usualRole : *found;
+}
+
 constexpr double margin = 12;
 constexpr double padding = 12;
 
@@ -35,7 +60,7 @@ double addBubble(ui::View page, double top, const Message& message) {
     const bool isOwn = message.sender == Sender::self;
     const double width = page.bounds().size.width;
     const auto label =
-        dressed(ui::Label::withFrame({}), message.text,
+        dressed(apps::YYLabel::withFrame({}), message.text,
                 {.color = isOwn ? ui::Color::white() : ui::Color::label(), .lines = 0});
     const double widest = width * 0.72 - 2 * padding;
     const CGSize text = label.sizeThatFits({widest, 0});
@@ -77,7 +102,7 @@ void launch() {
     const ui::View page = controller.view();
     page.setFrame(ui::Screen::mainScreen().bounds());
     page.setBackgroundColor(ui::Color::systemBackground());
-    double top = addNavigationBar(page, "# 周末 weekend") + margin;
+    double top = addNavigationBar(page, role().title) + margin;
     for (const Message& message : conversation) {
         top = addBubble(page, top, message);
     }
@@ -87,6 +112,7 @@ void launch() {
 
 } // namespace
 
-const App chatApp{"chat", "com.hammerandchisel.discord", [] {}, nullptr, &launch};
+const App chatApp{"chat", "com.hammerandchisel.discord", [] { YYLabel::registerClass(); }, nullptr,
+                  &launch};
 
 } // namespace desktop::host

@@ -6,6 +6,7 @@
 #include "desktop/uikit/values/font.hpp"
 
 #include <algorithm>
+#include <cmath>
 
 namespace desktop::host {
 
@@ -37,7 +38,7 @@ void YYLabel::drawRect(CGRect) {
 
 CGSize YYLabel::sizeThatFits(CGSize room) const {
     const Size size = layout(room).size();
-    return {size.width, size.height};
+    return {std::ceil(size.width), std::ceil(size.height)};
 }
 
 } // namespace desktop::host
