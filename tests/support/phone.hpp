@@ -17,7 +17,10 @@ public:
         : HostProcess(HOST_PATH, withAutomation(std::move(options))) {}
 
     Json make(const std::string& cls, const std::vector<double>& frame = {10, 20, 100, 30}) {
-        return message(message({{"class", cls}}, "alloc"), "initWithFrame:", {{{"rect", frame}}});
+        return result({{"do", "make"},
+                       {"class", cls},
+                       {"selector", "initWithFrame:"},
+                       {"args", {{{"rect", frame}}}}});
     }
     void saveRules(const std::string& text) {
         const Json editor = make("UITextView");
