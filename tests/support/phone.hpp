@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tests/support/host_process.hpp"
+#include "tests/support/host_program.hpp"
 
 #include <string>
 #include <vector>
@@ -14,13 +15,10 @@ using Json = nlohmann::json;
 class Phone : public support::HostProcess {
 public:
     explicit Phone(std::vector<std::string> options = {"--app", "plain"})
-        : HostProcess(HOST_PATH, withAutomation(std::move(options))) {}
+        : HostProcess(hostProgram(), withAutomation(std::move(options))) {}
 
     Json make(const std::string& cls, const std::vector<double>& frame = {10, 20, 100, 30}) {
-        return result({{"do", "make"},
-                       {"class", cls},
-                       {"selector", "initWithFrame:"},
-                       {"args", {{{"rect", frame}}}}});
+        return message(message({{"class", cls}}, "alloc"), "initWithFrame:", {{{"rect", frame}}});
     }
     void saveRules(const std::string& text) {
         const Json editor = make("UITextView");
