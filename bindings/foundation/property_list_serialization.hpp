@@ -6,7 +6,7 @@
 namespace ns {
 
 /// The platform's numbers.
-enum class PropertyListFormat : unsigned long { xml = 100, binary = 200 };
+enum class PropertyListFormat : unsigned long { openStep = 1, xml = 100, binary = 200 };
 
 struct PropertyListSerialization
     : objc::Kind<PropertyListSerialization, "NSPropertyListSerialization"> {

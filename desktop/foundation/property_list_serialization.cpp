@@ -3,6 +3,7 @@
 
 #include "desktop/foundation/binary_property_list.hpp"
 #include "desktop/foundation/error_encoding.hpp"
+#include "desktop/foundation/old_property_list.hpp"
 #include "desktop/foundation/property_list.hpp"
 #include "desktop/foundation/property_list_nesting.hpp"
 #include "desktop/foundation/text_property_list.hpp"
@@ -46,6 +47,14 @@ objc::Object refused(id* error) {
     return nullptr;
 }
 
+objc::Object readOld(std::string_view text, ns::PropertyListFormat* format, id* error) {
+    const objc::Object list = oldPropertyList(text);
+    if (list && format != nullptr) {
+        *format = ns::PropertyListFormat::openStep;
+    }
+    return list ? list : refused(error);
+}
+
 /// GNUstep overflows the stack where lists are nested deeply.
 objc::Object read(Reader next, objc::Object, ns::Data data, unsigned long options,
                   ns::PropertyListFormat* format, id* error) {
@@ -56,10 +65,12 @@ objc::Object read(Reader next, objc::Object, ns::Data data, unsigned long option
     if (isNestedTooDeeply(isText ? text : bytes)) {
         return refused(error);
     }
+    if (isText && !text.empty() && !isXml(text)) {
+        return readOld(text, format, error);
+    }
     const objc::Object list = next(data, options, format, error);
-    return list || !isText || text.empty()
-               ? list
-               : next(ns::Data::from(usualForm(text)), options, format, error);
+    return list || text.empty() ? list
+                                : next(ns::Data::from(usualXml(text)), options, format, error);
 }
 
 } // namespace
