@@ -12,6 +12,8 @@ build  git                      the history, and which files changed
 build  libgnustep-base-dev      Foundation on the desktop
 build  libobjc-12-dev           the Objective-C runtime on the desktop
 build  libcairo2-dev            draws shapes and pictures
+build  libicu-dev               transliterates text
+build  libpsl-dev               knows the top-level domains
 build  libpango1.0-dev          lays out text
 build  libharfbuzz-dev          measures fonts
 build  libfontconfig-dev        finds fonts

@@ -2,6 +2,7 @@
 #include "desktop/foundation/foundation.hpp"
 
 #include "desktop/foundation/bundle.hpp"
+#include "desktop/foundation/data_detector.hpp"
 #include "desktop/foundation/delayed_perform.hpp"
 #include "desktop/foundation/dictionary_files.hpp"
 #include "desktop/foundation/main_operation_queue.hpp"
@@ -9,6 +10,7 @@
 #include "desktop/foundation/property_list_serialization.hpp"
 #include "desktop/foundation/refusing_protocol.hpp"
 #include "desktop/foundation/string.hpp"
+#include "desktop/foundation/string_transform.hpp"
 #include "desktop/foundation/timer.hpp"
 #include "desktop/foundation/url.hpp"
 #include "desktop/foundation/url_session.hpp"
@@ -21,6 +23,8 @@ namespace desktop::foundation {
 void install(const std::string& bundleIdentifier) {
     const objc::Pool pool;
     installStrings();
+    installStringTransforms();
+    registerDataDetector();
     const auto identifier = ns::String::fromUtf8(bundleIdentifier);
     installBundle(identifier);
     installUserDefaults(identifier);
