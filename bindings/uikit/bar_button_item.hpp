@@ -52,6 +52,7 @@ struct BarButtonItem : objc::Kind<BarButtonItem, "UIBarButtonItem"> {
         return make<"initWithBarButtonSystemItem:target:action:">(item, target, action);
     }
     [[nodiscard]] ns::String title() const { return send<"title", ns::String>(); }
+    void setTitle(ns::String title) const { send<"setTitle:">(title); }
 };
 
 } // namespace ui

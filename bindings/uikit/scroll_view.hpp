@@ -28,6 +28,9 @@ struct ScrollView : objc::Kind<ScrollView, "UIScrollView", View> {
     [[nodiscard]] CGPoint contentOffset() const { return send<"contentOffset", CGPoint>(); }
     void setScrollEnabled(bool enabled) const { send<"setScrollEnabled:">(enabled); }
     void setContentOffset(CGPoint offset) const { send<"setContentOffset:">(offset); }
+    void setContentOffset(CGPoint offset, bool animated) const {
+        send<"setContentOffset:animated:">(offset, animated);
+    }
     [[nodiscard]] UIEdgeInsets contentInset() const { return send<"contentInset", UIEdgeInsets>(); }
     void setContentInset(UIEdgeInsets insets) const { send<"setContentInset:">(insets); }
     /// Whether content that fits can be dragged up and down all the same, and springs back.

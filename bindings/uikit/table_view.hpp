@@ -1,12 +1,38 @@
 // UITableView.
 #pragma once
 
+#include "bindings/foundation/index_path.hpp"
 #include "bindings/uikit/scroll_view.hpp"
+#include "bindings/uikit/table_view_cell.hpp"
 
 namespace ui {
 
+/// The platform's numbers.
+enum class TableViewStyle : long { plain = 0, grouped = 1, insetGrouped = 2 };
+enum class TableViewCellSeparatorStyle : long { none = 0, singleLine = 1 };
+
 struct TableView : objc::Kind<TableView, "UITableView", ScrollView> {
     using Kind::Kind;
+
+    void setSeparatorStyle(TableViewCellSeparatorStyle style) const {
+        send<"setSeparatorStyle:">(style);
+    }
+    /// Neither is retained.
+    void setDataSource(objc::Object source) const { send<"setDataSource:">(source); }
+    void setDelegate(objc::Object delegate) const { send<"setDelegate:">(delegate); }
+    /// Cells of that class are made for the identifier.
+    void registerClass(Class cell, ns::String identifier) const {
+        send<"registerClass:forCellReuseIdentifier:">(cell, identifier);
+    }
+    /// A cell of the class that is registered for the identifier, used before or new.
+    [[nodiscard]] TableViewCell dequeueReusableCell(ns::String identifier,
+                                                    ns::IndexPath path) const {
+        return send<"dequeueReusableCellWithIdentifier:forIndexPath:", TableViewCell>(identifier,
+                                                                                      path);
+    }
+    void deselectRow(ns::IndexPath path, bool animated) const {
+        send<"deselectRowAtIndexPath:animated:">(path, animated);
+    }
 };
 
 } // namespace ui

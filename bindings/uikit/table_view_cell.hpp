@@ -1,12 +1,14 @@
 // UITableViewCell: a row of a table.
 #pragma once
 
-#include "bindings/uikit/view.hpp"
+#include "bindings/uikit/label.hpp"
 
 namespace ui {
 
 struct TableViewCell : objc::Kind<TableViewCell, "UITableViewCell", View> {
     using Kind::Kind;
+
+    [[nodiscard]] Label textLabel() const { return send<"textLabel", Label>(); }
 };
 
 } // namespace ui

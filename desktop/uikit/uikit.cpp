@@ -21,6 +21,7 @@
 #include "desktop/uikit/controls/clear_button.hpp"
 #include "desktop/uikit/controls/control.hpp"
 #include "desktop/uikit/controls/picker_view.hpp"
+#include "desktop/uikit/controls/search_bar.hpp"
 #include "desktop/uikit/events/event.hpp"
 #include "desktop/uikit/events/responder.hpp"
 #include "desktop/uikit/events/touch.hpp"
@@ -105,7 +106,7 @@ void registerClasses() {
                 MenuItem, MenuController, Responder, Application, ViewController, View, Window,
                 TextEffectsWindow, KeyboardView, CalloutBar, TextSelectionView, Label, ImageView,
                 ScrollView, StackView, NavigationBar, Control, Button, ClearButton, TextField,
-                TextView, Touch, Event, GestureRecognizer, TapGestureRecognizer,
+                SearchBar, TextView, Touch, Event, GestureRecognizer, TapGestureRecognizer,
                 LongPressGestureRecognizer, PanGestureRecognizer, PinchGestureRecognizer,
                 SwipeGestureRecognizer, ScrollPan, CollectionViewLayoutAttributes,
                 CollectionViewLayout, CollectionViewFlowLayout, CollectionReusableView,
