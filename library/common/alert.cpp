@@ -6,11 +6,13 @@
 
 namespace wentra {
 
-const Alert& Alert::field(ns::String placeholder, ns::String text) const {
-    const auto configure = [placeholder = objc::Copied(placeholder),
-                            text = objc::Copied(text)](ui::TextField field) {
+const Alert& Alert::field(ns::String placeholder, ns::String text,
+                          ui::TextFieldViewMode clearButton) const {
+    const auto configure = [placeholder = objc::Copied(placeholder), text = objc::Copied(text),
+                            clearButton](ui::TextField field) {
         field.setPlaceholder(placeholder);
         field.setText(text);
+        field.setClearButtonMode(clearButton);
     };
     controller_.addTextField(ui::AlertController::Configuration::from(configure));
     return *this;
@@ -31,6 +33,11 @@ const Alert& Alert::from(ui::View view, CGRect rect) const {
 const Alert& Alert::covering(ui::ModalPresentation style) const {
     controller_.setModalPresentationStyle(style);
     return *this;
+}
+
+void Alert::presentFrom(ui::ViewController controller) const {
+    constexpr bool animated = true;
+    controller.present(controller_, animated);
 }
 
 void Alert::present() const { topViewController().present(controller_, true); }

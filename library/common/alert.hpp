@@ -22,7 +22,8 @@ public:
     explicit Alert(ui::AlertController controller) : controller_(controller) {}
 
     /// Adds a text field; fields come before the actions that read them.
-    const Alert& field(ns::String placeholder = nullptr, ns::String text = nullptr) const;
+    const Alert& field(ns::String placeholder = nullptr, ns::String text = nullptr,
+                       ui::TextFieldViewMode clearButton = ui::TextFieldViewMode::never) const;
 
     /// An action that only closes the alert.
     const Alert& action(ns::String title,
@@ -52,6 +53,8 @@ public:
 
     /// Shows the alert above everything, animated.
     void present() const;
+    /// The same from that controller. Nothing for nil, and where it presents something already.
+    void presentFrom(ui::ViewController controller) const;
 
 private:
     template <class Body>

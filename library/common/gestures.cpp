@@ -20,11 +20,13 @@ void addTap(ui::View view, objc::Object owner, SEL action, unsigned long taps) {
     add<ui::TapGestureRecognizer>(view, owner, action).setNumberOfTapsRequired(taps);
 }
 
-void addPress(ui::View view, objc::Object owner, SEL action, double seconds) {
+void addPress(ui::View view, objc::Object owner, SEL action, double seconds,
+              unsigned long fingers) {
     const auto press = add<ui::LongPressGestureRecognizer>(view, owner, action);
     if (seconds > 0) {
         press.setMinimumPressDuration(seconds);
     }
+    press.setNumberOfTouchesRequired(fingers);
 }
 
 ui::PanGestureRecognizer addPan(ui::View view, objc::Object owner, SEL action) {

@@ -13,7 +13,8 @@ namespace wentra {
 void addTap(ui::View view, objc::Object owner, SEL action, unsigned long taps = 1);
 
 /// A long press of at least that many seconds; the platform's own duration when none are given.
-void addPress(ui::View view, objc::Object owner, SEL action, double seconds = 0);
+void addPress(ui::View view, objc::Object owner, SEL action, double seconds = 0,
+              unsigned long fingers = 1);
 
 ui::PanGestureRecognizer addPan(ui::View view, objc::Object owner, SEL action);
 

@@ -6,12 +6,26 @@
 
 namespace wentra {
 
-void shareText(ns::String text) {
+namespace {
+
+constexpr bool animated = true;
+
+ui::ActivityViewController sheetOf(ns::String text) {
     const auto items = ns::MutableArray::make();
     items.add(text);
-    const auto sheet = ui::ActivityViewController::sharing(items);
+    return ui::ActivityViewController::sharing(items);
+}
+
+} // namespace
+
+void shareText(ns::String text) {
+    const auto sheet = sheetOf(text);
     sheet.setModalPresentationStyle(ui::ModalPresentation::overCurrentContext);
-    topViewController().present(sheet, true);
+    topViewController().present(sheet, animated);
+}
+
+void shareText(ns::String text, ui::ViewController controller) {
+    controller.present(sheetOf(text), animated);
 }
 
 } // namespace wentra

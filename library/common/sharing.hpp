@@ -1,11 +1,13 @@
 // The system's share sheet.
 #pragma once
 
-#include "bindings/foundation/string.hpp"
+#include "bindings/uikit/view_controller.hpp"
 
 namespace wentra {
 
 /// Offers the text to the system's activities, over the top controller's context. Main thread.
 void shareText(ns::String text);
+/// The same from that controller, in the platform's own way. Nothing for nil.
+void shareText(ns::String text, ui::ViewController controller);
 
 } // namespace wentra

@@ -1,0 +1,13 @@
+// Digits of every script.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace wentra {
+
+/// How many characters of the text are decimal digits, those that "\d" of a regular expression
+/// matches: Unicode's general category Nd.
+[[nodiscard]] std::size_t countDecimalDigits(std::u16string_view text);
+
+} // namespace wentra
