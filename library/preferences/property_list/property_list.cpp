@@ -1,10 +1,10 @@
 // Turns the values of a property list into switches, numbers and texts.
 #include "library/preferences/property_list/property_list.hpp"
 
+#include "library/common/slashed_text.hpp"
 #include "library/common/text_encoding.hpp"
 #include "library/common/white_space.hpp"
 #include "library/preferences/property_list/decimal_number.hpp"
-#include "library/preferences/property_list/slashed_text.hpp"
 #include "library/preferences/property_list/xml_text.hpp"
 
 #include <algorithm>
@@ -66,7 +66,7 @@ std::u16string textValue(Value value) {
     case Value::Kind::escapedText:
         return utf16FromUtf8(unescapedXml(value.bytes()));
     case Value::Kind::slashedText:
-        return unslashed(value.bytes());
+        return unslashed(utf16FromUtf8(value.bytes()));
     case Value::Kind::utf16Text:
         return utf16FromBytes(value.bytes(), Encoding::utf16BigEndian);
     case Value::Kind::none:

@@ -1,8 +1,8 @@
 // A single pass over an old property list, checking all of it and keeping only the top entries.
 #include "library/preferences/property_list/property_list_old.hpp"
 
+#include "library/common/slashed_text.hpp"
 #include "library/common/text_encoding.hpp"
-#include "library/preferences/property_list/slashed_text.hpp"
 
 #include <array>
 
@@ -170,8 +170,9 @@ private:
     }
 
     bool select() {
-        return isSlashed_ ? sink_.select(utf8FromUtf16(unslashed(content_)), Encoding::utf8)
-                          : sink_.select(content_, Encoding::utf8);
+        return isSlashed_
+                   ? sink_.select(utf8FromUtf16(unslashed(utf16FromUtf8(content_))), Encoding::utf8)
+                   : sink_.select(content_, Encoding::utf8);
     }
 
     bool reportText() {
