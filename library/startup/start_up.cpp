@@ -2,6 +2,7 @@
 #include "library/startup/start_up.hpp"
 
 #include "bindings/objc/pool.hpp"
+#include "library/analysis/analysis.hpp"
 #include "library/blocking/request_hooks.hpp"
 #include "library/clipboard/text_view_controller.hpp"
 #include "library/common/draggable_view.hpp"
@@ -29,8 +30,8 @@ Face clipboardFace() {
     return {classes, {}};
 }
 
-constexpr std::array rooms{&commonFace, &labels::face, &clipboardFace, &toolbox::face,
-                           &editing::face};
+constexpr std::array rooms{&commonFace,     &labels::face,  &clipboardFace,
+                           &analysis::face, &toolbox::face, &editing::face};
 
 void install(std::span<const Table> tables) {
     for (const Table table : tables) {
@@ -73,7 +74,8 @@ constexpr std::array table{
          tables<&labels::containerHooks, &labels::labelTextHooks>},
     Step{"5 rule editor in the camera application", tables<&labels::cameraHooks>},
     Step{"6 observer of the edit menu", {}, &editing::observeMenu},
-    Step{"7 edit menu and text editing", tables<&editing::editMenuHooks>},
+    Step{"7 edit menu and text editing", tables<&editing::responderHooks, &editing::textViewHooks,
+                                                &editing::textFieldHooks, &editing::menuHooks>},
     Step{"8 gestures on labels and text views", tables<&editing::textGestureHooks>},
 };
 

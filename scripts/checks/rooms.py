@@ -26,7 +26,7 @@ LIBRARY = {
     "files": [*BASE, "analysis"],
     "crashlogs": [*BASE, "analysis", "files"],
     "toolbox": [*BASE, "labels", "clipboard", "utilities", "analysis", "crashlogs"],
-    "editing": [*BASE, "labels", "toolbox"],
+    "editing": [*BASE, "labels", "analysis", "toolbox"],
 }
 LIBRARY["startup"] = list(LIBRARY)
 

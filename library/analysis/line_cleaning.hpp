@@ -1,0 +1,28 @@
+// What makes a line of a crash report readable.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace wentra::analysis {
+
+/// Every occurrence of one text gives way to another.
+struct Replacement {
+    std::u16string_view sought;
+    std::u16string_view put;
+};
+
+// Reports are JSON, printed with a blank before and after each colon or with none.
+inline constexpr Replacement backslashes{u"\\", u""};
+inline constexpr Replacement nameKey{u"\"name\"", u"名称"};
+inline constexpr Replacement spacedColon{u"   :   ", u"："};
+inline constexpr Replacement pathKey{u"\"path\"", u"路径"};
+inline constexpr Replacement abortNote{u"  \"asi\" : {\"libsystem_c.dylib\":[\"abort() called\"]},",
+                                       u""};
+inline constexpr Replacement quoteComma{u"\",", u"\""};
+
+/// The line after these replacements, one after the other: their order matters.
+[[nodiscard]] std::u16string cleaned(std::u16string_view line, std::span<const Replacement> steps);
+
+} // namespace wentra::analysis

@@ -1,0 +1,182 @@
+// The lists, and how they are searched: names only count where one ends with its kind.
+#include "library/analysis/system_libraries.hpp"
+
+#include <algorithm>
+#include <array>
+
+namespace wentra::analysis {
+namespace {
+
+using Names = std::span<const std::u16string_view>;
+
+/// Ordered by their last units, for `endsWithOneOf`.
+template <std::size_t Count>
+constexpr std::array<std::u16string_view, Count>
+byLastUnit(const std::u16string_view (&names)[Count]) {
+    std::array<std::u16string_view, Count> ordered = std::to_array(names);
+    std::ranges::sort(ordered, {}, [](std::u16string_view name) { return name.back(); });
+    return ordered;
+}
+
+/// `.dylib` stands behind each.
+constexpr auto libraries = byLastUnit<37>({
+    u"libAXSpeechManager",
+    u"libEmbeddedSystemAUs",
+    u"libFontParser",
+    u"libGSFont",
+    u"libboringssl",
+    u"libc++.1",
+    u"libc++abi",
+    u"libcommonCrypto",
+    u"libcopyfile",
+    u"libcorecrypto",
+    u"libdispatch",
+    u"libicucore.A",
+    u"libnetwork",
+    u"libobjc.A",
+    u"libremovefile",
+    u"libsqlite3",
+    u"libswiftCore",
+    u"libswiftDarwin",
+    u"libswiftDispatch",
+    u"libswiftFoundation",
+    u"libswiftObjectiveC",
+    u"libswiftUIKit",
+    u"libsystem_blocks",
+    u"libsystem_c",
+    u"libsystem_info",
+    u"libsystem_kernel",
+    u"libsystem_m",
+    u"libsystem_malloc",
+    u"libsystem_notify",
+    u"libsystem_platform",
+    u"libsystem_pthread",
+    u"libsystem_trace",
+    u"libunwind",
+    u"libusrtcp",
+    u"libxpc",
+    u"libz.1",
+    u"systemhook",
+});
+
+/// Libraries that only the analysis of reports counts as the system's.
+constexpr auto furtherLibraries = byLastUnit<2>({
+    u"libdns_services",
+    u"libsystem_darwin",
+});
+
+/// `.framework` stands behind each.
+constexpr auto frameworks = byLastUnit<79>({
+    u"AccessibilityUIShared",
+    u"AdSupport",
+    u"AppPredictionClient",
+    u"AppSupport",
+    u"AudioSession",
+    u"AudioToolbox",
+    u"BaseBoard",
+    u"BiomeStorage",
+    u"BiomeStreams",
+    u"BoardServices",
+    u"CFNetwork",
+    u"CacheDelete",
+    u"CallKit",
+    u"CommonUtilities",
+    u"CoreData",
+    u"CoreFoundation",
+    u"CoreGraphics",
+    u"CoreMaterial",
+    u"CoreMedia",
+    u"CoreMotion",
+    u"CoreServices",
+    u"CoreServicesInternal",
+    u"CoreServicesStore",
+    u"CoreSpotlight",
+    u"CoreText",
+    u"CoreVideo",
+    u"CoreWiFi",
+    u"DoNotDisturb",
+    u"DoNotDisturbKit",
+    u"Focus",
+    u"FocusUI",
+    u"FontServices",
+    u"Foundation",
+    u"FrontBoard",
+    u"FrontBoardServices",
+    u"GraphicsServices",
+    u"IDS",
+    u"IOKit",
+    u"IOSurface",
+    u"IconServices",
+    u"ImageIO",
+    u"Intents",
+    u"JavaScriptCore",
+    u"KeyboardArbiter",
+    u"MaterialKit",
+    u"MediaControls",
+    u"MediaRemote",
+    u"MetalKit",
+    u"MetricKit",
+    u"Pasteboard",
+    u"PhotoLibraryServices",
+    u"PlugInKit",
+    u"PowerLog",
+    u"Preferences",
+    u"QuartzCore",
+    u"RTTUtilities",
+    u"RunningBoardServices",
+    u"Security",
+    u"SiriActivation",
+    u"SplashBoard",
+    u"SpotlightUI",
+    u"SpringBoard",
+    u"SpringBoardFoundation",
+    u"SpringBoardHome",
+    u"SyncedDefaults",
+    u"TCC",
+    u"TelephonyUtilities",
+    u"UIFoundation",
+    u"UIKitCore",
+    u"UniformTypeIdentifiers",
+    u"UserNotifications",
+    u"UserNotificationsServer",
+    u"UserNotificationsUIKit",
+    u"VideoToolbox",
+    u"WebCore",
+    u"WebKit",
+    u"WiFiKit",
+    u"Widgets",
+    u"WirelessProximity",
+});
+
+bool endsWithOneOf(std::u16string_view text, Names names) {
+    if (text.empty()) {
+        return false;
+    }
+    const auto candidates = std::ranges::equal_range(
+        names, text.back(), {}, [](std::u16string_view name) { return name.back(); });
+    return std::ranges::any_of(candidates,
+                               [text](std::u16string_view name) { return text.ends_with(name); });
+}
+
+/// Whether one of the names stands in the line with the ending behind it.
+bool holdsOneOf(std::u16string_view line, Names names, std::u16string_view ending) {
+    for (std::size_t place = line.find(ending); place != line.npos;
+         place = line.find(ending, place + 1)) {
+        if (endsWithOneOf(line.substr(0, place), names)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+bool isSystemLine(std::u16string_view line, SystemList list) {
+    return line.find(u"/System/Library/PrivateFrameworks") != line.npos ||
+           line.find(u"/System/Library/Frameworks") != line.npos ||
+           holdsOneOf(line, libraries, u".dylib") ||
+           (list == SystemList::reports && holdsOneOf(line, furtherLibraries, u".dylib")) ||
+           holdsOneOf(line, frameworks, u".framework");
+}
+
+} // namespace wentra::analysis

@@ -1,0 +1,75 @@
+// The result of a crash report's analysis: search, copying, jumping.
+#include "tests/support/phone.hpp"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using tests::Json;
+
+class Details : public testing::Test {
+protected:
+    Details() {
+        std::string system;
+        for (int line = 0; line < 80; ++line) {
+            system += "UIKitCore.framework " + std::to_string(line) + "\n";
+        }
+        details = phone.message({{"class", "DetailsViewController"}}, "new");
+        phone.message(details, "setSystemMessage:", {system});
+        phone.message(details, "setJailbreakMessage:", {"Odd.dylib\n\n"});
+        const Json root =
+            phone.message(phone.message({{"class", "UINavigationController"}}, "alloc"),
+                          "initWithRootViewController:", {details});
+        phone.message(phone.message(phone.window(), "rootViewController"),
+                      "presentViewController:animated:completion:", {root, false, nullptr});
+        phone.advance(1);
+        view = phone.message(details, "textView");
+    }
+    std::string text() { return phone.message(view, "text"); }
+    double scrolled() { return phone.message(view, "contentOffset")["point"][1]; }
+    void press(const std::string& title) {
+        phone.tap(phone.find({{"title", title}, {"visible", true}}).at(0));
+        phone.advance(1);
+    }
+    void search(const Json& sought) {
+        phone.message(details,
+                      "searchBar:textDidChange:", {phone.message(details, "searchBar"), sought});
+    }
+
+    tests::Phone phone{{"--app", "notes"}};
+    Json details;
+    Json view;
+};
+
+TEST_F(Details, ShowsBothSortsAndSearchesInThem) {
+    const std::string whole = text();
+    EXPECT_EQ(whole.substr(0, 13), "\n提示：此");
+    EXPECT_NE(whole.find("❌异常或越狱插件的可执行库:\n\nOdd.dylib"), whole.npos);
+    search("KIT");
+    EXPECT_EQ(text().substr(0, 44), "UIKitCore.framework 0\n\nUIKitCore.framework 1");
+    search("nowhere");
+    EXPECT_EQ(text(), "");
+    search("");
+    EXPECT_EQ(text(), whole);
+    EXPECT_EQ(phone.message(view, "isEditable"), false);
+}
+
+TEST_F(Details, CopiesTheAddOnsAlone) {
+    press("复制异常");
+    EXPECT_EQ(phone.pasteboard(), "Odd.dylib\n\n");
+}
+
+TEST_F(Details, JumpsToTheAddOnsAndToBothEnds) {
+    press("跳转异常");
+    EXPECT_GT(scrolled(), 500);
+    search("odd");
+    press("跳转异常");
+    search("");
+    press("顶部"); // the first press leads to the end
+    EXPECT_GT(scrolled(), 500);
+    press("顶部");
+    EXPECT_LE(scrolled(), 0);
+    EXPECT_EQ(phone.find({{"title", "底部"}, {"visible", true}}).size(), 1U);
+}
+
+} // namespace
