@@ -14,7 +14,10 @@
 #include "library/toolbox/panel/host_filter_editor.hpp"
 #include "library/toolbox/panel/host_screens.hpp"
 #include "library/toolbox/panel/sizes.hpp"
-#include "library/toolbox/search_targets.hpp"
+#include "library/toolbox/search/pinyin.hpp"
+#include "library/toolbox/search/search_targets.hpp"
+#include "library/toolbox/text_tools/link_finder.hpp"
+#include "library/toolbox/text_tools/text_tools.hpp"
 #include "library/toolbox/translation/translation.hpp"
 
 namespace wentra::toolbox {
@@ -32,8 +35,10 @@ public:
                 objc::method<"viewWillAppear:", &FloatingViewControllerPeer::appear>(),
                 objc::method<"viewWillDisappear:", &FloatingViewControllerPeer::disappear>()},
             Buttons::methods(), WordGrid::methods(), Sizes::methods(), Crosshair::methods(),
-            HostFilterEditor::methods(), HostScreens::methods(), SearchTargets::methods(),
-            Capture::methods(), Download::methods(), FileLists::methods(), Translation::methods());
+            HostFilterEditor::methods(), HostScreens::methods(), WebPreview::methods(),
+            SearchTargets::methods(), Pinyin::methods(), TextTools::methods(),
+            LinkFinder::methods(), Capture::methods(), Download::methods(), FileLists::methods(),
+            Translation::methods());
     }
 
     Buttons buttons{self()};
@@ -42,11 +47,15 @@ public:
     Crosshair crosshair{self()};
     HostFilterEditor hostFilterEditor{self()};
     HostScreens hostScreens{self()};
-    SearchTargets searchTargets{self()};
+    WebPreview webPreview{self()};
+    SearchTargets searchTargets{self(), wordGrid.selection, webPreview};
+    TextTools textTools{self(), wordGrid.selection};
+    LinkFinder linkFinder{self(), wordGrid.selection};
     Capture capture{self()};
     Download download{self()};
     FileLists fileLists{self()};
     Translation translation{self(), wordGrid.selection};
+    Pinyin pinyin{self(), translation};
 
 private:
     void load();
@@ -70,6 +79,7 @@ void FloatingViewControllerPeer::begin() {
     translation.begin();
     sizes.begin();
     searchTargets.begin(preferences::storedPreferences());
+    linkFinder.begin();
 }
 
 void FloatingViewControllerPeer::build(const BodyLayout& layout) {
@@ -109,6 +119,10 @@ HostFilterEditor& HostFilterEditor::of(objc::Object controller) {
     return Whole::of(controller).hostFilterEditor;
 }
 HostScreens& HostScreens::of(objc::Object controller) { return Whole::of(controller).hostScreens; }
+WebPreview& WebPreview::of(objc::Object controller) { return Whole::of(controller).webPreview; }
+Pinyin& Pinyin::of(objc::Object controller) { return Whole::of(controller).pinyin; }
+TextTools& TextTools::of(objc::Object controller) { return Whole::of(controller).textTools; }
+LinkFinder& LinkFinder::of(objc::Object controller) { return Whole::of(controller).linkFinder; }
 SearchTargets& SearchTargets::of(objc::Object controller) {
     return Whole::of(controller).searchTargets;
 }

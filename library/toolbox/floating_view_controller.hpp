@@ -18,6 +18,11 @@ struct FloatingViewController
     [[nodiscard]] ns::MutableArray selectedWords() const {
         return send<"selectedWords", ns::MutableArray>();
     }
+    /// Translates the text and shows the result over the host; the controller's view need not be
+    /// loaded.
+    void translateText(ns::String text) const { send<"translateText:">(text); }
+    /// Shows the text with its pinyin over the host; the controller's view need not be loaded.
+    void shareText(ns::String text) const { send<"shareText:">(text); }
 };
 
 /// Declares the class.

@@ -10,6 +10,7 @@ namespace {
 
 void notYet(FloatingViewController) {}
 void notYetFor(FloatingViewController, objc::Object) {}
+void notYetForTwo(FloatingViewController, objc::Object, objc::Object) {}
 
 } // namespace
 
@@ -23,12 +24,9 @@ std::span<const objc::Change> screensToCome() {
         objc::addition<"longPress:", &notYetFor>(),
         // The list of files and crash logs.
         objc::addition<"handlerzLongPress:", &notYetFor>(),
-        // The list of applications to search in, and pinyin.
-        objc::addition<"ljsslongPress:", &notYetFor>(),
-        objc::addition<"buttonLongPressed:", &notYetFor>(),
-        // Links, and conversion to Unicode escapes.
-        objc::addition<"ljtzButtonClicked:", &notYetFor>(),
-        objc::addition<"umzhButtonClicked:", &notYetFor>(),
+        // The downloader.
+        objc::addition<"goxiazai", &notYet>(),
+        objc::addition<"downloadWithUrl:session:", &notYetForTwo>(),
         // The screen recorder.
         objc::addition<"startRecording", &notYet>(),
         objc::addition<"stopRecording", &notYet>(),

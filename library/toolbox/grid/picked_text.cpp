@@ -8,15 +8,8 @@ namespace wentra::toolbox {
 
 using namespace ns::literals;
 
-ns::String PickedText::textToCopy() const {
-    const ns::Array tokens = selection_.tokens();
-    const ns::String text = tokens.count() > 0 ? tokens.componentsJoined(u""_ns)
-                                               : ui::Pasteboard::generalPasteboard().string();
-    return text ? text : u""_ns;
-}
-
 void PickedText::copy(objc::Object) {
-    ui::Pasteboard::generalPasteboard().setString(textToCopy());
+    ui::Pasteboard::generalPasteboard().setString(selection_.pickedOrCopied());
     selection_.forgetTokens();
 }
 

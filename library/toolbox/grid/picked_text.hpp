@@ -22,7 +22,6 @@ private:
     /// they are: it is only the picked text that is gone.
     void copy(objc::Object sender);
     void share(objc::Object sender);
-    [[nodiscard]] ns::String textToCopy() const;
 
     const Selection& selection_;
 };

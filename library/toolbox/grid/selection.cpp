@@ -1,7 +1,12 @@
 // The picked tiles, their colours and their tokens.
 #include "library/toolbox/grid/selection.hpp"
 
+#include "bindings/uikit/pasteboard.hpp"
+
 namespace wentra::toolbox {
+
+using namespace ns::literals;
+
 namespace {
 
 ui::Color colourOf(PickedBy gesture) {
@@ -28,6 +33,12 @@ std::optional<long> Selection::outside(long first, long last) const {
         }
     }
     return std::nullopt;
+}
+
+ns::String Selection::pickedOrCopied() const {
+    const ns::String text = tokens_.count() > 0 ? tokens_.componentsJoined(u""_ns)
+                                                : ui::Pasteboard::generalPasteboard().string();
+    return text ? text : u""_ns;
 }
 
 void Selection::pick(ns::IndexPath path, PickedBy gesture) {
@@ -64,6 +75,17 @@ void Selection::unpickAll(ns::Array paths) const {
             paths_.add(path); // a tile of an earlier text
         }
     }
+}
+
+void Selection::clear() const {
+    constexpr bool animated = true;
+    forgetTokens();
+    const ns::Enumerator paths = paths_.objects();
+    while (const objc::Object path = paths.next()) {
+        tiles_.view().deselectItem(path.assume<ns::IndexPath>(), !animated);
+        tiles_.colour(path.assume<ns::IndexPath>(), ui::Color::white());
+    }
+    paths_.removeAll();
 }
 
 } // namespace wentra::toolbox

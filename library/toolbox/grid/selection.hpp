@@ -31,6 +31,9 @@ public:
 
     /// The picked tokens in the order in which they were picked.
     [[nodiscard]] ns::Array tokens() const { return tokens_; }
+    /// The picked tokens without anything between them; what the pasteboard holds when none is
+    /// picked, empty when that is no text.
+    [[nodiscard]] ns::String pickedOrCopied() const;
     /// The picked tokens are no longer picked; the tiles stay as they are.
     void forgetTokens() const { tokens_.removeAll(); }
     [[nodiscard]] bool contains(ns::IndexPath path) const { return paths_.contains(path); }
@@ -43,6 +46,8 @@ public:
     /// Takes the tile out of the picked ones, and every token that equals its own out of the picked
     /// text. A path beyond the text, left over from a longer one, is forgotten.
     void unpick(ns::IndexPath path) const;
+    /// Nothing is picked any more, neither tokens nor tiles.
+    void clear() const;
     /// The same for many tiles in one pass, once the picked text was forgotten.
     void unpickAll(ns::Array paths) const;
 

@@ -30,6 +30,8 @@ public:
 
     /// The voice has said nothing yet.
     void begin() { synth_ = av::SpeechSynthesizer::make(); }
+    /// Nil before it is needed.
+    [[nodiscard]] av::SpeechSynthesizer voice() const { return synth_; }
 
 private:
     void translatePasteboard(objc::Object sender);

@@ -1,0 +1,102 @@
+// One pass each way.
+#include "library/toolbox/text_tools/unicode_escapes.hpp"
+
+#include "library/common/occurrences.hpp"
+#include "library/common/slashed_text.hpp"
+#include "library/common/text_parts.hpp"
+
+#include <algorithm>
+
+namespace wentra::toolbox {
+namespace {
+
+void appendHexadecimal(char16_t unit, std::u16string& text) {
+    constexpr std::u16string_view digits = u"0123456789abcdef";
+    bool isLeading = true;
+    for (unsigned shift = 16; shift > 0;) {
+        shift -= 4;
+        const unsigned digit = (unit >> shift) & 0xFU;
+        isLeading = isLeading && digit == 0 && shift > 0;
+        if (!isLeading) {
+            text += digits[digit];
+        }
+    }
+}
+
+/// What stands before the first quotation mark without a backslash; nothing when the last backslash
+/// takes the mark that would follow the text.
+std::optional<std::u16string_view> quotedPart(std::u16string_view text) {
+    std::size_t end = 0;
+    while (end < text.size() && text[end] != u'"') {
+        end += text[end] == u'\\' ? 2U : 1U;
+    }
+    return end > text.size() ? std::nullopt : std::optional(text.substr(0, end));
+}
+
+constexpr bool endsLineComment(char16_t unit) {
+    return unit == u'\n' || unit == u'\r' || unit == 0x2028 || unit == 0x2029;
+}
+
+/// Whether what follows a text that ended early is a comment to the end, the last quotation mark
+/// included.
+bool isComment(std::u16string_view rest) {
+    for (;;) {
+        rest = trimmedAtStart(rest);
+        if (!rest.starts_with(u"/*")) {
+            return rest.starts_with(u"//") && std::ranges::none_of(rest, endsLineComment);
+        }
+        const std::size_t end = rest.find(u"*/", 2);
+        if (end == rest.npos) {
+            return true;
+        }
+        rest.remove_prefix(end + 2);
+    }
+}
+
+bool isPair(char16_t first, char16_t second) {
+    return (first & 0xFC00U) == 0xD800U && (second & 0xFC00U) == 0xDC00U;
+}
+
+bool hasHalfAPair(std::u16string_view text) {
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if ((text[at] & 0xF800U) == 0xD800U) {
+            if (at + 1 == text.size() || !isPair(text[at], text[at + 1])) {
+                return true;
+            }
+            ++at;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+bool hasUnicodeEscapes(std::u16string_view text) { return text.find(u"\\u") != text.npos; }
+
+std::u16string unicodeEscapes(std::u16string_view text) {
+    constexpr std::size_t usualLength = 6;
+    std::u16string escapes;
+    escapes.reserve(usualLength * text.size());
+    for (const char16_t unit : text) {
+        escapes += u"\\u";
+        appendHexadecimal(unit, escapes);
+    }
+    return escapes;
+}
+
+std::optional<std::u16string> withoutUnicodeEscapes(std::u16string_view text) {
+    std::u16string escaped(text);
+    replaceAll(escaped, u"\\u", u"\\U");
+    const auto quoted = quotedPart(escaped);
+    const auto rest = quoted && quoted->size() < escaped.size()
+                          ? std::u16string_view(escaped).substr(quoted->size() + 1)
+                          : std::u16string_view(u"//");
+    if (!quoted || !isComment(rest) || hasHalfAPair(escaped)) {
+        return std::nullopt;
+    }
+    std::u16string plain = unslashed(*quoted);
+    replaceAll(plain, u"\\r\\n", u"\n");
+    return plain;
+}
+
+} // namespace wentra::toolbox

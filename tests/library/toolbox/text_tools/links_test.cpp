@@ -1,0 +1,41 @@
+// Paths and share codes in texts.
+#include "library/toolbox/text_tools/links.hpp"
+
+#include <gtest/gtest.h>
+
+namespace wentra::toolbox {
+namespace {
+
+using Paths = std::vector<std::u16string>;
+
+TEST(PathsInText, BeginAtAFolderOfTheRootAndEndAtWhiteSpace) {
+    EXPECT_EQ(pathsIn(u"在/var/mobile，和 /etc\u3000/tmp\u2028x/usr/lib /home /Var"),
+              (Paths{u"/var/mobile，和", u"/etc", u"/tmp", u"/usr/lib"}));
+    EXPECT_EQ(pathsIn(u"https://a.example/private/x//bin /variable"),
+              (Paths{u"/private/x//bin", u"/variable"}));
+    EXPECT_EQ(pathsIn(u"/cores /Developer/a /cores\n/sbin /dev /Library /System /Applications"),
+              (Paths{u"/cores", u"/Developer/a", u"/sbin", u"/dev", u"/Library", u"/System",
+                     u"/Applications"}));
+    EXPECT_EQ(pathsIn(u"//// /"), Paths{});
+}
+
+TEST(ShareCodes, AreKnownByTheirWords) {
+    const std::pair<std::u16string_view, std::u16string_view> cases[]{
+        {u"复制打开抖音极速版", u"douyinsharesdk://"},
+        {u"抖音口令", u"douyinsharesdk://"},
+        {u"通过百度网盘", u"baiduyun://"},
+        {u"百度云盘：闲鱼", u"baiduyun://"},
+        {u"打开淘宝搜索", u"taobao://"},
+        {u"【淘宝】", u"taobao://"},
+        {u"打开手机阿里", u"wireless1688://"},
+        {u"【闲鱼", u"fleamarket://"},
+        {u"淘宝 抖音 百度", u""},
+        {u"", u""},
+    };
+    for (const auto& [text, scheme] : cases) {
+        EXPECT_EQ(sharedScheme(text), scheme) << testing::PrintToString(text);
+    }
+}
+
+} // namespace
+} // namespace wentra::toolbox
