@@ -189,10 +189,18 @@ class Reader:
                 place(file, text, match), cls, "+" if kind == "classHook" else "-", selector,
                 types, True))
 
+    def find(self, pattern, text):
+        """The pattern's first match in a source or in what that includes, and the text around it."""
+        included = [self.files.get(file, "") for file in re.findall(r'#include "([^"]+)"', text)]
+        for searched in [text, *included]:
+            if match := re.search(pattern, searched):
+                return match, searched
+        return None, text
+
     def replacement(self, text, function):
         """The class that a replacement's receiver names, and its types; None: not told."""
         name = function.lstrip("&").split("::")[-1]
-        definition = re.search(rf"\b{name}\(\s*(?:objc::)?Next(?=<)", text)
+        definition, text = self.find(rf"\b{name}\(\s*(?:objc::)?Next(?=<)", text)
         if definition is None:
             return None, None
         signature, end = balanced(text, definition.end(), "<>")

@@ -2,7 +2,8 @@
 #pragma once
 
 #include "library/common/face.hpp"
-#include "library/editing/edit_menu_hooks.hpp"
+#include "library/editing/edit_menu.hpp"
+#include "library/editing/text_actions.hpp"
 #include "library/editing/text_gesture_hooks.hpp"
 
 namespace wentra::editing {

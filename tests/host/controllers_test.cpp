@@ -32,7 +32,7 @@ protected:
     json fresh() { return host.message({{"class", "UIViewController"}}, "new"); }
     /// A controller that nobody contains or presents: only its view lies in the window.
     json outsider() {
-        json controller = fresh();
+        const json controller = fresh();
         host.message(host.message(root, "view"), "addSubview:", {host.message(controller, "view")});
         return controller;
     }

@@ -19,7 +19,7 @@ TEST(Sharing, PicturesAreToldAsObjects) {
                  "presentViewController:animated:completion:", {sheet, false, nullptr});
     const json event = host.result({{"do", "events"}}).at(0);
     EXPECT_EQ(event.at("kind"), "share");
-    const json& items = event.at("items");
+    const json items = event.at("items");
     EXPECT_EQ(items.at(0), "text");
     EXPECT_EQ(items.at(1), "file:///a");
     EXPECT_EQ(items.at(2).at("class"), "UIImage");

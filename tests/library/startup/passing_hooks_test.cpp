@@ -6,8 +6,6 @@
 #include "bindings/objc/pool.hpp"
 #include "library/blocking/request_hooks.hpp"
 #include "library/common/face.hpp"
-#include "library/editing/edit_menu_hooks.hpp"
-#include "library/editing/text_gesture_hooks.hpp"
 #include "library/scratchpad/scratch_pad_hook.hpp"
 
 #include <gtest/gtest.h>
@@ -140,12 +138,6 @@ void expectAllPass(Table table) {
 }
 
 TEST(PassingHooks, RequestsAreMadeAsTheyWereAskedFor) { expectAllPass(&blocking::requestHooks); }
-
-TEST(PassingHooks, EditingAnswersAsItDidBefore) { expectAllPass(&editing::editMenuHooks); }
-
-TEST(PassingHooks, LabelsAndTextViewsAreCreatedAsBefore) {
-    expectAllPass(&editing::textGestureHooks);
-}
 
 TEST(PassingHooks, SettingsLoadsItsScreen) { expectAllPass(&scratchpad::scratchPadHooks); }
 

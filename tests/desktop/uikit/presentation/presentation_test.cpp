@@ -4,7 +4,6 @@
 #include "bindings/uikit/alert_controller.hpp"
 #include "bindings/uikit/navigation_controller.hpp"
 #include "bindings/uikit/popover_presentation_controller.hpp"
-#include "desktop/uikit/presentation/presentation.hpp"
 
 namespace {
 
@@ -289,36 +288,6 @@ TEST_F(Presenting, AContainedControllerFollowsItsView) {
     EXPECT_EQ(take(other_), "Dd");
     other_.removeFromParent();
     EXPECT_FALSE(other_.parent());
-}
-
-TEST_F(Presenting, WhatIsPresentedInAWindowIsKnownInOrder) {
-    using Controllers = std::vector<ui::ViewController>;
-    const auto known = [this] { return desktop::Presentation::presentedIn(window_); };
-    const auto outsider = ui::ViewController::make();
-    const auto third = ui::ViewController::make();
-    root_.view().addSubview(outsider.view());
-    outsider.present(third, true);
-    root_.present(other_, true);
-    EXPECT_EQ(known(), (Controllers{third, other_})) << "even before they come up";
-    finish();
-    EXPECT_EQ(known(), (Controllers{third, other_}));
-    EXPECT_TRUE(desktop::Presentation::presentedIn(nullptr).empty());
-    root_.dismiss(true);
-    EXPECT_EQ(known(), (Controllers{third})) << "what leaves is gone at once";
-    outsider.dismiss(false);
-}
-
-TEST_F(Presenting, WhatIsPresentedGoesWithItsPresenter) {
-    {
-        const objc::Pool pool;
-        const auto outsider = ui::ViewController::make();
-        root_.view().addSubview(outsider.view());
-        outsider.present(other_, false);
-        finish();
-        EXPECT_EQ(desktop::Presentation::presentedIn(window_).size(), 1U);
-    }
-    EXPECT_TRUE(desktop::Presentation::presentedIn(window_).empty());
-    EXPECT_FALSE(other_.presentingViewController());
 }
 
 TEST_F(Presenting, WhatLeavesARimOfTheRestIsElevated) {

@@ -1,5 +1,6 @@
 // What passes through the edit menu's hooks, and the synthesizer that a text view keeps.
-#include "library/editing/edit_menu_hooks.hpp"
+#include "library/editing/edit_menu.hpp"
+#include "library/editing/text_actions.hpp"
 
 #include "bindings/foundation/string.hpp"
 #include "bindings/objc/hook.hpp"
@@ -36,7 +37,7 @@ void expectTheFormerMethodIsAskedWithItsOwnArguments() {
     const objc::Pool pool;
     desktop::registerPlatform();
     objc::install(objc::hook<"UIResponder", "canPerformAction:withSender:", &note>());
-    install(editMenuHooks());
+    install(responderHooks());
     const auto view = ui::View::withFrame({});
     const auto action = objc::selector<"copy:">();
     EXPECT_FALSE((view.send<"canPerformAction:withSender:", bool>(action, u"sender"_ns)));

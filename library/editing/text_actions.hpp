@@ -1,4 +1,4 @@
-// The edit menu's extra commands: the methods that carry them, and the menu that offers them.
+// What the edit menu's commands do.
 #pragma once
 
 #include "bindings/objc/hook.hpp"
@@ -13,10 +13,9 @@ std::span<const objc::Change> menuItemCategory();
 /// The `synth` property of text views and text fields.
 std::span<const objc::Change> speechCategories();
 
-/// Watches for the edit menu about to show, on the main operation queue.
-void observeMenu();
-
-/// The hooks on responders, text views, text fields and the menu.
-std::span<const objc::Change> editMenuHooks();
+/// The commands of text views and of text fields, and the synthesizer that each view gets. What a
+/// text field has no hook for does nothing there.
+std::span<const objc::Change> textViewHooks();
+std::span<const objc::Change> textFieldHooks();
 
 } // namespace wentra::editing
