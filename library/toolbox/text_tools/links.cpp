@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <array>
-#include <unordered_set>
+#include <set>
 
 namespace wentra::toolbox {
 namespace {
@@ -38,7 +38,7 @@ bool startsWithFolder(std::u16string_view text) {
 
 std::vector<std::u16string> pathsIn(std::u16string_view text) {
     std::vector<std::u16string> paths;
-    std::unordered_set<std::u16string_view> known;
+    std::set<std::u16string_view> known;
     for (std::size_t start = text.find(u'/'); start != text.npos; start = text.find(u'/', start)) {
         if (!startsWithFolder(text.substr(start))) {
             ++start;
