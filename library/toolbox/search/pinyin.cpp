@@ -33,7 +33,8 @@ struct Romanized {
 };
 
 Alert alertOf(const Romanized& text) {
-    const Alert alert(u"文字转拼音结果"_ns, ns::String::from(u"\n" + text.both().utf16()));
+    const Alert alert(u"文字转拼音结果"_ns,
+                      ns::String::from(std::u16string(u"\n").append(text.both().utf16())));
     return alert.covering(ui::ModalPresentation::overCurrentContext);
 }
 
