@@ -1,6 +1,7 @@
 // Scroll views: their content's size, insets and offset.
 #include "desktop/uikit/scrolling/scroll_view.hpp"
 
+#include "bindings/uikit/navigation_controller.hpp"
 #include "desktop/quartzcore/animation/animation.hpp"
 #include "desktop/quartzcore/layer_values.hpp"
 #include "desktop/runtime/clock.hpp"
@@ -17,6 +18,18 @@ namespace {
 
 /// The platform's numbers of what a scroll view does about the safe area.
 enum class InsetAdjustment : long { automatic = 0, scrollableAxes = 1, never = 2, always = 3 };
+
+/// Whether the view is, or lies first in, that of a controller in a navigation controller: bars lie
+/// over it, even when there is nothing to scroll.
+bool isNavigatedContent(ui::View view) {
+    const auto controllerOf = [](ui::View content) {
+        return content.nextResponder().as<ui::ViewController>();
+    };
+    const ui::View around = view.superview();
+    const bool isFirst = around && around.subviews().first() == view;
+    return controllerOf(view).navigationController() ||
+           (isFirst && controllerOf(around).navigationController());
+}
 
 double finite(double value, double otherwise) { return std::isfinite(value) ? value : otherwise; }
 
@@ -153,9 +166,11 @@ UIEdgeInsets ScrollView::adjustedContentInset() const {
         return contentInset_;
     }
     const bool always = behaviour == InsetAdjustment::always;
+    const bool belowBar = behaviour == InsetAdjustment::automatic && isNavigatedContent(self());
     const UIEdgeInsets safe = self().safeAreaInsets();
     const CGSize room = self().bounds().size;
-    const bool down = always || alwaysBounceVertical_ || contentSize_.height > room.height;
+    const bool down =
+        always || belowBar || alwaysBounceVertical_ || contentSize_.height > room.height;
     const bool across = always || alwaysBounceHorizontal_ || contentSize_.width > room.width;
     return {contentInset_.top + (down ? safe.top : 0),
             contentInset_.left + (across ? safe.left : 0),

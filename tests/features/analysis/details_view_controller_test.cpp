@@ -9,9 +9,10 @@ using tests::Json;
 
 class Details : public testing::Test {
 protected:
-    Details() {
+    Details() : Details(80) {}
+    explicit Details(int lines) {
         std::string system;
-        for (int line = 0; line < 80; ++line) {
+        for (int line = 0; line < lines; ++line) {
             system += "UIKitCore.framework " + std::to_string(line) + "\n";
         }
         details = phone.message({{"class", "DetailsViewController"}}, "new");
@@ -70,6 +71,18 @@ TEST_F(Details, JumpsToTheAddOnsAndToBothEnds) {
     press("顶部");
     EXPECT_LE(scrolled(), 0);
     EXPECT_EQ(phone.find({{"title", "底部"}, {"visible", true}}).size(), 1U);
+}
+
+class ShortDetails : public Details {
+protected:
+    ShortDetails() : Details(1) {}
+};
+
+TEST_F(ShortDetails, BeginBelowTheBar) {
+    const Json bars = phone.find({{"class", "UINavigationBar"}, {"visible", true}});
+    const Json bar = bars.back()["rect"]; // over the application's
+    const Json rect = phone.node(view)["rect"];
+    EXPECT_EQ(rect[1].get<double>() - scrolled(), bar[1].get<double>() + bar[3].get<double>());
 }
 
 } // namespace
