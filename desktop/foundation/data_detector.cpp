@@ -5,6 +5,7 @@
 #include "desktop/class.hpp"
 #include "desktop/foundation/error_encoding.hpp"
 #include "desktop/foundation/link_detection.hpp"
+#include "desktop/foundation/percent_encoding.hpp"
 
 #include <array>
 
@@ -29,12 +30,15 @@ public:
     static LinkResultKind with(const DetectedLink& link) {
         const auto result = LinkResultKind::make();
         of(result).range_ = link.range;
-        of(result).url_ = ns::Url::withString(ns::String::from(link.url));
+        of(result).url_ = urlOf(ns::String::from(link.url));
         return result;
     }
     [[nodiscard]] ns::Url url() const { return url_; }
 
 private:
+    static ns::Url urlOf(ns::String text) {
+        return ns::Url::withString(ns::String::fromUtf8(percentEncodedBeyondAscii(text.utf8())));
+    }
     [[nodiscard]] ns::Range range() const { return range_; }
     [[nodiscard]] ns::TextCheckingType type() const { return ns::TextCheckingType::link; }
 

@@ -7,6 +7,7 @@
 #include "desktop/foundation/dictionary_files.hpp"
 #include "desktop/foundation/main_operation_queue.hpp"
 #include "desktop/foundation/observers.hpp"
+#include "desktop/foundation/percent_encoding.hpp"
 #include "desktop/foundation/property_list_serialization.hpp"
 #include "desktop/foundation/refusing_protocol.hpp"
 #include "desktop/foundation/string.hpp"
@@ -24,6 +25,7 @@ void install(const std::string& bundleIdentifier) {
     const objc::Pool pool;
     installStrings();
     installStringTransforms();
+    installPercentEncoding();
     registerDataDetector();
     const auto identifier = ns::String::fromUtf8(bundleIdentifier);
     installBundle(identifier);

@@ -7,6 +7,7 @@
 #include "bindings/uikit/pasteboard.hpp"
 #include "bindings/uikit/popover_presentation_controller.hpp"
 #include "bindings/uikit/table_view_controller.hpp"
+#include "library/common/light_background.hpp"
 #include "library/common/screens.hpp"
 #include "library/preferences/preference_keys.hpp"
 #include "library/preferences/preferences.hpp"
@@ -91,6 +92,7 @@ void SearchTargets::showMenu(ui::LongPressGestureRecognizer press) {
     constexpr CGSize size{140, 480};
     const auto list = ui::TableViewController::withStyle(ui::TableViewStyle::plain);
     list.setPreferredContentSize(size);
+    setLightBackground(list.tableView(), ui::Color::white());
     list.tableView().setSeparatorStyle(ui::TableViewCellSeparatorStyle::singleLine);
     list.tableView().registerClass(ui::TableViewCell::classObject(), reuseIdentifier());
     list.tableView().setDelegate(self());

@@ -31,6 +31,7 @@ ns::Dictionary partsIn(ns::Data answer) {
     return object.get(u"data"_ns).as<ns::Dictionary>();
 }
 
+/// A part that is not there is offered, too.
 void offerParts(FloatingViewController controller, ns::Dictionary parts) {
     const Alert sheet(
         ui::AlertController::with(u"请选择下载内容"_ns, nullptr, ui::AlertStyle::actionSheet));
@@ -60,13 +61,13 @@ void offerVideo(FloatingViewController controller, ns::String address) {
         // The controller must not end on another thread than the main one: it is moved there.
         [controller = objc::Strong(controller)](ns::Data answer, ns::UrlResponse,
                                                 ns::Error error) mutable {
-            dispatch::async(dispatch::mainQueue(), [controller = std::move(controller),
-                                                    answer = objc::Strong(answer),
-                                                    failed = static_cast<bool>(error)] {
-                if (const ns::Dictionary parts = partsIn(answer); parts && !failed) {
-                    offerParts(controller, parts);
-                }
-            });
+            dispatch::async(dispatch::mainQueue(),
+                            [controller = std::move(controller), answer = objc::Strong(answer),
+                             failed = static_cast<bool>(error)] {
+                                if (!failed) {
+                                    offerParts(controller, partsIn(answer));
+                                }
+                            });
         });
     ns::UrlSession::sharedSession().dataTask(url, completion).resume();
 }

@@ -130,6 +130,16 @@ TEST(SearchMenu, ShowsWhatIsSwitchedOnAndGoesWithTheChoice) {
         << "the page stays when the menu has gone";
 }
 
+TEST(SearchMenu, StaysWhiteInTheDark) {
+    Search phone(Json{{"百度", true}});
+    phone.result({{"do", "appearance"}, {"set", "dark"}});
+    phone.press("链接跳转", 0.3);
+    phone.advance(1);
+    const Json table = phone.find({{"class", "UITableView"}, {"visible", true}}).at(0);
+    EXPECT_EQ(table["backgroundColor"], "#ffffffff");
+    EXPECT_EQ(phone.find({{"text", "百度"}, {"visible", true}}).at(0)["style"], "light");
+}
+
 TEST(SearchMenu, IsEmptyWhenNothingIsSwitchedOn) {
     Search phone;
     phone.press("链接跳转", 0.3);

@@ -73,6 +73,11 @@ TEST_F(TextTools, OpenTheOnlyLinkAtOnceAndCopyIt) {
     EXPECT_EQ(alert(), nullptr);
 }
 
+TEST_F(TextTools, OpenLinksWithChineseInThem) {
+    findLinks("百科https://a.example/中");
+    EXPECT_EQ(openedUrls(), std::vector<std::string>{"https://a.example/%E4%B8%AD"});
+}
+
 TEST_F(TextTools, SayWhenThereIsNoLink) {
     findLinks("没有");
     const Json notice = phone.find({{"text", "未检测到链接❗️"}, {"visible", true}}).at(0);
@@ -91,6 +96,14 @@ TEST_F(TextTools, AskForThePartsOfAVideo) {
     phone.result({{"do", "wait"}, {"for", {{"text", "请选择下载内容"}}}, {"seconds", 10}});
     EXPECT_EQ(titles(), (std::vector<std::string>{"下载视频", "下载音频", "下载视频封面",
                                                   "下载音频封面", "取消"}));
+}
+
+TEST_F(TextTools, OfferThePartsOfAnUnknownVideo) {
+    phone.set({{"抖音链接解析", true}});
+    findLinks("打开抖音 https://v.douyin.com/unknown/ 看");
+    choose("https://v.douyin.com/unknown/");
+    phone.result({{"do", "wait"}, {"for", {{"text", "请选择下载内容"}}}, {"seconds", 10}});
+    EXPECT_EQ(titles().size(), 5U);
 }
 
 TEST_F(TextTools, SortTheLibrariesOfACrashReport) {
