@@ -12,6 +12,7 @@
 #include "bindings/objc/pool.hpp"
 #include "desktop/foundation/foundation.hpp"
 #include "desktop/platform/platform.hpp"
+#include "desktop/runtime/process_end.hpp"
 #include "desktop/uikit/uikit.hpp"
 #include "desktop/viewer/access.hpp"
 #include "desktop/viewer/listener.hpp"
@@ -174,7 +175,7 @@ int main(int count, char** words) {
             listApplications();
             return EXIT_SUCCESS;
         }
-        return ended(run(options));
+        endProcess(ended(run(options)));
     } catch (const UsageError& error) {
         std::fprintf(stderr, "%shost: %s\n", usage, error.what());
         return usageFailure;

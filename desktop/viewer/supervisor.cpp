@@ -1,6 +1,8 @@
 // Children, their ends, and the signals in between.
 #include "desktop/viewer/supervisor.hpp"
 
+#include "desktop/runtime/process_end.hpp"
+
 #include <array>
 #include <atomic>
 #include <cerrno>
@@ -105,7 +107,7 @@ pid_t startChild(const Start& start, const std::function<int(const Start&)>& pho
     sigset_t none;
     sigemptyset(&none);
     sigprocmask(SIG_SETMASK, &none, nullptr);
-    std::exit(phone(start));
+    endProcess(phone(start));
 }
 
 int waitFor(pid_t process) {

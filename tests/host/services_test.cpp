@@ -86,6 +86,16 @@ TEST_F(Serving, AnAnswerMayBeTooLate) {
     EXPECT_EQ(host.message(host.message(task, "error"), "code"), -1001);
 }
 
+TEST_F(Serving, TheHostEndsInTheMidstOfRequests) {
+    constexpr int requests = 40;
+    serve({{"service", "links"}, {"drop", true}}); // so that each opens a connection
+    for (int i = 0; i < requests; ++i) {
+        host.message(host.message(session(), "dataTaskWithURL:", {{{"url", whole}}}), "resume");
+    }
+    EXPECT_EQ(host.result({{"do", "quit"}}), nullptr);
+    EXPECT_EQ(host.wait(), 0);
+}
+
 TEST_F(Serving, WhatCannotBeServedIsRefused) {
     const std::vector<json> requests{
         json::object(),
