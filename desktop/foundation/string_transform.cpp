@@ -3,6 +3,7 @@
 
 #include "bindings/foundation/string_transform.hpp"
 #include "bindings/objc/hook.hpp"
+#include "desktop/foundation/gap_text.hpp"
 
 #include <unicode/translit.h>
 
@@ -41,9 +42,9 @@ ns::String transformed(ns::String text, ns::String transform, bool reverse) {
     if (found == nullptr) {
         return nullptr;
     }
-    icu::UnicodeString result = unicode(text.utf16());
+    GapText result(text.utf16());
     found->transliterate(result);
-    return ns::String::from({result.getBuffer(), static_cast<std::size_t>(result.length())});
+    return ns::String::from(result.text());
 }
 
 } // namespace
