@@ -5,6 +5,7 @@
 #include "desktop/foundation/data_detector.hpp"
 #include "desktop/foundation/delayed_perform.hpp"
 #include "desktop/foundation/dictionary_files.hpp"
+#include "desktop/foundation/json_serialization.hpp"
 #include "desktop/foundation/main_operation_queue.hpp"
 #include "desktop/foundation/observers.hpp"
 #include "desktop/foundation/percent_encoding.hpp"
@@ -32,6 +33,7 @@ void install(const std::string& bundleIdentifier) {
     installUserDefaults(identifier);
     installDictionaryFiles();
     installPropertyListSerialization();
+    installJsonSerialization();
     installDelayedPerform();
     installTimers();
     installMainOperationQueue();

@@ -3,8 +3,11 @@
 #include "bindings/foundation/json_serialization.hpp"
 #include "bindings/foundation/number.hpp"
 #include "bindings/objc/pool.hpp"
+#include "desktop/foundation/json_serialization.hpp"
 
 #include <gtest/gtest.h>
+
+#include <string>
 
 namespace {
 
@@ -42,6 +45,36 @@ TEST(Json, BrokenTextIsNil) {
         EXPECT_EQ(parsed(text), nullptr) << text;
     }
     EXPECT_TRUE(ns::JsonSerialization::object(nullptr).error);
+}
+
+std::string repeated(std::string_view text, std::size_t times) {
+    std::string result;
+    for (; times > 0; --times) {
+        result += text;
+    }
+    return result;
+}
+
+TEST(Json, NestingHasAnEnd) {
+    const objc::Pool pool;
+    desktop::foundation::installJsonSerialization();
+    EXPECT_TRUE(parsed(repeated("[", 512) + repeated("]", 512)));
+    EXPECT_TRUE(parsed("[" + repeated("[{}],", 1000) + "1]")) << "beside one another";
+    for (const std::string& text :
+         {repeated("[", 513) + repeated("]", 513), repeated("[", 1'000'000),
+          repeated("{\"a\":", 200'000), repeated({"[\0", 2}, 100'000)}) {
+        const auto result = ns::JsonSerialization::object(ns::Data::from(text));
+        EXPECT_FALSE(result.value);
+        EXPECT_EQ(result.error.code(), 3840);
+    }
+}
+
+TEST(Json, BracketsOfTextsAreNoNesting) {
+    const objc::Pool pool;
+    desktop::foundation::installJsonSerialization();
+    const std::string brackets = repeated("[", 1000);
+    EXPECT_EQ(value("\"" + brackets + "\"").assume<ns::String>().utf8(), brackets);
+    EXPECT_TRUE(value("\"\\\"" + brackets + "\"")) << "behind an escaped quotation mark";
 }
 
 } // namespace
