@@ -18,11 +18,8 @@ void copy(ns::String text) { ui::Pasteboard::generalPasteboard().setString(text)
 
 ns::String pasteboardText() { return ui::Pasteboard::generalPasteboard().string(); }
 
-/// A text and its pinyin, without the marks of the tones.
 struct Romanized {
-    explicit Romanized(ns::String text)
-        : original(text), pinyin(ns::applyTransform(ns::applyTransform(text, ns::mandarinToLatin()),
-                                                    ns::stripDiacritics())) {}
+    explicit Romanized(ns::String text) : original(text), pinyin(pinyinOf(text)) {}
 
     [[nodiscard]] ns::String both() const {
         return ns::String::from(original.utf16() + u"\n\n" + pinyin.utf16());
@@ -45,6 +42,11 @@ void addCopying(const Alert& alert, const Romanized& text) {
 }
 
 } // namespace
+
+ns::String pinyinOf(ns::String text) {
+    return ns::applyTransform(ns::applyTransform(text, ns::mandarinToLatin()),
+                              ns::stripDiacritics());
+}
 
 void Pinyin::showOfPasteboard(ui::GestureRecognizer press) const {
     const ns::String text = pasteboardText();

@@ -7,6 +7,10 @@
 
 namespace wentra::toolbox {
 
+/// The text with pinyin in place of its Chinese characters, without the marks of the tones; other
+/// letters lose their marks, too. Nil for nil.
+[[nodiscard]] ns::String pinyinOf(ns::String text);
+
 /// The alerts that show a text with its pinyin, and what can be done with the two.
 class Pinyin : public objc::Part<FloatingViewController> {
 public:
