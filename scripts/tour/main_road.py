@@ -7,6 +7,7 @@ from phone import Phone, expect
 SENTENCE, TRANSLATION = "good morning", "早上好"
 PREFERENCES = {"开启文字复制": True, "kqwzfc": True, "kqjfzt": True, "中英对比样式": True,
                "百度id": "desktop", "百度key": "desktop-key"}
+SEARCHES = ["AppStore", "百度", "知乎", "淘宝", "哔哩哔哩", "iOS地图"]
 BALL = [358, 222]
 BESIDE_THE_PANEL = [195, 20]
 ANIMATION = 0.5  # seconds, enough for whatever moves
@@ -32,19 +33,30 @@ def pick_the_words(phone):
     phone.picture("5-picked.png")
 
 
+def list_the_searches(phone):
+    print("7. Holding the button of links lists where the words can be looked up.")
+    phone.ask("press", on=phone.button("链接跳转"), seconds=0.5)
+    phone.advance(ANIMATION)
+    rows = phone.ask("find", where={"class": "UITableViewCell", "visible": True})
+    expect("the list has rows", len(rows), len(SEARCHES))
+    phone.picture("6-searches.png")
+    phone.tap(BESIDE_THE_PANEL)
+    phone.advance(ANIMATION)
+
+
 def translate(phone):
-    print("7. The picked words are translated by the service, which here is on this machine.")
+    print("8. The picked words are translated by the service, which here is on this machine.")
     phone.tap(phone.button("文字翻译"))
     phone.ask("wait", **{"for": {"class": "MovableAlertViewzerk"}, "seconds": 30})
     dialog = phone.ask("find", where={"class": "MovableAlertViewzerk"})[0]
     expect("the dialog shows", bool(phone.ask("find", where={"text": TRANSLATION})), True)
-    phone.picture("6-translation.png")
-    print("8. The dialog is moved aside, and the translation takes the sentence's place.")
+    phone.picture("7-translation.png")
+    print("9. The dialog is moved aside, and the translation takes the sentence's place.")
     x, y, width, _ = dialog["rect"]
     top = [x + width / 2, y + 20]
     phone.ask("slide", path=[top, [top[0], top[1] + 15], [top[0], top[1] + 90]])
     phone.tap(phone.button("直接替换"))
-    phone.picture("7-replaced.png")
+    phone.picture("8-replaced.png")
     phone.tap(phone.button("关闭窗口"))
     phone.tap(BESIDE_THE_PANEL)
     phone.advance(ANIMATION)
@@ -55,12 +67,13 @@ def translate(phone):
 def play():
     with tempfile.TemporaryDirectory(prefix="wentra-tour-") as root:
         with Phone(root) as phone:
-            phone.ask("preferences", set=PREFERENCES)
+            phone.ask("preferences", set=PREFERENCES | dict.fromkeys(SEARCHES, True))
         with Phone(root) as phone:
             copy_the_sentence(phone)
             pick_the_words(phone)
+            list_the_searches(phone)
             translate(phone)
-        print("9. From now on the application's label shows the translation.")
+        print("10. From now on the application's label shows the translation.")
         with Phone(root) as phone:
             expect("the label shows", phone.label(TRANSLATION)["text"], TRANSLATION)
-            phone.picture("8-label.png")
+            phone.picture("9-label.png")
