@@ -124,6 +124,16 @@ export class Phone {
         }
     }
 
+    /** A view of the class in front of everything else on the phone. */
+    async addView(className, frame) {
+        const view = await this.do("make", {
+            class: className, selector: "initWithFrame:", args: [{ rect: frame }],
+        });
+        const [window] = await this.tree();
+        await this.do("send", { to: window, selector: "addSubview:", args: [view] });
+        return view;
+    }
+
     /** The place in the page of a point of the screen. */
     async place([x, y]) {
         const box = await this.page.locator("#screen").boundingBox();

@@ -74,17 +74,6 @@ test("what changes is drawn anew, and nothing while nothing changes", async () =
     await phone.close();
 });
 
-/** A view of the class in front of everything else on the phone. */
-async function addView(phone, className, frame) {
-    const allocated = await phone.do("send", { to: { class: className }, selector: "alloc" });
-    const view = await phone.do("send", {
-        to: allocated, selector: "initWithFrame:", args: [{ rect: frame }],
-    });
-    const [window] = await phone.tree();
-    await phone.do("send", { to: window, selector: "addSubview:", args: [view] });
-    return view;
-}
-
 async function addRecognizer(phone, view, className, target, action) {
     const allocated = await phone.do("send", { to: { class: className }, selector: "alloc" });
     const recognizer = await phone.do("send", {
@@ -100,7 +89,7 @@ test("a click taps, and a held button presses", async () => {
         ["UITapGestureRecognizer", (point) => phone.tap(point)],
         ["UILongPressGestureRecognizer", (point) => phone.press(point, 700)],
     ]) {
-        const view = await addView(phone, "UIView", [100, 300, 80, 80]);
+        const view = await phone.addView("UIView", [100, 300, 80, 80]);
         await addRecognizer(phone, view, recognizer, view, "removeFromSuperview");
         await phone.tap([90, 290]); // beside it
         assert.ok(await phone.do("send", { to: view, selector: "superview" }), recognizer);
@@ -113,7 +102,7 @@ test("a click taps, and a held button presses", async () => {
 
 test("dragging and the wheel scroll", async () => {
     const phone = await Phone.open(browser, host.address);
-    const view = await addView(phone, "UIScrollView", [0, 200, 390, 500]);
+    const view = await phone.addView("UIScrollView", [0, 200, 390, 500]);
     await phone.do("send", { to: view, selector: "setContentSize:", args: [{ size: [390, 3000] }] });
     const offset = async () => (await phone.do("send", { to: view, selector: "contentOffset" })).point[1];
     const settled = async () => {
@@ -135,7 +124,7 @@ test("dragging and the wheel scroll", async () => {
 
 test("Alt makes two fingers", async () => {
     const phone = await Phone.open(browser, host.address);
-    const view = await addView(phone, "UIView", [0, 200, 390, 500]);
+    const view = await phone.addView("UIView", [0, 200, 390, 500]);
     await addRecognizer(phone, view, "UIPinchGestureRecognizer", view, "removeFromSuperview");
     await phone.drag([[200, 600], [200, 400]]); // one finger pinches nothing
     assert.ok(await phone.do("send", { to: view, selector: "superview" }));
@@ -147,7 +136,7 @@ test("Alt makes two fingers", async () => {
 
 test("typing reaches the first responder, input methods included", async () => {
     const phone = await Phone.open(browser, host.address);
-    const view = await addView(phone, "UITextView", [20, 200, 350, 120]);
+    const view = await phone.addView("UITextView", [20, 200, 350, 120]);
     const text = () => phone.do("send", { to: view, selector: "text" });
     await phone.tap([100, 220]);
     assert.equal(await phone.do("send", { to: view, selector: "isFirstResponder" }), true);
@@ -233,7 +222,7 @@ test("a web page on the phone is shown with what is in it", async () => {
     await new Promise((listening) => site.listen(0, "127.0.0.1", listening));
     const address = `http://127.0.0.1:${site.address().port}/`;
     const phone = await Phone.open(browser, host.address);
-    const view = await addView(phone, "WKWebView", [0, 200, 390, 300]);
+    const view = await phone.addView("WKWebView", [0, 200, 390, 300]);
     const request = await phone.do("send", {
         to: { class: "NSURLRequest" }, selector: "requestWithURL:", args: [{ url: address }],
     });
@@ -317,7 +306,7 @@ test("bad messages are refused, and the phone goes on", async () => {
 
 test("fingers on a touch screen are the phone's fingers", async () => {
     const phone = await Phone.open(browser, host.address, { hasTouch: true });
-    const view = await addView(phone, "UIView", [100, 300, 80, 80]);
+    const view = await phone.addView("UIView", [100, 300, 80, 80]);
     await addRecognizer(phone, view, "UITapGestureRecognizer", view, "removeFromSuperview");
     await phone.page.touchscreen.tap(...await phone.place([140, 340]));
     await phone.page.waitForTimeout(100);

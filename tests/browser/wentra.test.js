@@ -117,3 +117,31 @@ test("a copied sentence is translated and stays on the label", async () => {
     await phone.do("send", { to: label, selector: "setText:", args: ["hello"] });
     assert.equal((await phone.do("tree", { of: label })).text, "你好");
 });
+
+/** Where the edit menu is: in a window of the system's, which is in no tree. */
+async function menuFrame() {
+    const menu = await phone.do("send", {
+        to: { class: "UIMenuController" }, selector: "sharedMenuController",
+    });
+    return (await phone.do("send", { to: menu, selector: "menuFrame" })).rect;
+}
+
+test("a word picked by the mouse is translated from the edit menu", async () => {
+    await phone.do("preferences", {
+        set: { 中英对比样式: true, 百度id: "desktop", 百度key: "desktop-key" },
+    });
+    await phone.page.click("#tab-preferences");
+    for (const title of ["关闭菜单", "翻译文本"]) { // leaves one item on the menu
+        await phone.page.getByLabel(title, { exact: false }).check();
+    }
+    const view = await phone.addView("UITextView", [20, 150, 350, 120]);
+    await phone.do("send", { to: view, selector: "setText:", args: ["hello, nobody"] });
+    await phone.page.mouse.dblclick(...await phone.place([40, 167]));
+    assert.deepEqual(await phone.do("menu"), ["翻译"]);
+    assert.deepEqual(await phone.do("send", { to: view, selector: "selectedRange" }),
+        { range: [0, 5] });
+
+    await phone.tap(middle(await menuFrame()));
+    await first({ class: "MovableAlertViewzerk" });
+    await phone.showing("你好");
+});
