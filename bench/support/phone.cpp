@@ -6,6 +6,7 @@
 #include "desktop/foundation/foundation.hpp"
 #include "desktop/platform/platform.hpp"
 #include "desktop/uikit/uikit.hpp"
+#include "library/editing/menu_commands.hpp"
 #include "library/labels/stored_rules.hpp"
 #include "library/paths/root_path.hpp"
 #include "library/preferences/key_table.hpp"
@@ -13,6 +14,7 @@
 #include "tests/library/preferences/property_list/property_list_writer.hpp"
 #include "tests/support/temporary_folder.hpp"
 
+#include <algorithm>
 #include <bit>
 #include <chrono>
 #include <cstdio>
@@ -27,14 +29,21 @@ namespace {
 
 using namespace wentra;
 
-/// Every known key, and others up to 150; the label switches are among the switches that are on.
+bool isMenuSwitch(const preferences::Key& key) {
+    return std::ranges::any_of(editing::menuCommands, [&key](const editing::MenuCommand& command) {
+        return command.preference.name() == key.name();
+    });
+}
+
+/// Every known key, and others up to 150; among the switches that are on are those of labels and
+/// of the edit menu.
 preferences::WrittenEntries entries() {
     constexpr std::size_t keyCount = 150;
     constexpr std::size_t labelKeys = 10;
     preferences::WrittenEntries entries;
     using Keys = std::array<preferences::Key, preferences::knownKeyCount>;
     for (const preferences::Key& key : std::bit_cast<Keys>(preferences::keys)) {
-        entries.emplace_back(key.name(), entries.size() < labelKeys);
+        entries.emplace_back(key.name(), entries.size() < labelKeys || isMenuSwitch(key));
     }
     while (entries.size() < keyCount) {
         entries.emplace_back("otherKey" + std::to_string(entries.size()), true);

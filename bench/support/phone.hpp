@@ -9,8 +9,9 @@ namespace bench {
 /// Which form the preference file has.
 enum class PlistForm { xml, binary };
 
-/// Writes the preference file, 150 keys with every label switch on, below a device root that is
-/// made at the first call and removed at exit. Gives the file's path on the device.
+/// Writes the preference file, 150 keys with every switch of labels and of the edit menu on, below
+/// a device root that is made at the first call and removed at exit. Gives the file's path on the
+/// device.
 const std::string& preferenceFile(PlistForm form);
 
 /// Brings up the desktop platform with 1,000 text rules and 100 of each other kind in the user
