@@ -46,7 +46,7 @@ void update(Next<void()> next, ui::MenuController menu) {
     const auto items = itemsByTitle(menu.menuItems());
     const auto preferences = Preferences::read();
     for (const MenuCommand& command : menuCommands) {
-        if (const auto title = ns::String::from(command.title);
+        if (const ns::String title = command.title();
             preferences.on(command.preference) && !items.get(title)) {
             items.set(ui::MenuItem::with(title, command.action()), title);
         }
