@@ -50,14 +50,14 @@ char16_t nextStepCharacter(char16_t code) {
 std::size_t appendSlashed(std::u16string_view text, std::u16string& result) {
     constexpr std::u16string_view letters = u"abfnrtv";
     constexpr std::u16string_view meanings = u"\a\b\f\n\r\t\v";
-    if (const Number octal = number(text, 3, 8); octal.digits > 0) {
-        result += nextStepCharacter(octal.value);
-        return octal.digits;
-    }
     if (text.starts_with(u'U')) {
         const Number unit = number(text.substr(1), 4, 16);
         result += unit.value;
         return 1 + unit.digits;
+    }
+    if (const Number octal = number(text, 3, 8); octal.digits > 0) {
+        result += nextStepCharacter(octal.value);
+        return octal.digits;
     }
     if (const std::size_t letter = letters.find(text[0]); letter != letters.npos) {
         result += meanings[letter];

@@ -1,4 +1,4 @@
-// One pass each way.
+// A few straight passes each way.
 #include "library/toolbox/text_tools/unicode_escapes.hpp"
 
 #include "library/common/occurrences.hpp"
@@ -10,17 +10,29 @@
 namespace wentra::toolbox {
 namespace {
 
-void appendHexadecimal(char16_t unit, std::u16string& text) {
+/// Writes the unit's escape and gives where it ends.
+char16_t* writeEscape(char16_t unit, char16_t* place) {
     constexpr std::u16string_view digits = u"0123456789abcdef";
-    bool isLeading = true;
-    for (unsigned shift = 16; shift > 0;) {
+    *place++ = u'\\';
+    *place++ = u'u';
+    unsigned shift = unit < 0x10 ? 4U : unit < 0x100 ? 8U : unit < 0x1000 ? 12U : 16U;
+    while (shift > 0) {
         shift -= 4;
-        const unsigned digit = (unit >> shift) & 0xFU;
-        isLeading = isLeading && digit == 0 && shift > 0;
-        if (!isLeading) {
-            text += digits[digit];
-        }
+        *place++ = digits[(unit >> shift) & 0xFU];
     }
+    return place;
+}
+
+/// The text with \U for each \u.
+std::u16string capitalized(std::u16string_view text) {
+    std::u16string result(text);
+    if (!text.empty()) {
+        std::transform(text.begin() + 1, text.end(), text.begin(), result.begin() + 1,
+                       [](char16_t unit, char16_t before) {
+                           return before == u'\\' && unit == u'u' ? u'U' : unit;
+                       });
+    }
+    return result;
 }
 
 /// What stands before the first quotation mark without a backslash; nothing when the last backslash
@@ -74,19 +86,18 @@ bool hasHalfAPair(std::u16string_view text) {
 bool hasUnicodeEscapes(std::u16string_view text) { return text.find(u"\\u") != text.npos; }
 
 std::u16string unicodeEscapes(std::u16string_view text) {
-    constexpr std::size_t usualLength = 6;
-    std::u16string escapes;
-    escapes.reserve(usualLength * text.size());
+    constexpr std::size_t longest = 6;
+    std::u16string escapes(longest * text.size(), u'\0');
+    char16_t* end = escapes.data();
     for (const char16_t unit : text) {
-        escapes += u"\\u";
-        appendHexadecimal(unit, escapes);
+        end = writeEscape(unit, end);
     }
+    escapes.resize(static_cast<std::size_t>(end - escapes.data()));
     return escapes;
 }
 
 std::optional<std::u16string> withoutUnicodeEscapes(std::u16string_view text) {
-    std::u16string escaped(text);
-    replaceAll(escaped, u"\\u", u"\\U");
+    const std::u16string escaped = capitalized(text);
     const auto quoted = quotedPart(escaped);
     const auto rest = quoted && quoted->size() < escaped.size()
                           ? std::u16string_view(escaped).substr(quoted->size() + 1)
