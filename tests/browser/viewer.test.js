@@ -169,7 +169,7 @@ test("typing reaches the first responder, input methods included", async () => {
 
 test("fingers that a page leaves on the screen are taken away", async () => {
     const leaving = await Phone.open(browser, host.address);
-    const view = await addView(leaving, "UIView", [100, 300, 80, 80]);
+    const view = await leaving.addView("UIView", [100, 300, 80, 80]);
     await addRecognizer(leaving, view, "UILongPressGestureRecognizer", view, "removeFromSuperview");
     await leaving.page.mouse.move(...await leaving.place([140, 340]));
     await leaving.page.mouse.down();
