@@ -1,6 +1,8 @@
 // Each script's digits follow one another from its zero on.
 #include "library/common/decimal_digits.hpp"
 
+#include "library/common/surrogates.hpp"
+
 #include <algorithm>
 #include <array>
 
@@ -28,10 +30,8 @@ bool isDecimalDigit(char32_t character) {
 /// The character that begins the text, which gets shorter by it. Half a pair counts by itself.
 char32_t takeCharacter(std::u16string_view& text) {
     const char16_t first = text[0];
-    const bool isPair =
-        (first & 0xFC00U) == 0xD800U && text.size() > 1 && (text[1] & 0xFC00U) == 0xDC00U;
-    const char32_t character =
-        isPair ? 0x10000U + ((first & 0x3FFU) << 10U) + (text[1] & 0x3FFU) : first;
+    const bool isPair = text.size() > 1 && isSurrogatePair(first, text[1]);
+    const char32_t character = isPair ? characterOf(first, text[1]) : first;
     text.remove_prefix(isPair ? 2 : 1);
     return character;
 }

@@ -2,6 +2,7 @@
 #include "library/common/text_encoding.hpp"
 
 #include "library/common/byte_word.hpp"
+#include "library/common/surrogates.hpp"
 #include "library/common/utf8_character.hpp"
 
 #include <cstddef>
@@ -85,10 +86,9 @@ std::string utf8FromUtf16(std::u16string_view text) {
     for (std::size_t index = 0; index < text.size(); ++index) {
         char32_t character = text[index];
         if (isSurrogate(character)) {
-            const char32_t next = index + 1 < text.size() ? text[index + 1] : u'\0';
-            const bool paired = character < 0xDC00 && next >= 0xDC00 && next <= 0xDFFF;
-            character = paired ? 0x10000 + ((character - 0xD800) << 10) + (next - 0xDC00)
-                               : replacementCharacter;
+            const char16_t next = index + 1 < text.size() ? text[index + 1] : u'\0';
+            const bool paired = isSurrogatePair(text[index], next);
+            character = paired ? characterOf(text[index], next) : replacementCharacter;
             index += paired ? 1 : 0;
         }
         appendUtf8(character, utf8);

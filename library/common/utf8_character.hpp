@@ -1,12 +1,12 @@
 // Decodes one character of UTF-8.
 #pragma once
 
+#include "library/common/surrogates.hpp"
+
 #include <cstddef>
 #include <string_view>
 
 namespace wentra {
-
-constexpr bool isSurrogate(char32_t unit) { return unit >= 0xD800 && unit <= 0xDFFF; }
 
 struct Utf8Character {
     char32_t character = 0;

@@ -1,6 +1,8 @@
 // The token cutter.
 #include "library/toolbox/tokens.hpp"
 
+#include "library/common/surrogates.hpp"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -33,9 +35,6 @@ constexpr Class classOf(char16_t unit) {
     return unit == u'\u017F' || unit == u'\u212A' ? Class::word : Class::other;
 }
 
-constexpr bool isLeadSurrogate(char16_t unit) { return (unit & 0xFC00U) == 0xD800U; }
-constexpr bool isTrailSurrogate(char16_t unit) { return (unit & 0xFC00U) == 0xDC00U; }
-
 /// Where the piece that begins at `start`, with a character of that class, ends.
 std::size_t pieceEnd(std::u16string_view text, std::size_t start, Class first) {
     std::size_t end = start + 1;
@@ -43,7 +42,7 @@ std::size_t pieceEnd(std::u16string_view text, std::size_t start, Class first) {
         while (end < text.size() && classOf(text[end]) == first) {
             ++end;
         }
-    } else if (isLeadSurrogate(text[start]) && end < text.size() && isTrailSurrogate(text[end])) {
+    } else if (end < text.size() && isSurrogatePair(text[start], text[end])) {
         ++end;
     }
     return end;

@@ -3,6 +3,7 @@
 
 #include "library/common/occurrences.hpp"
 #include "library/common/slashed_text.hpp"
+#include "library/common/surrogates.hpp"
 #include "library/common/text_parts.hpp"
 
 #include <algorithm>
@@ -65,14 +66,10 @@ bool isComment(std::u16string_view rest) {
     }
 }
 
-bool isPair(char16_t first, char16_t second) {
-    return (first & 0xFC00U) == 0xD800U && (second & 0xFC00U) == 0xDC00U;
-}
-
 bool hasHalfAPair(std::u16string_view text) {
     for (std::size_t at = 0; at < text.size(); ++at) {
-        if ((text[at] & 0xF800U) == 0xD800U) {
-            if (at + 1 == text.size() || !isPair(text[at], text[at + 1])) {
+        if (isSurrogate(text[at])) {
+            if (at + 1 == text.size() || !isSurrogatePair(text[at], text[at + 1])) {
                 return true;
             }
             ++at;
