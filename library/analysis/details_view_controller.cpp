@@ -4,7 +4,6 @@
 #include "bindings/objc/peer.hpp"
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/keyboard.hpp"
-#include "bindings/uikit/navigation_controller.hpp"
 #include "bindings/uikit/navigation_item.hpp"
 #include "bindings/uikit/pasteboard.hpp"
 #include "bindings/uikit/search_bar.hpp"
@@ -66,10 +65,12 @@ private:
     void jump(ui::BarButtonItem button);
 
     void keyboardWillShow(ns::Notification notification) {
-        keepClear(ui::keyboard::frameEnd(notification).size.height);
+        leaveRoom(ui::keyboard::frameEnd(notification).size.height);
     }
-    void keyboardWillHide(ns::Notification) { keepClear(0); }
-    void keepClear(double keyboardHeight);
+    void keyboardWillHide(ns::Notification) { leaveRoom(0); }
+    void leaveRoom(double keyboardHeight) const {
+        keepClear(textView_, firstWindow(), self(), keyboardHeight);
+    }
     [[nodiscard]] ui::Window firstWindow() const {
         return ui::Application::sharedApplication().windows().first();
     }
@@ -164,11 +165,6 @@ void DetailsViewControllerPeer::jump(ui::BarButtonItem button) {
     textView_.scrollRangeToVisible(isAtBottom_ && length > 0 ? ns::Range{length - 1, 1}
                                                              : ns::Range{0, 0});
     button.setTitle(isAtBottom_ ? u"顶部"_ns : u"底部"_ns);
-}
-
-void DetailsViewControllerPeer::keepClear(double keyboardHeight) {
-    const double bar = self().navigationController().navigationBar().frame().size.height;
-    setInsets(textView_, {firstWindow().safeAreaInsets().top + bar, 0, keyboardHeight, 0});
 }
 
 } // namespace

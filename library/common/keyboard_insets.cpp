@@ -2,6 +2,7 @@
 #include "library/common/keyboard_insets.hpp"
 
 #include "bindings/uikit/keyboard.hpp"
+#include "bindings/uikit/navigation_controller.hpp"
 
 namespace wentra {
 
@@ -22,6 +23,12 @@ void stopWatchingKeyboard(objc::Object observer) {
 void setInsets(ui::ScrollView view, const UIEdgeInsets& insets) {
     view.setContentInset(insets);
     view.setScrollIndicatorInsets(insets);
+}
+
+void keepClear(ui::ScrollView view, ui::Window window, ui::ViewController controller,
+               double keyboardHeight) {
+    const double bar = controller.navigationController().navigationBar().frame().size.height;
+    setInsets(view, {window.safeAreaInsets().top + bar, 0, keyboardHeight, 0});
 }
 
 } // namespace wentra

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "bindings/uikit/scroll_view.hpp"
+#include "bindings/uikit/view_controller.hpp"
+#include "bindings/uikit/window.hpp"
 
 namespace wentra {
 
@@ -12,5 +14,10 @@ void stopWatchingKeyboard(objc::Object observer);
 
 /// Keeps the content and the scroll indicators away from the view's edges, in points.
 void setInsets(ui::ScrollView view, const UIEdgeInsets& insets);
+
+/// Insets that keep clear of the window's safe area and the controller's navigation bar above, and
+/// of a keyboard of that height in points below.
+void keepClear(ui::ScrollView view, ui::Window window, ui::ViewController controller,
+               double keyboardHeight);
 
 } // namespace wentra

@@ -3,7 +3,6 @@
 
 #include "bindings/dispatch/dispatch.hpp"
 #include "bindings/uikit/keyboard.hpp"
-#include "bindings/uikit/navigation_controller.hpp"
 #include "library/common/buttons.hpp"
 #include "library/common/keyboard_insets.hpp"
 #include "library/common/screens.hpp"
@@ -100,10 +99,7 @@ void HostFilterEditor::close(objc::Object) {
 }
 
 void HostFilterEditor::keyboardAppears(ns::Notification notification) {
-    const CGRect bar = self().navigationController().navigationBar().frame();
-    const CGRect keyboard = ui::keyboard::frameEnd(notification);
-    setInsets(text_,
-              {keyWindow().safeAreaInsets().top + bar.size.height, 0, keyboard.size.height, 0});
+    keepClear(text_, keyWindow(), self(), ui::keyboard::frameEnd(notification).size.height);
 }
 
 void HostFilterEditor::keyboardDisappears(ns::Notification) {
