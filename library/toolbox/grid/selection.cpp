@@ -78,14 +78,13 @@ void Selection::unpickAll(ns::Array paths) const {
 }
 
 void Selection::clear() const {
-    constexpr bool animated = true;
-    forgetTokens();
-    const ns::Enumerator paths = paths_.objects();
-    while (const objc::Object path = paths.next()) {
-        tiles_.view().deselectItem(path.assume<ns::IndexPath>(), !animated);
-        tiles_.colour(path.assume<ns::IndexPath>(), ui::Color::white());
+    constexpr bool animated = false;
+    const ns::Array paths = paths_.allObjects();
+    for (const objc::Object path : paths) {
+        tiles_.view().deselectItem(path.assume<ns::IndexPath>(), animated);
     }
-    paths_.removeAll();
+    forgetTokens();
+    unpickAll(paths);
 }
 
 } // namespace wentra::toolbox

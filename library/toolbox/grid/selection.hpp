@@ -46,10 +46,10 @@ public:
     /// Takes the tile out of the picked ones, and every token that equals its own out of the picked
     /// text. A path beyond the text, left over from a longer one, is forgotten.
     void unpick(ns::IndexPath path) const;
-    /// Nothing is picked any more, neither tokens nor tiles.
-    void clear() const;
     /// The same for many tiles in one pass, once the picked text was forgotten.
     void unpickAll(ns::Array paths) const;
+    /// Nothing is picked any more, neither tokens nor tiles.
+    void clear() const;
 
 private:
     const Tiles& tiles_;
