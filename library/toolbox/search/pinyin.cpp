@@ -62,7 +62,7 @@ void Pinyin::showOfPasteboard(ui::GestureRecognizer press) const {
         copy(controller.send<"urlDecode:", ns::String>(ns::String(text)));
     });
     addCopying(alert, romanized);
-    const objc::Strong voice = translation_.voice();
+    const objc::Strong voice = translation_.synthesizer();
     alert
         // By then the pasteboard may hold what an action has copied.
         .action(u"朗读文字"_ns,

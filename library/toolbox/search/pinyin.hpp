@@ -14,7 +14,7 @@ namespace wentra::toolbox {
 /// The alerts that show a text with its pinyin, and what can be done with the two.
 class Pinyin : public objc::Part<FloatingViewController> {
 public:
-    Pinyin(FloatingViewController whole, const Translation& translation)
+    Pinyin(FloatingViewController whole, Translation& translation)
         : Part(whole), translation_(translation) {}
     static Pinyin& of(objc::Object controller);
     static constexpr auto methods() {
@@ -37,7 +37,7 @@ private:
     [[nodiscard]] ns::String urlEncoded(ns::String text) const;
     [[nodiscard]] ns::String urlDecoded(ns::String text) const;
 
-    const Translation& translation_; ///< whose voice reads aloud
+    Translation& translation_; ///< whose voice reads aloud
 };
 
 } // namespace wentra::toolbox

@@ -30,8 +30,8 @@ public:
 
     /// The voice has said nothing yet.
     void begin() { synth_ = av::SpeechSynthesizer::make(); }
-    /// Nil before it is needed.
-    [[nodiscard]] av::SpeechSynthesizer voice() const { return synth_; }
+    /// The voice, made when it is first needed.
+    av::SpeechSynthesizer synthesizer();
 
 private:
     void translatePasteboard(objc::Object sender);
@@ -49,7 +49,6 @@ private:
     void show(ns::String title, ns::String message, ns::String original,
               ns::String translated) const;
     void showError(ns::String message) const;
-    av::SpeechSynthesizer synthesizer();
 
     const Selection& selection_;
     objc::Strong<av::SpeechSynthesizer> synth_; // nil before it is needed
