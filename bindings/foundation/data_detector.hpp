@@ -8,9 +8,9 @@ namespace ns {
 struct DataDetector : objc::Kind<DataDetector, "NSDataDetector", RegularExpression> {
     using Kind::Kind;
 
-    /// Nil where the type cannot be detected.
-    static DataDetector of(TextCheckingType type) {
-        return sendClass<"dataDetectorWithTypes:error:", DataDetector>(type,
+    /// Nil where one of the types cannot be detected.
+    static DataDetector withTypes(TextCheckingType types) {
+        return sendClass<"dataDetectorWithTypes:error:", DataDetector>(types,
                                                                        static_cast<void*>(nullptr));
     }
 };

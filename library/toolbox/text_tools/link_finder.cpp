@@ -54,7 +54,7 @@ ns::Array LinkFinder::linksIn(ns::String text) const {
         return links;
     }
     const auto known = ns::MutableSet::make();
-    const auto detector = ns::DataDetector::of(ns::TextCheckingType::link);
+    const auto detector = ns::DataDetector::withTypes(ns::TextCheckingType::link);
     for (const ns::TextCheckingResult match : detector.matches(text, {0, text.length()})) {
         const ns::String link = match.url().absoluteString();
         if (link.length() > 0 && !known.contains(link)) {
