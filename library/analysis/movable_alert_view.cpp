@@ -82,7 +82,8 @@ private:
     objc::Strong<ui::Button> filterDylibButton_;
     objc::Strong<ui::Button> filterSystemButton_;
     objc::Strong<ui::Button> filterErrorButton_;
-    objc::Strong<ui::Button> topButton_; ///< nothing makes these two
+    // Nothing makes these two; others may keep theirs here.
+    objc::Strong<ui::Button> topButton_;
     objc::Strong<ui::Button> bottomButton_;
 };
 

@@ -11,6 +11,7 @@
 
 namespace wentra::editing {
 
+/// Gives what the former initialiser makes a voice of its own.
 objc::Object withSynthesizer(objc::Next<objc::Object(CGRect)> next, ui::View view, CGRect frame);
 /// The library's own setter has kept the synthesizer already.
 void keepSynthesizer(objc::Next<void(objc::Object)> next, ui::View view, objc::Object synthesizer);

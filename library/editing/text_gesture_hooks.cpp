@@ -14,6 +14,7 @@
 #include "library/preferences/preferences.hpp"
 #include "library/toolbox/floating_view_controller.hpp"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -32,9 +33,9 @@ constexpr std::array<std::string_view, 2> videoApplications{"com.zhiliaoapp.musi
 constexpr std::string_view settings = "com.apple.Preferences";
 
 std::string applicationIdentifier() { return ns::Bundle::mainBundle().bundleIdentifier().utf8(); }
+
 bool isVideoApplication() {
-    const std::string application = applicationIdentifier();
-    return application == videoApplications[0] || application == videoApplications[1];
+    return std::ranges::count(videoApplications, applicationIdentifier()) != 0;
 }
 
 bool translatesDiscord(Object) { return Preferences::read().on(keys.translateInDiscord); }

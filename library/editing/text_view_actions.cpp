@@ -65,7 +65,8 @@ void highlight(ui::TextView view, ns::Range found) {
 void find(Next<void(ns::String)>, ui::TextView view, ns::String sought) {
     const ns::String text = view.text();
     const ns::Range whole{0, text.length()};
-    // What was highlighted before is not any more, unless it stands at the start.
+    // New characters look like the first one that they replace: so what was highlighted before is
+    // not any more, unless it stood at the start.
     view.textStorage().replace({0, view.textStorage().length()}, text);
     const auto found = sought ? text.rangeOf(sought, {}, whole) : std::nullopt;
     if (found) {

@@ -125,7 +125,7 @@ void SearchTargets::chose(ui::TableView table, ns::IndexPath path) {
     const ns::String title = titleAt(path);
     if (const ui::ViewController menu = menu_.strong(); menu.presentingViewController()) {
         menu.dismiss(animated, ui::ViewController::Completion::from(
-                                   [this, controller = objc::Strong(self()),
+                                   [this, keptAlive = objc::Strong(self()),
                                     title = objc::Strong(title)] { call(title); }));
     } else {
         call(title);
