@@ -36,6 +36,12 @@ protected:
         phone.message(details,
                       "searchBar:textDidChange:", {phone.message(details, "searchBar"), sought});
     }
+    /// Brings up the keyboard, or sends it away.
+    void edit(const Json& field, bool edits) {
+        phone.message(field, edits ? "becomeFirstResponder" : "resignFirstResponder");
+        phone.advance(1);
+    }
+    Json insets() { return phone.message(view, "contentInset")["insets"]; }
 
     tests::Phone phone{{"--app", "notes"}};
     Json details;
@@ -83,6 +89,28 @@ TEST_F(ShortDetails, BeginBelowTheBar) {
     const Json bar = bars.back()["rect"]; // over the application's
     const Json rect = phone.node(view)["rect"];
     EXPECT_EQ(rect[1].get<double>() - scrolled(), bar[1].get<double>() + bar[3].get<double>());
+}
+
+TEST_F(Details, KeepsTheTextClearOfTheBarAndTheKeyboard) {
+    const Json field = phone.message(phone.message(details, "searchBar"), "searchTextField");
+    const Json bar = phone.message(phone.message(details, "navigationController"), "navigationBar");
+    const double safe = phone.message(phone.window(), "safeAreaInsets")["insets"][0];
+    const double barHeight = phone.message(bar, "frame")["rect"][3];
+    edit(field, true);
+    EXPECT_EQ(insets()[0], safe + barHeight);
+    EXPECT_GT(insets()[2], 200);
+    EXPECT_EQ(phone.message(view, "scrollIndicatorInsets")["insets"], insets());
+    edit(field, false);
+    EXPECT_EQ(insets(), (Json{safe + barHeight, 0, 0, 0}));
+}
+
+TEST_F(Details, LeavesTheTextAloneOnceItHasGone) {
+    const Json before = insets();
+    phone.message(details, "dismissViewControllerAnimated:completion:", {false, nullptr});
+    const Json field = phone.make("UITextField");
+    phone.message(phone.window(), "addSubview:", {field});
+    edit(field, true);
+    EXPECT_EQ(insets(), before);
 }
 
 } // namespace

@@ -48,6 +48,9 @@ TEST_F(MovableAlert, ShowsWhatItsFiltersKeep) {
         phone.advance(1);
         const Json alert = phone.result({{"do", "alert"}});
         ASSERT_TRUE(alert.is_object()) << title;
+        constexpr int overFullScreen = 5;
+        const Json controller = phone.message(dialog, "getCurrentViewController");
+        EXPECT_EQ(phone.message(controller, "modalPresentationStyle"), overFullScreen);
         EXPECT_EQ(alert["title"], result);
         EXPECT_EQ(alert["message"], message);
         phone.result({{"do", "alert"}, {"choose", "确定"}});

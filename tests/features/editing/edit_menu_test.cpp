@@ -79,6 +79,13 @@ TEST_P(EditMenu, IsEmptyWhenEverythingIsSwitchedOff) {
     EXPECT_EQ(menu(), Titles{});
 }
 
+TEST_P(EditMenu, GetsItsItemsWithTheFirstResponder) {
+    phone.turnOn({"复制文本"});
+    input(GetParam(), "一段文字", 0, 2);
+    const Json controller = phone.message({{"class", "UIMenuController"}}, "sharedMenuController");
+    EXPECT_EQ(phone.message(controller, "menuItems").size(), 1U);
+}
+
 TEST_P(EditMenu, LeavesItemsOfTheApplicationAlone) {
     const Json view = input(GetParam(), "一段文字", 0, 2);
     const Json item =
@@ -97,7 +104,9 @@ TEST_P(EditMenu, CopiesCutsPastesAndDeletesTheSelection) {
     const Json view = input(GetParam(), "你好世界", 1, 2);
     run(view, "copyText:");
     EXPECT_EQ(phone.pasteboard(), "好世");
+    phone.copy("before");
     run(view, "cutText:");
+    EXPECT_EQ(phone.pasteboard(), "好世");
     EXPECT_EQ(phone.message(view, "text"), "你界");
     run(view, "pasteText:");
     EXPECT_EQ(phone.message(view, "text"), "你好世界");
@@ -236,6 +245,20 @@ TEST_P(Finding, HighlightsTheFirstOccurrence) {
     phone.message(view, "highlightAndScrollToText:", {"again"});
     EXPECT_EQ(colourAt(6), colourAt(0)) << "the former highlight is gone";
     EXPECT_NE(colourAt(14), colourAt(0));
+}
+
+TEST_P(Finding, ScrollsTheFoundTextToTheMiddle) {
+    std::string text;
+    for (int line = 0; line < 200; ++line) {
+        text += "line " + std::to_string(line) + "\n";
+    }
+    const Json view = input(GetParam(), text, static_cast<long>(text.find("line 150")), 0);
+    phone.message(view, "highlightAndScrollToText:", {"line 150"});
+    phone.advance(1);
+    const Json caret = phone.message(phone.message(view, "selectedTextRange"), "start");
+    const double top = phone.message(view, "caretRectForPosition:", {caret})["rect"][1];
+    const double scrolled = phone.message(view, "contentOffset")["point"][1];
+    EXPECT_NEAR(top - scrolled, 100, 15); // half of the view's height
 }
 
 TEST_P(Finding, SaysWhatIsNotThere) {

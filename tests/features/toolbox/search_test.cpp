@@ -45,19 +45,6 @@ class Search : public ToolboxPanel {
 public:
     using ToolboxPanel::ToolboxPanel;
 
-    Json pathOf(long row) {
-        return message({{"class", "NSIndexPath"}}, "indexPathForItem:inSection:", {row, 0});
-    }
-    void pick(const Json& words) {
-        panel("updateWordsArray:", {words});
-        const Json grid = panel("wordsCollectionView");
-        message(grid, "layoutIfNeeded");
-        for (long row = 0; row < static_cast<long>(words.size()); ++row) {
-            message(grid,
-                    "selectItemAtIndexPath:animated:scrollPosition:", {pathOf(row), false, 0});
-            panel("collectionView:didSelectItemAtIndexPath:", {grid, pathOf(row)});
-        }
-    }
     std::string openedUrl() {
         const auto urls = events("openURL");
         EXPECT_EQ(urls.size(), 1U);
@@ -163,11 +150,26 @@ TEST(WebPreview, LoadsThePageTwiceAndCloses) {
     phone.tap("关闭预览");
     phone.advance(1);
     EXPECT_TRUE(phone.find({{"class", "WKWebView"}, {"visible", true}}).empty());
+    EXPECT_EQ(phone.result({{"do", "screens"}}).size(), 1U);
     EXPECT_EQ(phone.panel("webView"), nullptr);
     EXPECT_EQ(phone.panel("webViewController"), nullptr);
     phone.copy("中 文");
     phone.panel("goyulan");
     EXPECT_TRUE(phone.events("webLoad").empty()) << "no URL";
+}
+
+TEST(PinyinAlert, StopsReadingWhenItIsClosed) {
+    Search phone;
+    phone.copy("一段很长很长的文字，读起来要花许多时间，直到有人把窗口关上");
+    phone.press("分享文字", 0.3);
+    phone.advance(1);
+    phone.choose("朗读文字");
+    phone.press("分享文字", 0.3);
+    phone.advance(1);
+    EXPECT_TRUE(phone.events("speechStopped").empty());
+    phone.choose("关闭窗口");
+    EXPECT_EQ(phone.events("speechStopped").size(), 1U);
+    EXPECT_EQ(phone.alert(), nullptr) << "a press shows one alert";
 }
 
 TEST(PinyinAlert, OffersBothTextsCodingAndSpeech) {

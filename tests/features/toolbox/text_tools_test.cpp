@@ -66,6 +66,12 @@ TEST_F(TextTools, OfferLinksPathsAndShareCodes) {
     EXPECT_EQ(openedUrls(), std::vector<std::string>{"taobao://"});
 }
 
+TEST_F(TextTools, OfferEachAddressOnce) {
+    findLinks("filza:///var/x www.example.com");
+    EXPECT_EQ(titles(),
+              (std::vector<std::string>{"filza:///var/x", "http://www.example.com", "取消"}));
+}
+
 TEST_F(TextTools, OpenTheOnlyLinkAtOnceAndCopyIt) {
     findLinks("见www.example.com。");
     EXPECT_EQ(openedUrls(), std::vector<std::string>{"http://www.example.com"});
@@ -122,6 +128,16 @@ TEST_F(TextTools, SortTheLibrariesOfACrashReport) {
                          "❌异常或越狱插件的可执行库:\n\nOdd.dylib\n\nOther.dylib\n\n"),
               std::string::npos)
         << shown;
+}
+
+TEST_F(TextTools, AnalyseThePickedWordsAndForgetThem) {
+    phone.pick({"Odd.dylib"});
+    phone.panel("zzjsButtonClicked:", {nullptr});
+    phone.advance(1);
+    const std::string shown =
+        phone.find({{"class", "UITextView"}, {"visible", true}}).at(0)["text"];
+    EXPECT_NE(shown.find("Odd.dylib"), std::string::npos);
+    EXPECT_EQ(phone.panel("selectedWords"), Json::array());
 }
 
 } // namespace

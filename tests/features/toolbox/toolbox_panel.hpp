@@ -43,6 +43,21 @@ public:
         result({{"do", "press"}, {"on", titled(title)}, {"seconds", seconds}});
     }
 
+    Json pathOf(long row) {
+        return message({{"class", "NSIndexPath"}}, "indexPathForItem:inSection:", {row, 0});
+    }
+    /// Shows these words and picks all of them.
+    void pick(const Json& words) {
+        panel("updateWordsArray:", {words});
+        const Json grid = panel("wordsCollectionView");
+        message(grid, "layoutIfNeeded");
+        for (long row = 0; row < static_cast<long>(words.size()); ++row) {
+            message(grid,
+                    "selectItemAtIndexPath:animated:scrollPosition:", {pathOf(row), false, 0});
+            panel("collectionView:didSelectItemAtIndexPath:", {grid, pathOf(row)});
+        }
+    }
+
     /// How often the pasteboard has been written.
     long pasteboardChanges() {
         return message(message({{"class", "UIPasteboard"}}, "generalPasteboard"), "changeCount");

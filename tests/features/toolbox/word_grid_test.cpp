@@ -23,9 +23,6 @@ public:
         message(grid(), "layoutIfNeeded");
     }
     Json grid() { return panel("wordsCollectionView"); }
-    Json pathOf(long row) {
-        return message({{"class", "NSIndexPath"}}, "indexPathForItem:inSection:", {row, 0});
-    }
     Json tile(long row) { return node(message(grid(), "cellForItemAtIndexPath:", {pathOf(row)})); }
     std::string textOf(long row) {
         const Json label = tile(row).at("children").at(0).at("children").at(0);

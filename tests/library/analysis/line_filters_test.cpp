@@ -36,7 +36,8 @@ TEST(LineFilters, CountDigitsOfEveryScript) {
     for (const std::u16string_view kept : {u"12", u"１ ２", u"٣a4", u"𝟎𝟗", u"九1和𞥙"}) {
         EXPECT_EQ(filtered(kept, numberFilter), std::u16string(kept) + u"\n");
     }
-    for (const std::u16string_view dropped : {u"1", u"一二三", u"½²③Ⅳ", u"1\xD835", u"/:1"}) {
+    for (const std::u16string_view dropped :
+         {u"1", u"一二三", u"½²③Ⅳ", u"1\xD835", u"/:1", u"٪1"}) {
         EXPECT_EQ(filtered(dropped, numberFilter), u"");
     }
 }

@@ -53,7 +53,7 @@ TEST(UnicodeEscapes, OfNoTextAreNothing) {
     }
 }
 
-/// The road that the description of the tool takes.
+/// The same by Foundation, which reads the text as a property list.
 std::optional<std::u16string> byPropertyList(std::u16string_view text) {
     std::u16string quoted(text);
     replaceAll(quoted, u"\\u", u"\\U");
