@@ -79,13 +79,6 @@ TEST_P(EditMenu, IsEmptyWhenEverythingIsSwitchedOff) {
     EXPECT_EQ(menu(), Titles{});
 }
 
-TEST_P(EditMenu, GetsItsItemsWithTheFirstResponder) {
-    phone.turnOn({"复制文本"});
-    input(GetParam(), "一段文字", 0, 2);
-    const Json controller = phone.message({{"class", "UIMenuController"}}, "sharedMenuController");
-    EXPECT_EQ(phone.message(controller, "menuItems").size(), 1U);
-}
-
 TEST_P(EditMenu, LeavesItemsOfTheApplicationAlone) {
     const Json view = input(GetParam(), "一段文字", 0, 2);
     const Json item =
@@ -221,6 +214,15 @@ TEST_P(EditMenu, DoesNothingOnOtherResponders) {
     phone.copy("before");
     run(label, "copyText:");
     EXPECT_EQ(phone.pasteboard(), "before");
+}
+
+TEST(EditMenuItems, ComeWhenAResponderIsAskedToBeTheFirst) {
+    tests::Phone phone{{"--app", "notes"}};
+    phone.turnOn({"复制文本"});
+    const Json view = phone.make("UIView");
+    EXPECT_EQ(phone.message(view, "canBecomeFirstResponder"), false);
+    const Json controller = phone.message({{"class", "UIMenuController"}}, "sharedMenuController");
+    EXPECT_EQ(phone.message(controller, "menuItems").size(), 1U);
 }
 
 class Finding : public EditMenu {};
