@@ -134,8 +134,8 @@ void showDialog(Object, ns::String title, ns::String message) {
         return;
     }
     const auto dialog = analysis::MovableAlertView::with(title, message);
-    const CGSize size = screen.bounds().size;
-    dialog.setCenter({size.width / 2, size.height / 2});
+    const auto [scrolled, size] = screen.bounds();
+    dialog.setCenter({scrolled.x + size.width / 2, scrolled.y + size.height / 2});
     screen.addSubview(dialog);
 }
 

@@ -100,6 +100,22 @@ TEST(TextGestures, TwoFingersShowTheTextOfATextView) {
     EXPECT_FALSE(scene.phone.find({{"text", "hello"}, {"class", "UITextView"}}).empty());
 }
 
+TEST(TextGestures, TheTextIsInTheMiddleOfAScrolledScreen) {
+    constexpr long fullScreen = 0;
+    Scene scene("dev.other", "崩溃日志过滤", "UITextView");
+    const Json screen = scene.phone.make("UIScrollView", {0, 0, 390, 844});
+    scene.phone.message(screen, "setContentSize:", {{{"size", {390, 3000}}}});
+    const Json controller = scene.phone.message({{"class", "UIViewController"}}, "new");
+    scene.phone.message(controller, "setView:", {screen});
+    scene.phone.message(controller, "setModalPresentationStyle:", {fullScreen});
+    scene.phone.message(scene.phone.message(scene.phone.window(), "rootViewController"),
+                        "presentViewController:animated:completion:", {controller, false, nullptr});
+    scene.phone.message(screen, "setContentOffset:", {{{"point", {0, 500}}}});
+    scene.phone.message(scene.label, "showAlertWithTitle:message:", {"title", "text"});
+    const Json dialog = scene.phone.find({{"class", "MovableAlertView"}}).at(0);
+    EXPECT_EQ(dialog["rect"], (Json{36, 149.5, 318, 545}));
+}
+
 TEST(TextGestures, AreNotAddedWhileTheSwitchIsOff) {
     Scene scene("dev.other", "崩溃日志过滤", "UITextView");
     scene.phone.set({{"崩溃日志过滤", false}});
