@@ -19,7 +19,7 @@ char16_t* writeEscape(char16_t unit, char16_t* place) {
     unsigned shift = unit < 0x10 ? 4U : unit < 0x100 ? 8U : unit < 0x1000 ? 12U : 16U;
     while (shift > 0) {
         shift -= 4;
-        *place++ = digits[(unit >> shift) & 0xFU];
+        *place++ = digits[(static_cast<unsigned>(unit) >> shift) & 0xFU];
     }
     return place;
 }
