@@ -4,6 +4,7 @@
 #include "bindings/objc/peer.hpp"
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/keyboard.hpp"
+#include "bindings/uikit/navigation_controller.hpp"
 #include "bindings/uikit/navigation_item.hpp"
 #include "bindings/uikit/pasteboard.hpp"
 #include "bindings/uikit/search_bar.hpp"
