@@ -12,6 +12,7 @@
 #include "library/preferences/preference_keys.hpp"
 #include "library/preferences/preferences.hpp"
 #include "library/toolbox/panel/host_screens.hpp"
+#include "library/toolbox/search/target_rows.hpp"
 
 #include <array>
 #include <span>
@@ -20,28 +21,6 @@ namespace wentra::toolbox {
 namespace {
 
 using namespace ns::literals;
-
-struct Row {
-    std::u16string_view title;
-    std::u16string_view method;
-};
-
-/// Titles, which are also the names of the switches, and the methods that the rows call.
-constexpr std::array<Row, 25> targets{{
-    {u"AppStore", u"goToAppStore"},  {u"下载", u"goxiazai"},
-    {u"预览", u"goyulan"},           {u"百度", u"goTobaidusou"},
-    {u"必应", u"gobiying"},          {u"谷歌", u"goGoogle"},
-    {u"推特", u"goToTwitter"},       {u"微博", u"goToweibo"},
-    {u"知乎", u"goTozhihu"},         {u"淘宝", u"gotaobao"},
-    {u"京东", u"goTojingdong"},      {u"小红书", u"gotoxhs"},
-    {u"拼多多", u"gotopdd"},         {u"盘搜搜", u"goTopansousou"},
-    {u"YouTube", u"goyoutube"},      {u"saily+源", u"gotosaily"},
-    {u"哔哩哔哩", u"goTobilibili"},  {u"iOS地图", u"goToiOSmap"},
-    {u"百度地图", u"goTobaiduditu"}, {u"高德地图", u"goTogaode"},
-    {u"图标搜图", u"goTotubiao"},    {u"天眼查网页", u"goTotianyanchawy"},
-    {u"花瓣网搜图", u"goTohuaban"},  {u"yandex搜图", u"goToyandex"},
-    {u"抖音网页搜索", u"goTodywy"},
-}};
 
 /// By the system, or in the application when the user wants that of web pages.
 void open(ns::Url url, Opener opener) {
@@ -68,7 +47,7 @@ ns::String reuseIdentifier() { return u"cellID"_ns; }
 ns::Array shownTargets(ns::Dictionary preferences) {
     const auto titles = ns::MutableArray::make();
     const auto on = ns::Number::from(true);
-    for (const Row& target : targets) {
+    for (const TargetRow& target : targetRows) {
         const auto title = ns::String::from(target.title);
         if (preferences.get(title).isEqual(on)) {
             titles.add(title);
@@ -79,14 +58,14 @@ ns::Array shownTargets(ns::Dictionary preferences) {
 
 ns::Dictionary targetMethods() {
     const auto methods = ns::MutableDictionary::make();
-    for (const Row& target : targets) {
+    for (const TargetRow& target : targetRows) {
         methods.set(ns::String::from(target.method), ns::String::from(target.title));
     }
     return methods;
 }
 
 void SearchTargets::showMenu(ui::LongPressGestureRecognizer press) {
-    if (press.state() != ui::GestureState::began) {
+    if (press.state() != ui::GestureState::began || !press.view()) {
         return;
     }
     constexpr CGSize size{140, 480};

@@ -1,5 +1,7 @@
 // The page's list of preferences has exactly the keys that the library reads, of the same kinds.
+#include "desktop/foundation/text.hpp"
 #include "library/preferences/preference_keys.hpp"
+#include "library/toolbox/search/target_rows.hpp"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -28,12 +30,16 @@ Kinds listed() {
     return kinds;
 }
 
-/// The names in the library's table, which holds keys and nothing else.
+/// The names in the library's table, which holds keys and nothing else, and the targets of
+/// searches, whose titles are keys.
 std::vector<std::string> known() {
     using Keys = std::array<Key, sizeof(PreferenceKeys) / sizeof(Key)>;
     std::vector<std::string> names;
     for (const Key& key : std::bit_cast<Keys>(keys)) {
         names.emplace_back(key.name());
+    }
+    for (const wentra::toolbox::TargetRow& target : wentra::toolbox::targetRows) {
+        names.push_back(desktop::toUtf8(target.title));
     }
     return names;
 }
