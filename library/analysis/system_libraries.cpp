@@ -149,14 +149,19 @@ constexpr auto frameworks = byLastUnit<79>({
     u"WirelessProximity",
 });
 
+struct ByLastUnit {
+    bool operator()(std::u16string_view name, char16_t unit) const { return name.back() < unit; }
+    bool operator()(char16_t unit, std::u16string_view name) const { return unit < name.back(); }
+};
+
 bool endsWithOneOf(std::u16string_view text, Names names) {
     if (text.empty()) {
         return false;
     }
-    const auto candidates = std::ranges::equal_range(
-        names, text.back(), {}, [](std::u16string_view name) { return name.back(); });
-    return std::ranges::any_of(candidates,
-                               [text](std::u16string_view name) { return text.ends_with(name); });
+    const auto [first, last] =
+        std::equal_range(names.begin(), names.end(), text.back(), ByLastUnit{});
+    return std::any_of(first, last,
+                       [text](std::u16string_view name) { return text.ends_with(name); });
 }
 
 /// Whether one of the names stands in the line with the ending behind it.
