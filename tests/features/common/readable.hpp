@@ -43,7 +43,7 @@ inline double contrast(const Paint& one, const Paint& other) {
         };
         return 0.2126 * linear(paint[0]) + 0.7152 * linear(paint[1]) + 0.0722 * linear(paint[2]);
     };
-    const auto [dark, light] = std::minmax(luminance(one), luminance(other));
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
     return (light + 0.05) / (dark + 0.05);
 }
 
