@@ -14,9 +14,6 @@
 #include "library/toolbox/panel/host_screens.hpp"
 #include "library/toolbox/search/target_rows.hpp"
 
-#include <array>
-#include <span>
-
 namespace wentra::toolbox {
 namespace {
 
