@@ -1,13 +1,16 @@
 // The edit menu's items, and which actions its views perform.
 #include "library/editing/edit_menu.hpp"
 
-#include "bindings/foundation/dictionary.hpp"
+#include "bindings/foundation/array.hpp"
 #include "bindings/foundation/notification_center.hpp"
 #include "bindings/uikit/menu_controller.hpp"
 #include "library/editing/menu_commands.hpp"
 #include "library/preferences/preferences.hpp"
 
 #include <array>
+#include <functional>
+#include <map>
+#include <string>
 
 namespace wentra::editing {
 namespace {
@@ -30,28 +33,44 @@ bool canPerform(Next<bool(SEL, Object)> next, Object, SEL action, Object sender)
     return isMenuCommand(action) || next(action, sender);
 }
 
-/// The application's items by their titles.
-ns::MutableDictionary itemsByTitle(ns::ArrayOf<ui::MenuItem> items) {
-    const auto byTitle = ns::MutableDictionary::make();
+using ItemsByTitle = std::map<std::u16string, ui::MenuItem, std::less<>>;
+
+ItemsByTitle itemsByTitle(ns::ArrayOf<ui::MenuItem> items) {
+    ItemsByTitle byTitle;
     for (const ui::MenuItem item : items) {
-        const ns::String title = item.title();
-        byTitle.set(item, title ? title : u""_ns);
+        byTitle.insert_or_assign(item.title().utf16(), item);
     }
     return byTitle;
 }
 
 /// An item of the application's that has a command's title stands for the command.
-void update(Next<void()> next, ui::MenuController menu) {
-    next();
-    const auto items = itemsByTitle(menu.menuItems());
+void addCommands(ItemsByTitle& items) {
     const auto preferences = Preferences::read();
     for (const MenuCommand& command : menuCommands) {
-        if (const ns::String title = command.title();
-            preferences.on(command.preference) && !items.get(title)) {
-            items.set(ui::MenuItem::with(title, command.action()), title);
+        if (preferences.on(command.preference) && !items.contains(command.title)) {
+            const auto title = ns::String::from(command.title);
+            items.emplace(command.title, ui::MenuItem::with(title, command.action()));
         }
     }
-    menu.setMenuItems(items.allValues());
+}
+
+ns::Array arrayOf(const ItemsByTitle& items) {
+    const auto array = ns::MutableArray::make();
+    for (const auto& [title, item] : items) {
+        array.add(item);
+    }
+    return array;
+}
+
+/// At most updates nothing is new: the former items stay then.
+void update(Next<void()> next, ui::MenuController menu) {
+    next();
+    const objc::Strong former(menu.menuItems()); // asking for a title may set others
+    auto items = itemsByTitle(former);
+    const std::size_t different = items.size();
+    addCommands(items);
+    const bool isSame = former && different == former.count() && different == items.size();
+    menu.setMenuItems(isSame ? ns::Array(former) : arrayOf(items));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 
 namespace {
 
@@ -216,13 +217,53 @@ TEST_P(EditMenu, DoesNothingOnOtherResponders) {
     EXPECT_EQ(phone.pasteboard(), "before");
 }
 
-TEST(EditMenuItems, ComeWhenAResponderIsAskedToBeTheFirst) {
+class EditMenuItems : public testing::Test {
+protected:
+    Json item(const Json& title, const std::string& action) {
+        return phone.message(phone.message({{"class", "UIMenuItem"}}, "alloc"),
+                             "initWithTitle:action:", {title, {{"selector", action}}});
+    }
+    /// The actions under their titles after an update of those items.
+    std::multimap<Json, Json> updated(const Json& items) {
+        phone.message(controller, "setMenuItems:", {items});
+        phone.message(controller, "update");
+        std::multimap<Json, Json> actions;
+        for (const Json& shown : phone.message(controller, "menuItems")) {
+            actions.emplace(phone.message(shown, "title"),
+                            phone.message(shown, "action")["selector"]);
+        }
+        return actions;
+    }
+
     tests::Phone phone{{"--app", "notes"}};
+    Json controller = phone.message({{"class", "UIMenuController"}}, "sharedMenuController");
+};
+
+TEST_F(EditMenuItems, ComeWhenAResponderIsAskedToBeTheFirst) {
     phone.turnOn({"复制文本"});
     const Json view = phone.make("UIView");
     EXPECT_EQ(phone.message(view, "canBecomeFirstResponder"), false);
-    const Json controller = phone.message({{"class", "UIMenuController"}}, "sharedMenuController");
     EXPECT_EQ(phone.message(controller, "menuItems").size(), 1U);
+}
+
+TEST_F(EditMenuItems, AreNoneAtFirst) {
+    EXPECT_EQ(updated(nullptr), (std::multimap<Json, Json>{}));
+    EXPECT_EQ(phone.message(controller, "menuItems"), Json::array());
+}
+
+TEST_F(EditMenuItems, OfOneTitleAreOneTheLast) {
+    const Json own = Json::array({item("甲", "copy:"), item("乙", "cut:"), item("甲", "paste:")});
+    EXPECT_EQ(updated(own), (std::multimap<Json, Json>{{"甲", "paste:"}, {"乙", "cut:"}}));
+    phone.turnOn({"剪切文本"});
+    EXPECT_EQ(updated(own),
+              (std::multimap<Json, Json>{{"甲", "paste:"}, {"乙", "cut:"}, {"剪切", "cutText:"}}))
+        << "one goes and one comes";
+}
+
+TEST_F(EditMenuItems, NeedNoTitle) {
+    phone.turnOn({"剪切文本"});
+    const Json own = Json::array({item(nullptr, "copy:"), item("", "paste:")});
+    EXPECT_EQ(updated(own), (std::multimap<Json, Json>{{"", "paste:"}, {"剪切", "cutText:"}}));
 }
 
 class Finding : public EditMenu {};
