@@ -1,8 +1,6 @@
 // Resolves backslashes.
 #include "library/common/slashed_text.hpp"
 
-#include <algorithm>
-
 namespace wentra {
 namespace {
 
@@ -15,70 +13,38 @@ constexpr std::u16string_view nextStepCharacters = u"\u00A0ÀÁÂÃÄÅÇÈÉÊ�
                                                    u"ìÆíªîïðñŁØŒºòóôõöæùúûıüýłøœßþÿ\uFFFD\uFFFD"sv;
 static_assert(nextStepCharacters.size() == 128);
 
-struct Number {
-    char16_t value = 0;
-    std::size_t digits = 0;
-};
-
-/// 16 or more for what is no digit.
-constexpr unsigned digit(char16_t unit) {
-    if (unit >= u'0' && unit <= u'9') {
-        return unit - u'0';
-    }
-    const auto lower = static_cast<char16_t>(unit | 0x20U);
-    return lower >= u'a' && lower <= u'f' ? lower - u'a' + 10U : 16U;
-}
-
-Number number(std::u16string_view text, std::size_t most, unsigned base) {
-    Number read;
-    for (const char16_t unit : text.substr(0, most)) {
-        if (digit(unit) >= base) {
-            break;
-        }
-        read.value = static_cast<char16_t>(read.value * base + digit(unit));
-        ++read.digits;
-    }
-    return read;
-}
-
 char16_t nextStepCharacter(char16_t code) {
     code &= 0xFF;
     return code < 0x80 ? code : nextStepCharacters[code - 0x80];
 }
 
-/// Appends what follows a backslash, and gives how much of the text that was.
-std::size_t appendSlashed(std::u16string_view text, std::u16string& result) {
+} // namespace
+
+Slashed slashed(std::u16string_view text) {
     constexpr std::u16string_view letters = u"abfnrtv";
     constexpr std::u16string_view meanings = u"\a\b\f\n\r\t\v";
-    if (text.starts_with(u'U')) {
-        const Number unit = number(text.substr(1), 4, 16);
-        result += unit.value;
-        return 1 + unit.digits;
+    if (text[0] == u'U') {
+        return slashedUnit(text);
     }
-    if (const Number octal = number(text, 3, 8); octal.digits > 0) {
-        result += nextStepCharacter(octal.value);
-        return octal.digits;
+    if (const Slashed octal = detail::digits(text, 3, 8); octal.length > 0) {
+        return {nextStepCharacter(octal.unit), octal.length};
     }
-    if (const std::size_t letter = letters.find(text[0]); letter != letters.npos) {
-        result += meanings[letter];
-        return 1;
-    }
-    return 0; // stands for itself
+    const std::size_t letter = letters.find(text[0]);
+    return {letter == letters.npos ? text[0] : meanings[letter], 1};
 }
-
-} // namespace
 
 std::u16string unslashed(std::u16string_view text) {
     std::u16string result;
     result.reserve(text.size());
-    std::size_t standing = 0; // a character that stands for itself, a backslash perhaps
     while (!text.empty()) {
-        const std::size_t plain = std::min(text.find(u'\\', standing), text.size());
+        const std::size_t plain = std::min(text.find(u'\\'), text.size());
         result += text.substr(0, plain);
         text.remove_prefix(std::min(plain + 1, text.size()));
-        const std::size_t slashed = text.empty() ? 0 : appendSlashed(text, result);
-        text.remove_prefix(slashed);
-        standing = slashed == 0 ? 1 : 0;
+        if (!text.empty()) {
+            const auto [unit, length] = slashed(text);
+            result += unit;
+            text.remove_prefix(length);
+        }
     }
     return result;
 }

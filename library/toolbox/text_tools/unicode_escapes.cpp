@@ -7,6 +7,7 @@
 #include "library/common/text_parts.hpp"
 
 #include <algorithm>
+#include <utility>
 
 namespace wentra::toolbox {
 namespace {
@@ -24,27 +25,54 @@ char16_t* writeEscape(char16_t unit, char16_t* place) {
     return place;
 }
 
-/// The text with \U for each \u.
-std::u16string capitalized(std::u16string_view text) {
-    std::u16string result(text);
-    if (!text.empty()) {
-        std::transform(text.begin() + 1, text.end(), text.begin(), result.begin() + 1,
-                       [](char16_t unit, char16_t before) {
-                           return before == u'\\' && unit == u'u' ? u'U' : unit;
-                       });
-    }
-    return result;
-}
+constexpr bool endsPlainText(char16_t unit) { return unit == u'\\' || unit == u'"'; }
 
-/// What stands before the first quotation mark without a backslash; nothing when the last backslash
-/// takes the mark that would follow the text.
-std::optional<std::u16string_view> quotedPart(std::u16string_view text) {
-    std::size_t end = 0;
-    while (end < text.size() && text[end] != u'"') {
-        end += text[end] == u'\\' ? 2U : 1U;
+/// Reads a text up to the first quotation mark without a backslash.
+class QuotedText {
+public:
+    explicit QuotedText(std::u16string_view text) : rest_(text) { plain_.reserve(text.size()); }
+
+    /// Whether the text ends: not when its last backslash takes the mark that would follow it.
+    bool read() {
+        while (!rest_.empty() && rest_[0] != u'"') {
+            if (rest_[0] != u'\\') {
+                readPlainText();
+            } else if (rest_.size() > 1) {
+                readEscape();
+            } else {
+                return false;
+            }
+        }
+        return true;
     }
-    return end > text.size() ? std::nullopt : std::optional(text.substr(0, end));
-}
+
+    [[nodiscard]] std::u16string_view rest() const { return rest_; }
+    [[nodiscard]] std::u16string takePlain() { return std::move(plain_); }
+
+private:
+    void take(std::size_t count) { rest_.remove_prefix(count); }
+
+    void readPlainText() {
+        const auto end = std::ranges::find_if(rest_, endsPlainText);
+        plain_.append(rest_.begin(), end);
+        take(static_cast<std::size_t>(end - rest_.begin()));
+    }
+
+    void readEscape() {
+        take(1);
+        const auto [unit, length] = rest_[0] == u'u' ? slashedUnit(rest_) : slashed(rest_);
+        plain_ += unit;
+        const bool isSlash = rest_[0] == u'\\';
+        take(length);
+        if (isSlash && rest_.starts_with(u'u')) { // also behind a backslash
+            plain_ += u'U';
+            take(1);
+        }
+    }
+
+    std::u16string_view rest_;
+    std::u16string plain_;
+};
 
 constexpr bool endsLineComment(char16_t unit) {
     return unit == u'\n' || unit == u'\r' || unit == 0x2028 || unit == 0x2029;
@@ -66,7 +94,20 @@ bool isComment(std::u16string_view rest) {
     }
 }
 
+/// Looks at all units, several at once, in the form that compilers know for that: it is quicker
+/// than to end at the first.
+bool hasSurrogates(std::u16string_view text) {
+    char16_t found = 0;
+    for (const char16_t unit : text) {
+        found |= (unit & 0xF800U) == 0xD800U ? 1 : 0;
+    }
+    return found != 0;
+}
+
 bool hasHalfAPair(std::u16string_view text) {
+    if (!hasSurrogates(text)) {
+        return false;
+    }
     for (std::size_t at = 0; at < text.size(); ++at) {
         if (isSurrogate(text[at])) {
             if (at + 1 == text.size() || !isSurrogatePair(text[at], text[at + 1])) {
@@ -94,15 +135,14 @@ std::u16string unicodeEscapes(std::u16string_view text) {
 }
 
 std::optional<std::u16string> withoutUnicodeEscapes(std::u16string_view text) {
-    const std::u16string escaped = capitalized(text);
-    const auto quoted = quotedPart(escaped);
-    const auto rest = quoted && quoted->size() < escaped.size()
-                          ? std::u16string_view(escaped).substr(quoted->size() + 1)
-                          : std::u16string_view(u"//");
-    if (!quoted || !isComment(rest) || hasHalfAPair(escaped)) {
+    QuotedText quoted(text);
+    if (!quoted.read() || hasHalfAPair(text)) {
         return std::nullopt;
     }
-    std::u16string plain = unslashed(*quoted);
+    if (!quoted.rest().empty() && !isComment(quoted.rest().substr(1))) {
+        return std::nullopt;
+    }
+    std::u16string plain = quoted.takePlain();
     replaceAll(plain, u"\\r\\n", u"\n");
     return plain;
 }
