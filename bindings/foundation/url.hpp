@@ -11,6 +11,8 @@ struct Url : objc::Kind<Url, "NSURL"> {
     /// Nil when the text is not a URL.
     static Url withString(String text) { return sendClass<"URLWithString:", Url>(text); }
     [[nodiscard]] String absoluteString() const { return send<"absoluteString", String>(); }
+    /// Nil when the address has none.
+    [[nodiscard]] String host() const { return send<"host", String>(); }
 };
 
 } // namespace ns

@@ -7,6 +7,8 @@
 
 namespace ns {
 
+struct MutableUrlRequest;
+
 struct UrlRequest : objc::Kind<UrlRequest, "NSURLRequest"> {
     using Kind::Kind;
 
@@ -19,6 +21,7 @@ struct UrlRequest : objc::Kind<UrlRequest, "NSURLRequest"> {
     }
     /// Seconds.
     [[nodiscard]] double timeoutInterval() const { return send<"timeoutInterval", double>(); }
+    [[nodiscard]] inline MutableUrlRequest mutableCopy() const;
 };
 
 struct MutableUrlRequest : objc::Kind<MutableUrlRequest, "NSMutableURLRequest", UrlRequest> {
@@ -27,6 +30,7 @@ struct MutableUrlRequest : objc::Kind<MutableUrlRequest, "NSMutableURLRequest", 
     static MutableUrlRequest withUrl(Url url) {
         return sendClass<"requestWithURL:", MutableUrlRequest>(url);
     }
+    void setUrl(ns::Url url) const { send<"setURL:">(url); }
     void setHttpMethod(String method) const { send<"setHTTPMethod:">(method); }
     void setHttpBody(Data body) const { send<"setHTTPBody:">(body); }
     void setValue(String value, String headerField) const {
@@ -34,5 +38,10 @@ struct MutableUrlRequest : objc::Kind<MutableUrlRequest, "NSMutableURLRequest", 
     }
     void setTimeoutInterval(double seconds) const { send<"setTimeoutInterval:">(seconds); }
 };
+
+MutableUrlRequest UrlRequest::mutableCopy() const {
+    return objc::Strong<MutableUrlRequest>::adopt(send<"mutableCopy", MutableUrlRequest>())
+        .autoreleased();
+}
 
 } // namespace ns

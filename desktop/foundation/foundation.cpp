@@ -6,11 +6,11 @@
 #include "desktop/foundation/delayed_perform.hpp"
 #include "desktop/foundation/dictionary_files.hpp"
 #include "desktop/foundation/json_serialization.hpp"
+#include "desktop/foundation/loading_protocol.hpp"
 #include "desktop/foundation/main_operation_queue.hpp"
 #include "desktop/foundation/observers.hpp"
 #include "desktop/foundation/percent_encoding.hpp"
 #include "desktop/foundation/property_list_serialization.hpp"
-#include "desktop/foundation/refusing_protocol.hpp"
 #include "desktop/foundation/string.hpp"
 #include "desktop/foundation/string_transform.hpp"
 #include "desktop/foundation/timer.hpp"
@@ -40,7 +40,7 @@ void install(const std::string& bundleIdentifier) {
     installObservers();
     installUrls();
     installUrlSessions();
-    installRefusingProtocol();
+    installLoadingProtocol();
 }
 
 } // namespace desktop::foundation

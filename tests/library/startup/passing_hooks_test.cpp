@@ -12,6 +12,7 @@
 
 #include <map>
 #include <string>
+#include <string_view>
 #include <tuple>
 #include <vector>
 
@@ -125,11 +126,16 @@ const std::map<std::string, Check>& checks() {
     return known;
 }
 
+/// An addition has nothing to call, and the hooks on protocols answer by themselves.
+bool callsThrough(const objc::Change& row) {
+    return row.how == objc::Change::How::hook && std::string_view(row.className) != "NSURLProtocol";
+}
+
 void expectAllPass(Table table) {
     const objc::Pool pool;
     for (const objc::Change& row : table()) {
-        if (row.how != objc::Change::How::hook) {
-            continue; // an addition has nothing to call
+        if (!callsThrough(row)) {
+            continue;
         }
         const testing::ScopedTrace trace(__FILE__, __LINE__, row.description());
         ASSERT_TRUE(checks().contains(row.types)) << row.types;
@@ -137,7 +143,9 @@ void expectAllPass(Table table) {
     }
 }
 
-TEST(PassingHooks, RequestsAreMadeAsTheyWereAskedFor) { expectAllPass(&blocking::requestHooks); }
+TEST(PassingHooks, RequestsThatNobodyBlocksAreMadeAsTheyWereAskedFor) {
+    expectAllPass(&blocking::requestHooks);
+}
 
 TEST(PassingHooks, SettingsLoadsItsScreen) { expectAllPass(&scratchpad::scratchPadHooks); }
 
