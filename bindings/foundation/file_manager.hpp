@@ -1,9 +1,15 @@
 // NSFileManager.
 #pragma once
 
-#include "bindings/foundation/string.hpp"
+#include "bindings/foundation/array.hpp"
+#include "bindings/foundation/url.hpp"
 
 namespace ns {
+
+/// Folders that the system names; the platform's numbers.
+enum class SearchPathDirectory : unsigned long { document = 9 };
+/// Whose folders; the platform's bits.
+enum class SearchPathDomainMask : unsigned long { user = 1 };
 
 struct FileManager : objc::Kind<FileManager, "NSFileManager"> {
     using Kind::Kind;
@@ -12,6 +18,11 @@ struct FileManager : objc::Kind<FileManager, "NSFileManager"> {
     /// Files and folders alike; links are followed.
     [[nodiscard]] bool fileExists(String path) const {
         return send<"fileExistsAtPath:", bool>(path);
+    }
+    /// Best first; an application has one folder for its documents.
+    [[nodiscard]] ArrayOf<Url> urlsFor(SearchPathDirectory directory,
+                                       SearchPathDomainMask domains) const {
+        return send<"URLsForDirectory:inDomains:", ArrayOf<Url>>(directory, domains);
     }
 };
 

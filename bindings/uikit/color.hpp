@@ -33,6 +33,7 @@ struct Color : objc::Kind<Color, "UIColor"> {
     static Color green() { return sendClass<"greenColor", Color>(); }
     static Color orange() { return sendClass<"orangeColor", Color>(); }
     static Color blue() { return sendClass<"blueColor", Color>(); }
+    static Color gray() { return sendClass<"grayColor", Color>(); }
     static Color darkGray() { return sendClass<"darkGrayColor", Color>(); }
     static Color lightGray() { return sendClass<"lightGrayColor", Color>(); }
     static Color clear() { return sendClass<"clearColor", Color>(); }

@@ -1,8 +1,10 @@
 // Installing the additions to Foundation.
 #include "desktop/foundation/foundation.hpp"
 
+#include "desktop/foundation/application_folders.hpp"
 #include "desktop/foundation/bundle.hpp"
 #include "desktop/foundation/data_detector.hpp"
+#include "desktop/foundation/date.hpp"
 #include "desktop/foundation/delayed_perform.hpp"
 #include "desktop/foundation/dictionary_files.hpp"
 #include "desktop/foundation/json_serialization.hpp"
@@ -29,7 +31,9 @@ void install(const std::string& bundleIdentifier) {
     installPercentEncoding();
     registerDataDetector();
     const auto identifier = ns::String::fromUtf8(bundleIdentifier);
+    installDates();
     installBundle(identifier);
+    installApplicationFolders(identifier);
     installUserDefaults(identifier);
     installDictionaryFiles();
     installPropertyListSerialization();

@@ -25,7 +25,7 @@ struct Row {
     Command command;
 };
 
-constexpr std::array<Row, 25> table{{
+constexpr std::array<Row, 26> table{{
     {"send", &send},
     {"make", &make},
     {"tree", &tree},
@@ -43,6 +43,7 @@ constexpr std::array<Row, 25> table{{
     {"pasteboard", &pasteboard},
     {"preferences", &preferences},
     {"defaults", &defaults},
+    {"documents", &documents},
     {"serve", &serve},
     {"appearance", &appearance},
     {"rotate", &rotate},

@@ -43,6 +43,7 @@ using Command = Json (*)(Session& session, const Json& request);
 [[nodiscard]] Json pasteboard(Session& session, const Json& request);
 [[nodiscard]] Json preferences(Session& session, const Json& request);
 [[nodiscard]] Json defaults(Session& session, const Json& request);
+[[nodiscard]] Json documents(Session& session, const Json& request);
 // What the outside world answers.
 [[nodiscard]] Json serve(Session& session, const Json& request);
 // How the phone is held, and its appearance.

@@ -1,8 +1,9 @@
-// Commands for what the device keeps: pasteboard, preferences, user defaults.
+// Commands for what the device keeps: pasteboard, preferences, user defaults, documents.
 #include "desktop/host/arguments.hpp"
 #include "desktop/host/commands.hpp"
 #include "desktop/host/preference_file.hpp"
 
+#include "bindings/foundation/file_manager.hpp"
 #include "bindings/foundation/user_defaults.hpp"
 #include "bindings/uikit/pasteboard.hpp"
 
@@ -69,6 +70,14 @@ Json defaults(Session& session, const Json& request) {
         store.set(session.values.toObject(*value), key);
     }
     return session.values.toJson(store.get(key));
+}
+
+Json documents(Session&, const Json&) {
+    return ns::FileManager::defaultManager()
+        .urlsFor(ns::SearchPathDirectory::document, ns::SearchPathDomainMask::user)
+        .first()
+        .path()
+        .utf8();
 }
 
 } // namespace desktop::host

@@ -5,13 +5,15 @@
 #include <array>
 #include <cmath>
 #include <cstdlib>
+#include <ctime>
 #include <limits>
 
 namespace desktop::host {
 
 const char* const usage =
     "usage: host [--app NAME] [--bundle ID] [--root DIR] [--library FILE | --no-library]\n"
-    "            [--clock virtual|real] [--automation | --viewer [--port N]]\n"
+    "            [--clock virtual|real] [--date YYYY-MM-DDThh:mm:ss]\n"
+    "            [--automation | --viewer [--port N]]\n"
     "            [--size WxH@S] [--content FILE] [--settings-bundle]\n"
     "            [--list-apps] [--help]\n";
 
@@ -72,6 +74,17 @@ Clock::Mode parseClock(const std::string& text) {
     throw UsageError("--clock " + text + ": neither virtual nor real");
 }
 
+/// By the calendar of the device's time zone.
+double parseDate(const std::string& text) {
+    std::tm parts{};
+    parts.tm_isdst = -1; // as the zone has it on that day
+    const char* const end = strptime(text.c_str(), "%Y-%m-%dT%H:%M:%S", &parts);
+    if (end == nullptr || *end != '\0') {
+        throw UsageError("--date " + text + ": not of the form 2024-12-30T12:00:00");
+    }
+    return static_cast<double>(std::mktime(&parts));
+}
+
 std::uint16_t parsePort(const std::string& text) {
     const char* at = text.c_str();
     const double port = measure(at, '\0', std::numeric_limits<std::uint16_t>::max());
@@ -86,13 +99,14 @@ struct Option {
     void (*read)(Options& options, Words& words);
 };
 
-constexpr std::array<Option, 15> table{{
+constexpr std::array<Option, 16> table{{
     {"--app", [](Options& o, Words& w) { o.application = w.value("--app"); }},
     {"--bundle", [](Options& o, Words& w) { o.bundle = w.value("--bundle"); }},
     {"--root", [](Options& o, Words& w) { o.root = w.value("--root"); }},
     {"--library", [](Options& o, Words& w) { o.library = w.value("--library"); }},
     {"--no-library", [](Options& o, Words&) { o.loadsLibrary = false; }},
     {"--clock", [](Options& o, Words& w) { o.clock = parseClock(w.value("--clock")); }},
+    {"--date", [](Options& o, Words& w) { o.date = parseDate(w.value("--date")); }},
     {"--automation", [](Options& o, Words&) { o.automation = true; }},
     {"--viewer", [](Options& o, Words&) { o.viewer = true; }},
     {"--port", [](Options& o, Words& w) { o.port = parsePort(w.value("--port")); }},

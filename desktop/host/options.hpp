@@ -30,6 +30,8 @@ struct Options {
     bool loadsLibrary = true;
     /// None: virtual under automation, else real.
     std::optional<Clock::Mode> clock;
+    /// What the calendar shows at the start, in seconds since 1970; that of the machine if missing.
+    std::optional<double> date;
     bool automation = false;
     /// Shows the phone in a browser page, at this port of the loopback address (0: a free one).
     bool viewer = false;

@@ -66,6 +66,13 @@ void loadLibrary(const std::filesystem::path& file) {
     }
 }
 
+void setClock(const Options& options) {
+    Clock::shared().setMode(options.clockMode());
+    if (options.date) {
+        Clock::shared().setDate(*options.date);
+    }
+}
+
 /// Brings the application up in the order of a phone: its classes exist before any library does.
 void launch(const App& app, const Options& options) {
     const objc::Pool pool;
@@ -83,7 +90,7 @@ int runDevice(const App& app, const Options& options, const std::function<void(V
     const objc::Pool pool;
     try {
         watchForStop();
-        Clock::shared().setMode(options.clockMode());
+        setClock(options);
         foundation::install(options.bundle.value_or(app.bundleIdentifier));
         recordEvents();
         registerPlatform();

@@ -21,6 +21,12 @@ double realSeconds() {
 
 } // namespace
 
+Clock::Clock()
+    : dateAtStart_(
+          std::chrono::duration<double>(std::chrono::system_clock::now().time_since_epoch())
+              .count() -
+          realSeconds()) {}
+
 Clock& Clock::shared() {
     static Clock clock;
     return clock;

@@ -24,6 +24,11 @@ public:
     [[nodiscard]] Mode mode() const { return mode_; }
     /// Any thread.
     [[nodiscard]] double now() const;
+    /// What the calendar shows now, in seconds since 1970: the machine's date when the process
+    /// started, unless it was set, and what has passed on this clock since. Any thread.
+    [[nodiscard]] double date() const { return now() + dateAtStart_; }
+    /// Sets the calendar; before other threads are started.
+    void setDate(double secondsSince1970) { dateAtStart_ = secondsSince1970 - now(); }
 
     /// Calls `work` on the main thread once the clock shows `moment` or more. Calls that are due at
     /// the same moment run in the order in which they were scheduled. Any thread.
@@ -44,7 +49,10 @@ private:
         Ticket ticket;
         friend auto operator<=>(const Key&, const Key&) = default;
     };
+    Clock();
+
     Mode mode_ = Mode::real;
+    double dateAtStart_;
     double virtualNow_ = 0;
     Ticket lastTicket_ = 0;
     std::map<Key, std::function<void()>> scheduled_;

@@ -177,4 +177,20 @@ TEST_F(Device, AnImageTakesThePlaceOfThePasteboardsText) {
     EXPECT_EQ(host.message(board, "string"), nullptr);
 }
 
+TEST_F(Device, GivesEachApplicationItsDocuments) {
+    HostProcess notes = start({"--app", "notes"});
+    HostProcess plain = start({"--app", "plain"});
+    HostProcess settings = start({"--app", "settings"});
+    const json documents{{"do", "documents"}};
+    const std::string own = notes.result(documents);
+    EXPECT_EQ(own, "/var/mobile/Containers/Data/Application/com.example.notes/Documents");
+    EXPECT_TRUE(std::filesystem::is_directory(root.path().string() + own));
+    EXPECT_NE(plain.result(documents), own);
+    EXPECT_EQ(settings.result(documents), "/var/mobile/Documents");
+    const json manager = notes.message({{"class", "NSFileManager"}}, "defaultManager");
+    constexpr int caches = 13;
+    EXPECT_EQ(notes.message(manager, "URLsForDirectory:inDomains:", {caches, 1}), json::array());
+    EXPECT_EQ(notes.message(manager, "URLsForDirectory:inDomains:", {9, 8}), json::array());
+}
+
 } // namespace

@@ -102,4 +102,15 @@ TEST_F(Time, LogLinesAreEventsAndGoToStandardError) {
     EXPECT_NE(host.errors().find(line), std::string::npos) << host.errors();
 }
 
+TEST(CalendarOfTheHost, FollowsTheClockFromTheGivenDate) {
+    HostProcess host = tests::automatedHost({"--date", "2024-12-30T12:00:00"});
+    const auto date = [&host] { return host.message({{"class", "NSDate"}}, "date"); };
+    const json formatter = host.message({{"class", "NSDateFormatter"}}, "new");
+    host.message(formatter, "setDateFormat:", {"yyyy-MM-dd HH:mm:ss"});
+    const auto shown = [&] { return host.message(formatter, "stringFromDate:", {date()}); };
+    EXPECT_EQ(shown(), "2024-12-30 12:00:00");
+    host.result({{"do", "advance"}, {"seconds", 90}});
+    EXPECT_EQ(shown(), "2024-12-30 12:01:30");
+}
+
 } // namespace

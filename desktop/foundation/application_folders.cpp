@@ -1,0 +1,48 @@
+// Where an application's documents lie on the device.
+#include "desktop/foundation/application_folders.hpp"
+
+#include "bindings/foundation/file_manager.hpp"
+#include "bindings/objc/hook.hpp"
+
+#include <array>
+#include <filesystem>
+#include <string>
+#include <system_error>
+
+namespace desktop::foundation {
+namespace {
+
+/// A phone has made-up names where this one has the bundle identifier, for people to read.
+std::string documentsFolder(const std::string& bundleIdentifier) {
+    return bundleIdentifier.starts_with("com.apple.")
+               ? "/var/mobile/Documents"
+               : "/var/mobile/Containers/Data/Application/" + bundleIdentifier + "/Documents";
+}
+
+objc::Strong<ns::Url>& documents() {
+    static auto* url = new objc::Strong<ns::Url>; // used until the process ends
+    return *url;
+}
+
+ns::ArrayOf<ns::Url> urlsFor(ns::FileManager, ns::SearchPathDirectory directory,
+                             ns::SearchPathDomainMask domains) {
+    const auto urls = ns::MutableArray::make();
+    if (directory == ns::SearchPathDirectory::document &&
+        (static_cast<unsigned long>(domains) &
+         static_cast<unsigned long>(ns::SearchPathDomainMask::user)) != 0) {
+        urls.add(documents());
+    }
+    return urls.assume<ns::ArrayOf<ns::Url>>();
+}
+
+} // namespace
+
+void installApplicationFolders(ns::String bundleIdentifier) {
+    const std::string folder = documentsFolder(bundleIdentifier.utf8());
+    std::error_code failure; // a device that cannot be written has no documents
+    std::filesystem::create_directories(folder, failure);
+    documents() = ns::Url::fileUrlWithPath(ns::String::fromUtf8(folder), true);
+    objc::install(objc::addition<"URLsForDirectory:inDomains:", &urlsFor>());
+}
+
+} // namespace desktop::foundation
