@@ -105,6 +105,10 @@ std::span<const objc::Change> draggableCategory() {
 
 void makeDraggableAndZoomable(ui::View view) { view.send<"makeDraggableAndZoomable">(); }
 
+void makeDraggableAndZoomable(ui::View view, TrashButton trash) {
+    view.send<"makeDraggableAndZoomableWithTrashButton:">(trash);
+}
+
 void moveAlong(ui::View view, ui::PanGestureRecognizer pan, ui::View space) {
     const CGPoint way = pan.translationIn(space);
     const CGPoint centre = view.center();

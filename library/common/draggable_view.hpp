@@ -13,6 +13,10 @@ namespace wentra {
 /// A button whose touch area is a fixed square, whatever its size: views are dropped on it.
 struct TrashButton : objc::Kind<TrashButton, "TrashButton", ui::Button> {
     using Kind::Kind;
+
+    static TrashButton withType(ui::ButtonType type) {
+        return sendClass<"buttonWithType:", TrashButton>(type);
+    }
 };
 
 /// The tag by which a dragged view finds the trash button among its neighbours.
@@ -27,6 +31,10 @@ std::span<const objc::Change> draggableCategory();
 
 /// Lets the view be dragged, pinched and zoomed by double taps.
 void makeDraggableAndZoomable(ui::View view);
+
+/// Also lets the view be put away by dropping it on the button, which lies beside it. In the
+/// next turn of the main loop the view's tag becomes the button's address, as a number.
+void makeDraggableAndZoomable(ui::View view, TrashButton trash);
 
 /// Moves a view's centre by how far its pan has come, in the coordinates of `space`, and lets the
 /// pan count from there.

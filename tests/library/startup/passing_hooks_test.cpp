@@ -6,7 +6,6 @@
 #include "bindings/objc/pool.hpp"
 #include "library/blocking/request_hooks.hpp"
 #include "library/common/face.hpp"
-#include "library/scratchpad/scratch_pad_hook.hpp"
 
 #include <gtest/gtest.h>
 
@@ -146,8 +145,6 @@ void expectAllPass(Table table) {
 TEST(PassingHooks, RequestsThatNobodyBlocksAreMadeAsTheyWereAskedFor) {
     expectAllPass(&blocking::requestHooks);
 }
-
-TEST(PassingHooks, SettingsLoadsItsScreen) { expectAllPass(&scratchpad::scratchPadHooks); }
 
 } // namespace
 } // namespace wentra
