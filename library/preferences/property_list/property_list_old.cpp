@@ -4,6 +4,7 @@
 #include "library/common/slashed_text.hpp"
 #include "library/common/text_encoding.hpp"
 
+#include <algorithm>
 #include <array>
 
 namespace wentra::preferences {
@@ -31,14 +32,17 @@ public:
         : at_(document.data()), end_(at_ + document.size()), sink_(sink) {}
 
     bool read() {
-        isBraced_ = skipSpace() && skip('{');
+        skipSpace();
+        isBraced_ = skip('{');
         open_[depth_++] = Container::dictionary;
         while (depth_ > 0) {
-            if (!skipSpace() || !(isInDictionary() ? entry() : element())) {
+            skipSpace();
+            if (!(isInDictionary() ? entry() : element())) {
                 return false;
             }
         }
-        return skipSpace() && at_ == end_;
+        skipSpace();
+        return at_ == end_;
     }
 
 private:
@@ -62,21 +66,18 @@ private:
 
     std::string_view rest() const { return {at_, static_cast<std::size_t>(end_ - at_)}; }
 
-    // White space and comments; false when a comment has no end.
-    bool skipSpace() {
+    // White space and comments; a comment without an end goes on to the end of the text.
+    void skipSpace() {
         for (;;) {
             if (skip("//")) {
                 at_ += std::min(rest().find_first_of("\r\n"), rest().size());
             } else if (skip("/*")) {
-                const std::size_t end = rest().find("*/");
-                if (end == std::string_view::npos) {
-                    return false;
-                }
-                at_ += end + 2;
+                at_ += std::min(rest().find("*/"), rest().size());
+                skip("*/");
             } else if ((*at_ >= '\t' && *at_ <= '\r') || *at_ == ' ') {
                 ++at_;
             } else if (!skip("\u2028") && !skip("\u2029")) {
-                return true;
+                return;
             }
         }
     }
@@ -90,13 +91,15 @@ private:
             return false;
         }
         isWanted_ = depth_ == 1 ? select() : isWanted_;
-        if (!skipSpace()) {
-            return false;
-        }
+        skipSpace();
         if (*at_ == ';') {
             return reportText() && finishValue();
         }
-        return skip('=') && skipSpace() && value();
+        if (!skip('=')) {
+            return false;
+        }
+        skipSpace();
+        return value();
     }
 
     bool element() { return skip(')') ? close() : value(); }
@@ -108,9 +111,7 @@ private:
 
     // What separates a value from the next one.
     bool finishValue() {
-        if (!skipSpace()) {
-            return false;
-        }
+        skipSpace();
         return isInDictionary() ? skip(';') : skip(',') || *at_ == ')';
     }
 
@@ -138,7 +139,8 @@ private:
 
     bool data() {
         std::size_t digits = 0;
-        for (; skipSpace() && at_ < end_ && isHexadecimal(*at_); ++at_) {
+        for (skipSpace(); at_ < end_ && isHexadecimal(*at_); skipSpace()) {
+            ++at_;
             ++digits;
         }
         return digits % 2 == 0 && skip('>');

@@ -24,6 +24,9 @@ TEST(OldPropertyList, AcceptsWhatThePlatformAccepts) {
         "/* strings */ \"a\" = \"b\"; kqwzgs = 1;\n",
         "\xEF\xBB\xBF{ kqwzgs = 1; }",
         "{ kqwzgs = 1;\u2028}",
+        "{ kqwzgs = 1; } // to the end",
+        "{ kqwzgs = 1; } /* to the end",
+        "kqwzgs = 1; /*",
     };
     for (const char* document : documents) {
         EXPECT_TRUE(isAccepted(document)) << document;
