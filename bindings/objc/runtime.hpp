@@ -50,7 +50,6 @@ const char* object_getClassName(id object);
 const char* class_getName(Class cls);
 Class class_getSuperclass(Class cls);
 objc::Boolean class_isMetaClass(Class cls);
-std::size_t class_getInstanceSize(Class cls);
 objc::Boolean class_addIvar(Class cls, const char* name, std::size_t size, unsigned char log2Align,
                             const char* type);
 objc::Boolean class_addMethod(Class cls, SEL name, IMP implementation, const char* types);
@@ -60,14 +59,10 @@ objc::Boolean class_addProperty(Class cls, const char* name,
 Method class_getInstanceMethod(Class cls, SEL name);
 Method class_getClassMethod(Class cls, SEL name);
 IMP class_getMethodImplementation(Class cls, SEL name);
-objc::Boolean class_respondsToSelector(Class cls, SEL name);
-Method* class_copyMethodList(Class cls, unsigned int* count);
 
-SEL method_getName(Method method);
 IMP method_getImplementation(Method method);
 IMP method_setImplementation(Method method, IMP implementation);
 const char* method_getTypeEncoding(Method method);
-void method_exchangeImplementations(Method first, Method second);
 
 Ivar class_getInstanceVariable(Class cls, const char* name);
 std::ptrdiff_t ivar_getOffset(Ivar ivar);

@@ -4,7 +4,6 @@
 #include "bindings/coregraphics/geometry.hpp"
 #include "bindings/coregraphics/image.hpp"
 #include "bindings/foundation/string.hpp"
-#include "bindings/uikit/color.hpp"
 #include "bindings/uikit/image_symbol_configuration.hpp"
 
 namespace ui {
@@ -31,9 +30,6 @@ struct Image : objc::Kind<Image, "UIImage"> {
     }
     /// In points.
     [[nodiscard]] CGSize size() const { return send<"size", CGSize>(); }
-    [[nodiscard]] Image withTintColor(Color color) const {
-        return send<"imageWithTintColor:", Image>(color);
-    }
     [[nodiscard]] Image withRenderingMode(RenderingMode mode) const {
         return send<"imageWithRenderingMode:", Image>(mode);
     }

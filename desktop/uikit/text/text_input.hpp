@@ -41,8 +41,6 @@ public:
     [[nodiscard]] virtual bool isEditable() const = 0;
     /// Return on the keyboard.
     virtual void pressReturn() = 0;
-    /// A view of the application's that stands in for the keyboard; nil for none.
-    [[nodiscard]] ui::View inputView() const { return inputView_; }
 
     /// Where the range lies, all of its lines together, in the view's coordinates.
     [[nodiscard]] CGRect boundingRect(ns::Range range);
