@@ -1,6 +1,7 @@
 // UIImage: a picture of the drawing core as an object.
 #pragma once
 
+#include "bindings/uikit/color.hpp"
 #include "bindings/uikit/image.hpp"
 
 #include "desktop/class.hpp"
