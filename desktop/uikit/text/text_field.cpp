@@ -4,7 +4,6 @@
 #include "bindings/foundation/notification_center.hpp"
 #include "desktop/uikit/controls/clear_button.hpp"
 #include "desktop/uikit/delegate_messages.hpp"
-#include "desktop/uikit/values/color.hpp"
 #include "desktop/uikit/values/font.hpp"
 
 #include <algorithm>
@@ -20,14 +19,9 @@ std::vector<objc::MethodRow> TextField::methods() {
         rows.end(),
         {
             objc::method<"initWithFrame:", &TextField::initWithFrame>(),
-            objc::property<"text", &TextField::text, &TextField::setText>(),
-            objc::property<"attributedText", &TextField::attributedText,
-                           &TextField::setAttributedText>(),
             objc::property<"placeholder", &TextField::placeholder_, &TextField::redraw>(),
             objc::property<"attributedPlaceholder", &TextField::attributedPlaceholder,
                            &TextField::setAttributedPlaceholder>(),
-            objc::property<"font", &TextField::font, &TextField::setFont>(),
-            objc::property<"textColor", &TextField::textColor, &TextField::setTextColor>(),
             objc::property<"textAlignment", &TextField::alignment_, &TextField::redraw>(),
             objc::property<"borderStyle", &TextField::borderStyle_, &TextField::redraw>(),
             objc::property<"clearButtonMode", &TextField::clearButtonMode_, &TextField::redraw>(),
@@ -51,7 +45,6 @@ std::vector<objc::MethodRow> TextField::methods() {
             objc::method<"_clear", &TextField::clear>(),
             objc::method<"layoutSubviews", &TextField::layoutSubviews>(),
             objc::method<"drawRect:", &TextField::drawRect>(),
-            objc::method<"traitCollectionDidChange:", &TextField::traitsChanged>(),
             objc::method<"sizeThatFits:", &TextField::sizeThatFits>(),
             objc::method<"intrinsicContentSize", &TextField::intrinsicContentSize>(),
         });
@@ -60,8 +53,8 @@ std::vector<objc::MethodRow> TextField::methods() {
 
 ui::TextField TextField::initWithFrame(CGRect frame) {
     super<"initWithFrame:", ui::View>(frame);
-    font_ = ui::Font::system(UIFont::defaultSize);
-    textColor_ = ui::Color::label();
+    setFont(nullptr);
+    setTextColor(nullptr);
     clearButton_ = ClearButtonKind::make<"initWithFrame:">(CGRect());
     clearButton_.addTarget(self(), objc::selector<"_clear">(), Events::touchUpInside);
     clearButton_.setHidden(true);
@@ -71,13 +64,6 @@ ui::TextField TextField::initWithFrame(CGRect frame) {
     return self();
 }
 
-void TextField::setText(ns::String text) {
-    setContent(ns::AttributedString::with(text ? text : u""_ns, textAttributes(font_, textColor_)));
-    scrolled_ = 0;
-}
-
-void TextField::setAttributedText(ns::AttributedString text) { setContent(text); }
-
 ns::AttributedString TextField::attributedPlaceholder() const { return attributedPlaceholder_; }
 
 void TextField::setAttributedPlaceholder(ns::AttributedString text) {
@@ -86,22 +72,7 @@ void TextField::setAttributedPlaceholder(ns::AttributedString text) {
     redraw();
 }
 
-void TextField::setFont(ui::Font font) {
-    font_ = font ? font : ui::Font::system(UIFont::defaultSize);
-    addAttribute(ui::attributes::font(), font_);
-}
-
-void TextField::setTextColor(ui::Color color) {
-    textColor_ = color ? color : ui::Color::label();
-    addAttribute(ui::attributes::foregroundColor(), textColor_);
-}
-
-TextRun TextField::plainLook() const {
-    TextRun look;
-    look.font = UIFont::valueOf(font_);
-    look.colour = Color::valueOf(textColor_);
-    return look;
-}
+double TextField::defaultFontSize() const { return UIFont::defaultSize; }
 
 void TextField::redraw() {
     resetFlow();
@@ -163,7 +134,6 @@ bool TextField::mayEnd() { return allows<"textFieldShouldEndEditing:">(delegate_
 
 void TextField::tellEnd() {
     const objc::Strong<ui::TextField> kept = self();
-    scrolled_ = 0;
     redraw();
     constexpr auto withReason = &objc::selector<"textFieldDidEndEditing:reason:">;
     if (const auto told = delegate_.strong(); told.respondsToSelector(withReason())) {

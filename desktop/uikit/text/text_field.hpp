@@ -23,12 +23,6 @@ public:
 
 private:
     ui::TextField initWithFrame(CGRect frame);
-    void setText(ns::String text);
-    [[nodiscard]] ui::Font font() const { return font_; }
-    void setFont(ui::Font font);
-    [[nodiscard]] ui::Color textColor() const { return textColor_; }
-    void setTextColor(ui::Color color);
-    void setAttributedText(ns::AttributedString text);
     [[nodiscard]] ns::AttributedString attributedPlaceholder() const;
     void setAttributedPlaceholder(ns::AttributedString text);
     [[nodiscard]] bool canBecomeFirstResponder() const { return self().isEnabled(); }
@@ -51,7 +45,6 @@ private:
     void redraw();
     void measure();
     void layoutSubviews();
-    void traitsChanged(objc::Object) { resetFlow(); } // it holds colours
     void drawRect(CGRect dirty);
     void drawLine(std::u16string_view text, const std::vector<TextRun>& runs, CGRect room) const;
     [[nodiscard]] CGSize sizeThatFits(CGSize room) const;
@@ -60,7 +53,7 @@ private:
     // TextInput
     [[nodiscard]] ui::View view() const override { return self(); }
     [[nodiscard]] CGRect textArea() const override;
-    [[nodiscard]] TextRun plainLook() const override;
+    [[nodiscard]] double defaultFontSize() const override;
     [[nodiscard]] bool isSecret() const override { return secret_; }
     [[nodiscard]] ns::String acceptable(ns::String text) const override;
     [[nodiscard]] bool mayChange(ns::Range range, ns::String text) override;
@@ -74,8 +67,6 @@ private:
 
     objc::Copied<ns::String> placeholder_;
     objc::Copied<ns::AttributedString> attributedPlaceholder_;
-    objc::Strong<ui::Font> font_;
-    objc::Strong<ui::Color> textColor_;
     objc::Strong<ui::Control> clearButton_;
     objc::Strong<ui::View> leftView_;
     objc::Strong<ui::View> rightView_;

@@ -145,6 +145,8 @@ void TextField::layoutSubviews() {
     }
     if (isEditing()) {
         reveal(fromFlow(flow().caret(selection().location + selection().length)));
+    } else {
+        scrolled_ = 0;
     }
     placeSelection();
 }

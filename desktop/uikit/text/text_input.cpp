@@ -96,41 +96,6 @@ ns::String TextInput::textIn(ns::Range range) const {
     return storage_.string().send<"substringWithRange:", ns::String>(clamped(range));
 }
 
-ns::String TextInput::text() const {
-    return objc::Copied<ns::String>(storage_.string()).autoreleased();
-}
-
-ns::AttributedString TextInput::attributedText() const {
-    return objc::Copied<ns::AttributedString>(storage_).autoreleased();
-}
-
-void TextInput::setContent(ns::AttributedString text) {
-    marked_.reset();
-    storage_.setString(text ? text : ns::AttributedString::with(u""_ns));
-    select({length(), 0});
-}
-
-void TextInput::addAttribute(ns::String name, objc::Object value) {
-    if (value && length() > 0) {
-        storage_.addAttribute(name, value, {0, length()});
-    }
-    typingAttributes_ = nullptr;
-    flow_.reset();
-    view().setNeedsLayout();
-    view().setNeedsDisplay();
-}
-
-/// What was given, or else as the text before the caret.
-ns::Dictionary TextInput::typingAttributes() const {
-    if (typingAttributes_) {
-        return typingAttributes_;
-    }
-    if (length() == 0) {
-        return ns::MutableDictionary::make();
-    }
-    return storage_.attributesAt(selection_.location - std::min(1UL, selection_.location));
-}
-
 /// The storage was edited, by us or by the application.
 void TextInput::edited(ns::Range former, unsigned long length) {
     flow_.replaced({former.location, former.location + former.length}, length);

@@ -56,7 +56,8 @@ protected:
     /// Where the text flows, in the view's coordinates: the first line's top left corner, and the
     /// width. The height has no meaning.
     [[nodiscard]] virtual CGRect textArea() const = 0;
-    [[nodiscard]] virtual TextRun plainLook() const = 0;
+    /// Of the font where the application sets none, in points.
+    [[nodiscard]] virtual double defaultFontSize() const = 0;
     /// Text as it may stand in this view.
     [[nodiscard]] virtual ns::String acceptable(ns::String text) const { return text; }
     /// Whether the delegate allows the change.
@@ -74,10 +75,16 @@ protected:
 
     // The text as the application knows it.
     [[nodiscard]] ns::String text() const;
-    [[nodiscard]] ns::AttributedString attributedText() const;
-    /// Replaces all; the caret goes to the end, the delegate is not told.
-    void setContent(ns::AttributedString text);
-    void addAttribute(ns::String name, objc::Object value);
+    /// Replaces all; the caret goes to the end, the delegate is not told. Nil is the empty text.
+    void setText(ns::String text);
+    /// The same.
+    void setAttributedText(ns::AttributedString text);
+    /// Of all of the text; nil is the platform's own.
+    void setFont(ui::Font font);
+    /// The same.
+    void setTextColor(ui::Color color);
+    /// How text looks that has no attributes of its own.
+    [[nodiscard]] TextRun plainLook() const;
     [[nodiscard]] ui::TextStorage storage() const { return storage_; }
     /// The text in lines, as wide as the text area is now.
     TextFlow& flow();
@@ -101,6 +108,12 @@ protected:
     [[nodiscard]] std::vector<TextRun> runs(Stretch stretch) const override;
 
 private:
+    [[nodiscard]] ns::AttributedString attributedText() const;
+    [[nodiscard]] ui::Font font() const { return font_; }
+    [[nodiscard]] ui::Color textColor() const { return textColor_; }
+    void addAttribute(ns::String name, objc::Object value);
+    void traitsChanged(objc::Object) { resetFlow(); } // it holds colours
+
     [[nodiscard]] ns::Range clamped(ns::Range range) const;
     [[nodiscard]] ns::String textIn(ns::Range range) const;
     [[nodiscard]] ns::Range composedBefore(unsigned long unit) const;
@@ -160,6 +173,8 @@ private:
     void showMenu();
 
     objc::Strong<ui::TextStorage> storage_ = ui::TextStorage::make();
+    objc::Strong<ui::Font> font_;
+    objc::Strong<ui::Color> textColor_;
     TextFlow flow_{*this};
     ns::Range selection_;
     std::optional<ns::Range> marked_;

@@ -1,4 +1,4 @@
-// UITextInput's messages, and the actions of the edit menu.
+// The messages that text views and fields share: UITextInput's, and the actions of the edit menu.
 #include "bindings/uikit/pasteboard.hpp"
 #include "desktop/drawing/text_boundaries.hpp"
 #include "desktop/uikit/text/text_input.hpp"
@@ -23,6 +23,11 @@ constexpr long down = 5;
 std::vector<objc::MethodRow> TextInput::textInputMethods() {
     using Self = TextInput;
     return {
+        objc::property<"text", &Self::text, &Self::setText>(),
+        objc::property<"attributedText", &Self::attributedText, &Self::setAttributedText>(),
+        objc::property<"font", &Self::font, &Self::setFont>(),
+        objc::property<"textColor", &Self::textColor, &Self::setTextColor>(),
+        objc::method<"traitCollectionDidChange:", &Self::traitsChanged>(),
         objc::method<"becomeFirstResponder", &Self::becomeFirstResponder>(),
         objc::method<"resignFirstResponder", &Self::resignFirstResponder>(),
         objc::method<"insertText:", &Self::insertText>(),

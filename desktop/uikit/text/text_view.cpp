@@ -5,8 +5,6 @@
 #include "desktop/coregraphics/graphics_context.hpp"
 #include "desktop/uikit/delegate_messages.hpp"
 #include "desktop/uikit/text/text_alignment.hpp"
-#include "desktop/uikit/values/color.hpp"
-#include "desktop/uikit/values/font.hpp"
 
 #include <algorithm>
 
@@ -14,8 +12,6 @@ namespace desktop {
 namespace {
 
 using namespace ns::literals;
-
-constexpr double defaultSize = 12;
 
 void post(ns::String name, objc::Object view) {
     ns::NotificationCenter::defaultCenter().post(name, view);
@@ -29,11 +25,6 @@ std::vector<objc::MethodRow> TextView::methods() {
         rows.end(),
         {
             objc::method<"initWithFrame:", &TextView::initWithFrame>(),
-            objc::property<"text", &TextView::text, &TextView::setText>(),
-            objc::property<"attributedText", &TextView::attributedText,
-                           &TextView::setAttributedText>(),
-            objc::property<"font", &TextView::font, &TextView::setFont>(),
-            objc::property<"textColor", &TextView::textColor, &TextView::setTextColor>(),
             objc::property<"textAlignment", &TextView::alignment_, &TextView::alignmentChanged>(),
             objc::property<"textContainerInset", &TextView::inset_, &TextView::containerChanged>(),
             objc::property<"selectedRange", &TextView::selectedRange,
@@ -47,7 +38,6 @@ std::vector<objc::MethodRow> TextView::methods() {
             objc::method<"canBecomeFirstResponder", &TextView::canBecomeFirstResponder>(),
             objc::method<"layoutSubviews", &TextView::layoutSubviews>(),
             objc::method<"drawRect:", &TextView::drawRect>(),
-            objc::method<"traitCollectionDidChange:", &TextView::traitsChanged>(),
             objc::method<"contentSize", &TextView::contentSize>(),
             objc::method<"sizeThatFits:", &TextView::sizeThatFits>(),
             objc::method<"intrinsicContentSize", &TextView::intrinsicContentSize>(),
@@ -59,8 +49,8 @@ ui::TextView TextView::initWithFrame(CGRect frame) {
     super<"initWithFrame:", ui::View>(frame);
     LayoutManager::of(layoutManager_).setView(self());
     TextContainer::of(container_).setView(self());
-    textColor_ = ui::Color::label();
     setFont(nullptr);
+    setTextColor(nullptr);
     self().setBackgroundColor(ui::Color::systemBackground());
     addRecognizers();
     return self();
@@ -71,27 +61,9 @@ TextView::~TextView() {
     TextContainer::of(container_).setView(nullptr);
 }
 
-void TextView::setText(ns::String text) {
-    setContent(ns::AttributedString::with(text ? text : u""_ns, textAttributes(font_, textColor_)));
-}
-
-void TextView::setAttributedText(ns::AttributedString text) { setContent(text); }
-
-void TextView::setFont(ui::Font font) {
-    font_ = font ? font : ui::Font::system(defaultSize);
-    addAttribute(ui::attributes::font(), font_);
-}
-
-void TextView::setTextColor(ui::Color color) {
-    textColor_ = color ? color : ui::Color::label();
-    addAttribute(ui::attributes::foregroundColor(), textColor_);
-}
-
-TextRun TextView::plainLook() const {
-    TextRun look;
-    look.font = UIFont::valueOf(font_);
-    look.colour = Color::valueOf(textColor_);
-    return look;
+double TextView::defaultFontSize() const {
+    constexpr double size = 12;
+    return size;
 }
 
 CGRect TextView::textArea() const {

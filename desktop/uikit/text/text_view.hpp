@@ -26,12 +26,6 @@ public:
 
 private:
     ui::TextView initWithFrame(CGRect frame);
-    void setText(ns::String text);
-    [[nodiscard]] ui::Font font() const { return font_; }
-    void setFont(ui::Font font);
-    [[nodiscard]] ui::Color textColor() const { return textColor_; }
-    void setTextColor(ui::Color color);
-    void setAttributedText(ns::AttributedString text);
     [[nodiscard]] ns::Range selectedRange() const { return selection(); }
     void setSelectedRange(ns::Range range) { select(range); }
     void scrollRangeToVisible(ns::Range range);
@@ -39,7 +33,6 @@ private:
     void editingChanged();
     void alignmentChanged();
     void layoutSubviews();
-    void traitsChanged(objc::Object) { resetFlow(); } // it holds colours
     void drawRect(CGRect dirty);
     CGSize contentSize();
     [[nodiscard]] CGSize intrinsicContentSize() const;
@@ -49,7 +42,7 @@ private:
     // TextInput
     [[nodiscard]] ui::View view() const override { return self(); }
     [[nodiscard]] CGRect textArea() const override;
-    [[nodiscard]] TextRun plainLook() const override;
+    [[nodiscard]] double defaultFontSize() const override;
     [[nodiscard]] bool isSelectable() const override { return selectable_; }
     [[nodiscard]] bool mayChange(ns::Range range, ns::String text) override;
     void tellChange() override;
@@ -60,8 +53,6 @@ private:
     void tellEnd() override;
     void reveal(CGRect caret) override;
 
-    objc::Strong<ui::Font> font_;
-    objc::Strong<ui::Color> textColor_;
     objc::Strong<ui::TextContainer> container_ = ui::TextContainer::make();
     objc::Strong<ui::LayoutManager> layoutManager_ = ui::LayoutManager::make();
     ui::TextAlignment alignment_ = ui::TextAlignment::natural;
