@@ -1,4 +1,5 @@
-// Runs code in a process of its own: what is looked up once per process starts anew there.
+// Runs code in a process of its own: what is looked up once per process starts anew there, unless
+// this process has looked it up already.
 #pragma once
 
 #include <string>

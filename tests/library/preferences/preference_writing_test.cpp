@@ -30,8 +30,10 @@ protected:
     }
     ~PreferenceWriting() override { deviceroot_set(nullptr); }
 
+    /// In the rootless layout, where nobody looks up the jailbreak's own library: what this process
+    /// finds of that, it finds for all of its tests.
     [[nodiscard]] std::filesystem::path folder() const {
-        return root_.path() / "var/mobile/Library/Preferences";
+        return root_.path() / "var/jb/var/mobile/Library/Preferences";
     }
     [[nodiscard]] std::filesystem::path file() const {
         return folder() / "cn.zerk.hovtanprefs.plist";
