@@ -7,6 +7,7 @@
 #include "desktop/uikit/values/color.hpp"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <utility>
 
@@ -79,8 +80,9 @@ void Layer::setNeedsDisplay() {
 
 void Layer::changed() { ScreenChanges::shared().announce(); }
 
+/// Views that no window has yet may be made and changed on any thread.
 std::uint64_t Layer::nextStamp() {
-    static std::uint64_t latest = reservedStamps;
+    static std::atomic<std::uint64_t> latest = reservedStamps;
     return ++latest;
 }
 

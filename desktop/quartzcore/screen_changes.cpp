@@ -1,8 +1,6 @@
 // Announcing changes to those who listen.
 #include "desktop/quartzcore/screen_changes.hpp"
 
-#include <utility>
-
 namespace desktop {
 
 ScreenChanges& ScreenChanges::shared() {
@@ -11,7 +9,7 @@ ScreenChanges& ScreenChanges::shared() {
 }
 
 void ScreenChanges::announce() {
-    if (std::exchange(announced_, true)) {
+    if (announced_.exchange(true)) {
         return;
     }
     for (const Listener& listener : listeners_) {

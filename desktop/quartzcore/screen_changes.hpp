@@ -1,6 +1,7 @@
 // The news that what is to be seen on the screen may have changed.
 #pragma once
 
+#include <atomic>
 #include <functional>
 #include <list>
 #include <utility>
@@ -29,7 +30,7 @@ public:
 
 private:
     std::list<Listener> listeners_;
-    bool announced_ = false;
+    std::atomic<bool> announced_ = false; ///< views that no window has yet may change on any thread
 };
 
 } // namespace desktop
