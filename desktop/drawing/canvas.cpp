@@ -26,6 +26,14 @@ std::optional<Rectangle> drawable(const Rectangle& area) {
     return Rectangle{left, top, right - left, bottom - top};
 }
 
+/// From the pixels of an image to the area that it fills.
+AffineTransform fitting(const Image& image, const Rectangle& area) {
+    return {.a = area.width / image.pixelWidth(),
+            .d = area.height / image.pixelHeight(),
+            .tx = area.x,
+            .ty = area.y};
+}
+
 void addRoundedRectangle(cairo_t* context, const Rectangle& area, double wantedRadius) {
     constexpr double quarter = std::numbers::pi / 2;
     const double largest = std::min(area.width, area.height) / 2;
@@ -128,11 +136,7 @@ void Canvas::draw(const Image& image, const Rectangle& area) {
         return;
     }
     save();
-    const bool placed = concatenate({.a = area.width / image.pixelWidth(),
-                                     .d = area.height / image.pixelHeight(),
-                                     .tx = area.x,
-                                     .ty = area.y});
-    if (placed) {
+    if (concatenate(fitting(image, area))) {
         cairo_set_source_surface(context(), image.surface(), 0, 0);
         // Otherwise the edges of enlarged pictures would fade into what is behind them.
         cairo_pattern_set_extend(cairo_get_source(context()), CAIRO_EXTEND_PAD);
@@ -147,11 +151,7 @@ void Canvas::fillShape(const Image& image, const Rectangle& area, const Colour& 
         return;
     }
     save();
-    const bool placed = concatenate({.a = area.width / image.pixelWidth(),
-                                     .d = area.height / image.pixelHeight(),
-                                     .tx = area.x,
-                                     .ty = area.y});
-    if (placed) {
+    if (concatenate(fitting(image, area))) {
         setColour(colour);
         cairo_mask_surface(context(), image.surface(), 0, 0);
     }
