@@ -40,7 +40,7 @@ void SafariViewController::viewDidLoad() {
     const ui::View view = self().view();
     const CGSize size = view.bounds().size;
     const double top = ScreenGeometry::current().safeArea.top;
-    const auto item = ui::NavigationItem::withTitle(url_.send<"host", ns::String>());
+    const auto item = ui::NavigationItem::withTitle(url_.host());
     item.setLeftBarButtonItem(ui::BarButtonItem::withSystemItem(
         ui::BarButtonSystemItem::done, self(), objc::selector<"donePressed">()));
     const auto bar = ui::NavigationBar::withFrame({{0, top}, {size.width, barHeight}});

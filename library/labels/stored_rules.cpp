@@ -99,7 +99,7 @@ void removeTextRuleShowing(std::u16string_view replacement) {
     const auto map = mutableMap(RuleKind::text);
     const auto shown = ns::String::from(withLineBreakSigns(replacement));
     for (const objc::Object key : map.allKeys()) {
-        if (map.get(key).send<"isEqual:", bool>(shown)) {
+        if (map.get(key).isEqual(shown)) {
             map.remove(key);
             break;
         }

@@ -111,7 +111,7 @@ void AlertController::addTextField(ui::AlertController::Configuration configurat
     }
     const auto field = ui::TextField::withFrame({});
     fields_.emplace_back(field);
-    field.send<"setFont:">(ui::Font::system(AlertView::messageSize));
+    field.setFont(ui::Font::system(AlertView::messageSize));
     if (configuration) {
         configuration(field);
     }

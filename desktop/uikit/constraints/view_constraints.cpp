@@ -132,7 +132,7 @@ void ViewConstraints::remove(ui::LayoutConstraint constraint) {
 }
 
 void ViewConstraints::activate(ui::LayoutConstraint constraint) {
-    constraint.send<"setActive:">(objc::Boolean(true));
+    constraint.activate();
 }
 
 void ViewConstraints::addAll(ns::Array constraints) {

@@ -29,7 +29,7 @@ ui::ScrollView PickerColumn::initWithFrame(CGRect frame) {
     constexpr long never = 2;
     self().send<"setContentInsetAdjustmentBehavior:">(never);
     self().send<"setShowsVerticalScrollIndicator:">(objc::Boolean(false));
-    self().send<"setAlwaysBounceVertical:">(objc::Boolean(true));
+    self().setAlwaysBounceVertical(true);
     self().send<"setDelegate:">(self());
     self().addGestureRecognizer(ui::GestureRecognizer::with<ui::TapGestureRecognizer>(
         self(), objc::selector<"handleTap:">()));
@@ -57,7 +57,7 @@ void PickerColumn::turnTo(long row, bool animated) {
     const long last = std::max(0L, rows_ - 1);
     const double offset = rowHeight_ * static_cast<double>(std::clamp(row, 0L, last));
     touched_ = false;
-    self().send<"setContentOffset:animated:">(CGPoint{0, offset}, animated);
+    self().setContentOffset({0, offset}, animated);
     self().setNeedsLayout();
 }
 

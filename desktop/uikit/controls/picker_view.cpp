@@ -1,6 +1,7 @@
 // Picker views: asking for rows, and placing the wheels side by side.
 #include "desktop/uikit/controls/picker_view.hpp"
 
+#include "bindings/foundation/attributed_string.hpp"
 #include "bindings/uikit/label.hpp"
 #include "desktop/coregraphics/affine.hpp"
 
@@ -164,10 +165,10 @@ double PickerView::rowHeight(long component) const {
 ns::String PickerView::title(long row, long component) const {
     if (answers<"pickerView:attributedTitleForRow:forComponent:">()) {
         const auto attributed =
-            delegate().send<"pickerView:attributedTitleForRow:forComponent:", objc::Object>(
+            delegate().send<"pickerView:attributedTitleForRow:forComponent:", ns::AttributedString>(
                 self(), row, component);
         if (attributed) {
-            return attributed.send<"string", ns::String>();
+            return attributed.string();
         }
     }
     return answers<"pickerView:titleForRow:forComponent:">()

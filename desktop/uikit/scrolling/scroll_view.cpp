@@ -141,7 +141,7 @@ void ScrollView::scrollRectToVisible(CGRect rect, bool animated) {
         revealing(rect.origin.x, rect.size.width, offset.x, room.width, inset.left, inset.right),
         revealing(rect.origin.y, rect.size.height, offset.y, room.height, inset.top, inset.bottom)};
     if (const CGPoint target = nearest(wanted); target != offset) {
-        self().send<"setContentOffset:animated:">(target, animated);
+        self().setContentOffset(target, animated);
     }
 }
 

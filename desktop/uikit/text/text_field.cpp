@@ -83,7 +83,7 @@ void TextField::redraw() {
 /// A text field has no line breaks.
 ns::String TextField::acceptable(ns::String text) const {
     const auto lines = text.send<"componentsSeparatedByString:", ns::Array>(u"\n"_ns);
-    return lines.count() > 1 ? lines.send<"componentsJoinedByString:", ns::String>(u" "_ns) : text;
+    return lines.count() > 1 ? lines.componentsJoined(u" "_ns) : text;
 }
 
 void TextField::pressReturn() {

@@ -19,7 +19,7 @@ void TextInput::addRecognizers() {
         view, objc::selector<"_textPressed:">());
     for (const ui::GestureRecognizer recognizer :
          std::initializer_list<ui::GestureRecognizer>{twice, once, longer}) {
-        recognizer.send<"setDelegate:">(static_cast<objc::Object>(view));
+        recognizer.setDelegate(view);
         GestureRecognizer::of(recognizer).belongsToView = true;
         view.addGestureRecognizer(recognizer);
     }
