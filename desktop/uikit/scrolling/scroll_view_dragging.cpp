@@ -109,7 +109,7 @@ void ScrollView::beginDrag() {
     const CGSize room = self().bounds().size;
     const CGPoint way = pan_.translationIn(self());
     const double length = std::hypot(way.x, way.y);
-    // What it took to tell the drag does not move the content, lest it jump.
+    // What it took to tell the drag does not move the content, which would jump.
     const double slack = length > 0 ? std::min(1.0, dragDistance / length) : 0;
     const bool isUpright = std::abs(way.y) >= std::abs(way.x);
     drag_ = {{wantedOffset(offset.x, horizontalRange(), room.width) + way.x * slack,
