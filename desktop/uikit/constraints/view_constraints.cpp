@@ -131,9 +131,7 @@ void ViewConstraints::remove(ui::LayoutConstraint constraint) {
     }
 }
 
-void ViewConstraints::activate(ui::LayoutConstraint constraint) {
-    constraint.activate();
-}
+void ViewConstraints::activate(ui::LayoutConstraint constraint) { constraint.activate(); }
 
 void ViewConstraints::addAll(ns::Array constraints) {
     ui::LayoutConstraint::sendClass<"activateConstraints:">(constraints);
