@@ -37,7 +37,8 @@ void loading(benchmark::State& state) {
         last = loadInChild();
         state.SetIterationTime(last.milliseconds / millisecondsPerSecond);
     }
-    state.counters["residentBytes"] = static_cast<double>(last.residentBytes);
+    state.counters["ownResidentBytes"] = static_cast<double>(last.ownResidentBytes);
+    state.counters["otherResidentBytes"] = static_cast<double>(last.otherResidentBytes);
     state.counters["fileBytes"] = static_cast<double>(last.fileBytes);
 }
 

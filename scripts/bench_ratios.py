@@ -80,7 +80,8 @@ def main():
     print(f"{'one move of a finger among 1,000 views':58}{move:5.1f} {results['touchMove']['time_unit']}")
     loading = next(result for name, result in results.items() if name.startswith("loading/"))
     print(f"\nloading the library: {loading['real_time']:.2f} ms,"
-          f" {loading['residentBytes'] / 1024:.0f} KiB resident,"
+          f" {loading['ownResidentBytes'] / 1024:.0f} KiB of its file resident"
+          f" and {loading['otherResidentBytes'] / 1024:.0f} KiB of others,"
           f" {loading['fileBytes'] / 1024:.0f} KiB on disk with debugging information")
 
 

@@ -22,7 +22,7 @@
 #include <dlfcn.h>
 #include <filesystem>
 #include <fstream>
-#include <unistd.h>
+#include <string_view>
 
 namespace bench {
 namespace {
@@ -70,12 +70,25 @@ void storeRules() {
     labels::storeRuleSet(rules);
 }
 
-std::size_t residentBytes() {
-    std::ifstream file("/proc/self/statm");
-    std::size_t total = 0;
+/// The last word of a mapping's first line: its file, or what else it is.
+std::string nameOf(const std::string& mapping) { return mapping.substr(mapping.rfind(' ') + 1); }
+
+/// Of all mappings, or of those of a file alone: without the pages that the linker gave it beyond
+/// its end.
+std::size_t residentBytes(std::string_view file = {}) {
+    constexpr std::string_view label = "Rss:";
+    constexpr std::size_t kibibyte = 1024;
+    std::ifstream mappings("/proc/self/smaps");
     std::size_t resident = 0;
-    file >> total >> resident;
-    return resident * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+    bool counts = false;
+    for (std::string line; std::getline(mappings, line);) {
+        if (line.starts_with(label)) {
+            resident += counts ? std::stoul(line.substr(label.size())) * kibibyte : 0;
+        } else if (line.find('-') < line.find(' ')) {
+            counts = file.empty() || nameOf(line) == file;
+        }
+    }
+    return resident;
 }
 
 } // namespace
@@ -116,8 +129,11 @@ Loading loadLibrary() {
         std::exit(EXIT_FAILURE);
     }
     const duration<double, std::milli> taken = steady_clock::now() - start;
-    return {taken.count(), residentBytes() - before,
-            static_cast<std::size_t>(std::filesystem::file_size(WENTRA_PATH))};
+    const std::size_t own = residentBytes(std::filesystem::canonical(WENTRA_PATH).native());
+    return {.milliseconds = taken.count(),
+            .ownResidentBytes = own,
+            .otherResidentBytes = residentBytes() - before - own,
+            .fileBytes = static_cast<std::size_t>(std::filesystem::file_size(WENTRA_PATH))};
 }
 
 void startPhone() {

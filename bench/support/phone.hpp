@@ -21,7 +21,8 @@ void startPlatform();
 /// What loading the library took and added.
 struct Loading {
     double milliseconds;
-    std::size_t residentBytes;
+    std::size_t ownResidentBytes;   ///< of the library's file
+    std::size_t otherResidentBytes; ///< what looking up and hooking touched of others, and the heap
     std::size_t fileBytes;
 };
 
