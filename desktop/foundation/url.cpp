@@ -1,5 +1,5 @@
-// URLs as the phone makes them: a missing slash is added for reading only, an empty text is none,
-// and no maker passes through another.
+// URLs as the phone makes them: they are written as they were given, an empty text is none, and no
+// maker passes through another.
 #include "desktop/foundation/url.hpp"
 
 #include "bindings/foundation/url.hpp"
@@ -11,18 +11,34 @@
 namespace desktop::foundation {
 namespace {
 
-/// Where the slash is missing: at the query right after the host; npos when it is not.
-std::size_t missingSlash(std::u16string_view text) {
+/// The host in the text, and the port and user beside it; empty when there is none.
+std::u16string_view hostIn(std::u16string_view text) {
     constexpr std::u16string_view mark = u"://";
-    const std::size_t host = text.find(mark);
-    if (host == std::u16string_view::npos) {
-        return host;
+    const std::size_t before = text.find(mark);
+    const std::u16string_view rest =
+        text.substr(before == text.npos ? text.size() : before + mark.size());
+    return rest.substr(0, rest.find_first_of(u"/?#"));
+}
+
+/// The host as GNUstep, which refuses an ampersand there, reads it.
+std::u16string readableHost(std::u16string_view host) {
+    std::u16string readable;
+    for (const char16_t unit : host) {
+        readable += unit == u'&' ? std::u16string_view(u"%26") : std::u16string_view(&unit, 1);
     }
-    const std::size_t end = text.find_first_of(u"/?#", host + mark.size());
-    const bool hasHost = end > host + mark.size();
-    return hasHost && end != std::u16string_view::npos && text[end] == u'?'
-               ? end
-               : std::u16string_view::npos;
+    return readable;
+}
+
+/// The text as GNUstep reads it: a slash stands before a query right after the host.
+std::u16string readable(std::u16string_view text) {
+    const std::u16string_view host = hostIn(text);
+    if (host.empty()) {
+        return std::u16string(text);
+    }
+    const auto start = static_cast<std::size_t>(host.data() - text.data());
+    const std::u16string_view rest = text.substr(start + host.size());
+    return std::u16string(text.substr(0, start)) + readableHost(host) +
+           (rest.starts_with(u'?') ? u"/" : u"") + std::u16string(rest);
 }
 
 using Maker = objc::Next<ns::Url(ns::String, ns::Url)>;
@@ -31,15 +47,9 @@ ns::Url read(Maker next, ns::Url url, ns::String text, ns::Url base) {
         static_cast<void>(objc::Strong<ns::Url>::adopt(url)); // as an initialiser that fails does
         return nullptr;
     }
-    const std::u16string given = text ? std::u16string(text.utf16()) : std::u16string();
-    const std::size_t place = missingSlash(given);
-    if (place == std::u16string::npos) {
-        return next(text, base);
-    }
-    // Not by `insert`: with optimisation, g++ 12 sees overlapping copies in it that are not there.
-    const std::u16string whole = given.substr(0, place) + u'/' + given.substr(place);
-    const ns::Url made = next(ns::String::from(whole), base);
-    if (made) {
+    const std::u16string given = text.utf16();
+    const ns::Url made = next(text ? ns::String::from(readable(given)) : text, base);
+    if (const bool isWhole = !base || !hostIn(given).empty(); made && isWhole) {
         objc::associate<"givenText">(made, text, objc::Association::copyNonatomic);
     }
     return made;
