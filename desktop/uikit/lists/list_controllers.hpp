@@ -21,6 +21,7 @@ public:
             objc::method<"initWithStyle:", &Self::initWithStyle>(),
             objc::method<"loadView", &Self::loadView>(),
             objc::property<"tableView", &Self::tableView, &Self::setTableView>(),
+            objc::method<"tableView:numberOfRowsInSection:", &Self::numberOfRows>(),
         };
     }
 
@@ -28,6 +29,8 @@ private:
     ui::TableViewController initWithStyle(long style);
     void loadView();
     [[nodiscard]] ui::View tableView() const { return self().view(); }
+    /// None, until a subclass says otherwise.
+    [[nodiscard]] long numberOfRows(ui::TableView, long) const { return 0; }
     void setTableView(ui::TableView table) { self().send<"setView:">(table); }
 
     long style_ = 0;

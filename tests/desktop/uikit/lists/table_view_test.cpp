@@ -3,6 +3,7 @@
 
 #include "bindings/uikit/table_view.hpp"
 #include "bindings/uikit/table_view_cell.hpp"
+#include "bindings/uikit/table_view_controller.hpp"
 
 #include "desktop/uikit/lists/item_selection.hpp"
 #include "desktop/uikit/lists/table_view.hpp"
@@ -213,6 +214,14 @@ TEST_F(TableViewTest, HeaderAndFooterViewsMoveTheRows) {
     EXPECT_EQ(rect(path(0, 0)).origin.y, 60);
     EXPECT_EQ(header.frame(), (CGRect{{0, 0}, {300, 60}}));
     EXPECT_EQ(cellAt(path(0, 0)).frame().origin.y, 60);
+}
+
+TEST_F(TableViewTest, OfABareControllerIsEmpty) {
+    const auto table = ui::TableViewController::withStyle(ui::TableViewStyle::plain).tableView();
+    table.setFrame({{0, 0}, {320, 480}});
+    table.layoutIfNeeded();
+    EXPECT_EQ((table.send<"numberOfSections", long>()), 1);
+    EXPECT_EQ((table.send<"numberOfRowsInSection:", long>(0L)), 0);
 }
 
 } // namespace
