@@ -18,6 +18,14 @@ enum class KeyboardDismissMode : long {
     interactive = 2, ///< the keyboard follows a finger that is dragged down over it
 };
 
+/// Whether a scroll view adds the safe area to its insets; the platform's numbers.
+enum class ContentInsetAdjustmentBehavior : long {
+    automatic = 0,
+    scrollableAxes = 1,
+    never = 2,
+    always = 3,
+};
+
 struct ScrollView : objc::Kind<ScrollView, "UIScrollView", View> {
     using Kind::Kind;
 
@@ -33,6 +41,9 @@ struct ScrollView : objc::Kind<ScrollView, "UIScrollView", View> {
     }
     [[nodiscard]] UIEdgeInsets contentInset() const { return send<"contentInset", UIEdgeInsets>(); }
     void setContentInset(UIEdgeInsets insets) const { send<"setContentInset:">(insets); }
+    void setContentInsetAdjustmentBehavior(ContentInsetAdjustmentBehavior behavior) const {
+        send<"setContentInsetAdjustmentBehavior:">(behavior);
+    }
     /// Whether content that fits can be dragged up and down all the same, and springs back.
     void setAlwaysBounceVertical(bool bounces) const { send<"setAlwaysBounceVertical:">(bounces); }
     void setKeyboardDismissMode(KeyboardDismissMode mode) const {

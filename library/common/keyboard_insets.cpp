@@ -27,6 +27,8 @@ void setInsets(ui::ScrollView view, const UIEdgeInsets& insets) {
 
 void keepClear(ui::ScrollView view, ui::Window window, ui::ViewController controller,
                double keyboardHeight) {
+    // These insets have the safe area in them already.
+    view.setContentInsetAdjustmentBehavior(ui::ContentInsetAdjustmentBehavior::never);
     const double bar = controller.navigationController().navigationBar().frame().size.height;
     setInsets(view, {window.safeAreaInsets().top + bar, 0, keyboardHeight, 0});
 }

@@ -102,6 +102,7 @@ TEST_F(Details, KeepsTheTextClearOfTheBarAndTheKeyboard) {
     EXPECT_EQ(phone.message(view, "scrollIndicatorInsets")["insets"], insets());
     edit(field, false);
     EXPECT_EQ(insets(), (Json{safe + barHeight, 0, 0, 0}));
+    EXPECT_EQ(phone.message(view, "adjustedContentInset")["insets"], insets()) << "once, not twice";
 }
 
 TEST_F(Details, LeavesTheTextAloneOnceItHasGone) {
