@@ -14,6 +14,10 @@ void WebPreview::show(ns::Url url) {
     if (!url) {
         return;
     }
+    if (screen_.presentingViewController()) { // a preview is there: it shows the other page
+        load(url);
+        return;
+    }
     const CGSize screen = ui::Screen::mainScreen().bounds().size;
     constexpr double above = 40;
     constexpr double below = 75;

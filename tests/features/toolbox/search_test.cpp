@@ -158,6 +158,24 @@ TEST(WebPreview, LoadsThePageTwiceAndCloses) {
     EXPECT_TRUE(phone.events("webLoad").empty()) << "no URL";
 }
 
+TEST(WebPreview, OfAnotherPageIsTheSameOne) {
+    Search phone;
+    for (const char* const page : {"first.example", "second.example"}) {
+        phone.copy(page);
+        phone.panel("goyulan");
+        phone.advance(1);
+    }
+    EXPECT_EQ(phone.events("webLoad").back()["url"], "https://second.example");
+    EXPECT_EQ(phone.result({{"do", "screens"}}).size(), 2U);
+    phone.tap("关闭预览");
+    phone.advance(1);
+    EXPECT_EQ(phone.result({{"do", "screens"}}).size(), 1U);
+    EXPECT_EQ(phone.panel("webViewController"), nullptr);
+    phone.panel("goyulan");
+    phone.advance(1);
+    EXPECT_EQ(phone.result({{"do", "screens"}}).size(), 2U) << "a new one when that has gone";
+}
+
 TEST(PinyinAlert, StopsReadingWhenItIsClosed) {
     Search phone;
     phone.copy("一段很长很长的文字，读起来要花许多时间，直到有人把窗口关上");
