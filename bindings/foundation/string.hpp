@@ -50,6 +50,10 @@ struct String : objc::Kind<String, "NSString"> {
     [[nodiscard]] bool isEqualToString(String other) const {
         return send<"isEqualToString:", bool>(other);
     }
+    /// Nil when a percent sign has no two hexadecimal digits behind it, or the bytes are not UTF-8.
+    [[nodiscard]] String removingPercentEncoding() const {
+        return send<"stringByRemovingPercentEncoding", String>();
+    }
     /// Where `other` stands in that range, first unless searched backwards; nothing where it does
     /// not.
     [[nodiscard]] std::optional<ns::Range> rangeOf(String other, StringCompareOptions options,

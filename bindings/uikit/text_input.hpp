@@ -22,6 +22,8 @@ struct TextInput : objc::Object {
         send<"replaceRange:withText:">(range, text);
     }
     void insertText(ns::String text) const { send<"insertText:">(text); }
+    /// Of the system's own commands; the sender may be nil.
+    void selectAll(objc::Object sender) const { send<"selectAll:">(sender); }
     void deleteBackward() const { send<"deleteBackward">(); }
     /// Nil without a selection or caret.
     [[nodiscard]] TextRange selectedTextRange() const {

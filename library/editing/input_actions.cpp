@@ -43,7 +43,9 @@ Object withSynthesizer(Next<Object(CGRect)> next, ui::View, CGRect frame) {
 
 void keepSynthesizer(Next<void(Object)> next, ui::View, Object synthesizer) { next(synthesizer); }
 
-void selectAllText(Next<void(Object)>, ui::View view, Object) { view.send<"selectAll:">(Object()); }
+void selectAllText(Next<void(Object)>, ui::View view, Object) {
+    ui::TextInput(view).selectAll(nullptr);
+}
 
 void deleteSelectedText(Next<void(Object)>, ui::View view, Object) {
     const ui::TextInput input(view);
@@ -93,7 +95,7 @@ void romanizeSelectedText(Next<void(Object)>, ui::View view, Object) {
 }
 
 void selectAllAndCopy(ui::View view, ns::String text, const NoticePlace& place) {
-    view.send<"selectAll:">(view);
+    ui::TextInput(view).selectAll(view);
     pasteboard().setString(text);
     showToast(view, u"QF：已全选且写入粘贴板❗️"_ns, place);
 }

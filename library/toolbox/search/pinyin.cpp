@@ -83,8 +83,6 @@ ns::String Pinyin::urlEncoded(ns::String text) const {
                 : nullptr;
 }
 
-ns::String Pinyin::urlDecoded(ns::String text) const {
-    return text.send<"stringByRemovingPercentEncoding", ns::String>();
-}
+ns::String Pinyin::urlDecoded(ns::String text) const { return text.removingPercentEncoding(); }
 
 } // namespace wentra::toolbox

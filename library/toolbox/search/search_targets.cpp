@@ -3,11 +3,11 @@
 
 #include "bindings/foundation/number.hpp"
 #include "bindings/safariservices/safari_view_controller.hpp"
-#include "bindings/uikit/application.hpp"
 #include "bindings/uikit/pasteboard.hpp"
 #include "bindings/uikit/popover_presentation_controller.hpp"
 #include "bindings/uikit/table_view_controller.hpp"
 #include "library/common/light_background.hpp"
+#include "library/common/opening.hpp"
 #include "library/common/screens.hpp"
 #include "library/preferences/preference_keys.hpp"
 #include "library/preferences/preferences.hpp"
@@ -22,14 +22,11 @@ using namespace ns::literals;
 /// By the system, or in the application when the user wants that of web pages.
 void open(ns::Url url, Opener opener) {
     constexpr bool animated = true;
-    if (!url) {
-        return;
-    }
-    if (opener == Opener::browser &&
+    if (url && opener == Opener::browser &&
         preferences::Preferences::read().on(preferences::keys.searchInApp)) {
         topViewController().present(sf::SafariViewController::with(url), animated);
     } else {
-        ui::Application::sharedApplication().openUrl(url);
+        openUrl(url);
     }
 }
 
@@ -111,7 +108,7 @@ void SearchTargets::chose(ui::TableView table, ns::IndexPath path) {
 void SearchTargets::call(ns::String title) const {
     const SEL method = sel_registerName(methods_.get(title).as<ns::String>().utf8().c_str());
     if (self().respondsToSelector(method)) {
-        self().send<"performSelector:", objc::Object>(method);
+        objc::sendTo(self().raw(), method);
     }
 }
 

@@ -3,10 +3,10 @@
 
 #include "bindings/foundation/data_detector.hpp"
 #include "bindings/foundation/set.hpp"
-#include "bindings/uikit/application.hpp"
 #include "bindings/uikit/pasteboard.hpp"
 #include "library/common/alert.hpp"
 #include "library/common/notice.hpp"
+#include "library/common/opening.hpp"
 #include "library/preferences/preference_keys.hpp"
 #include "library/preferences/preferences.hpp"
 #include "library/toolbox/text_tools/links.hpp"
@@ -17,12 +17,6 @@ namespace {
 
 using namespace ns::literals;
 
-void open(ns::String address) {
-    if (const auto url = ns::Url::withString(address); url) {
-        ui::Application::sharedApplication().openUrl(url);
-    }
-}
-
 bool isVideo(ns::String address) {
     return preferences::Preferences::read().on(preferences::keys.parseVideoLinks) &&
            address.utf16().find(u"douyin") != std::u16string::npos;
@@ -32,7 +26,7 @@ void openChosen(FloatingViewController controller, ns::String address) {
     if (isVideo(address)) {
         offerVideo(controller, address);
     } else {
-        open(address);
+        openUrl(ns::Url::withString(address));
     }
 }
 
@@ -87,7 +81,7 @@ void LinkFinder::find(objc::Object /*sender*/) {
         offer(found);
     } else if (found.count() == 1) {
         const auto only = found.first().as<ns::String>();
-        open(only);
+        openUrl(ns::Url::withString(only));
         ui::Pasteboard::generalPasteboard().setString(only);
     } else {
         showNotice(self().view(), u"未检测到链接❗️"_ns, {.height = 0.25}, shown);

@@ -18,12 +18,9 @@ TEST(PercentEncoding, LeavesAsciiAlone) {
 TEST(PercentEncoding, IsRemovedOnlyWhereItIsWhole) {
     const objc::Pool pool;
     installPercentEncoding();
-    const auto decoded = [](ns::String text) {
-        return text.send<"stringByRemovingPercentEncoding", ns::String>();
-    };
-    EXPECT_EQ(decoded(u"%E4%b8%ad+"_ns).utf16(), u"中+");
+    EXPECT_EQ(u"%E4%b8%ad+"_ns.removingPercentEncoding().utf16(), u"中+");
     for (const ns::String broken : {u"%"_ns, u"100%"_ns, u"%4"_ns, u"%zz"_ns, u"%41%"_ns}) {
-        EXPECT_FALSE(decoded(broken)) << broken.utf8();
+        EXPECT_FALSE(broken.removingPercentEncoding()) << broken.utf8();
     }
 }
 
