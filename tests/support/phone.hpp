@@ -59,6 +59,22 @@ public:
     Json window() { return result({{"do", "tree"}})[0]; }
     Json find(const Json& where) { return result({{"do", "find"}, {"where", where}}); }
     Json pasteboard() { return result({{"do", "pasteboard"}}); }
+    /// The front alert; null when there is none.
+    Json alert() { return result({{"do", "alert"}}); }
+    /// The titles of its actions.
+    std::vector<std::string> alertActions() {
+        std::vector<std::string> titles;
+        const Json shown = alert();
+        for (const Json& action : shown["actions"]) {
+            titles.push_back(action["title"]);
+        }
+        return titles;
+    }
+    /// Fills the front alert's fields and taps that action; the alert is gone then.
+    void choose(const std::string& title, const std::vector<std::string>& fields = {}) {
+        result({{"do", "alert"}, {"fields", fields}, {"choose", title}});
+        advance(1);
+    }
     void copy(const Json& text) { result({{"do", "pasteboard"}, {"set", text}}); }
     void slide(const Json& path) { result({{"do", "slide"}, {"path", path}}); }
     void tap(const Json& place, int taps = 1) {

@@ -46,15 +46,14 @@ TEST_F(MovableAlert, ShowsWhatItsFiltersKeep) {
     for (const auto& [title, result, message] : filters) {
         phone.tap(button(title));
         phone.advance(1);
-        const Json alert = phone.result({{"do", "alert"}});
+        const Json alert = phone.alert();
         ASSERT_TRUE(alert.is_object()) << title;
         constexpr int overFullScreen = 5;
         const Json controller = phone.message(dialog, "getCurrentViewController");
         EXPECT_EQ(phone.message(controller, "modalPresentationStyle"), overFullScreen);
         EXPECT_EQ(alert["title"], result);
         EXPECT_EQ(alert["message"], message);
-        phone.result({{"do", "alert"}, {"choose", "确定"}});
-        phone.advance(1);
+        phone.choose("确定");
     }
 }
 

@@ -34,10 +34,6 @@ protected:
         phone.result({{"do", "wait"}, {"for", {{"text", shown}}}, {"seconds", 10}});
         phone.advance(1);
     }
-    void choose(const std::string& title) {
-        phone.result({{"do", "alert"}, {"choose", title}});
-        phone.advance(1);
-    }
 
     Phone phone{{"--app", "notes", "--settings-bundle"}};
 };
@@ -76,9 +72,9 @@ TEST_P(Readable, ResultAlertAndEditAlertAndTextEditor) {
     phone.turnOn({"modify", "copyOriginal"});
     translate("hello", "翻译结果");
     expectReadable("复制原文");
-    choose("修改翻译");
+    phone.choose("修改翻译");
     expectReadable("修改翻译结果？");
-    choose("窗口放大");
+    phone.choose("窗口放大");
     expectReadable("清空文本");
 }
 

@@ -170,22 +170,18 @@ TEST_P(EditMenu, TranslatesTheSelection) {
     const Json view = input(GetParam(), "say hello now", 4, 5);
     run(view, "Translatetext:");
     phone.result({{"do", "wait"}, {"for", {{"text", "翻译结果"}}}, {"seconds", 10}});
-    EXPECT_EQ(phone.result({{"do", "alert"}})["message"], "你好");
+    EXPECT_EQ(phone.alert()["message"], "你好");
 }
 
 TEST_P(EditMenu, ShowsThePinyinOfTheSelection) {
     const Json view = input(GetParam(), "我说中文", 2, 2);
     run(view, "pinyin:");
     phone.advance(1);
-    const Json alert = phone.result({{"do", "alert"}});
+    const Json alert = phone.alert();
     EXPECT_EQ(alert["title"], "文字转拼音结果");
     EXPECT_EQ(alert["message"], "\n中文\n\nzhong wen");
-    std::vector<std::string> actions;
-    for (const Json& action : alert["actions"]) {
-        actions.push_back(action["title"]);
-    }
-    EXPECT_EQ(actions, (Titles{"复制全部", "复制原文", "复制拼音", "关闭窗口"}));
-    phone.result({{"do", "alert"}, {"choose", "复制全部"}});
+    EXPECT_EQ(phone.alertActions(), (Titles{"复制全部", "复制原文", "复制拼音", "关闭窗口"}));
+    phone.choose("复制全部");
     EXPECT_EQ(phone.pasteboard(), "中文\n\nzhong wen");
 }
 
@@ -273,12 +269,11 @@ TEST_P(Finding, HighlightsTheFirstOccurrence) {
     const Json view = input(GetParam(), "start 词 and 词 again", 0, 0);
     run(view, "showSearchAlert:");
     phone.advance(1);
-    const Json alert = phone.result({{"do", "alert"}});
+    const Json alert = phone.alert();
     EXPECT_EQ(alert["title"], "查找文本");
     EXPECT_EQ(alert["actions"][0]["title"], "确定");
     EXPECT_EQ(alert["actions"][1]["title"], "取消");
-    phone.result({{"do", "alert"}, {"fields", {"词"}}, {"choose", "确定"}});
-    phone.advance(1);
+    phone.choose("确定", {"词"});
     const auto colourAt = [&](long unit) {
         const Json text = phone.message(view, "attributedText");
         return phone.message(text, "attributesAtIndex:effectiveRange:", {unit, nullptr}).dump();

@@ -19,13 +19,12 @@ struct Scene {
     }
     bool translates() {
         phone.advance(1);
-        const Json alert = phone.result({{"do", "alert"}});
+        const Json alert = phone.alert();
         if (alert.is_null()) {
             return false;
         }
         EXPECT_EQ(alert["title"], "翻译错误") << "there is no account";
-        phone.result({{"do", "alert"}, {"choose", "关闭窗口"}});
-        phone.advance(1);
+        phone.choose("关闭窗口");
         return true;
     }
     void pressWith(int fingers, double seconds) {
@@ -44,7 +43,7 @@ TEST(TextGestures, ATapTranslatesInTheChat) {
     scene.phone.set({{"百度id", "desktop"}, {"百度key", "desktop-key"}});
     scene.phone.tap(scene.label);
     scene.phone.result({{"do", "wait"}, {"for", {{"text", "翻译结果"}}}, {"seconds", 10}});
-    EXPECT_EQ(scene.phone.result({{"do", "alert"}})["message"], "你好");
+    EXPECT_EQ(scene.phone.alert()["message"], "你好");
 }
 
 TEST(TextGestures, TwoFingersTranslateInTheVideos) {

@@ -50,11 +50,6 @@ public:
         EXPECT_EQ(urls.size(), 1U);
         return urls.empty() ? "" : urls[0].value("url", "");
     }
-    Json alert() { return result({{"do", "alert"}}); }
-    void choose(const std::string& title) {
-        result({{"do", "alert"}, {"choose", title}});
-        advance(1);
-    }
 };
 
 TEST(SearchTargets, OpenTheirAddressesAndUnpickTheWords) {

@@ -8,23 +8,10 @@ using tests::ToolboxPanel;
 
 class TextTools : public testing::Test {
 protected:
-    Json alert() { return phone.result({{"do", "alert"}}); }
-    void choose(const std::string& title) {
-        phone.result({{"do", "alert"}, {"choose", title}});
-        phone.advance(1);
-    }
     void findLinks(const std::string& text) {
         phone.copy(text);
         phone.tap("链接跳转");
         phone.advance(0.6);
-    }
-    std::vector<std::string> titles() {
-        std::vector<std::string> all;
-        const Json shown = alert();
-        for (const Json& action : shown["actions"]) {
-            all.push_back(action["title"]);
-        }
-        return all;
     }
     std::vector<std::string> openedUrls() {
         std::vector<std::string> urls;
@@ -41,34 +28,35 @@ TEST_F(TextTools, ConvertToEscapesAndBack) {
     phone.copy("A中");
     phone.tap("U码转换");
     phone.advance(1);
-    EXPECT_EQ(alert()["title"], "U码转换结果");
-    EXPECT_EQ(alert()["message"], "A中\n\n\n\\u41\\u4e2d");
-    EXPECT_EQ(titles(), (std::vector<std::string>{"关闭窗口", "复制结果"}));
-    choose("复制结果");
+    EXPECT_EQ(phone.alert()["title"], "U码转换结果");
+    EXPECT_EQ(phone.alert()["message"], "A中\n\n\n\\u41\\u4e2d");
+    EXPECT_EQ(phone.alertActions(), (std::vector<std::string>{"关闭窗口", "复制结果"}));
+    phone.choose("复制结果");
     EXPECT_EQ(phone.pasteboard(), "\\u41\\u4e2d");
     phone.tap("U码转换");
     phone.advance(1);
-    EXPECT_EQ(alert()["message"], "\\u41\\u4e2d\n\n\nA中");
-    choose("关闭窗口");
+    EXPECT_EQ(phone.alert()["message"], "\\u41\\u4e2d\n\n\nA中");
+    phone.choose("关闭窗口");
     phone.copy("\\u41\"broken");
     phone.tap("U码转换");
     phone.advance(1);
-    EXPECT_EQ(alert()["message"], "\\u41\"broken\n\n\n") << "no text: empty";
+    EXPECT_EQ(phone.alert()["message"], "\\u41\"broken\n\n\n") << "no text: empty";
     EXPECT_EQ(phone.panel("replaceUnicode:", {"\\u41\"broken"}), nullptr);
 }
 
 TEST_F(TextTools, OfferLinksPathsAndShareCodes) {
     findLinks("【淘宝】https://m.tb.cn/h.abc 在/var/mobile 看 https://m.tb.cn/h.abc");
-    EXPECT_EQ(alert()["title"], "选择链接");
-    EXPECT_EQ(titles(), (std::vector<std::string>{"https://m.tb.cn/h.abc", "filza:///var/mobile",
-                                                  "在淘宝打开", "取消"}));
-    choose("在淘宝打开");
+    EXPECT_EQ(phone.alert()["title"], "选择链接");
+    EXPECT_EQ(phone.alertActions(),
+              (std::vector<std::string>{"https://m.tb.cn/h.abc", "filza:///var/mobile",
+                                        "在淘宝打开", "取消"}));
+    phone.choose("在淘宝打开");
     EXPECT_EQ(openedUrls(), std::vector<std::string>{"taobao://"});
 }
 
 TEST_F(TextTools, OfferEachAddressOnce) {
     findLinks("filza:///var/x www.example.com");
-    EXPECT_EQ(titles(),
+    EXPECT_EQ(phone.alertActions(),
               (std::vector<std::string>{"filza:///var/x", "http://www.example.com", "取消"}));
 }
 
@@ -76,7 +64,7 @@ TEST_F(TextTools, OpenTheOnlyLinkAtOnceAndCopyIt) {
     findLinks("见www.example.com。");
     EXPECT_EQ(openedUrls(), std::vector<std::string>{"http://www.example.com"});
     EXPECT_EQ(phone.pasteboard(), "http://www.example.com");
-    EXPECT_EQ(alert(), nullptr);
+    EXPECT_EQ(phone.alert(), nullptr);
 }
 
 TEST_F(TextTools, OpenLinksWithChineseInThem) {
@@ -95,21 +83,22 @@ TEST_F(TextTools, SayWhenThereIsNoLink) {
 TEST_F(TextTools, AskForThePartsOfAVideo) {
     phone.set({{"抖音链接解析", true}});
     findLinks("打开抖音 https://v.douyin.com/whole/ 看");
-    EXPECT_EQ(titles(),
+    EXPECT_EQ(phone.alertActions(),
               (std::vector<std::string>{"https://v.douyin.com/whole/", "在抖音打开", "取消"}));
-    choose("https://v.douyin.com/whole/");
+    phone.choose("https://v.douyin.com/whole/");
     EXPECT_TRUE(openedUrls().empty());
     phone.result({{"do", "wait"}, {"for", {{"text", "请选择下载内容"}}}, {"seconds", 10}});
-    EXPECT_EQ(titles(), (std::vector<std::string>{"下载视频", "下载音频", "下载视频封面",
-                                                  "下载音频封面", "取消"}));
+    EXPECT_EQ(
+        phone.alertActions(),
+        (std::vector<std::string>{"下载视频", "下载音频", "下载视频封面", "下载音频封面", "取消"}));
 }
 
 TEST_F(TextTools, OfferThePartsOfAnUnknownVideo) {
     phone.set({{"抖音链接解析", true}});
     findLinks("打开抖音 https://v.douyin.com/unknown/ 看");
-    choose("https://v.douyin.com/unknown/");
+    phone.choose("https://v.douyin.com/unknown/");
     phone.result({{"do", "wait"}, {"for", {{"text", "请选择下载内容"}}}, {"seconds", 10}});
-    EXPECT_EQ(titles().size(), 5U);
+    EXPECT_EQ(phone.alertActions().size(), 5U);
 }
 
 TEST_F(TextTools, SortTheLibrariesOfACrashReport) {

@@ -24,23 +24,6 @@ protected:
         phone.result({{"do", "wait"}, {"for", {{"text", text}}}, {"seconds", 10}});
         phone.advance(1); // until whatever moves has arrived
     }
-    Json alert() { return phone.result({{"do", "alert"}}); }
-    void choose(const std::string& title) {
-        phone.result({{"do", "alert"}, {"choose", title}});
-        phone.advance(1);
-    }
-    void fillAndChoose(const std::string& text, const std::string& title) {
-        phone.result({{"do", "alert"}, {"fields", {text}}, {"choose", title}});
-        phone.advance(1);
-    }
-    std::vector<std::string> titles() {
-        std::vector<std::string> all;
-        const Json shown = alert();
-        for (const Json& action : shown["actions"]) {
-            all.push_back(action["title"]);
-        }
-        return all;
-    }
     Json replacements() { return phone.result({{"do", "defaults"}, {"key", "zerk"}}); }
     Json textNode(const std::string& text) { return phone.find({{"text", text}}).at(0); }
     void press(const std::string& title) { phone.tap(phone.find({{"title", title}}).at(0)); }
@@ -51,25 +34,25 @@ protected:
 TEST_F(Translation, TellsWhatIsMissing) {
     phone.set({{"百度key", ""}, {"网页Google", true}});
     translate("hello", "翻译错误");
-    EXPECT_EQ(alert()["message"], "百度翻译ID或key不存在，请检查你的输入");
-    EXPECT_EQ(titles(), std::vector<std::string>{"关闭窗口"});
-    choose("关闭窗口");
-    EXPECT_EQ(alert(), nullptr);
+    EXPECT_EQ(phone.alert()["message"], "百度翻译ID或key不存在，请检查你的输入");
+    EXPECT_EQ(phone.alertActions(), std::vector<std::string>{"关闭窗口"});
+    phone.choose("关闭窗口");
+    EXPECT_EQ(phone.alert(), nullptr);
 
     phone.set({{"百度key", "desktop-key"}});
     translate("", "翻译错误");
-    EXPECT_EQ(alert()["message"], "没有需要翻译的文本");
-    choose("关闭窗口");
+    EXPECT_EQ(phone.alert()["message"], "没有需要翻译的文本");
+    phone.choose("关闭窗口");
     phone.copy(nullptr);
     phone.message(controller(), "wzjhButtonClicked:", {nullptr});
-    EXPECT_EQ(alert()["message"], "没有需要翻译的文本");
+    EXPECT_EQ(phone.alert()["message"], "没有需要翻译的文本");
     EXPECT_TRUE(phone.events("request").empty());
 }
 
 TEST_F(Translation, AsksForEachLineAndJoinsTheAnswersInTheirOrder) {
     translate("!late hello\nhello\n\nworld\r\n你好 & =");
-    EXPECT_EQ(alert()["title"], "翻译结果");
-    const std::string message = alert()["message"];
+    EXPECT_EQ(phone.alert()["title"], "翻译结果");
+    const std::string message = phone.alert()["message"];
     EXPECT_EQ(message.substr(message.find('\n')), "\n你好\n\n世界\n\n⟦你好 & =⟧");
     EXPECT_EQ(phone.events("request").size(), 6U) << "one for each line, empty ones included";
 }
@@ -80,53 +63,54 @@ TEST_F(Translation, TranslatesChineseToWhateverElseToChinese) {
         translate(text);
         const std::string url = phone.events("request").at(0)["url"];
         EXPECT_NE(url.find(target), url.npos) << url;
-        choose("关闭窗口");
+        phone.choose("关闭窗口");
     }
 }
 
 TEST_F(Translation, AnErrorOfTheServiceIsAnEmptyLine) {
     translate("!error\nhello\n!json\n!500");
-    EXPECT_EQ(alert()["message"], "\n你好\n\n");
+    EXPECT_EQ(phone.alert()["message"], "\n你好\n\n");
 }
 
 TEST_F(Translation, AFailedRequestShowsTheErrorAlone) {
     translate("hello\n!drop\n!late world", "翻译错误");
-    EXPECT_NE(alert()["message"], "");
-    choose("关闭窗口");
+    EXPECT_NE(phone.alert()["message"], "");
+    phone.choose("关闭窗口");
     phone.message(controller(), "translateText:", {"!late good morning"});
     waitFor("翻译结果"); // as late as the first text's last line
     EXPECT_EQ(phone.find({{"text", "翻译结果"}}).size(), 1U);
-    choose("关闭窗口");
-    EXPECT_EQ(alert(), nullptr);
+    phone.choose("关闭窗口");
+    EXPECT_EQ(phone.alert(), nullptr);
 }
 
 TEST_F(Translation, TheResultOffersWhatThePreferencesAskFor) {
     phone.turnOn({"copyOriginal", "copyTranslated", "readOriginal", "readTranslated", "modify",
                   "useOriginalText", "Restoredefault"});
     translate("hello");
-    EXPECT_EQ(titles(), (std::vector<std::string>{"复制原文", "复制翻译", "朗读原文", "朗读翻译",
-                                                  "修改翻译", "直接替换", "恢复默认", "关闭窗口"}));
-    choose("复制翻译");
+    EXPECT_EQ(phone.alertActions(),
+              (std::vector<std::string>{"复制原文", "复制翻译", "朗读原文", "朗读翻译", "修改翻译",
+                                        "直接替换", "恢复默认", "关闭窗口"}));
+    phone.choose("复制翻译");
     EXPECT_EQ(phone.pasteboard(), "你好");
     translate("hello");
-    choose("复制原文");
+    phone.choose("复制原文");
     EXPECT_EQ(phone.pasteboard(), "hello");
 
     phone.events("request");
     translate("hello");
-    choose("朗读翻译");
+    phone.choose("朗读翻译");
     const Json speech = phone.events("speech");
     ASSERT_EQ(speech.size(), 1U);
     EXPECT_EQ(speech[0]["text"], "你好");
     EXPECT_EQ(speech[0]["delay"], 0.3);
 
     translate("hello\nworld");
-    choose("直接替换");
+    phone.choose("直接替换");
     EXPECT_EQ(replacements(), (Json{{"hello↲world", "你好↲世界"}}));
     EXPECT_EQ(phone.label("hello\nworld")["text"], "你好\n世界");
 
     translate("你好\n世界");
-    choose("恢复默认");
+    phone.choose("恢复默认");
     EXPECT_EQ(replacements(), Json::object());
 }
 
@@ -150,7 +134,7 @@ TEST_F(Translation, AnErrorsActionsLeaveThePasteboardAndTheRulesAlone) {
     phone.turnOn({"copyOriginal", "useOriginalText", "modify"});
     for (const char* action : {"复制原文", "直接替换", "修改翻译"}) {
         translate("", "翻译错误");
-        choose(action);
+        phone.choose(action);
     }
     EXPECT_EQ(phone.pasteboard(), "mine");
     EXPECT_EQ(replacements(), nullptr);
@@ -160,27 +144,28 @@ TEST_F(Translation, AnErrorsActionsLeaveThePasteboardAndTheRulesAlone) {
 TEST_F(Translation, ATranslationIsEditedInTheAlert) {
     phone.turnOn({"modify"});
     translate("hello");
-    choose("修改翻译");
-    EXPECT_EQ(alert()["title"], "修改翻译结果？");
-    EXPECT_EQ(alert()["message"], "\n原翻译为：\n\n你好");
-    EXPECT_EQ(alert()["fields"], (Json{{{"placeholder", "输入你的翻译结果"}, {"text", "你好"}}}));
-    EXPECT_EQ(titles(), (std::vector<std::string>{"窗口放大", "取消修改", "确定修改"}));
-    fillAndChoose("", "确定修改");
-    EXPECT_EQ(alert()["title"], "❌错误提示");
-    choose("好的");
+    phone.choose("修改翻译");
+    EXPECT_EQ(phone.alert()["title"], "修改翻译结果？");
+    EXPECT_EQ(phone.alert()["message"], "\n原翻译为：\n\n你好");
+    EXPECT_EQ(phone.alert()["fields"],
+              (Json{{{"placeholder", "输入你的翻译结果"}, {"text", "你好"}}}));
+    EXPECT_EQ(phone.alertActions(), (std::vector<std::string>{"窗口放大", "取消修改", "确定修改"}));
+    phone.choose("确定修改", {""});
+    EXPECT_EQ(phone.alert()["title"], "❌错误提示");
+    phone.choose("好的");
 
     translate("hello");
-    choose("修改翻译");
-    fillAndChoose("您好", "确定修改");
+    phone.choose("修改翻译");
+    phone.choose("确定修改", {"您好"});
     EXPECT_EQ(replacements(), (Json{{"hello", "您好"}}));
 }
 
 TEST_F(Translation, ATranslationIsEditedOnAWholeScreen) {
     phone.turnOn({"modify"});
     translate("world");
-    choose("修改翻译");
+    phone.choose("修改翻译");
     const Json field = phone.find({{"class", "UITextField"}}).at(0);
-    fillAndChoose("天下", "窗口放大");
+    phone.choose("窗口放大", {"天下"});
     EXPECT_EQ(phone.result({{"do", "screens"}}).back(), "TextViewController");
     const Json editor = phone.find({{"class", "UITextView"}, {"text", "天下"}}).at(0);
     press("清空文本");
@@ -193,27 +178,11 @@ TEST_F(Translation, ATranslationIsEditedOnAWholeScreen) {
     EXPECT_EQ(phone.message(field, "text"), "人间");
 }
 
-TEST_F(Translation, TheEditorGoesWithoutACallbackToo) {
-    const Json editor =
-        phone.message(phone.message({{"class", "TextViewController"}}, "alloc"), "init");
-    phone.message(editor, "setDisplayText:", {"text"});
-    phone.message(editor, "showWithText:", {"text"});
-    phone.advance(1);
-    EXPECT_EQ(phone.message(editor, "getCurrentViewController"), editor);
-    EXPECT_EQ(phone.message(editor, "getWindow"),
-              phone.message(phone.message(editor, "view"), "window"));
-    press("确认编辑");
-    phone.advance(1);
-    EXPECT_NE(phone.result({{"do", "screens"}}).back(), "TextViewController");
-    EXPECT_EQ(replacements(), nullptr);
-    EXPECT_TRUE(phone.swallowed().empty());
-}
-
 TEST_F(Translation, TheKeyboardIsDraggedOffTheButtonsOfTheEditor) {
     phone.turnOn({"modify"});
     translate("world");
-    choose("修改翻译");
-    fillAndChoose("天下", "窗口放大");
+    phone.choose("修改翻译");
+    phone.choose("窗口放大", {"天下"});
     const Json editor = phone.find({{"class", "UITextView"}, {"text", "天下"}}).at(0);
     phone.tap(editor);
     phone.advance(1);
@@ -245,7 +214,7 @@ TEST_F(Translation, PickedWordsGoFirstAndAreNoLongerPicked) {
     phone.message(toolbox, "setSelectedWords:", {words});
     phone.message(toolbox, "translateText:", {"hello"});
     waitFor("翻译结果");
-    EXPECT_EQ(alert()["message"], "早上好");
+    EXPECT_EQ(phone.alert()["message"], "早上好");
     EXPECT_EQ(phone.message(phone.message(toolbox, "selectedWords"), "count"), 0);
 }
 
@@ -266,7 +235,7 @@ TEST_F(Translation, TheDialogTellsOfErrorsWithoutTakingThemForText) {
     const Json dialog = phone.find({{"class", "MovableAlertViewzerk"}}).at(0);
     EXPECT_EQ(phone.message(phone.message(dialog, "translatedTextView"), "text"), "");
     EXPECT_EQ(phone.find({{"text", "翻译错误"}}).size(), 1U);
-    EXPECT_EQ(alert(), nullptr);
+    EXPECT_EQ(phone.alert(), nullptr);
 }
 
 class BilingualDialog : public Translation {
@@ -290,7 +259,7 @@ TEST_F(BilingualDialog, ShowsBothTextsWithTheirButtons) {
     EXPECT_EQ(frameOf("分享翻译"), (Json{260, 235.5, 80, 29}));
     EXPECT_EQ(frameOf("复制原文"), (Json{10, 465.5, 75, 29}));
     EXPECT_EQ(frameOf("关闭窗口"), (Json{265, 504.5, 75, 29}));
-    EXPECT_EQ(alert(), nullptr);
+    EXPECT_EQ(phone.alert(), nullptr);
 }
 
 TEST_F(BilingualDialog, StoresWhatTheUserMadeOfTheTexts) {
