@@ -72,7 +72,11 @@ public:
     }
     /// Fills the front alert's fields and taps that action; the alert is gone then.
     void choose(const std::string& title, const std::vector<std::string>& fields = {}) {
-        result({{"do", "alert"}, {"fields", fields}, {"choose", title}});
+        Json request{{"do", "alert"}, {"choose", title}};
+        if (!fields.empty()) {
+            request["fields"] = fields;
+        }
+        result(request);
         advance(1);
     }
     void copy(const Json& text) { result({{"do", "pasteboard"}, {"set", text}}); }

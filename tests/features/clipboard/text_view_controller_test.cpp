@@ -21,7 +21,7 @@ protected:
         return phone.result({{"do", "screens"}}).back() == "TextViewController";
     }
 
-    tests::Phone phone;
+    tests::Phone phone{{"--app", "notes"}};
     const Json editor =
         phone.message(phone.message({{"class", "TextViewController"}}, "alloc"), "init");
 };
