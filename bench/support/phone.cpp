@@ -15,6 +15,7 @@
 #include "tests/support/temporary_folder.hpp"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <chrono>
 #include <cstdio>
@@ -91,9 +92,7 @@ std::size_t residentBytes(std::string_view file = {}) {
     return resident;
 }
 
-} // namespace
-
-const std::string& preferenceFile(PlistForm form) {
+const std::string& preferencePath() {
     static const std::string path = [] {
         // The rootless layout, as on most phones.
         std::filesystem::create_directories(deviceRoot().path() /
@@ -101,10 +100,44 @@ const std::string& preferenceFile(PlistForm form) {
         deviceroot_set(deviceRoot().path().c_str());
         return paths::preferencePath();
     }();
-    std::ofstream(path, std::ios::binary)
-        << (form == PlistForm::xml ? preferences::xmlPropertyList(entries())
-                                   : preferences::binaryPropertyList(entries()));
     return path;
+}
+
+const std::string& write(const preferences::WrittenEntries& entries, PlistForm form) {
+    std::ofstream(preferencePath(), std::ios::binary)
+        << (form == PlistForm::xml ? preferences::xmlPropertyList(entries)
+                                   : preferences::binaryPropertyList(entries));
+    return preferencePath();
+}
+
+/// Hosts and paths such as people collect.
+std::string blockedWords() {
+    constexpr int wordCount = 1000;
+    constexpr std::array<const char*, 5> forms{"ads%d.example.com,", "track%d,", "/banner/%d/,",
+                                               "www.shop%d.cn,", "cdn%d-stat.net,"};
+    std::string words;
+    for (int word = 0; word < wordCount; ++word) {
+        std::array<char, 64> text{};
+        std::snprintf(text.data(), text.size(), forms.at(static_cast<std::size_t>(word) % 5), word);
+        words += text.data();
+    }
+    return words;
+}
+
+} // namespace
+
+const std::string& preferenceFile(PlistForm form) { return write(entries(), form); }
+
+const std::string& blockingFile(PlistForm form, bool blocks) {
+    preferences::WrittenEntries written = entries();
+    for (auto& [key, value] : written) {
+        if (key == preferences::keys.blockRequests.name()) {
+            value = blocks;
+        } else if (key == preferences::keys.blockedHosts.front().name()) {
+            value = blockedWords();
+        }
+    }
+    return write(written, form);
 }
 
 void startPlatform() {

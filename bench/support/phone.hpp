@@ -14,6 +14,9 @@ enum class PlistForm { xml, binary };
 /// device.
 const std::string& preferenceFile(PlistForm form);
 
+/// Writes the same file with request blocking on or off and 1,000 words of the user's for new URLs.
+const std::string& blockingFile(PlistForm form, bool blocks);
+
 /// Brings up the desktop platform with 1,000 text rules and 100 of each other kind in the user
 /// defaults, once.
 void startPlatform();

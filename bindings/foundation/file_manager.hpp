@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bindings/foundation/array.hpp"
+#include "bindings/foundation/result.hpp"
 #include "bindings/foundation/url.hpp"
 
 namespace ns {
@@ -18,6 +19,17 @@ struct FileManager : objc::Kind<FileManager, "NSFileManager"> {
     /// Files and folders alike; links are followed.
     [[nodiscard]] bool fileExists(String path) const {
         return send<"fileExistsAtPath:", bool>(path);
+    }
+    [[nodiscard]] Url temporaryDirectory() const { return send<"temporaryDirectory", Url>(); }
+    /// Nil when the file, or the folder with all in it, was copied; nothing is replaced.
+    [[nodiscard]] Error copyItem(String path, String to) const {
+        const ErrorPointer error;
+        return error.unless(send<"copyItemAtPath:toPath:error:", bool>(path, to, error.out()));
+    }
+    /// Nil when the file, or the folder with all in it, was removed.
+    [[nodiscard]] Error removeItem(String path) const {
+        const ErrorPointer error;
+        return error.unless(send<"removeItemAtPath:error:", bool>(path, error.out()));
     }
     /// Best first; an application has one folder for its documents.
     [[nodiscard]] ArrayOf<Url> urlsFor(SearchPathDirectory directory,

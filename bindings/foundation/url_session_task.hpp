@@ -9,6 +9,9 @@ namespace ns {
 /// The platform's numbers.
 enum class UrlSessionTaskState : long { running = 0, suspended = 1, canceling = 2, completed = 3 };
 
+/// The code of the error with which a task ends that was cancelled.
+inline constexpr long urlErrorCancelled = -999;
+
 struct UrlSessionTask : objc::Kind<UrlSessionTask, "NSURLSessionTask"> {
     using Kind::Kind;
 

@@ -5,9 +5,9 @@
 
 namespace desktop::foundation {
 
-/// Makes the documents folder of the application with that bundle identifier, a path on the device,
-/// and lets the file manager answer with it: applications of the system share the user's, every
-/// other has one of its own. Once.
+/// Makes the folders for documents and temporary files of the application with that bundle
+/// identifier, paths on the device, and lets the file manager answer with them: applications of the
+/// system share the user's documents, every other has its own. Once.
 void installApplicationFolders(ns::String bundleIdentifier);
 
 } // namespace desktop::foundation

@@ -15,6 +15,7 @@
 #include "desktop/foundation/property_list_serialization.hpp"
 #include "desktop/foundation/string.hpp"
 #include "desktop/foundation/string_transform.hpp"
+#include "desktop/foundation/suggested_filename.hpp"
 #include "desktop/foundation/timer.hpp"
 #include "desktop/foundation/url.hpp"
 #include "desktop/foundation/url_session.hpp"
@@ -43,6 +44,7 @@ void install(const std::string& bundleIdentifier) {
     installMainOperationQueue();
     installObservers();
     installUrls();
+    installSuggestedFilename();
     installUrlSessions();
     installLoadingProtocol();
 }

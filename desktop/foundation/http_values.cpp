@@ -26,16 +26,25 @@ void addHeaders(ns::Dictionary fields, Headers& headers) {
     }
 }
 
+/// In UTF-8 or else, as of old, in Latin-1.
+ns::String textOf(const std::string& value) {
+    const auto text = ns::String::fromUtf8(value);
+    return text ? text
+                : ns::String::make<"initWithBytes:length:encoding:">(
+                      static_cast<const void*>(value.data()),
+                      static_cast<unsigned long>(value.size()), ns::StringEncoding::isoLatin1);
+}
+
 ns::Dictionary joined(const Headers& headers) {
     const auto fields = ns::MutableDictionary::make();
     for (const auto& [name, value] : headers) {
         const auto key = ns::String::fromUtf8(name);
-        auto text = ns::String::fromUtf8(value);
-        if (!key || !text) {
+        ns::String text = textOf(value);
+        if (!key) {
             continue; // not UTF-8
         }
         if (const auto former = fields.get(key).assume<ns::String>()) {
-            text = ns::String::fromUtf8(former.utf8() + ", " + value);
+            text = ns::String::from(former.utf16() + u", " + text.utf16());
         }
         fields.set(text, key);
     }

@@ -21,6 +21,29 @@ int statusArgument(const Json& request) {
     return static_cast<int>(status);
 }
 
+services::Headers headersArgument(const Json& request) {
+    services::Headers headers;
+    const Json& values = anyArgument(request, "headers");
+    if (!values.is_object()) {
+        throw RequestError("\"headers\" must be an object");
+    }
+    for (const auto& [name, value] : values.items()) {
+        if (!value.is_string()) {
+            throw RequestError("\"headers\" must have strings as values");
+        }
+        headers.emplace_back(name, value.get<std::string>());
+    }
+    return headers;
+}
+
+std::uint64_t bytesArgument(const Json& request, const char* name) {
+    const Json& value = anyArgument(request, name);
+    if (!value.is_number_unsigned()) {
+        throw RequestError('"' + std::string(name) + "\" must be a number of bytes");
+    }
+    return value.get<std::uint64_t>();
+}
+
 services::AnswerChange changeArgument(const Json& request) {
     services::AnswerChange change;
     if (argument(request, "status") != nullptr) {
@@ -35,11 +58,24 @@ services::AnswerChange changeArgument(const Json& request) {
     if (argument(request, "delay") != nullptr) {
         change.delay = secondsArgument(request, "delay");
     }
+    if (argument(request, "headers") != nullptr) {
+        change.headers = headersArgument(request);
+    }
+    if (argument(request, "length") != nullptr) {
+        change.length = bytesArgument(request, "length");
+    }
+    if (argument(request, "cut") != nullptr) {
+        change.cut = bytesArgument(request, "cut");
+    }
+    if (argument(request, "rate") != nullptr) {
+        change.rate = static_cast<double>(bytesArgument(request, "rate"));
+    }
     return change;
 }
 
 void refuseChanges(const Json& request) {
-    constexpr std::array changes{"status", "body", "drop", "delay"};
+    constexpr std::array changes{"status",  "body",   "drop", "delay",
+                                 "headers", "length", "cut",  "rate"};
     if (std::ranges::any_of(changes, [&](const char* name) { return request.contains(name); })) {
         throw RequestError("\"reset\" leaves nothing to be changed");
     }

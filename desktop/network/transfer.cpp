@@ -32,6 +32,20 @@ const std::string* valueOf(const Headers& headers, const char* name) {
     return found == headers.end() ? nullptr : &found->second;
 }
 
+/// Of the body as it is received; -1 when it is not known, as for one that comes compressed.
+long long lengthIn(const Headers& headers) {
+    const std::string* length = valueOf(headers, "Content-Length");
+    if (length == nullptr || valueOf(headers, "Content-Encoding") != nullptr) {
+        return -1;
+    }
+    unsigned long long bytes = 0;
+    const char* const end = length->data() + length->size();
+    const auto [rest, failure] = std::from_chars(length->data(), end, bytes);
+    return failure == std::errc() && rest == end && std::in_range<long long>(bytes)
+               ? static_cast<long long>(bytes)
+               : -1;
+}
+
 /// A header with a line break in it would be two.
 bool isOneLine(const std::string& text) {
     return text.find_first_of(std::string_view("\r\n\0", 3)) == std::string::npos;
@@ -166,10 +180,7 @@ void Transfer::completeHead() {
     headIsComplete_ = true;
     response_.status = static_cast<int>(status);
     response_.url = request_.url;
-    const std::string* length = valueOf(response_.headers, "Content-Length");
-    if (length != nullptr) {
-        std::from_chars(length->data(), length->data() + length->size(), response_.expectedLength);
-    }
+    response_.expectedLength = lengthIn(response_.headers);
     redirects_ =
         isRedirection(response_.status) && valueOf(response_.headers, "Location") != nullptr;
     if (!redirects_) {

@@ -13,9 +13,11 @@
 #include <boost/beast/http.hpp>
 #include <boost/beast/ssl.hpp>
 
+#include <algorithm>
 #include <chrono>
 #include <exception>
 #include <memory>
+#include <string_view>
 #include <thread>
 #include <utility>
 
@@ -69,17 +71,50 @@ bool hasBody(http::status status) {
            status != http::status::no_content && status != http::status::not_modified;
 }
 
-asio::awaitable<void> write(Stream& stream, const Request& request, Answer answer) {
-    http::response<http::string_body> response(static_cast<http::status>(answer.status),
-                                               request.version());
-    response.set(http::field::content_type, answer.contentType);
-    response.keep_alive(request.keep_alive());
-    if (hasBody(response.result())) {
-        response.body() = std::move(answer.body);
+/// Whether the connection can go on behind the answer: the other side must know where that ends.
+bool endsWhereItSays(const Answer& answer) { return !answer.length && !answer.cut; }
+
+http::response<http::empty_body> headOf(const Request& request, const Answer& answer) {
+    http::response<http::empty_body> head(static_cast<http::status>(answer.status),
+                                          request.version());
+    for (const auto& [name, value] : answer.headers) {
+        head.insert(name, value);
     }
-    response.prepare_payload();
+    head.set(http::field::content_type, answer.contentType);
+    head.keep_alive(request.keep_alive() && endsWhereItSays(answer));
+    if (hasBody(head.result())) {
+        head.content_length(answer.length.value_or(answer.body.size()));
+    }
+    return head;
+}
+
+asio::awaitable<void> writeBody(Stream& stream, const Answer& answer) {
+    constexpr double pieces = 10; // a second
+    std::string_view body = answer.body;
+    body = body.substr(0, answer.cut.value_or(body.size()));
+    const std::size_t piece = answer.rate > 0
+                                  ? static_cast<std::size_t>(std::max(1.0, answer.rate / pieces))
+                                  : std::max<std::size_t>(body.size(), 1);
+    while (!body.empty()) {
+        const std::string_view next = body.substr(0, piece);
+        beast::get_lowest_layer(stream).expires_after(quietTime);
+        co_await asio::async_write(stream, asio::buffer(next), use_awaitable);
+        body.remove_prefix(next.size());
+        if (answer.rate > 0) {
+            beast::get_lowest_layer(stream).expires_never();
+            co_await pause(static_cast<double>(next.size()) / answer.rate);
+        }
+    }
+}
+
+asio::awaitable<void> write(Stream& stream, const Request& request, const Answer& answer) {
+    const http::response<http::empty_body> head = headOf(request, answer);
+    http::response_serializer<http::empty_body> serializer(head);
     beast::get_lowest_layer(stream).expires_after(quietTime);
-    co_await http::async_write(stream, response, use_awaitable);
+    co_await http::async_write_header(stream, serializer, use_awaitable);
+    if (hasBody(head.result())) {
+        co_await writeBody(stream, answer);
+    }
 }
 
 Answer answerTo(const Server& server, const Request& request) {
@@ -97,13 +132,16 @@ asio::awaitable<void> converse(const Server& server, Stream stream) {
     co_await stream.async_handshake(asio::ssl::stream_base::server, use_awaitable);
     for (bool more = true; more;) {
         const Request request = co_await readRequest(stream, buffer);
-        Answer answer = answerTo(server, request);
+        const Answer answer = answerTo(server, request);
         co_await pause(answer.delay);
         if (answer.dropped) {
             co_return;
         }
-        co_await write(stream, request, std::move(answer));
-        more = request.keep_alive();
+        co_await write(stream, request, answer);
+        more = request.keep_alive() && endsWhereItSays(answer);
+        if (answer.cut) {
+            co_return; // without a farewell
+        }
     }
     co_await stream.async_shutdown(use_awaitable);
 }

@@ -2,6 +2,7 @@
 #include "desktop/services/loopback_names.hpp"
 
 #include "desktop/services/authority.hpp"
+#include "desktop/services/files/files.hpp"
 #include "desktop/services/https_server.hpp"
 #include "desktop/services/links/links.hpp"
 #include "desktop/services/translation/translation.hpp"
@@ -28,6 +29,7 @@ struct Service {
 std::array services{
     Service{"translation", translation::hostName, &translation::answerTo, 0, {}},
     Service{"links", links::hostName, &links::answerTo, 0, {}},
+    Service{"files", files::hostName, &files::answerTo, 0, {}},
 };
 
 /// Held while ports and changes are looked at: services answer on threads of their own.

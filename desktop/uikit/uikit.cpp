@@ -21,6 +21,7 @@
 #include "desktop/uikit/controls/clear_button.hpp"
 #include "desktop/uikit/controls/control.hpp"
 #include "desktop/uikit/controls/picker_view.hpp"
+#include "desktop/uikit/controls/progress_view.hpp"
 #include "desktop/uikit/controls/search_bar.hpp"
 #include "desktop/uikit/events/event.hpp"
 #include "desktop/uikit/events/responder.hpp"
@@ -111,8 +112,8 @@ void registerClasses() {
                 SwipeGestureRecognizer, ScrollPan, CollectionViewLayoutAttributes,
                 CollectionViewLayout, CollectionViewFlowLayout, CollectionReusableView,
                 CollectionViewCell, CollectionView, LayoutConstraint, LayoutGuide, LayoutAnchor,
-                XAnchor, YAnchor, Dimension, PickerColumn, PickerView, TableViewCell, TableView,
-                TableViewController, CollectionViewController>();
+                XAnchor, YAnchor, Dimension, PickerColumn, PickerView, ProgressView, TableViewCell,
+                TableView, TableViewController, CollectionViewController>();
     // Controllers, and what they are made of.
     registerAll<SymbolConfiguration, BarButtonItem, PresentationController,
                 PopoverPresentationController, AlertAction, NavigationController, AlertController,

@@ -1,6 +1,7 @@
 // Presents the sheet.
 #include "library/common/sharing.hpp"
 
+#include "bindings/foundation/url.hpp"
 #include "bindings/uikit/activity_view_controller.hpp"
 #include "library/common/screens.hpp"
 
@@ -10,9 +11,9 @@ namespace {
 
 constexpr bool animated = true;
 
-ui::ActivityViewController sheetOf(ns::String text) {
+ui::ActivityViewController sheetOf(objc::Object item) {
     const auto items = ns::MutableArray::make();
-    items.add(text);
+    items.add(item);
     return ui::ActivityViewController::sharing(items);
 }
 
@@ -26,6 +27,11 @@ void shareText(ns::String text) {
 
 void shareText(ns::String text, ui::ViewController controller) {
     controller.present(sheetOf(text), animated);
+}
+
+void shareFile(ns::String path, ui::ViewController controller) {
+    constexpr bool isFolder = false;
+    controller.present(sheetOf(ns::Url::fileUrlWithPath(path, isFolder)), animated);
 }
 
 } // namespace wentra

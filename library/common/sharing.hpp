@@ -9,5 +9,7 @@ namespace wentra {
 void shareText(ns::String text);
 /// The same from that controller, in the platform's own way. Nothing for nil.
 void shareText(ns::String text, ui::ViewController controller);
+/// The same for the file at that path.
+void shareFile(ns::String path, ui::ViewController controller);
 
 } // namespace wentra

@@ -6,7 +6,7 @@
 #include "library/common/keyboard_insets.hpp"
 #include "library/preferences/preference_writing.hpp"
 #include "library/toolbox/capture.hpp"
-#include "library/toolbox/download.hpp"
+#include "library/toolbox/download/download.hpp"
 #include "library/toolbox/file_lists.hpp"
 #include "library/toolbox/grid/word_grid.hpp"
 #include "library/toolbox/panel/buttons.hpp"
@@ -52,7 +52,7 @@ public:
     TextTools textTools{self(), wordGrid.selection};
     LinkFinder linkFinder{self(), wordGrid.selection};
     Capture capture{self()};
-    Download download{self()};
+    Download download{self(), wordGrid.selection};
     FileLists fileLists{self()};
     Translation translation{self(), wordGrid.selection};
     Pinyin pinyin{self(), translation};

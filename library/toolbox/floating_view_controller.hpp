@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bindings/foundation/array.hpp"
+#include "bindings/foundation/url_session.hpp"
 #include "bindings/uikit/view_controller.hpp"
 
 namespace wentra::toolbox {
@@ -17,6 +18,14 @@ struct FloatingViewController
     /// The picked tokens in the order in which they were picked; nil before the view is loaded.
     [[nodiscard]] ns::MutableArray selectedWords() const {
         return send<"selectedWords", ns::MutableArray>();
+    }
+    /// The addresses of all links in the text, each once; none for nil. Any thread.
+    [[nodiscard]] ns::Array linksInString(ns::String text) const {
+        return send<"linksInString:", ns::Array>(text);
+    }
+    /// Loads the file with that session and shares it, without showing progress. Nothing for nil.
+    void downloadWithUrl(ns::String address, ns::UrlSession session) const {
+        send<"downloadWithUrl:session:">(address, session);
     }
     /// Translates the text and shows the result over the host; the controller's view need not be
     /// loaded.

@@ -10,7 +10,6 @@ namespace {
 
 void notYet(FloatingViewController) {}
 void notYetFor(FloatingViewController, objc::Object) {}
-void notYetForTwo(FloatingViewController, objc::Object, objc::Object) {}
 
 } // namespace
 
@@ -24,9 +23,6 @@ std::span<const objc::Change> screensToCome() {
         objc::addition<"longPress:", &notYetFor>(),
         // The list of files and crash logs.
         objc::addition<"handlerzLongPress:", &notYetFor>(),
-        // The downloader.
-        objc::addition<"goxiazai", &notYet>(),
-        objc::addition<"downloadWithUrl:session:", &notYetForTwo>(),
         // The screen recorder.
         objc::addition<"startRecording", &notYet>(),
         objc::addition<"stopRecording", &notYet>(),

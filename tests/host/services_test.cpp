@@ -58,7 +58,7 @@ protected:
 TEST_F(Serving, AServiceAnswersWhatItIsToldTo) {
     EXPECT_EQ(statusOf(get(whole)), 200);
     EXPECT_EQ(serve({{"service", "links"}, {"status", 503}, {"body", "four"}}),
-              json::array({"translation", "links"}));
+              json::array({"translation", "links", "files"}));
     const json changed = get(whole);
     EXPECT_EQ(statusOf(changed), 503);
     EXPECT_EQ(bytesOf(changed), 4);
@@ -86,6 +86,29 @@ TEST_F(Serving, AnAnswerMayBeTooLate) {
     EXPECT_EQ(host.message(host.message(task, "error"), "code"), -1001);
 }
 
+TEST_F(Serving, AnAnswerMayLieAboutItsLengthAndBreakOff) {
+    const auto errorOf = [&](const json& task) {
+        return host.message(host.message(task, "error"), "code");
+    };
+    constexpr int connectionLost = -1005;
+    const std::string file = "https://files.example/a.bin?size=1000";
+    EXPECT_EQ(bytesOf(get(file)), 1000);
+    serve({{"service", "files"}, {"length", 2000}});
+    EXPECT_EQ(errorOf(get(file)), connectionLost);
+    serve({{"service", "files"}, {"length", 300}});
+    const json shorter = get(file);
+    EXPECT_EQ(host.message(shorter, "error"), nullptr);
+    EXPECT_EQ(bytesOf(shorter), 300);
+    serve({{"service", "files"}, {"cut", 400}});
+    const json broken = get(file);
+    EXPECT_EQ(errorOf(broken), connectionLost);
+    EXPECT_EQ(bytesOf(broken), 400);
+    serve({{"service", "files"}, {"rate", 5000}, {"headers", {{"X-Told", "so"}}}});
+    const json slow = get(file);
+    EXPECT_EQ(bytesOf(slow), 1000);
+    EXPECT_EQ(host.message(host.message(slow, "response"), "allHeaderFields")["X-Told"], "so");
+}
+
 TEST_F(Serving, TheHostEndsInTheMidstOfRequests) {
     constexpr int requests = 40;
     serve({{"service", "links"}, {"drop", true}}); // so that each opens a connection
@@ -107,6 +130,12 @@ TEST_F(Serving, WhatCannotBeServedIsRefused) {
         {{"service", "links"}, {"body", 7}},
         {{"service", "links"}, {"drop", 1}},
         {{"service", "links"}, {"delay", -1}},
+        {{"service", "links"}, {"length", -1}},
+        {{"service", "links"}, {"cut", "1"}},
+        {{"service", "links"}, {"rate", 0.5}},
+        {{"service", "links"}, {"headers", "X: y"}},
+        {{"service", "links"}, {"headers", {{"X", 1}}}},
+        {{"service", "links"}, {"reset", true}, {"cut", 1}},
         {{"service", "links"}, {"reset", 1}},
         {{"service", "links"}, {"reset", true}, {"status", 200}},
     };

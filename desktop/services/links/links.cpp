@@ -38,9 +38,20 @@ Answer answerFor(std::string_view link) {
     return answer({{"data", nullptr}});
 }
 
+/// What the addresses lead to.
+Answer mediaAt(std::string_view path) {
+    Answer media;
+    media.contentType = "application/octet-stream";
+    media.body = path;
+    return media;
+}
+
 } // namespace
 
 Answer answerTo(std::string_view target) {
+    if (pathOf(target).starts_with("/media/")) {
+        return mediaAt(pathOf(target));
+    }
     return pathOf(target) == "/api/video/douyin/"
                ? answerFor(restBehind(target, "url"))
                : answer({{"error", "there is no such path"}}, notFound);

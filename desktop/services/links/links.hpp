@@ -12,7 +12,8 @@ inline constexpr std::string_view hostName = "api.douyin.wtf";
 
 /// The answer to a GET of `target`, "/api/video/douyin/?url=" and a link: the addresses of the
 /// video, its music and their covers. Of one link it knows all four, of one two; one is gone, an
-/// error with status 404; of others there is no data.
+/// error with status 404; of others there is no data. What its addresses lead to, below "/media/",
+/// holds its own path.
 Answer answerTo(std::string_view target);
 
 } // namespace desktop::services::links

@@ -39,8 +39,7 @@ void offerParts(FloatingViewController controller, ns::Dictionary parts) {
         const auto address = parts.get(ns::String::from(part.key)).as<ns::String>();
         sheet.action(ns::String::from(part.title),
                      [controller = objc::Strong(controller), address = objc::Strong(address)] {
-                         controller.send<"downloadWithUrl:session:">(
-                             ns::String(address), ns::UrlSession::sharedSession());
+                         controller.downloadWithUrl(address, ns::UrlSession::sharedSession());
                      });
     }
     sheet.action(u"取消"_ns, ui::AlertActionStyle::cancel).present();

@@ -1,0 +1,62 @@
+// Loading the page, and its sheet.
+#include "library/toolbox/download/link_choice.hpp"
+
+#include "bindings/dispatch/dispatch.hpp"
+#include "bindings/foundation/url_session.hpp"
+#include "bindings/uikit/pasteboard.hpp"
+#include "library/common/alert.hpp"
+#include "library/preferences/preferences.hpp"
+#include "library/toolbox/download/download.hpp"
+#include "library/toolbox/download/download_rules.hpp"
+
+#include <utility>
+
+namespace wentra::toolbox {
+namespace {
+
+using namespace ns::literals;
+
+void offer(FloatingViewController controller, ns::Array links) {
+    const bool filters = preferences::Preferences::read().on(preferences::keys.filterParsedLinks);
+    const Alert sheet(
+        ui::AlertController::with(u"选择下载链接文件"_ns, nullptr, ui::AlertStyle::actionSheet));
+    sheet.action(u"取消"_ns, ui::AlertActionStyle::cancel);
+    for (const objc::Object each : links) {
+        const auto link = each.as<ns::String>();
+        if (filters && isFilteredOut(link.utf16())) {
+            continue;
+        }
+        sheet.action(link, [controller = objc::Strong(controller), link = objc::Strong(link)] {
+            ui::Pasteboard::generalPasteboard().setString(link);
+            Download::of(controller).load(link, ns::OperationQueue::mainQueue());
+        });
+    }
+    sheet.presentFrom(controller);
+}
+
+/// Nil unless it is UTF-8.
+ns::String textOf(ns::Data page) {
+    return ns::String::make<"initWithData:encoding:">(page, ns::StringEncoding::utf8);
+}
+
+} // namespace
+
+void offerLinks(FloatingViewController controller, ns::Url page) {
+    const auto completion = ns::UrlSession::Handler::from(
+        // The controller must not end on another thread than the main one: it is moved there.
+        [controller = objc::Strong(controller)](ns::Data data, ns::UrlResponse,
+                                                ns::Error error) mutable {
+            const ns::Array links = error ? nullptr : controller.linksInString(textOf(data));
+            dispatch::async(dispatch::mainQueue(),
+                            [controller = std::move(controller), links = objc::Strong(links)] {
+                                if (links) {
+                                    offer(controller, links);
+                                } else {
+                                    Download::of(controller).tellOfFailure();
+                                }
+                            });
+        });
+    ns::UrlSession::sharedSession().dataTask(page, completion).resume();
+}
+
+} // namespace wentra::toolbox
