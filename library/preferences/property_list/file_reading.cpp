@@ -28,7 +28,7 @@ std::optional<std::size_t> OpenFile::regularSize() const {
 // Reading at a place takes nothing out of a pipe, which has no places. The buffer holds usual files
 // as a whole, so that nobody has to be asked for the size first, and leaves room on small stacks.
 bool OpenFile::holds(std::string_view bytes) const {
-    std::array<char, 16384> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): it is filled
+    std::array<char, 32768> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): it is filled
     for (std::size_t place = 0;;) {
         const ssize_t count =
             pread(descriptor_, buffer.data(), buffer.size(), static_cast<off_t>(place));
