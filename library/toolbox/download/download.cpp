@@ -5,7 +5,9 @@
 #include "bindings/foundation/file_manager.hpp"
 #include "bindings/foundation/log.hpp"
 #include "library/common/buttons.hpp"
+#include "library/common/light_background.hpp"
 #include "library/common/notice.hpp"
+#include "library/common/outline.hpp"
 #include "library/common/sharing.hpp"
 #include "library/paths/documents_folder.hpp"
 #include "library/preferences/preferences.hpp"
@@ -73,15 +75,23 @@ void Download::load(ns::String address, ns::OperationQueue queue) {
 void Download::showProgress() {
     hideProgress();
     cancelButton_.removeFromSuperview();
+    addCancelButton();
     const double width = self().view().bounds().size.width;
     progressView_ = ui::ProgressView::withStyle(ui::ProgressViewStyle::default_);
     progressView_.setFrame({{20, 0}, {width - 40, 10}});
     progressView_.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth);
     progressView_.setProgress(0);
     self().view().addSubview(progressView_);
+}
+
+void Download::addCancelButton() {
+    const double width = self().view().bounds().size.width;
     cancelButton_ = makeButton({.title = u"取消下载"_ns, .frame = {{80, 6}, {width - 160, 30}}},
                                self(), objc::selector<"cancelDownload">());
     cancelButton_.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth);
+    // It lies over the words of the grid.
+    setLightBackground(cancelButton_, ui::Color::white());
+    drawOutline(cancelButton_, {.cornerRadius = 6, .width = 1, .color = ui::Color::lightGray()});
     cancelButton_.setHidden(true);
     self().view().addSubview(cancelButton_);
 }

@@ -53,6 +53,7 @@ private:
     void ended(objc::Object session, ns::UrlSessionTask task, ns::Error error) const;
 
     void showProgress();
+    void addCancelButton();
     void setProgress(ns::UrlSessionTask task, double progress) const;
     /// Takes bar and button away when they are that task's.
     void finish(ns::UrlSessionTask task);
