@@ -1,10 +1,13 @@
-// Blocks on the heap: objects that are called, copied, counted and released like any other.
+// Blocks on the stack and on the heap: objects that are called, copied, counted and released like
+// any other.
 #include "bindings/objc/block.hpp"
 
+#include <array>
 #include <atomic>
 #include <cstdlib>
 #include <cstring>
 
+/// The class itself lies here, where the block ABI looks for it.
 void* _NSConcreteStackBlock[32];
 
 namespace {
@@ -58,9 +61,70 @@ Class heapBlockClass() {
     return made;
 }
 
+// How a compiler of Objective-C hands classes to the runtime: the ABI of GNU libobjc.
+struct ClassLayout {
+    const void* metaclass; ///< of a metaclass: the name of the root class
+    const char* superclass;
+    const char* name;
+    long version;
+    unsigned long info;
+    long instanceSize;
+    std::array<void*, 7> filledIn;
+};
+struct Symbols {
+    unsigned long selectorCount;
+    void* selectors;
+    unsigned short classCount;
+    unsigned short categoryCount;
+    std::array<void*, 2> classesAndEnd;
+};
+struct Module {
+    unsigned long abiVersion;
+    unsigned long size;
+    const char* name;
+    Symbols* symbols;
+};
+extern "C" void __objc_exec_class(Module* module);
+
+/// A block on the stack belongs to its maker: nobody else counts it.
+id stay(id block, SEL) { return block; }
+void leave(id, SEL) {}
+id copyOfStackBlock(id block, SEL, void*) { return static_cast<id>(_Block_copy(block)); }
+
+void addStackBlockMethods(Class cls) {
+    const auto add = [cls](const char* name, auto function, const char* types) {
+        class_addMethod(cls, sel_registerName(name), reinterpret_cast<IMP>(function), types);
+    };
+    add("retain", &stay, "@@:");
+    add("autorelease", &stay, "@@:");
+    add("release", &leave, "v@:");
+    add("copyWithZone:", &copyOfStackBlock, "@@:^v");
+}
+
+/// Before any of our code can make a block.
+__attribute__((constructor)) void makeStackBlockClass() {
+    constexpr unsigned long abiVersion = 8;
+    constexpr unsigned long isClass = 1;
+    constexpr unsigned long isMetaclass = 2;
+    static const char* const name = "__NSStackBlock__";
+    static ClassLayout metaclass{"NSObject",  "NSBlock",           name, 0,
+                                 isMetaclass, sizeof(ClassLayout), {}};
+    static_assert(sizeof(ClassLayout) <= sizeof(_NSConcreteStackBlock));
+    heapBlockClass(); // its superclass, which has to be there first
+    auto* cls = new (static_cast<void*>(_NSConcreteStackBlock))
+        ClassLayout{&metaclass, "NSBlock", name, 0, isClass, sizeof(BlockHeader), {}};
+    static Symbols symbols{0, nullptr, 1, 0, {cls, nullptr}};
+    static Module module{abiVersion, sizeof(Module), name, &symbols};
+    __objc_exec_class(&module);
+    addStackBlockMethods(objc_getClass(name));
+}
+
 } // namespace
 
 void* _Block_copy(const void* block) {
+    if (block == nullptr) {
+        return nullptr;
+    }
     const auto* header = static_cast<const BlockHeader*>(block);
     if (header->isa != static_cast<void*>(_NSConcreteStackBlock)) {
         return retain(const_cast<id>(static_cast<const objc_object*>(block)), nullptr);
@@ -80,5 +144,7 @@ void* _Block_copy(const void* block) {
 }
 
 extern "C" void _Block_release(const void* block) {
-    release(const_cast<id>(static_cast<const objc_object*>(block)), nullptr);
+    if (block != nullptr) {
+        release(const_cast<id>(static_cast<const objc_object*>(block)), nullptr);
+    }
 }

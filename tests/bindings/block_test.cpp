@@ -75,4 +75,35 @@ TEST(Block, ContainsWhatItsLambdaThrows) {
     EXPECT_EQ(block(), 0);
 }
 
+TEST(BlockOnTheStack, IsAnObjectLikeAnyOther) {
+    const objc::Pool pool;
+    const auto value = std::make_shared<int>(3);
+    const auto body = [value] { return *value; };
+    using Literal = objc::detail::BlockLiteral<std::remove_const_t<decltype(body)>, int()>;
+    const objc::detail::BlockDescriptor descriptor{0, sizeof(Literal), &Literal::copy,
+                                                   &Literal::dispose, Literal::signature.data()};
+    const Literal onStack{{static_cast<void*>(_NSConcreteStackBlock),
+                           objc::detail::blockHasCopyDispose | objc::detail::blockHasSignature, 0,
+                           reinterpret_cast<void (*)()>(&Literal::invoke), &descriptor},
+                          body};
+    const auto block =
+        objc::wrap<objc::Block<int()>>(reinterpret_cast<id>(const_cast<Literal*>(&onStack)));
+    EXPECT_EQ((block.send<"retain", objc::Object>()), static_cast<objc::Object>(block));
+    block.send<"release">();
+    EXPECT_TRUE((block.send<"isKindOfClass:", bool>(objc_getClass("NSBlock"))));
+    EXPECT_TRUE(block.respondsToSelector(objc::selector<"copy">()));
+    objc::Copied<objc::Block<int()>> kept(block);
+    EXPECT_NE(static_cast<objc::Object>(kept), static_cast<objc::Object>(block));
+    EXPECT_EQ(value.use_count(), 4) << "here, in the body, on the stack and in the copy";
+    EXPECT_EQ(kept(), 3);
+    kept = nullptr;
+    EXPECT_EQ(value.use_count(), 3);
+}
+
+TEST(BlockOnTheStack, MayBeNone) {
+    EXPECT_EQ(_Block_copy(nullptr), nullptr);
+    const objc::Copied<objc::Block<void()>> kept{objc::Block<void()>()};
+    EXPECT_FALSE(kept);
+}
+
 } // namespace
