@@ -5,9 +5,21 @@
 
 namespace ui {
 
+/// The platform's numbers.
+enum class TableViewCellStyle : long { default_ = 0, value1 = 1, value2 = 2, subtitle = 3 };
+enum class TableViewCellEditingStyle : long { none = 0, delete_ = 1, insert = 2 };
+
 struct TableViewCell : objc::Kind<TableViewCell, "UITableViewCell", View> {
     using Kind::Kind;
 
+    /// 320 by 44 points until a table places it.
+    static TableViewCell withStyle(TableViewCellStyle style, ns::String reuseIdentifier) {
+        return make<"initWithStyle:reuseIdentifier:">(style, reuseIdentifier);
+    }
+    /// What is added to the cell is put into this view.
+    [[nodiscard]] View contentView() const { return send<"contentView", View>(); }
+    /// Nil where the style has none.
+    [[nodiscard]] Label detailTextLabel() const { return send<"detailTextLabel", Label>(); }
     [[nodiscard]] Label textLabel() const { return send<"textLabel", Label>(); }
 };
 

@@ -148,6 +148,13 @@ struct View : objc::Kind<View, "UIView", Responder> {
         return send<"accessibilityLabel", ns::String>();
     }
     void setAccessibilityLabel(ns::String label) const { send<"setAccessibilityLabel:">(label); }
+    /// A text that the view keeps; it means nothing to the system unless screens are restored.
+    [[nodiscard]] ns::String restorationIdentifier() const {
+        return send<"restorationIdentifier", ns::String>();
+    }
+    void setRestorationIdentifier(ns::String identifier) const {
+        send<"setRestorationIdentifier:">(identifier);
+    }
     void setAutoresizingMask(ViewAutoresizing mask) const { send<"setAutoresizingMask:">(mask); }
 
     static View withFrame(CGRect frame) { return make<"initWithFrame:">(frame); }

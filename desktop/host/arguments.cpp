@@ -1,6 +1,9 @@
 // Checking the arguments of a request.
 #include "desktop/host/arguments.hpp"
 
+#include <algorithm>
+#include <cmath>
+
 namespace desktop::host {
 namespace {
 
@@ -82,6 +85,21 @@ bool flagArgument(const Json& request, const char* name) {
         refuse(name, "true or false");
     }
     return value != nullptr && value->get<bool>();
+}
+
+CGPoint toPoint(const Json& value) {
+    constexpr double farthest = 1e6;
+    const auto fits = [](const Json& part) {
+        return part.is_number() && std::abs(part.get<double>()) <= farthest;
+    };
+    if (!value.is_array() || value.size() != 2 || !std::ranges::all_of(value, fits)) {
+        throw RequestError("a point is [x,y], got " + value.dump());
+    }
+    return {value[0].get<double>(), value[1].get<double>()};
+}
+
+CGPoint pointArgument(const Json& request, const char* name) {
+    return toPoint(anyArgument(request, name));
 }
 
 } // namespace desktop::host

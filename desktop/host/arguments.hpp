@@ -1,6 +1,7 @@
 // Reading the arguments of a request.
 #pragma once
 
+#include "bindings/coregraphics/geometry.hpp"
 #include "desktop/host/json.hpp"
 
 #include <optional>
@@ -23,6 +24,10 @@ namespace desktop::host {
 /// A whole number from 1 to `most`, or the value for a missing one.
 [[nodiscard]] std::size_t countArgument(const Json& request, const char* name, std::size_t missing,
                                         std::size_t most);
+
+/// A point of the screen is [x,y]; not absurdly far away.
+[[nodiscard]] CGPoint toPoint(const Json& value);
+[[nodiscard]] CGPoint pointArgument(const Json& request, const char* name);
 
 /// A missing flag is false. Throws RequestError for a value that is not a boolean.
 [[nodiscard]] bool flagArgument(const Json& request, const char* name);

@@ -25,7 +25,7 @@ struct Row {
     Command command;
 };
 
-constexpr std::array<Row, 26> table{{
+constexpr std::array<Row, 27> table{{
     {"send", &send},
     {"make", &make},
     {"tree", &tree},
@@ -35,6 +35,7 @@ constexpr std::array<Row, 26> table{{
     {"slide", &slide},
     {"pinch", &pinch},
     {"touch", &touch},
+    {"swipe", &swipe},
     {"type", &type},
     {"key", &key},
     {"menu", &menu},

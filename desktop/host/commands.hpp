@@ -32,6 +32,7 @@ using Command = Json (*)(Session& session, const Json& request);
 [[nodiscard]] Json slide(Session& session, const Json& request);
 [[nodiscard]] Json pinch(Session& session, const Json& request);
 [[nodiscard]] Json touch(Session& session, const Json& request);
+[[nodiscard]] Json swipe(Session& session, const Json& request);
 // The controllers that are shown.
 [[nodiscard]] Json alert(Session& session, const Json& request);
 [[nodiscard]] Json screens(Session& session, const Json& request);

@@ -18,17 +18,6 @@ namespace {
 /// Fingers move once in each frame of the screen, in seconds.
 constexpr double frame = 1.0 / 60;
 
-CGPoint toPoint(const Json& value) {
-    constexpr double farthest = 1e6;
-    const auto fits = [](const Json& part) {
-        return part.is_number() && std::abs(part.get<double>()) <= farthest;
-    };
-    if (!value.is_array() || value.size() != 2 || !std::ranges::all_of(value, fits)) {
-        throw RequestError("a point is [x,y], got " + value.dump());
-    }
-    return {value[0].get<double>(), value[1].get<double>()};
-}
-
 /// Where to touch, and how much room there is around it for several fingers.
 struct Spot {
     CGPoint point;
@@ -39,7 +28,7 @@ Spot spot(Session& session, const Json& request) {
     constexpr double handsBreadth = 50;
     const Json* on = argument(request, "on");
     if (on == nullptr) {
-        return {toPoint(anyArgument(request, "at")), handsBreadth};
+        return {pointArgument(request, "at"), handsBreadth};
     }
     uikit::layoutWindows();
     const auto view = session.values.toKind<ui::View>(*on);

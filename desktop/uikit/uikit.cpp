@@ -36,6 +36,7 @@
 #include "desktop/uikit/lists/collection_view.hpp"
 #include "desktop/uikit/lists/collection_view_cell.hpp"
 #include "desktop/uikit/lists/collection_view_layout.hpp"
+#include "desktop/uikit/lists/contextual_action.hpp"
 #include "desktop/uikit/lists/index_path.hpp"
 #include "desktop/uikit/lists/list_controllers.hpp"
 #include "desktop/uikit/lists/table_view.hpp"
@@ -113,7 +114,8 @@ void registerClasses() {
                 CollectionViewLayout, CollectionViewFlowLayout, CollectionReusableView,
                 CollectionViewCell, CollectionView, LayoutConstraint, LayoutGuide, LayoutAnchor,
                 XAnchor, YAnchor, Dimension, PickerColumn, PickerView, ProgressView, TableViewCell,
-                TableView, TableViewController, CollectionViewController>();
+                TableView, TableViewController, ContextualAction, SwipeActionsConfiguration,
+                TableViewCell, TableView, TableViewController, CollectionViewController>();
     // Controllers, and what they are made of.
     registerAll<SymbolConfiguration, BarButtonItem, PresentationController,
                 PopoverPresentationController, AlertAction, NavigationController, AlertController,

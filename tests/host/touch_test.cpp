@@ -164,4 +164,14 @@ TEST_F(TouchCommands, BadArgumentsAreRefusedAndTheHostGoesOn) {
     act({{"do", "tap"}, {"on", view}});
 }
 
+TEST(SwipedRows, AreThoseOfTables) {
+    support::HostProcess host = tests::automatedHost({"--app", "plain"});
+    const nlohmann::json label =
+        host.result({{"do", "find"}, {"where", {{"class", "UILabel"}}}}).at(0);
+    EXPECT_NE(host.error({{"do", "swipe"}, {"on", label}}).find("row"), std::string::npos);
+    EXPECT_NE(host.error({{"do", "swipe"}, {"at", {5, 5}}}).find("row"), std::string::npos);
+    EXPECT_NE(host.error({{"do", "swipe"}, {"at", "here"}}).find("point"), std::string::npos);
+    EXPECT_FALSE(host.error({{"do", "swipe"}}).empty());
+}
+
 } // namespace

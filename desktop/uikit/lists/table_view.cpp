@@ -54,6 +54,9 @@ std::vector<objc::MethodRow> TableView::methods() {
         objc::method<"deselectRowAtIndexPath:animated:", &Self::deselectRow>(),
         objc::property<"allowsSelection", &Self::allowsSelection_>(),
         objc::property<"allowsMultipleSelection", &Self::allowsMultipleSelection_>(),
+        objc::method<"gestureRecognizerShouldBegin:", &Self::shouldBegin>(),
+        objc::method<"handleRowSwipe:", &Self::handleSwipe>(),
+        objc::method<"chooseRowAction:", &Self::chooseButton>(),
         objc::method<"touchesBegan:withEvent:", &Self::touchesBegan>(),
         objc::method<"touchesEnded:withEvent:", &Self::touchesEnded>(),
         objc::method<"touchesCancelled:withEvent:", &Self::touchesCancelled>(),
@@ -67,6 +70,7 @@ ui::View TableView::initWithStyle(CGRect frame, long style) {
     self().send<"setAlwaysBounceVertical:">(objc::Boolean(true));
     self().setBackgroundColor(style == 0 ? ui::Color::systemBackground()
                                          : ui::Color::named("systemGroupedBackgroundColor"));
+    addSwipe();
     return self();
 }
 
@@ -122,6 +126,7 @@ void TableView::reloadData() {
 
 /// What the data source says is asked anew; what is selected stays so where it still exists.
 void TableView::rowsChanged() {
+    swipe_.reset();
     putAllAway();
     counts_.reset();
     isPrepared_ = false;
@@ -143,12 +148,14 @@ void TableView::reloadRows(ns::Array paths, long) {
 void TableView::insertRows(ns::Array paths, long) {
     selection_.itemsWereInserted(indexesOf(paths));
     pressed_.itemsWereInserted(indexesOf(paths));
+    heights_.rowsWereInserted(indexesOf(paths));
     rowsChanged();
 }
 
 void TableView::deleteRows(ns::Array paths, long) {
     selection_.itemsWereDeleted(indexesOf(paths));
     pressed_.itemsWereDeleted(indexesOf(paths));
+    heights_.rowsWereDeleted(indexesOf(paths));
     rowsChanged();
 }
 
@@ -165,19 +172,12 @@ double TableView::headerHeight(long section) const {
 }
 
 FlowSection TableView::section(long index) {
-    const objc::Object asked = delegate();
-    const bool asks = answers<"tableView:heightForRowAtIndexPath:">(asked);
-    constexpr double standardHeight = 44;
     const double width = self().bounds().size.width;
     FlowSection section;
     section.inset.top = headerHeight(index);
     const long count = numberOfRows(index);
     for (long row = 0; row < count; ++row) {
-        const double height = asks ? asked.send<"tableView:heightForRowAtIndexPath:", double>(
-                                         self(), ns::IndexPath::forItem(row, index))
-                                   : rowHeight_;
-        // A negative height asks for the standard one.
-        section.items.push_back({width, height < 0 ? standardHeight : height});
+        section.items.push_back({width, heightOf({index, row})});
     }
     return section;
 }
@@ -186,6 +186,8 @@ void TableView::prepare() {
     const double width = self().bounds().size.width;
     if (width != std::exchange(latestWidth_, width)) {
         isPrepared_ = false;
+        heights_.clear();
+        putAllAway();
     }
     if (std::exchange(isPrepared_, true)) {
         return;
@@ -227,7 +229,7 @@ ui::TableViewCell TableView::dequeue(ns::String identifier) {
     return cls == nullptr ? ui::TableViewCell()
                           : objc::send<"alloc", objc::Object>(objc::object(cls))
                                 .send<"initWithStyle:reuseIdentifier:", objc::Object>(
-                                    TableCellStyle::plain, identifier)
+                                    ui::TableViewCellStyle::default_, identifier)
                                 .send<"autorelease", ui::TableViewCell>();
 }
 
@@ -251,37 +253,6 @@ void TableView::layoutSubviews() {
         {{0, heightBefore() + placement_.height()}, {width, footer_.bounds().size.height}});
     showVisibleCells();
     showHeaders();
-}
-
-void TableView::showVisibleCells() {
-    const objc::Pool pool;
-    CGRect seen = self().bounds();
-    seen.origin.y -= heightBefore();
-    const std::vector<ItemIndex> wanted = placement_.itemsIn(seen);
-    const auto shown = cells_.shown(); // a copy: it is changed
-    for (const auto& [index, cell] : shown) {
-        if (!std::ranges::binary_search(wanted, index)) {
-            putAway(index);
-        }
-    }
-    for (const ItemIndex index : wanted) {
-        ui::TableViewCell cell = cells_.at(index);
-        if (!cell) {
-            cell = dataSource().send<"tableView:cellForRowAtIndexPath:", ui::TableViewCell>(
-                self(), index.path());
-            if (!cell || !placement_.contains(index)) {
-                continue; // the source knows of fewer rows by now
-            }
-            cells_.show(index, cell);
-            mark(index, selection_.contains(index));
-            self().insertSubview(cell, 0);
-            tell<"tableView:willDisplayCell:forRowAtIndexPath:">(cell, index.path());
-        }
-        cell.setFrame(frameOf(index));
-        TableViewCell::of(cell).setSeparator(
-            separatorStyle_ == 0 ? ui::Color::clear() : static_cast<ui::Color>(separatorColor_),
-            separatorInset_.left);
-    }
 }
 
 /// A view of the delegate's, or the title on the platform's grey.

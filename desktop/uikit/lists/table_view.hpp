@@ -2,7 +2,9 @@
 #pragma once
 
 #include "bindings/objc/weak.hpp"
+#include "bindings/uikit/button.hpp"
 #include "bindings/uikit/event.hpp"
+#include "bindings/uikit/pan_gesture_recognizer.hpp"
 #include "bindings/uikit/scroll_view.hpp"
 #include "bindings/uikit/table_view.hpp"
 #include "bindings/uikit/table_view_cell.hpp"
@@ -12,17 +14,33 @@
 #include "desktop/uikit/lists/cell_store.hpp"
 #include "desktop/uikit/lists/flow_rules.hpp"
 #include "desktop/uikit/lists/item_selection.hpp"
+#include "desktop/uikit/lists/row_heights.hpp"
+#include "desktop/uikit/lists/row_swipe.hpp"
 #include "desktop/uikit/lists/table_view_cell.hpp"
 
 #include <map>
+#include <memory>
 #include <optional>
 #include <vector>
 
 namespace desktop {
 
+class SwipeActionsConfiguration;
+
 class TableView : public PlatformClass<TableView, ui::TableView> {
 public:
     static std::vector<objc::MethodRow> methods();
+
+    /// The row whose cell the view is, or lies in.
+    [[nodiscard]] std::optional<ItemIndex> rowOf(ui::View view) const {
+        return cells_.itemOf(view, self());
+    }
+    /// What a swipe to the left over the row offers; none where the row may not be edited.
+    [[nodiscard]] RowActions actionsOf(ItemIndex row);
+    /// Shows what the row offers, as a swipe does, unless it offers nothing.
+    void openSwipe(ItemIndex row);
+    /// Does that of what the open row offers; nothing when no row is open.
+    void choose(std::size_t action);
 
 private:
     ui::View initWithStyle(CGRect frame, long style);
@@ -67,6 +85,11 @@ private:
     [[nodiscard]] ns::Array visibleCells() const { return cells_.cells(); }
     [[nodiscard]] ns::Array visiblePaths() const { return cells_.paths(); }
     void scrollTo(ns::IndexPath path, long position, bool animated);
+    [[nodiscard]] bool showWantedCells();
+    void measureAnew(std::optional<ItemIndex> anchor, double formerTop);
+    [[nodiscard]] double declaredHeight(ItemIndex index) const;
+    [[nodiscard]] double heightOf(ItemIndex index) const;
+    [[nodiscard]] bool fit(ItemIndex index, ui::TableViewCell cell);
     void putAway(ItemIndex index);
     void putAllAway();
     void lookChanged() { rowsChanged(); }
@@ -83,6 +106,21 @@ private:
     std::set<ItemIndex> release();
     void selectByTouch(ItemIndex index);
     void deselectByTouch(ItemIndex index);
+
+    // What is done with rows, in table_view_swiping.cpp.
+    void addSwipe();
+    [[nodiscard]] bool mayEdit(ItemIndex index) const;
+    [[nodiscard]] bool deletes(ItemIndex index) const;
+    [[nodiscard]] RowActions offered(const SwipeActionsConfiguration& configuration);
+    [[nodiscard]] RowAction deletion(ItemIndex index);
+    [[nodiscard]] bool shouldBegin(ui::GestureRecognizer recognizer);
+    [[nodiscard]] bool beginSwipe(ItemIndex row);
+    void handleSwipe(ui::PanGestureRecognizer pan);
+    void placeSwiped();
+    void slideSwiped(double offset);
+    void closeSwipe();
+    void chooseButton(ui::Button button);
+
     template <objc::Literal Name>
     [[nodiscard]] bool answers(objc::Object receiver) const {
         return receiver && receiver.respondsToSelector(objc::selector<Name>());
@@ -109,10 +147,13 @@ private:
     FlowPlacement placement_; // a row fills a line
     bool isPrepared_ = false;
     double latestWidth_ = 0;
+    RowHeights heights_; // of rows of automatic height that have been seen
     CellStore<ui::TableViewCell> cells_;
     std::map<long, objc::Strong<ui::View>> headers_;
     ItemSelection selection_;
     ItemSelection pressed_; // one at most
+    objc::Strong<ui::PanGestureRecognizer> swipePan_;
+    std::unique_ptr<RowSwipe> swipe_; // the open row
     bool allowsSelection_ = true;
     bool allowsMultipleSelection_ = false;
 };

@@ -17,6 +17,11 @@ constexpr double detailSize = 15;
 constexpr double subtitleSize = 12;
 constexpr double accessoryWidth = 14;
 
+/// Of the content, for image and texts.
+CGRect textRoom(CGSize content) {
+    return {{margin, 0}, {std::max(0.0, content.width - margin - margin / 2), content.height}};
+}
+
 } // namespace
 
 std::vector<objc::MethodRow> TableViewCell::methods() {
@@ -48,11 +53,12 @@ std::vector<objc::MethodRow> TableViewCell::methods() {
 }
 
 ui::View TableViewCell::initWithFrame(CGRect) {
-    return self().send<"initWithStyle:reuseIdentifier:", ui::View>(TableCellStyle::plain,
+    return self().send<"initWithStyle:reuseIdentifier:", ui::View>(ui::TableViewCellStyle::default_,
                                                                    ns::String());
 }
 
-ui::TableViewCell TableViewCell::initWithStyle(TableCellStyle style, ns::String identifier) {
+ui::TableViewCell TableViewCell::initWithStyle(ui::TableViewCellStyle style,
+                                               ns::String identifier) {
     constexpr double width = 320;
     constexpr double height = 44;
     super<"initWithFrame:", ui::View>(CGRect{{0, 0}, {width, height}});
@@ -66,9 +72,9 @@ ui::TableViewCell TableViewCell::initWithStyle(TableCellStyle style, ns::String 
     text_.setFont(ui::Font::system(titleSize));
     content_.addSubview(image_);
     content_.addSubview(text_);
-    if (style != TableCellStyle::plain) {
+    if (style != ui::TableViewCellStyle::default_) {
         detail_ = ui::Label::withFrame({});
-        const bool below = style == TableCellStyle::subtitle;
+        const bool below = style == ui::TableViewCellStyle::subtitle;
         detail_.setFont(ui::Font::system(below ? subtitleSize : detailSize));
         if (!below) {
             detail_.setTextColor(ui::Color::secondaryLabel());
@@ -173,10 +179,36 @@ void TableViewCell::layoutSubviews() {
         accessoryMark_.setFrame({{right, 0}, {wide, size.height}});
     }
     content_.setFrame({{}, {std::max(0.0, right), size.height}});
-    placeTexts({{margin, 0}, {std::max(0.0, right - margin - margin / 2), size.height}});
+    placeTexts(textRoom(content_.bounds().size));
     const double line = 1 / ScreenGeometry::current().scale;
     separator_.setFrame(
         {{separatorLeft_, size.height - line}, {std::max(0.0, size.width - separatorLeft_), line}});
+}
+
+double TableViewCell::fittingHeight(double width) const {
+    constexpr double least = 44;
+    const CGRect frame = self().frame();
+    self().setFrame({frame.origin, {width, frame.size.height}});
+    self().layoutIfNeeded();
+    const CGSize content = content_.bounds().size;
+    const bool isConstrained = content_.send<"constraints", ns::Array>().count() > 0;
+    const double held =
+        isConstrained
+            ? content_.send<"systemLayoutSizeFittingSize:", CGSize>(CGSize{content.width, 0}).height
+            : 0;
+    return std::max({least, held, textHeight(textRoom(content).size)});
+}
+
+/// With room above and below.
+double TableViewCell::textHeight(CGSize room) const {
+    constexpr double verticalMargin = 12;
+    double height = text_.sizeThatFits(room).height;
+    if (detail_ && detail_.text().length() > 0) {
+        const double below = detail_.sizeThatFits(room).height;
+        height =
+            style_ == ui::TableViewCellStyle::subtitle ? height + below : std::max(height, below);
+    }
+    return height + 2 * verticalMargin;
 }
 
 void TableViewCell::placeTexts(CGRect room) const {
@@ -195,7 +227,7 @@ void TableViewCell::placeTexts(CGRect room) const {
     }
     const CGSize title = text_.sizeThatFits(room.size);
     const CGSize detail = detail_.sizeThatFits(room.size);
-    if (style_ == TableCellStyle::subtitle) {
+    if (style_ == ui::TableViewCellStyle::subtitle) {
         const double top = middle - (title.height + detail.height) / 2;
         text_.setFrame({{room.origin.x, top}, {room.size.width, title.height}});
         detail_.setFrame({{room.origin.x, top + title.height}, {room.size.width, detail.height}});

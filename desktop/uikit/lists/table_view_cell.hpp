@@ -12,7 +12,6 @@
 namespace desktop {
 
 /// The platform's numbers.
-enum class TableCellStyle : long { plain = 0, value1 = 1, value2 = 2, subtitle = 3 };
 enum class CellAccessory : long { none = 0, disclosure = 1, detailDisclosure = 2, checkmark = 3 };
 
 class TableViewCell : public PlatformClass<TableViewCell, ui::TableViewCell> {
@@ -21,9 +20,12 @@ public:
 
     /// Under the row, inset by `left` points on the left; none for a clear colour.
     void setSeparator(ui::Color color, double left);
+    /// How tall the cell has to be in that width for its texts, and for what is held in its content
+    /// by constraints. The cell has that width afterwards.
+    [[nodiscard]] double fittingHeight(double width) const;
 
 private:
-    ui::TableViewCell initWithStyle(TableCellStyle style, ns::String identifier);
+    ui::TableViewCell initWithStyle(ui::TableViewCellStyle style, ns::String identifier);
     ui::View initWithFrame(CGRect frame);
     [[nodiscard]] ui::Label textLabel() const { return text_; }
     [[nodiscard]] ui::Label detailTextLabel() const { return detail_; }
@@ -48,8 +50,9 @@ private:
     void prepareForReuse() {}
     void layoutSubviews();
     void placeTexts(CGRect room) const;
+    [[nodiscard]] double textHeight(CGSize room) const;
 
-    TableCellStyle style_ = TableCellStyle::plain;
+    ui::TableViewCellStyle style_ = ui::TableViewCellStyle::default_;
     CellAccessory accessory_ = CellAccessory::none;
     long selectionStyle_ = 3; // the standard grey
     bool selected_ = false;

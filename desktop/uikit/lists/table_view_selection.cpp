@@ -53,6 +53,10 @@ void TableView::deselectRow(ns::IndexPath path, bool) {
 
 void TableView::touchesBegan(ns::SetOf<ui::Touch> touches, ui::Event event) {
     super<"touchesBegan:withEvent:">(touches, event);
+    if (swipe_) {
+        closeSwipe(); // which is all that this touch does
+        return;
+    }
     const auto touch = touches.allObjects().first();
     const auto index = cells_.itemOf(touch.view(), self());
     const objc::Object asked = delegate();

@@ -53,6 +53,9 @@ public:
     void fingersGone();
     /// Scrolls at once, within the content; whether there was anything left to scroll.
     bool scrollBy(CGPoint points);
+    /// What is shown lies that much further down in the content from now on; it stays where it is
+    /// seen, and whatever moves it goes on from there.
+    void contentMoved(double down);
 
 private:
     /// Content on its way, seconds after `begin`.

@@ -244,4 +244,17 @@ bool ScrollView::scrollBy(CGPoint points) {
     return true;
 }
 
+void ScrollView::contentMoved(double down) {
+    drag_.wanted.y += down;
+    drag_.start.y += down;
+    if (motion_) {
+        motion_->offset = [former = motion_->offset, down](double seconds) {
+            const CGPoint offset = former(seconds);
+            return CGPoint{offset.x, offset.y + down};
+        };
+    }
+    const CGPoint offset = contentOffset();
+    setContentOffset({offset.x, offset.y + down});
+}
+
 } // namespace desktop

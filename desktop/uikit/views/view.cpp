@@ -38,6 +38,7 @@ std::vector<objc::MethodRow> View::methods() {
         objc::flag<"multipleTouchEnabled", &View::multipleTouchEnabled_>(),
         objc::property<"accessibilityLabel", &View::accessibilityLabel_>(),
         objc::property<"accessibilityIdentifier", &View::accessibilityIdentifier_>(),
+        objc::property<"restorationIdentifier", &View::restorationIdentifier_>(),
         objc::method<"superview", &View::superview_>(),
         objc::method<"subviews", &View::subviews>(),
         objc::method<"window", &View::window>(),

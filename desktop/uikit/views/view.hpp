@@ -135,6 +135,7 @@ private:
     UIEdgeInsets toldSafeArea_;
     objc::Copied<ns::String> accessibilityLabel_;
     objc::Copied<ns::String> accessibilityIdentifier_;
+    objc::Copied<ns::String> restorationIdentifier_;
     objc::Strong<ns::MutableArray> recognizers_;
     std::unique_ptr<ViewConstraints> constraints_;
     long tag_ = 0;

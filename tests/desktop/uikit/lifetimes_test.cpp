@@ -52,8 +52,8 @@ private:
     long components(Object) { return ++calls, 1; }
     TableViewCell row(ui::TableView, ns::IndexPath) {
         ++calls;
-        return TableViewCell::make<"initWithStyle:reuseIdentifier:">(desktop::TableCellStyle::plain,
-                                                                     u"Row"_ns);
+        return TableViewCell::make<"initWithStyle:reuseIdentifier:">(
+            ui::TableViewCellStyle::default_, u"Row"_ns);
     }
     ui::CollectionViewCell item(ui::CollectionView view, ns::IndexPath path) {
         ++calls;

@@ -63,7 +63,7 @@ private:
         if (!cell) {
             ++made;
             cell = ui::TableViewCell::make<"initWithStyle:reuseIdentifier:">(
-                desktop::TableCellStyle::value1, u"Row"_ns);
+                ui::TableViewCellStyle::value1, u"Row"_ns);
         }
         cell.send<"textLabel", ui::Label>().setText(
             ns::String::fromUtf8("Row " + std::to_string(path.item())));

@@ -1,0 +1,55 @@
+// UIContextualAction and UISwipeActionsConfiguration: what an application offers on a swiped row.
+#pragma once
+
+#include "bindings/uikit/contextual_action.hpp"
+#include "bindings/uikit/image.hpp"
+#include "bindings/uikit/swipe_actions_configuration.hpp"
+
+#include "desktop/class.hpp"
+
+namespace desktop {
+
+class ContextualAction : public PlatformClass<ContextualAction, ui::ContextualAction> {
+public:
+    static std::vector<objc::MethodRow> methods();
+
+    [[nodiscard]] ns::String title() const { return title_; }
+    /// The one that was set, or else the style's.
+    [[nodiscard]] ui::Color backgroundColor() const;
+    /// Lets the application act; `done` is called, once, when it has.
+    void perform(ui::View source, ui::ContextualAction::Completion done) const;
+
+private:
+    static ui::ContextualAction with(Class cls, ui::ContextualActionStyle style, ns::String title,
+                                     ui::ContextualAction::Handler handler);
+    void setTitle(ns::String title) { title_ = title; }
+    void setBackgroundColor(ui::Color color) { color_ = color; }
+    [[nodiscard]] ui::ContextualAction::Handler handler() const { return handler_; }
+
+    ui::ContextualActionStyle style_ = ui::ContextualActionStyle::normal;
+    objc::Copied<ns::String> title_;
+    objc::Strong<ui::Color> color_;
+    objc::Strong<ui::Image> image_;
+    objc::Copied<ui::ContextualAction::Handler> handler_;
+};
+
+class SwipeActionsConfiguration
+    : public PlatformClass<SwipeActionsConfiguration, ui::SwipeActionsConfiguration> {
+public:
+    static std::vector<objc::MethodRow> methods();
+
+    /// From the edge inwards.
+    [[nodiscard]] ns::ArrayOf<ui::ContextualAction> actions() const {
+        return actions_.assume<ns::ArrayOf<ui::ContextualAction>>();
+    }
+    /// Whether a swipe all across the row stands for the first action.
+    [[nodiscard]] bool performsFirst() const { return performsFirst_; }
+
+private:
+    static ui::SwipeActionsConfiguration with(Class cls, ns::Array actions);
+
+    objc::Copied<ns::Array> actions_;
+    bool performsFirst_ = true;
+};
+
+} // namespace desktop
