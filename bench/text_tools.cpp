@@ -5,9 +5,10 @@
 #include "bindings/foundation/regular_expression.hpp"
 #include "bindings/objc/pool.hpp"
 #include "library/common/occurrences.hpp"
+#include "library/common/path_links.hpp"
 #include "library/toolbox/floating_view_controller.hpp"
 #include "library/toolbox/search/pinyin.hpp"
-#include "library/toolbox/text_tools/links.hpp"
+#include "library/toolbox/text_tools/share_codes.hpp"
 #include "library/toolbox/text_tools/unicode_escapes.hpp"
 
 #include <benchmark/benchmark.h>
@@ -56,7 +57,7 @@ void findLinks(benchmark::State& state) {
     for (auto _ : state) {
         const objc::Pool inner;
         const auto links = controller.send<"linksInString:", ns::Array>(text);
-        benchmark::DoNotOptimize(toolbox::pathsIn(units));
+        benchmark::DoNotOptimize(wentra::pathLinksIn(units));
         benchmark::DoNotOptimize(toolbox::sharedScheme(units));
         state.counters["links"] = static_cast<double>(links.count());
     }

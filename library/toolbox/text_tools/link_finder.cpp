@@ -1,15 +1,16 @@
 // From the text over its candidates to the one that is opened.
 #include "library/toolbox/text_tools/link_finder.hpp"
 
-#include "bindings/foundation/data_detector.hpp"
 #include "bindings/foundation/set.hpp"
 #include "bindings/uikit/pasteboard.hpp"
 #include "library/common/alert.hpp"
+#include "library/common/links.hpp"
 #include "library/common/notice.hpp"
 #include "library/common/opening.hpp"
+#include "library/common/path_links.hpp"
 #include "library/preferences/preference_keys.hpp"
 #include "library/preferences/preferences.hpp"
-#include "library/toolbox/text_tools/links.hpp"
+#include "library/toolbox/text_tools/share_codes.hpp"
 #include "library/toolbox/text_tools/video_links.hpp"
 
 namespace wentra::toolbox {
@@ -27,6 +28,7 @@ void openChosen(FloatingViewController controller, ns::String address) {
         offerVideo(controller, address);
     } else {
         openUrl(ns::Url::withString(address));
+        openLink(address);
     }
 }
 
@@ -42,31 +44,13 @@ void LinkFinder::begin() {
     titles_ = titles;
 }
 
-ns::Array LinkFinder::linksIn(ns::String text) const {
-    const auto links = ns::MutableArray::make();
-    if (!text) {
-        return links;
-    }
-    const auto known = ns::MutableSet::make();
-    const auto detector = ns::DataDetector::withTypes(ns::TextCheckingType::link);
-    for (const ns::TextCheckingResult match : detector.matches(text, {0, text.length()})) {
-        const ns::String link = match.url().absoluteString();
-        if (link.length() > 0 && !known.contains(link)) {
-            known.add(link);
-            links.add(link);
-        }
-    }
-    return links;
-}
+ns::Array LinkFinder::webLinksIn(ns::String text) const { return linksIn(text); }
 
 ns::Array LinkFinder::candidates(ns::String text) const {
-    const auto found = ns::MutableArray::make();
-    for (const objc::Object link : linksIn(text)) {
-        found.add(link);
-    }
+    const auto found = linksIn(text);
     const std::u16string units = text.utf16();
-    for (const std::u16string& path : pathsIn(units)) {
-        found.add(ns::String::from(u"filza://" + path));
+    for (const std::u16string& link : pathLinksIn(units)) {
+        found.add(ns::String::from(link));
     }
     if (const std::u16string_view scheme = sharedScheme(units); !scheme.empty()) {
         found.add(ns::String::from(scheme));
@@ -82,6 +66,7 @@ void LinkFinder::find(objc::Object /*sender*/) {
     } else if (found.count() == 1) {
         const auto only = found.first().as<ns::String>();
         openUrl(ns::Url::withString(only));
+        openLink(only);
         ui::Pasteboard::generalPasteboard().setString(only);
     } else {
         showNotice(self().view(), u"未检测到链接❗️"_ns, {.height = 0.25}, shown);

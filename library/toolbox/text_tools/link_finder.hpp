@@ -18,7 +18,7 @@ public:
         return std::array{
             objc::property<"linkTitleDictionary", &LinkFinder::titles_>(),
             objc::method<"ljtzButtonClicked:", &LinkFinder::find>(),
-            objc::method<"linksInString:", &LinkFinder::linksIn>(),
+            objc::method<"linksInString:", &LinkFinder::webLinksIn>(),
         };
     }
 
@@ -27,7 +27,7 @@ public:
 
 private:
     void find(objc::Object sender);
-    [[nodiscard]] ns::Array linksIn(ns::String text) const;
+    [[nodiscard]] ns::Array webLinksIn(ns::String text) const;
     [[nodiscard]] ns::Array candidates(ns::String text) const;
     void offer(ns::Array candidates) const;
 

@@ -1,23 +1,10 @@
-// Paths and share codes in texts.
-#include "library/toolbox/text_tools/links.hpp"
+// Share codes in texts.
+#include "library/toolbox/text_tools/share_codes.hpp"
 
 #include <gtest/gtest.h>
 
 namespace wentra::toolbox {
 namespace {
-
-using Paths = std::vector<std::u16string>;
-
-TEST(PathsInText, BeginAtAFolderOfTheRootAndEndAtWhiteSpace) {
-    EXPECT_EQ(pathsIn(u"在/var/mobile，和 /etc\u3000/tmp\u2028x/usr/lib /home /Var"),
-              (Paths{u"/var/mobile，和", u"/etc", u"/tmp", u"/usr/lib"}));
-    EXPECT_EQ(pathsIn(u"https://a.example/private/x//bin /variable"),
-              (Paths{u"/private/x//bin", u"/variable"}));
-    EXPECT_EQ(pathsIn(u"/cores /Developer/a /cores\n/sbin /dev /Library /System /Applications"),
-              (Paths{u"/cores", u"/Developer/a", u"/sbin", u"/dev", u"/Library", u"/System",
-                     u"/Applications"}));
-    EXPECT_EQ(pathsIn(u"//// /"), Paths{});
-}
 
 TEST(ShareCodes, AreKnownByTheirWords) {
     const std::pair<std::u16string_view, std::u16string_view> cases[]{

@@ -1,0 +1,33 @@
+// The system's detector finds links, the application opens them.
+#include "library/common/links.hpp"
+
+#include "bindings/foundation/data_detector.hpp"
+#include "bindings/foundation/set.hpp"
+#include "bindings/uikit/application.hpp"
+
+namespace wentra {
+
+ns::MutableArray linksIn(ns::String text) {
+    const auto links = ns::MutableArray::make();
+    if (!text) {
+        return links;
+    }
+    const auto known = ns::MutableSet::make();
+    const auto detector = ns::DataDetector::withTypes(ns::TextCheckingType::link);
+    for (const ns::TextCheckingResult match : detector.matches(text, {0, text.length()})) {
+        const ns::String link = match.url().absoluteString();
+        if (link.length() > 0 && !known.contains(link)) {
+            known.add(link);
+            links.add(link);
+        }
+    }
+    return links;
+}
+
+void openLink(ns::String address) {
+    if (const auto url = ns::Url::withString(address); url) {
+        ui::Application::sharedApplication().openUrl(url);
+    }
+}
+
+} // namespace wentra

@@ -1,0 +1,15 @@
+// Links in texts, and opening them.
+#pragma once
+
+#include "bindings/foundation/array.hpp"
+
+namespace wentra {
+
+/// The addresses of what the system takes for links in the text: of pages, with or without a
+/// scheme, and of mail. Each once, in the text's order; empty for nil.
+[[nodiscard]] ns::MutableArray linksIn(ns::String text);
+
+/// Lets the system open the address; nothing when it is none.
+void openLink(ns::String address);
+
+} // namespace wentra
