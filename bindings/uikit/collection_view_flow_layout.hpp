@@ -9,6 +9,7 @@ struct CollectionViewFlowLayout
     : objc::Kind<CollectionViewFlowLayout, "UICollectionViewFlowLayout", CollectionViewLayout> {
     using Kind::Kind;
 
+    void setItemSize(CGSize size) const { send<"setItemSize:">(size); }
     /// In points, at least, between the items of a line.
     void setMinimumInteritemSpacing(double points) const {
         send<"setMinimumInteritemSpacing:">(points);

@@ -59,7 +59,16 @@ bool storePreferences(ns::Dictionary entries) {
 }
 
 bool storePreference(const Key& key, objc::Object value) {
-    const auto name = ns::String::fromUtf8(key.name());
+    return storePreference(ns::String::fromUtf8(key.name()), value);
+}
+
+bool changePreference(ns::String name, objc::Object value) {
+    return ns::FileManager::defaultManager().fileExists(
+               ns::String::fromUtf8(paths::preferencePath())) &&
+           storePreference(name, value);
+}
+
+bool storePreference(ns::String name, objc::Object value) {
     const auto path = ns::String::fromUtf8(paths::preferencePath());
     const auto entries = entriesOf(path);
     if (!entries) {

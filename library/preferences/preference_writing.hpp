@@ -17,6 +17,12 @@ ns::MutableDictionary storedPreferences();
 /// the same time, one may lose its change.
 [[nodiscard]] bool storePreference(const Key& key, objc::Object value);
 
+/// The same by a name that is known at run time only.
+[[nodiscard]] bool storePreference(ns::String name, objc::Object value);
+
+/// The same, but a file that is missing stays missing, and nothing is written.
+[[nodiscard]] bool changePreference(ns::String name, objc::Object value);
+
 /// The same with all entries at once: whatever else is in the file is lost.
 [[nodiscard]] bool storePreferences(ns::Dictionary entries);
 

@@ -4,7 +4,7 @@
 #include "bindings/objc/pool.hpp"
 #include "library/analysis/analysis.hpp"
 #include "library/blocking/request_hooks.hpp"
-#include "library/clipboard/text_view_controller.hpp"
+#include "library/clipboard/clipboard.hpp"
 #include "library/common/draggable_view.hpp"
 #include "library/editing/editing.hpp"
 #include "library/labels/labels.hpp"
@@ -24,13 +24,7 @@ Face commonFace() {
     return {classes, categories};
 }
 
-Face clipboardFace() {
-    static constexpr std::array<Face::Declaration, 1> classes{
-        &clipboard::registerTextViewController};
-    return {classes, {}};
-}
-
-constexpr std::array rooms{&commonFace,     &labels::face,  &clipboardFace,
+constexpr std::array rooms{&commonFace,     &labels::face,  &clipboard::face,
                            &analysis::face, &toolbox::face, &editing::face};
 
 void install(std::span<const Table> tables) {

@@ -13,6 +13,7 @@
 #include "library/toolbox/panel/crosshair.hpp"
 #include "library/toolbox/panel/host_filter_editor.hpp"
 #include "library/toolbox/panel/host_screens.hpp"
+#include "library/toolbox/panel/quick_screens.hpp"
 #include "library/toolbox/panel/sizes.hpp"
 #include "library/toolbox/search/pinyin.hpp"
 #include "library/toolbox/search/search_targets.hpp"
@@ -35,10 +36,10 @@ public:
                 objc::method<"viewWillAppear:", &FloatingViewControllerPeer::appear>(),
                 objc::method<"viewWillDisappear:", &FloatingViewControllerPeer::disappear>()},
             Buttons::methods(), WordGrid::methods(), Sizes::methods(), Crosshair::methods(),
-            HostFilterEditor::methods(), HostScreens::methods(), WebPreview::methods(),
-            SearchTargets::methods(), Pinyin::methods(), TextTools::methods(),
-            LinkFinder::methods(), Capture::methods(), Download::methods(), FileLists::methods(),
-            Translation::methods());
+            HostFilterEditor::methods(), HostScreens::methods(), QuickScreens::methods(),
+            WebPreview::methods(), SearchTargets::methods(), Pinyin::methods(),
+            TextTools::methods(), LinkFinder::methods(), Capture::methods(), Download::methods(),
+            FileLists::methods(), Translation::methods());
     }
 
     Buttons buttons{self()};
@@ -47,6 +48,7 @@ public:
     Crosshair crosshair{self()};
     HostFilterEditor hostFilterEditor{self()};
     HostScreens hostScreens{self()};
+    QuickScreens quickScreens{self()};
     WebPreview webPreview{self()};
     SearchTargets searchTargets{self(), wordGrid.selection, webPreview};
     TextTools textTools{self(), wordGrid.selection};
@@ -119,6 +121,9 @@ HostFilterEditor& HostFilterEditor::of(objc::Object controller) {
     return Whole::of(controller).hostFilterEditor;
 }
 HostScreens& HostScreens::of(objc::Object controller) { return Whole::of(controller).hostScreens; }
+QuickScreens& QuickScreens::of(objc::Object controller) {
+    return Whole::of(controller).quickScreens;
+}
 WebPreview& WebPreview::of(objc::Object controller) { return Whole::of(controller).webPreview; }
 Pinyin& Pinyin::of(objc::Object controller) { return Whole::of(controller).pinyin; }
 TextTools& TextTools::of(objc::Object controller) { return Whole::of(controller).textTools; }

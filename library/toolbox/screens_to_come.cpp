@@ -15,10 +15,6 @@ void notYetFor(FloatingViewController, objc::Object) {}
 
 std::span<const objc::Change> screensToCome() {
     static constexpr std::array changes{
-        // The clipboard history.
-        objc::addition<"showClipboard:", &notYetFor>(),
-        // The quick switches.
-        objc::addition<"handlePasteButtonLongPress:", &notYetFor>(),
         // The utilities menu.
         objc::addition<"longPress:", &notYetFor>(),
         // The list of files and crash logs.

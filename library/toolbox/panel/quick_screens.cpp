@@ -1,0 +1,88 @@
+// Making the screens and presenting them.
+#include "library/toolbox/panel/quick_screens.hpp"
+
+#include "bindings/objc/weak.hpp"
+#include "bindings/uikit/popover_presentation_controller.hpp"
+#include "library/clipboard/clipboard_table_view_controller.hpp"
+#include "library/clipboard/popover_content_view_controller.hpp"
+#include "library/toolbox/panel/host_screens.hpp"
+
+#include <array>
+#include <string_view>
+
+namespace wentra::toolbox {
+namespace {
+
+using clipboard::ClipboardTableViewController;
+using clipboard::PopoverContentViewController;
+
+struct QuickSwitch {
+    std::u16string_view title;
+    std::u16string_view key;
+};
+
+constexpr std::array<QuickSwitch, 15> quickSwitches{{
+    {u"查看本地文件", u"查看本地文件"},
+    {u"复制立马弹窗", u"开启复制弹出"},
+    {u"网页Google", u"网页Google"},
+    {u"字符数量统计", u"开启数量统计"},
+    {u"TikTok翻译", u"TikTok翻译"},
+    {u"Discord翻译", u"Discord翻译"},
+    {u"复制弹球5秒", u"kqjfzt"},
+    {u"设置标题翻译", u"系统设置翻译"},
+    {u"悬浮窗可移动", u"kqxfyd"},
+    {u"崩溃日志过滤", u"崩溃日志过滤"},
+    {u"开文件夹浏览", u"开文件夹浏览"},
+    {u"中英对比样式", u"中英对比样式"},
+    {u"显示触摸坐标", u"显示触摸坐标"},
+    {u"开启广告屏蔽", u"开启广告屏蔽"},
+    {u"下载进阶解析", u"解析"},
+}};
+
+ns::Array texts(std::u16string_view QuickSwitch::*part) {
+    const auto list = ns::MutableArray::make();
+    for (const QuickSwitch& quick : quickSwitches) {
+        list.add(ns::String::from(quick.*part));
+    }
+    return list;
+}
+
+/// Points at the view.
+void makePopover(PopoverContentViewController screen, ui::View view) {
+    screen.setPreferredContentSize({280, 400});
+    screen.setModalPresentationStyle(ui::ModalPresentation::popover);
+    const auto popover = screen.popoverPresentationController();
+    popover.setPermittedArrowDirections(ui::PopoverArrowDirection::any);
+    popover.setSourceView(view);
+    popover.setSourceRect(view.bounds());
+    popover.setDelegate(screen);
+}
+
+} // namespace
+
+void QuickScreens::showClipboard(ui::LongPressGestureRecognizer press) const {
+    if (press.state() != ui::GestureState::began) {
+        return;
+    }
+    const auto list = ClipboardTableViewController::make();
+    list.setModalPresentationStyle(ui::ModalPresentation::overFullScreen);
+    list.setDismissBlock(ClipboardTableViewController::Dismissal::from(
+        [shown = objc::Weak<ClipboardTableViewController>(list)] {
+            constexpr bool animated = true;
+            shown.strong().dismiss(animated);
+        }));
+    presentOverHost(self(), list);
+}
+
+void QuickScreens::showSwitches(ui::LongPressGestureRecognizer press) const {
+    if (press.state() != ui::GestureState::began) {
+        return;
+    }
+    const auto switches = PopoverContentViewController::make();
+    switches.setTitles(texts(&QuickSwitch::title));
+    switches.setKeys(texts(&QuickSwitch::key));
+    makePopover(switches, press.view());
+    presentOverHost(self(), switches);
+}
+
+} // namespace wentra::toolbox
