@@ -113,9 +113,9 @@ void registerClasses() {
                 SwipeGestureRecognizer, ScrollPan, CollectionViewLayoutAttributes,
                 CollectionViewLayout, CollectionViewFlowLayout, CollectionReusableView,
                 CollectionViewCell, CollectionView, LayoutConstraint, LayoutGuide, LayoutAnchor,
-                XAnchor, YAnchor, Dimension, PickerColumn, PickerView, ProgressView, TableViewCell,
-                TableView, TableViewController, ContextualAction, SwipeActionsConfiguration,
-                TableViewCell, TableView, TableViewController, CollectionViewController>();
+                XAnchor, YAnchor, Dimension, PickerColumn, PickerView, ProgressView,
+                ContextualAction, SwipeActionsConfiguration, TableViewCell, TableView,
+                TableViewController, CollectionViewController>();
     // Controllers, and what they are made of.
     registerAll<SymbolConfiguration, BarButtonItem, PresentationController,
                 PopoverPresentationController, AlertAction, NavigationController, AlertController,

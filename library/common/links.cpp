@@ -24,10 +24,12 @@ ns::MutableArray linksIn(ns::String text) {
     return links;
 }
 
-void openLink(ns::String address) {
-    if (const auto url = ns::Url::withString(address); url) {
+void openUrl(ns::Url url) {
+    if (url) {
         ui::Application::sharedApplication().openUrl(url);
     }
 }
+
+void openLink(ns::String address) { openUrl(ns::Url::withString(address)); }
 
 } // namespace wentra

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bindings/foundation/array.hpp"
+#include "bindings/foundation/url.hpp"
 
 namespace wentra {
 
@@ -9,7 +10,11 @@ namespace wentra {
 /// scheme, and of mail. Each once, in the text's order; empty for nil.
 [[nodiscard]] ns::MutableArray linksIn(ns::String text);
 
-/// Lets the system open the address; nothing when it is none.
+/// Asks the system to open the URL in the application that it belongs to. Nothing for nil. Main
+/// thread.
+void openUrl(ns::Url url);
+
+/// The same for an address; nothing when it is none.
 void openLink(ns::String address);
 
 } // namespace wentra

@@ -7,7 +7,7 @@
 #include "bindings/uikit/popover_presentation_controller.hpp"
 #include "bindings/uikit/table_view_controller.hpp"
 #include "library/common/light_background.hpp"
-#include "library/common/opening.hpp"
+#include "library/common/links.hpp"
 #include "library/common/screens.hpp"
 #include "library/preferences/preference_keys.hpp"
 #include "library/preferences/preferences.hpp"

@@ -6,7 +6,6 @@
 #include "library/common/alert.hpp"
 #include "library/common/links.hpp"
 #include "library/common/notice.hpp"
-#include "library/common/opening.hpp"
 #include "library/common/path_links.hpp"
 #include "library/preferences/preference_keys.hpp"
 #include "library/preferences/preferences.hpp"
@@ -27,7 +26,6 @@ void openChosen(FloatingViewController controller, ns::String address) {
     if (isVideo(address)) {
         offerVideo(controller, address);
     } else {
-        openUrl(ns::Url::withString(address));
         openLink(address);
     }
 }
@@ -65,7 +63,6 @@ void LinkFinder::find(objc::Object /*sender*/) {
         offer(found);
     } else if (found.count() == 1) {
         const auto only = found.first().as<ns::String>();
-        openUrl(ns::Url::withString(only));
         openLink(only);
         ui::Pasteboard::generalPasteboard().setString(only);
     } else {
