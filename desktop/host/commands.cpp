@@ -25,7 +25,7 @@ struct Row {
     Command command;
 };
 
-constexpr std::array<Row, 26> table{{
+constexpr std::array<Row, 28> table{{
     {"send", &send},
     {"make", &make},
     {"tree", &tree},
@@ -45,6 +45,8 @@ constexpr std::array<Row, 26> table{{
     {"defaults", &defaults},
     {"documents", &documents},
     {"serve", &serve},
+    {"recorder", &recorder},
+    {"recognizer", &recognizer},
     {"appearance", &appearance},
     {"rotate", &rotate},
     {"advance", &advance},

@@ -27,9 +27,6 @@ std::span<const objc::Change> screensToCome() {
         // The downloader.
         objc::addition<"goxiazai", &notYet>(),
         objc::addition<"downloadWithUrl:session:", &notYetForTwo>(),
-        // The screen recorder.
-        objc::addition<"startRecording", &notYet>(),
-        objc::addition<"stopRecording", &notYet>(),
     };
     return changes;
 }
