@@ -42,6 +42,30 @@ void paintFrom(cairo_surface_t* target, cairo_surface_t* source, int x, int y) {
     cairo_paint(painter.get());
 }
 
+/// A part of an opaque recording.
+std::shared_ptr<cairo_surface_t> painted(cairo_surface_t* recording, const PixelRectangle& part) {
+    auto pixels = makeSurface(part.width, part.height, CAIRO_FORMAT_RGB24);
+    paintFrom(pixels.get(), recording, part.x, part.y);
+    return pixels;
+}
+
+/// A part of the pixels, which it keeps alive.
+std::shared_ptr<cairo_surface_t> shared(cairo_surface_t* whole, const PixelRectangle& part) {
+    static const cairo_user_data_key_t key{};
+    constexpr std::ptrdiff_t bytesPerPixel = 4;
+    const int stride = cairo_image_surface_get_stride(whole);
+    unsigned char* first = cairo_image_surface_get_data(whole) + std::ptrdiff_t{part.y} * stride +
+                           part.x * bytesPerPixel;
+    std::shared_ptr<cairo_surface_t> pixels(
+        cairo_image_surface_create_for_data(first, cairo_image_surface_get_format(whole),
+                                            part.width, part.height, stride),
+        cairo_surface_destroy);
+    cairo_surface_set_user_data(pixels.get(), &key, cairo_surface_reference(whole), [](void* kept) {
+        cairo_surface_destroy(static_cast<cairo_surface_t*>(kept));
+    });
+    return pixels;
+}
+
 // Keeps a small file that claims to be a huge picture from taking the memory.
 void refuseLargePicture(GdkPixbufLoader* loader, int width, int height, gpointer refused) {
     if (std::max(width, height) > Image::largestSide) {
@@ -146,16 +170,21 @@ int Image::pixelHeight() const {
                                   : cairo_image_surface_get_height(surface());
 }
 
+Image Image::copied() const {
+    const bool isOpaque = cairo_surface_get_content(surface()) == CAIRO_CONTENT_COLOR;
+    auto pixels = makeSurface(pixelWidth(), pixelHeight(),
+                              isOpaque ? CAIRO_FORMAT_RGB24 : CAIRO_FORMAT_ARGB32);
+    paintFrom(pixels.get(), surface(), 0, 0);
+    return adopt(std::move(pixels), scale_);
+}
+
 std::optional<Image> Image::cropped(const Rectangle& area) const {
     const PixelRectangle part = pixelsAround(area, {0, 0, pixelWidth(), pixelHeight()});
     if (part.isEmpty()) {
         return std::nullopt;
     }
-    const bool isOpaque = cairo_surface_get_content(surface()) == CAIRO_CONTENT_COLOR;
-    auto pixels =
-        makeSurface(part.width, part.height, isOpaque ? CAIRO_FORMAT_RGB24 : CAIRO_FORMAT_ARGB32);
-    paintFrom(pixels.get(), surface(), part.x, part.y);
-    return adopt(std::move(pixels), scale_);
+    return adopt(isRecording(surface()) ? painted(surface(), part) : shared(surface(), part),
+                 scale_);
 }
 
 Colour Image::pixel(int x, int y) const {

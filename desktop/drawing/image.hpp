@@ -37,8 +37,10 @@ public:
     Image atScale(double scale) const { return {surface_, scale}; }
     int pixelWidth() const;
     int pixelHeight() const;
-    /// A copy of the pixels that the area, in pixels, touches, at the same scale; nothing when it
-    /// touches none.
+    /// With pixels of its own.
+    Image copied() const;
+    /// The pixels that the area, in pixels, touches, at the same scale; nothing when it touches
+    /// none.
     std::optional<Image> cropped(const Rectangle& area) const;
     /// The colour of a pixel, (0, 0) at the top left; clear outside of the image.
     Colour pixel(int x, int y) const;

@@ -41,9 +41,7 @@ public:
     [[nodiscard]] ui::Image image() const {
         const bool isPixels = cairo_surface_get_type(surface_.get()) == CAIRO_SURFACE_TYPE_IMAGE;
         const Image drawn = Image::adopt(surface_, scale_);
-        const double width = drawn.pixelWidth();
-        const double height = drawn.pixelHeight();
-        return UIImage::from(isPixels ? *drawn.cropped({0, 0, width, height}) : drawn);
+        return UIImage::from(isPixels ? drawn.copied() : drawn);
     }
 
 private:
