@@ -23,7 +23,10 @@ build  libcurl4-openssl-dev     loads over HTTP and HTTPS
 build  libssl-dev               certificates and digests of the local services
 build  libboost1.81-dev         the web servers of the desktop
 build  libespeak-ng-dev         speaks
-build  zlib1g-dev               packs the pictures for the browser page
+build  zlib1g-dev               packs pictures
+build  libavcodec-dev           compresses recordings of the screen
+build  libavformat-dev          writes recordings of the screen as files
+build  libswscale-dev           prepares pictures for recordings
 build  libgtest-dev             unit tests
 build  libbenchmark-dev         benchmarks
 build  curl                     what URL sessions are measured against

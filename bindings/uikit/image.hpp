@@ -19,6 +19,13 @@ struct Image : objc::Kind<Image, "UIImage"> {
     static Image withContentsOfFile(ns::String path) {
         return sendClass<"imageWithContentsOfFile:", Image>(path);
     }
+    /// A picture in its own direction; nil for null. `scale` is pixels a point.
+    static Image withCgImage(CGImageRef image, double scale) {
+        constexpr long up = 0;
+        return sendClass<"imageWithCGImage:scale:orientation:", Image>(image, scale, up);
+    }
+    /// Stretches the image over the rectangle, in the current image context.
+    void drawInRect(CGRect rect) const { send<"drawInRect:">(rect); }
     /// Borrowed: valid as long as the image. Null for nil.
     [[nodiscard]] CGImageRef cgImage() const { return send<"CGImage", CGImageRef>(); }
     /// The system's symbol of that name; nil when there is none.

@@ -125,6 +125,11 @@ struct View : objc::Kind<View, "UIView", Responder> {
     void layoutIfNeeded() const { send<"layoutIfNeeded">(); }
     void setNeedsDisplay() const { send<"setNeedsDisplay">(); }
     void drawRect(CGRect dirty) const { send<"drawRect:">(dirty); }
+    /// Draws the view and what lies in it, as the screen shows them, into the current image
+    /// context; after what has been changed has come to the screen, or as it is there now.
+    bool drawHierarchy(CGRect rect, bool afterScreenUpdates) const {
+        return send<"drawViewHierarchyInRect:afterScreenUpdates:", bool>(rect, afterScreenUpdates);
+    }
     [[nodiscard]] ContentMode contentMode() const { return send<"contentMode", ContentMode>(); }
     void setContentMode(ContentMode mode) const { send<"setContentMode:">(mode); }
     [[nodiscard]] CGSize sizeThatFits(CGSize room) const {

@@ -64,6 +64,17 @@ bool isFinite(const cairo_matrix_t& matrix) {
            std::isfinite(matrix.yy) && std::isfinite(matrix.x0) && std::isfinite(matrix.y0);
 }
 
+/// A recording refers to the pixels that are drawn into it; if they went before it does, it would
+/// copy them first.
+void keepPixels(cairo_surface_t* target, cairo_surface_t* pixels) {
+    if (cairo_surface_get_type(target) == CAIRO_SURFACE_TYPE_RECORDING) {
+        const auto* key = reinterpret_cast<const cairo_user_data_key_t*>(pixels);
+        cairo_surface_set_user_data(target, key, cairo_surface_reference(pixels), [](void* kept) {
+            cairo_surface_destroy(static_cast<cairo_surface_t*>(kept));
+        });
+    }
+}
+
 } // namespace
 
 Canvas::Canvas(Size size, double scale) : scale_(scale > 0 && std::isfinite(scale) ? scale : 1) {
@@ -142,6 +153,7 @@ void Canvas::draw(const Image& image, const Rectangle& area) {
         cairo_pattern_set_extend(cairo_get_source(context()), CAIRO_EXTEND_PAD);
         cairo_rectangle(context(), 0, 0, image.pixelWidth(), image.pixelHeight());
         cairo_fill(context());
+        keepPixels(cairo_get_target(context()), image.surface());
     }
     restore();
 }

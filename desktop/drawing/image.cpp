@@ -1,7 +1,9 @@
 // Decodes pictures with GdkPixbuf into Cairo's pixels, and encodes them as PNG.
 #include "desktop/drawing/image.hpp"
 
+#include "desktop/drawing/display/pixel_rectangle.hpp"
 #include "desktop/drawing/handle.hpp"
+#include "desktop/drawing/png_writer.hpp"
 
 #include <gdk-pixbuf/gdk-pixbuf.h>
 
@@ -17,8 +19,51 @@ namespace {
 using Pixbuf = Handle<GdkPixbuf, g_object_unref>;
 using Loader = Handle<GdkPixbufLoader, g_object_unref>;
 
-std::shared_ptr<cairo_surface_t> makeSurface(int width, int height) {
-    return {cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height), cairo_surface_destroy};
+std::shared_ptr<cairo_surface_t> makeSurface(int width, int height,
+                                             cairo_format_t format = CAIRO_FORMAT_ARGB32) {
+    return {cairo_image_surface_create(format, width, height), cairo_surface_destroy};
+}
+
+bool isRecording(cairo_surface_t* surface) {
+    return cairo_surface_get_type(surface) == CAIRO_SURFACE_TYPE_RECORDING;
+}
+
+cairo_rectangle_t extentsOf(cairo_surface_t* recording) {
+    cairo_rectangle_t extents{};
+    cairo_recording_surface_get_extents(recording, &extents);
+    return extents;
+}
+
+/// Paints the source onto the target so that (x, y) of it comes to the top left corner.
+void paintFrom(cairo_surface_t* target, cairo_surface_t* source, int x, int y) {
+    const Handle<cairo_t, cairo_destroy> painter(cairo_create(target));
+    cairo_set_operator(painter.get(), CAIRO_OPERATOR_SOURCE);
+    cairo_set_source_surface(painter.get(), source, -x, -y);
+    cairo_paint(painter.get());
+}
+
+/// A part of an opaque recording.
+std::shared_ptr<cairo_surface_t> painted(cairo_surface_t* recording, const PixelRectangle& part) {
+    auto pixels = makeSurface(part.width, part.height, CAIRO_FORMAT_RGB24);
+    paintFrom(pixels.get(), recording, part.x, part.y);
+    return pixels;
+}
+
+/// A part of the pixels, which it keeps alive.
+std::shared_ptr<cairo_surface_t> shared(cairo_surface_t* whole, const PixelRectangle& part) {
+    static const cairo_user_data_key_t key{};
+    constexpr std::ptrdiff_t bytesPerPixel = 4;
+    const int stride = cairo_image_surface_get_stride(whole);
+    unsigned char* first = cairo_image_surface_get_data(whole) + std::ptrdiff_t{part.y} * stride +
+                           part.x * bytesPerPixel;
+    std::shared_ptr<cairo_surface_t> pixels(
+        cairo_image_surface_create_for_data(first, cairo_image_surface_get_format(whole),
+                                            part.width, part.height, stride),
+        cairo_surface_destroy);
+    cairo_surface_set_user_data(pixels.get(), &key, cairo_surface_reference(whole), [](void* kept) {
+        cairo_surface_destroy(static_cast<cairo_surface_t*>(kept));
+    });
+    return pixels;
 }
 
 // Keeps a small file that claims to be a huge picture from taking the memory.
@@ -115,11 +160,40 @@ Image Image::adopt(std::shared_ptr<cairo_surface_t> surface, double scale) {
 
 Size Image::size() const { return {pixelWidth() / scale_, pixelHeight() / scale_}; }
 
-int Image::pixelWidth() const { return cairo_image_surface_get_width(surface()); }
+int Image::pixelWidth() const {
+    return isRecording(surface()) ? static_cast<int>(extentsOf(surface()).width)
+                                  : cairo_image_surface_get_width(surface());
+}
 
-int Image::pixelHeight() const { return cairo_image_surface_get_height(surface()); }
+int Image::pixelHeight() const {
+    return isRecording(surface()) ? static_cast<int>(extentsOf(surface()).height)
+                                  : cairo_image_surface_get_height(surface());
+}
+
+Image Image::copied() const {
+    const bool isOpaque = cairo_surface_get_content(surface()) == CAIRO_CONTENT_COLOR;
+    auto pixels = makeSurface(pixelWidth(), pixelHeight(),
+                              isOpaque ? CAIRO_FORMAT_RGB24 : CAIRO_FORMAT_ARGB32);
+    paintFrom(pixels.get(), surface(), 0, 0);
+    return adopt(std::move(pixels), scale_);
+}
+
+std::optional<Image> Image::cropped(const Rectangle& area) const {
+    const PixelRectangle part = pixelsAround(area, {0, 0, pixelWidth(), pixelHeight()});
+    if (part.isEmpty()) {
+        return std::nullopt;
+    }
+    return adopt(isRecording(surface()) ? painted(surface(), part) : shared(surface(), part),
+                 scale_);
+}
 
 Colour Image::pixel(int x, int y) const {
+    if (cairo_surface_get_content(surface()) == CAIRO_CONTENT_COLOR && x >= 0 && y >= 0 &&
+        x < pixelWidth() && y < pixelHeight()) {
+        const auto one = makeSurface(1, 1);
+        paintFrom(one.get(), surface(), x, y);
+        return adopt(one, scale_).pixel(0, 0);
+    }
     const unsigned char* data = cairo_image_surface_get_data(surface());
     if (data == nullptr || x < 0 || y < 0 || x >= pixelWidth() || y >= pixelHeight()) {
         return {0, 0, 0, 0};
@@ -136,7 +210,34 @@ Colour Image::pixel(int x, int y) const {
     return {component(16), component(8), component(0), alpha / 255.0};
 }
 
+/// A strip at a time, so that a tall recording needs no memory for all of its pixels.
+std::vector<std::byte> Image::opaquePng() const {
+    constexpr int rowsInStrip = 512;
+    const int width = pixelWidth();
+    const int height = pixelHeight();
+    PngWriter writer(static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height));
+    const auto strip = makeSurface(width, std::min(height, rowsInStrip), CAIRO_FORMAT_RGB24);
+    for (int top = 0; top < height; top += rowsInStrip) {
+        paintFrom(strip.get(), surface(), 0, top);
+        cairo_surface_flush(strip.get());
+        const unsigned char* pixels = cairo_image_surface_get_data(strip.get());
+        if (pixels == nullptr) {
+            return {};
+        }
+        for (int row = 0; row < std::min(rowsInStrip, height - top); ++row) {
+            writer.add(pixels + std::ptrdiff_t{row} * cairo_image_surface_get_stride(strip.get()));
+        }
+    }
+    const std::vector<unsigned char> png = writer.finish();
+    const auto* first = reinterpret_cast<const std::byte*>(png.data());
+    return {first, first + png.size()};
+}
+
 std::vector<std::byte> Image::png() const {
+    if (cairo_surface_get_content(surface()) == CAIRO_CONTENT_COLOR && pixelWidth() > 0 &&
+        pixelHeight() > 0) {
+        return opaquePng();
+    }
     std::vector<std::byte> bytes;
     if (cairo_surface_write_to_png_stream(surface(), appendBytes, &bytes) != CAIRO_STATUS_SUCCESS) {
         bytes.clear();

@@ -24,7 +24,8 @@ public:
     static std::optional<Image> load(const std::filesystem::path& file, double scale = 1);
     /// As `load`, from the bytes of a file.
     static std::optional<Image> decode(std::span<const std::byte> bytes, double scale = 1);
-    /// Shares an ARGB32 image surface, which must not be drawn to any more.
+    /// Shares an image surface in ARGB32 or RGB24, or a bounded recording of an opaque picture of
+    /// any size, none of which must be drawn to any more.
     static Image adopt(std::shared_ptr<cairo_surface_t> surface, double scale);
 
     static constexpr int largestSide = 8192;
@@ -32,8 +33,15 @@ public:
     /// Points: pixels divided by the scale.
     Size size() const;
     double scale() const { return scale_; }
+    /// The same pixels at so many a point.
+    Image atScale(double scale) const { return {surface_, scale}; }
     int pixelWidth() const;
     int pixelHeight() const;
+    /// With pixels of its own.
+    Image copied() const;
+    /// The pixels that the area, in pixels, touches, at the same scale; nothing when it touches
+    /// none.
+    std::optional<Image> cropped(const Rectangle& area) const;
     /// The colour of a pixel, (0, 0) at the top left; clear outside of the image.
     Colour pixel(int x, int y) const;
 
@@ -47,6 +55,7 @@ public:
 
 private:
     Image(std::shared_ptr<cairo_surface_t> surface, double scale);
+    std::vector<std::byte> opaquePng() const;
 
     std::shared_ptr<cairo_surface_t> surface_;
     double scale_;

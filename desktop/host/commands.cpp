@@ -25,7 +25,7 @@ struct Row {
     Command command;
 };
 
-constexpr std::array<Row, 27> table{{
+constexpr auto table = std::to_array<Row>({
     {"send", &send},
     {"make", &make},
     {"tree", &tree},
@@ -46,6 +46,8 @@ constexpr std::array<Row, 27> table{{
     {"defaults", &defaults},
     {"documents", &documents},
     {"serve", &serve},
+    {"recorder", &recorder},
+    {"recognizer", &recognizer},
     {"appearance", &appearance},
     {"rotate", &rotate},
     {"advance", &advance},
@@ -53,7 +55,7 @@ constexpr std::array<Row, 27> table{{
     {"events", &events},
     {"screenshot", &screenshot},
     {"quit", &quit},
-}};
+});
 
 } // namespace
 

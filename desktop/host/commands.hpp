@@ -47,6 +47,9 @@ using Command = Json (*)(Session& session, const Json& request);
 [[nodiscard]] Json documents(Session& session, const Json& request);
 // What the outside world answers.
 [[nodiscard]] Json serve(Session& session, const Json& request);
+// What is recorded, and what is heard.
+[[nodiscard]] Json recorder(Session& session, const Json& request);
+[[nodiscard]] Json recognizer(Session& session, const Json& request);
 // How the phone is held, and its appearance.
 [[nodiscard]] Json appearance(Session& session, const Json& request);
 [[nodiscard]] Json rotate(Session& session, const Json& request);

@@ -7,4 +7,7 @@ namespace desktop {
 /// main thread.
 void registerPlatform();
 
+/// What is being written to the device is brought to its end. Before the process ends; main thread.
+void closePlatform();
+
 } // namespace desktop

@@ -97,6 +97,7 @@ int runDevice(const App& app, const Options& options, const std::function<void(V
         Values values; // before the library can change how its parts are made
         launch(app, options);
         drive(values);
+        closePlatform();
         ns::UserDefaults::standardUserDefaults().synchronize();
         return EXIT_SUCCESS;
     } catch (...) {

@@ -4,6 +4,8 @@
 #include "bindings/objc/pool.hpp"
 #include "desktop/runtime/main_queue.hpp"
 
+#include <algorithm>
+
 namespace desktop::viewer {
 
 EventFeed::EventFeed(host::Values& values, std::function<void(const host::Json&)> tell)
@@ -40,6 +42,15 @@ std::string EventFeed::fileOf(const std::string& number) const {
         }
     }
     return {};
+}
+
+std::uint64_t EventFeed::numberOf(const std::string& file) const {
+    const auto carries = [&file](const host::Json& event) {
+        const auto found = event.find("file");
+        return found != event.end() && *found == file;
+    };
+    const auto latest = std::find_if(events_.rbegin(), events_.rend(), carries);
+    return latest == events_.rend() ? 0 : latest->at("number").get<std::uint64_t>();
 }
 
 } // namespace desktop::viewer

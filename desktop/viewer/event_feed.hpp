@@ -27,6 +27,8 @@ public:
     /// The file that the event with that number carries, by its path on the device; empty when it
     /// carries none or is not known.
     [[nodiscard]] std::string fileOf(const std::string& number) const;
+    /// The number of the latest event that carries this file; 0 when none does.
+    [[nodiscard]] std::uint64_t numberOf(const std::string& file) const;
 
 private:
     const host::Json& keep(const LoggedEvent& event);

@@ -10,6 +10,7 @@
 #include "bindings/uikit/event.hpp"
 #include "bindings/uikit/pasteboard.hpp"
 #include "bindings/uikit/window.hpp"
+#include "desktop/replaykit/film_view.hpp"
 #include "desktop/runtime/main_queue.hpp"
 #include "desktop/uikit/application/screen.hpp"
 #include "desktop/uikit/keyboard/keyboard_input.hpp"
@@ -78,21 +79,39 @@ host::Json screenSize() {
     return {{"width", screen.size.width}, {"height", screen.size.height}, {"scale", screen.scale}};
 }
 
+/// Whether the middle of the view is to be seen and touched.
+bool isInFront(ui::View view, const CGRect& frame) {
+    const CGPoint middle{frame.origin.x + frame.size.width / 2,
+                         frame.origin.y + frame.size.height / 2};
+    return view.window().hitTest(middle, nullptr).send<"isDescendantOfView:", bool>(view);
+}
+
+host::Json listOf(const CGRect& frame) {
+    return {frame.origin.x, frame.origin.y, frame.size.width, frame.size.height};
+}
+
 /// The web pages in front of everything else, for the page to show what is in them.
 host::Json webPages() {
     host::Json pages = host::Json::array();
     for (const LiveWebPage& each : liveWebPages()) {
-        const CGRect& frame = each.frame;
-        const CGPoint middle{frame.origin.x + frame.size.width / 2,
-                             frame.origin.y + frame.size.height / 2};
-        const ui::View front = each.view.window().hitTest(middle, nullptr);
-        if (front.send<"isDescendantOfView:", bool>(each.view)) {
-            pages.push_back(
-                {{"address", each.address},
-                 {"frame", {frame.origin.x, frame.origin.y, frame.size.width, frame.size.height}}});
+        if (isInFront(each.view, each.frame)) {
+            pages.push_back({{"address", each.address}, {"frame", listOf(each.frame)}});
         }
     }
     return pages;
+}
+
+/// The films in front of everything else, for the page to play them, each by the number of the
+/// event that carries its file.
+host::Json films(const EventFeed& events) {
+    host::Json shown = host::Json::array();
+    for (const LiveFilm& each : liveFilms()) {
+        const std::uint64_t number = events.numberOf(each.file);
+        if (number > 0 && isInFront(each.view, each.frame)) {
+            shown.push_back({{"event", number}, {"frame", listOf(each.frame)}});
+        }
+    }
+    return shown;
 }
 
 } // namespace
@@ -127,6 +146,7 @@ std::function<void(Arguments...)> Phone::later(Method method) {
 void Phone::opened(PageNumber page) {
     page_ = page;
     webPages_ = nullptr;
+    films_ = nullptr;
     screen_ = screenSize();
     send(welcome());
     send({{"type", "events"}, {"events", events_.events()}});
@@ -196,6 +216,13 @@ void Phone::tellWebPages() {
     }
 }
 
+void Phone::tellFilms() {
+    if (host::Json shown = films(events_); shown != films_) {
+        films_ = std::move(shown);
+        send({{"type", "films"}, {"films", films_}});
+    }
+}
+
 void Phone::carryOut(const Fingers& fingers) { hand_.touch(fingers); }
 
 void Phone::carryOut(const Look& look) {
@@ -205,6 +232,7 @@ void Phone::carryOut(const Look& look) {
         [this] {
             tellScreen();
             tellWebPages();
+            tellFilms();
         });
 }
 

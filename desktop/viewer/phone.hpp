@@ -53,6 +53,7 @@ private:
     void send(const host::Json& message);
     void tellScreen();
     void tellWebPages();
+    void tellFilms();
     [[nodiscard]] host::Json welcome() const;
     [[nodiscard]] Answer contentAt(const std::string& path) const;
 
@@ -62,6 +63,7 @@ private:
     PageNumber page_ = 0; // 0: none
     PageHand hand_;
     host::Json webPages_; ///< as the page was told last
+    host::Json films_;    ///< likewise
     host::Json screen_;   ///< likewise
     /// What is queued on the main thread must not outlive the phone.
     std::shared_ptr<Phone*> self_;

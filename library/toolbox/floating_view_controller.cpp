@@ -5,7 +5,9 @@
 #include "bindings/uikit/screen.hpp"
 #include "library/common/keyboard_insets.hpp"
 #include "library/preferences/preference_writing.hpp"
-#include "library/toolbox/capture.hpp"
+#include "library/toolbox/capture/dictation.hpp"
+#include "library/toolbox/capture/pictures.hpp"
+#include "library/toolbox/capture/recording.hpp"
 #include "library/toolbox/download/download.hpp"
 #include "library/toolbox/file_lists.hpp"
 #include "library/toolbox/grid/word_grid.hpp"
@@ -34,12 +36,14 @@ public:
                 objc::method<"viewDidLoad", &FloatingViewControllerPeer::load>(),
                 objc::method<"viewDidLayoutSubviews", &FloatingViewControllerPeer::layOut>(),
                 objc::method<"viewWillAppear:", &FloatingViewControllerPeer::appear>(),
+                objc::method<"viewDidAppear:", &FloatingViewControllerPeer::appeared>(),
                 objc::method<"viewWillDisappear:", &FloatingViewControllerPeer::disappear>()},
             Buttons::methods(), WordGrid::methods(), Sizes::methods(), Crosshair::methods(),
             HostFilterEditor::methods(), HostScreens::methods(), QuickScreens::methods(),
             WebPreview::methods(), SearchTargets::methods(), Pinyin::methods(),
-            TextTools::methods(), LinkFinder::methods(), Capture::methods(), Download::methods(),
-            FileLists::methods(), Translation::methods());
+            TextTools::methods(), LinkFinder::methods(), Recording::methods(), Pictures::methods(),
+            Dictation::methods(), Download::methods(), FileLists::methods(),
+            Translation::methods());
     }
 
     Buttons buttons{self()};
@@ -53,7 +57,9 @@ public:
     SearchTargets searchTargets{self(), wordGrid.selection, webPreview};
     TextTools textTools{self(), wordGrid.selection};
     LinkFinder linkFinder{self(), wordGrid.selection};
-    Capture capture{self()};
+    Recording recording{self()};
+    Pictures pictures{self(), recording};
+    Dictation dictation{self()};
     Download download{self(), wordGrid.selection};
     FileLists fileLists{self()};
     Translation translation{self(), wordGrid.selection};
@@ -63,6 +69,7 @@ private:
     void load();
     void layOut();
     void appear(bool animated);
+    void appeared(bool animated);
     void disappear(bool animated);
     /// Nothing is picked and listed yet; the preferences are read.
     void begin();
@@ -77,7 +84,8 @@ void FloatingViewControllerPeer::load() {
 
 void FloatingViewControllerPeer::begin() {
     fileLists.begin();
-    capture.begin();
+    recording.begin();
+    pictures.begin();
     translation.begin();
     sizes.begin();
     searchTargets.begin(preferences::storedPreferences());
@@ -102,6 +110,11 @@ void FloatingViewControllerPeer::layOut() {
 void FloatingViewControllerPeer::appear(bool animated) {
     super<"viewWillAppear:">(animated);
     watchKeyboard(self());
+}
+
+void FloatingViewControllerPeer::appeared(bool animated) {
+    super<"viewDidAppear:">(animated);
+    dictation.prepare();
 }
 
 void FloatingViewControllerPeer::disappear(bool animated) {
@@ -131,7 +144,9 @@ LinkFinder& LinkFinder::of(objc::Object controller) { return Whole::of(controlle
 SearchTargets& SearchTargets::of(objc::Object controller) {
     return Whole::of(controller).searchTargets;
 }
-Capture& Capture::of(objc::Object controller) { return Whole::of(controller).capture; }
+Recording& Recording::of(objc::Object controller) { return Whole::of(controller).recording; }
+Pictures& Pictures::of(objc::Object controller) { return Whole::of(controller).pictures; }
+Dictation& Dictation::of(objc::Object controller) { return Whole::of(controller).dictation; }
 Download& Download::of(objc::Object controller) { return Whole::of(controller).download; }
 FileLists& FileLists::of(objc::Object controller) { return Whole::of(controller).fileLists; }
 Translation& Translation::of(objc::Object controller) { return Whole::of(controller).translation; }

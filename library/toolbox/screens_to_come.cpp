@@ -19,9 +19,6 @@ std::span<const objc::Change> screensToCome() {
         objc::addition<"longPress:", &notYetFor>(),
         // The list of files and crash logs.
         objc::addition<"handlerzLongPress:", &notYetFor>(),
-        // The screen recorder.
-        objc::addition<"startRecording", &notYet>(),
-        objc::addition<"stopRecording", &notYet>(),
     };
     return changes;
 }

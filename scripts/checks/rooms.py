@@ -43,10 +43,12 @@ DESKTOP = {
     "commoncrypto": [],
     "quartzcore": [*PLAIN, "coregraphics"],
     "uikit": [*PLAIN, "coregraphics", "quartzcore", "foundation"],
-    "avfaudio": PLAIN,
+    "avfaudio": [*PLAIN, "foundation"],
+    "speech": ["runtime", "avfaudio", "uikit"],
+    "replaykit": [*PLAIN, "coregraphics", "uikit"],
     "webkit": [*PLAIN, "coregraphics", "uikit"],
     "safariservices": [*PLAIN, "uikit"],
-    "platform": ["foundation", "uikit", "avfaudio", "webkit", "safariservices"],
+    "platform": ["foundation", "uikit", "avfaudio", "speech", "replaykit", "webkit", "safariservices"],
 }
 DESKTOP["host"] = list(DESKTOP)
 DESKTOP["viewer"] = [*DESKTOP]

@@ -46,6 +46,14 @@ class Walk {
 public:
     Walk(Composition& result, double scale) : result_(result), list_(result.list), scale_(scale) {}
 
+    /// The view's bounds at that place, wherever it is in its superview.
+    void fill(ui::View view, const CGAffineTransform& place) {
+        const LayerValues shown = View::of(view).layer().presented();
+        if (const auto back = inverted(shown.toSuperlayer()); back) {
+            add(view, concatenated(*back, place), DisplayGroup::none);
+        }
+    }
+
     void screen() {
         const CGAffineTransform points{scale_, 0, 0, scale_, 0, 0};
         const Size size = screenSize();
@@ -156,6 +164,17 @@ Composition composition(PixelRectangle screen, double scale) {
     Composition result;
     result.list.screen = screen;
     Walk(result, scale).screen();
+    return result;
+}
+
+Composition composition(ui::View view, PixelRectangle picture) {
+    Composition result;
+    result.list.screen = picture;
+    const CGRect bounds = View::of(view).layer().presented().bounds;
+    const double across = picture.width / bounds.size.width;
+    const double down = picture.height / bounds.size.height;
+    Walk(result, across)
+        .fill(view, {across, 0, 0, down, -bounds.origin.x * across, -bounds.origin.y * down});
     return result;
 }
 

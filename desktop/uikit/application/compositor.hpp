@@ -24,4 +24,8 @@ struct Composition {
 /// transform flattens them, show nothing.
 [[nodiscard]] Composition composition(PixelRectangle screen, double scale);
 
+/// The view and what lies in it, as far as it lies in its bounds, which fill a picture of that size
+/// in pixels.
+[[nodiscard]] Composition composition(ui::View view, PixelRectangle picture);
+
 } // namespace desktop

@@ -1,6 +1,7 @@
 // UIImage's makers, measures and drawing.
 #include "desktop/uikit/values/image.hpp"
 
+#include "desktop/coregraphics/graphics_context.hpp"
 #include "desktop/uikit/application/screen.hpp"
 #include "desktop/uikit/values/color.hpp"
 #include "desktop/uikit/values/symbol_configuration.hpp"
@@ -23,12 +24,24 @@ double scaleOf(const std::string& path) {
 ui::Image UIImage::withContentsOfFile(Class, ns::String path) {
     const std::string file = path.utf8();
     auto picture = Image::load(file, scaleOf(file));
-    if (!picture) {
-        return nullptr;
-    }
+    return picture ? from(std::move(*picture)) : nullptr;
+}
+
+ui::Image UIImage::from(Image picture) {
     const auto image = ui::Image::make();
     of(image).value_ = std::move(picture);
     return image;
+}
+
+ui::Image UIImage::withCgImage(Class, CGImageRef image, double scale, long) {
+    const Image* picture = valueOf(imageOf(image));
+    return picture != nullptr ? from(picture->atScale(scale)) : nullptr;
+}
+
+void UIImage::drawInRect(CGRect rect) const {
+    if (Canvas* canvas = currentCanvas(); canvas != nullptr) {
+        draw(self(), *canvas, rectangle(rect), ui::Color::black());
+    }
 }
 
 ui::Image UIImage::systemNamedInStyle(Class, ns::String name, ui::ImageSymbolConfiguration style) {

@@ -19,6 +19,8 @@ public:
     static std::vector<objc::MethodRow> methods() {
         return {
             objc::classMethod<"imageWithContentsOfFile:", &UIImage::withContentsOfFile>(),
+            objc::classMethod<"imageWithCGImage:scale:orientation:", &UIImage::withCgImage>(),
+            objc::method<"drawInRect:", &UIImage::drawInRect>(),
             objc::method<"CGImage", &UIImage::cgImage>(),
             objc::classMethod<"systemImageNamed:", &UIImage::systemNamed>(),
             objc::classMethod<"systemImageNamed:withConfiguration:",
@@ -39,11 +41,18 @@ public:
 
     /// The picture; null for nil and for an image without one.
     static const Image* valueOf(ui::Image image);
+    static ui::Image from(Image picture);
+    /// What a CGImageRef is here; null for null.
+    static ui::Image imageOf(CGImageRef image) {
+        return objc::wrap<ui::Image>(reinterpret_cast<id>(image));
+    }
     /// Draws the image over the rectangle: a shape in its own tint, or else in the one given.
     static void draw(ui::Image image, Canvas& canvas, const Rectangle& area, ui::Color tint);
 
 private:
     static ui::Image withContentsOfFile(Class, ns::String path);
+    static ui::Image withCgImage(Class, CGImageRef image, double scale, long orientation);
+    void drawInRect(CGRect rect) const;
     /// Here, the image itself.
     [[nodiscard]] CGImageRef cgImage() const { return reinterpret_cast<CGImageRef>(self().raw()); }
     static ui::Image systemNamed(Class cls, ns::String name) {

@@ -69,6 +69,7 @@ std::vector<objc::MethodRow> View::methods() {
         objc::method<"layoutIfNeeded", &View::layoutIfNeeded>(),
         objc::method<"setNeedsDisplay", &View::setNeedsDisplay>(),
         objc::method<"drawRect:", &View::drawRect>(),
+        objc::method<"drawViewHierarchyInRect:afterScreenUpdates:", &View::drawHierarchy>(),
         objc::method<"sizeThatFits:", &View::sizeThatFits>(),
         objc::method<"sizeToFit", &View::sizeToFit>(),
         objc::method<"intrinsicContentSize", &View::intrinsicContentSize>(),

@@ -108,6 +108,7 @@ private:
     void layOut();
     void setNeedsDisplay() { layer().setNeedsDisplay(); }
     void drawRect(CGRect) {}
+    bool drawHierarchy(CGRect rect, bool afterUpdates);
     [[nodiscard]] CGSize sizeThatFits(CGSize) const { return bounds().size; }
     void sizeToFit();
     [[nodiscard]] CGSize intrinsicContentSize() const;

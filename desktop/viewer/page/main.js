@@ -2,6 +2,7 @@
 // Puts the page together.
 import { Connection } from "./connection.js";
 import { element } from "./element.js";
+import { showFilms } from "./films.js";
 import { Fingers } from "./fingers.js";
 import { showHelp } from "./help.js";
 import { holdPhone } from "./holding.js";
@@ -9,6 +10,7 @@ import { typeInto } from "./keyboard.js";
 import { tellOpenedUrls } from "./opened_urls.js";
 import { applicationsPanel } from "./panels/applications.js";
 import { eventsPanel } from "./panels/events.js";
+import { microphonePanel } from "./panels/microphone.js";
 import { pasteboardPanel } from "./panels/pasteboard.js";
 import { preferencesPanel } from "./panels/preferences.js";
 import { rulesPanel } from "./panels/rules.js";
@@ -131,6 +133,7 @@ function showPage() {
         preferences: preferencesPanel(connection),
         rules: rulesPanel(connection),
         pasteboard: pasteboardPanel(connection),
+        microphone: microphonePanel(connection),
         events: eventList,
     };
     showWords();
@@ -176,6 +179,7 @@ connection.addEventListener("refused", (event) => {
 
 new Fingers(part("glass"), part("marks"), screen, connection);
 showWebPages(part("glass"), connection);
+showFilms(part("glass"), connection);
 tellOpenedUrls(connection, tell);
 typeInto(field, part("help"), connection);
 part("glass").addEventListener("pointerdown", () => field.focus({ preventScroll: true }));

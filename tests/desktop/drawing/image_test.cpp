@@ -58,6 +58,48 @@ TEST(Image, SurvivesSavingAndLoading) {
     std::filesystem::remove_all(folder);
 }
 
+/// Red above blue, as it was drawn: taller than what a surface of pixels can be.
+Image tall() {
+    const cairo_rectangle_t extents{0, 0, 4, 50'000};
+    const std::shared_ptr<cairo_surface_t> recording(
+        cairo_recording_surface_create(CAIRO_CONTENT_COLOR, &extents), cairo_surface_destroy);
+    cairo_t* painter = cairo_create(recording.get());
+    Canvas canvas(painter);
+    cairo_destroy(painter);
+    canvas.fill({0, 0, 4, 40'000}, {1, 0, 0});
+    canvas.fill({0, 40'000, 4, 10'000}, {0, 0, 1});
+    return Image::adopt(recording, 2);
+}
+
+TEST(Image, MayBeTallerThanASurface) {
+    const Image image = tall();
+    EXPECT_EQ(image.size(), (Size{2, 25'000}));
+    EXPECT_EQ(image.pixel(1, 39'999), (Colour{1, 0, 0, 1}));
+    EXPECT_EQ(image.pixel(1, 40'000), (Colour{0, 0, 1, 1}));
+    const std::vector<std::byte> png = image.png();
+    ASSERT_GT(png.size(), 24U);
+    EXPECT_EQ(std::to_integer<int>(png[22]), 50'000 / 256);
+    EXPECT_EQ(std::to_integer<int>(png[23]), 50'000 % 256);
+    const auto part = image.cropped({0, 39'998, 4, 4});
+    ASSERT_TRUE(part);
+    const auto read = Image::decode(part->png());
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->pixel(3, 1), (Colour{1, 0, 0, 1}));
+    EXPECT_EQ(read->pixel(3, 2), (Colour{0, 0, 1, 1}));
+}
+
+TEST(Image, IsCroppedByWholePixels) {
+    const auto part = sample().cropped({3.5, -5, 100, 6});
+    ASSERT_TRUE(part);
+    EXPECT_EQ(part->pixelWidth(), 5);
+    EXPECT_EQ(part->pixelHeight(), 1);
+    EXPECT_EQ(part->pixel(0, 0), (Colour{1, 0, 0, 1}));
+    EXPECT_EQ(part->pixel(1, 0), sample().pixel(4, 0));
+    EXPECT_FALSE(sample().cropped({8, 0, 4, 4}));
+    EXPECT_FALSE(sample().cropped({0, 0, -1, 4}));
+    EXPECT_FALSE(sample().cropped({std::nan(""), 0, 1, 1}));
+}
+
 TEST(Image, DecodesJpeg) {
     const auto image = Image::decode(jpeg());
     ASSERT_TRUE(image);

@@ -13,7 +13,9 @@ namespace tests {
 /// A controller of its own in the window of an application, as the panel holds one.
 class ToolboxPanel : public Phone {
 public:
-    explicit ToolboxPanel(const Json& preferences = Json::object()) : Phone({"--app", "chat"}) {
+    explicit ToolboxPanel(const Json& preferences = Json::object(),
+                          std::vector<std::string> options = {"--app", "chat"})
+        : Phone(std::move(options)) {
         set(preferences);
         controller_ = message({{"class", "ZKFloatingViewController"}}, "new");
         window_ = Phone::window();

@@ -1,5 +1,5 @@
 // @ts-check
-// What the phone did to the outside, newest first; sounds can be heard, files downloaded.
+// What the phone did to the outside, newest first; sounds can be heard, films and pictures seen, files downloaded.
 import { element } from "../element.js";
 import { word } from "../words.js";
 
@@ -86,6 +86,13 @@ function attachment(/** @type {number} */ number, /** @type {string} */ file) {
     if (file.endsWith(".wav")) {
         return element("audio", { controls: true, preload: "none", src: source });
     }
+    if (file.endsWith(".webm")) {
+        return element("video", { controls: true, preload: "metadata", src: source });
+    }
     const name = file.slice(file.lastIndexOf("/") + 1);
-    return element("a", { href: source, download: name }, `${word("download")} ${name}`);
+    const link = element("a", { href: source, download: name }, `${word("download")} ${name}`);
+    if (file.endsWith(".png")) {
+        link.prepend(element("img", { src: source, alt: name, loading: "lazy" }));
+    }
+    return link;
 }

@@ -1,0 +1,98 @@
+// Speech is taken down in Settings, while a finger rests on the button that starts recordings.
+#include "tests/features/capture/capture_panel.hpp"
+
+namespace {
+
+using tests::CapturePanel;
+using tests::Json;
+
+class Dictation : public testing::Test {
+protected:
+    Json alert() { return phone.result({{"do", "alert"}}); }
+    void choose(const std::string& title) {
+        phone.result({{"do", "alert"}, {"choose", title}});
+        phone.advance(1);
+    }
+    void recognize(Json settings) {
+        settings["do"] = "recognizer";
+        phone.result(settings);
+    }
+    /// The text of the alert after a finger has rested on the button that long.
+    Json dictated(double seconds) {
+        phone.press("应用录屏", seconds);
+        phone.advance(1);
+        const Json shown = alert();
+        EXPECT_EQ(shown["title"], "语音识别结果");
+        choose("确认");
+        return shown["message"];
+    }
+
+    CapturePanel phone{"settings"};
+};
+
+TEST_F(Dictation, APersonIsAskedOnce) {
+    phone.advance(1);
+    EXPECT_EQ(alert()["title"], "语音识别授权成功");
+    choose("OK");
+    EXPECT_EQ(phone.result({{"do", "defaults"}, {"key", "wasPromptedForSpeechRecognition"}}), true);
+    phone.panel("viewDidAppear:", {false});
+    phone.advance(1);
+    EXPECT_EQ(alert(), nullptr);
+}
+
+TEST_F(Dictation, WhatIsSaidIsShown) {
+    choose("OK");
+    recognize({{"hears", "今天天气很好"}});
+    EXPECT_EQ(dictated(6), "今天天气很好");
+    const auto heard = phone.events("recognition");
+    ASSERT_GT(heard.size(), 2U);
+    EXPECT_EQ(heard.back()["final"], true);
+    EXPECT_LT(heard.front()["text"].get<std::string>().size(), std::string("今天天气很好").size())
+        << "it comes little by little";
+    EXPECT_EQ(phone.panel("recognitionTask"), nullptr);
+    EXPECT_TRUE(phone.swallowed().empty());
+}
+
+TEST_F(Dictation, SilenceGivesNoText) {
+    choose("OK");
+    EXPECT_EQ(dictated(1), nullptr);
+    EXPECT_EQ(phone.panel("recognitionRequest"), nullptr);
+}
+
+TEST_F(Dictation, WhatFailsLeavesNothingRunning) {
+    choose("OK");
+    for (const Json& settings :
+         {Json{{"authorized", false}}, Json{{"available", false}},
+          Json{{"authorized", true}, {"available", true}, {"error", "no"}}}) {
+        recognize(settings);
+        recognize({{"hears", "听不到"}});
+        EXPECT_EQ(dictated(1), nullptr) << settings;
+        EXPECT_EQ(phone.message(phone.panel("audioEngine"), "isRunning"), false);
+        EXPECT_EQ(phone.panel("recognitionTask"), nullptr);
+    }
+    recognize({{"error", nullptr}});
+    EXPECT_EQ(dictated(3), "听不到");
+    EXPECT_TRUE(phone.swallowed().empty());
+}
+
+TEST_F(Dictation, BeginningTwiceInstallsOneTap) {
+    choose("OK");
+    recognize({{"hears", "你好"}});
+    phone.panel("initiateVoiceRecognition");
+    phone.panel("initiateVoiceRecognition");
+    phone.advance(3);
+    phone.panel("terminateVoiceRecognition");
+    EXPECT_EQ(alert()["message"], "你好");
+    EXPECT_TRUE(phone.swallowed().empty());
+}
+
+TEST(DictationElsewhere, IsNotPrepared) {
+    CapturePanel phone("chat");
+    phone.advance(1);
+    EXPECT_EQ(phone.result({{"do", "alert"}}), nullptr);
+    EXPECT_EQ(phone.panel("audioEngine"), nullptr);
+    phone.panel("initiateVoiceRecognition");
+    EXPECT_TRUE(phone.swallowed().empty());
+}
+
+} // namespace
