@@ -13,6 +13,7 @@
 #include "desktop/foundation/observers.hpp"
 #include "desktop/foundation/percent_encoding.hpp"
 #include "desktop/foundation/property_list_serialization.hpp"
+#include "desktop/foundation/regular_expression.hpp"
 #include "desktop/foundation/string.hpp"
 #include "desktop/foundation/string_transform.hpp"
 #include "desktop/foundation/timer.hpp"
@@ -29,6 +30,7 @@ void install(const std::string& bundleIdentifier) {
     installStrings();
     installStringTransforms();
     installPercentEncoding();
+    installRegularExpressions();
     registerDataDetector();
     const auto identifier = ns::String::fromUtf8(bundleIdentifier);
     installDates();
