@@ -9,6 +9,12 @@
 
 namespace ui {
 
+/// The name of the notification that a person has edited a text view.
+inline ns::String textViewTextDidChange() {
+    using namespace ns::literals;
+    return u"UITextViewTextDidChangeNotification"_ns;
+}
+
 struct TextView : objc::Kind<TextView, "UITextView", ScrollView> {
     using Kind::Kind;
 
