@@ -18,6 +18,14 @@ enum class KeyboardDismissMode : long {
     interactive = 2, ///< the keyboard follows a finger that is dragged down over it
 };
 
+/// What a scroll view does about the safe area; the platform's numbers.
+enum class ContentInsetAdjustment : long {
+    automatic = 0,
+    scrollableAxes = 1,
+    never = 2,
+    always = 3,
+};
+
 struct ScrollView : objc::Kind<ScrollView, "UIScrollView", View> {
     using Kind::Kind;
 
@@ -38,6 +46,17 @@ struct ScrollView : objc::Kind<ScrollView, "UIScrollView", View> {
     void setKeyboardDismissMode(KeyboardDismissMode mode) const {
         send<"setKeyboardDismissMode:">(mode);
     }
+    /// Not retained.
+    void setDelegate(objc::Object delegate) const { send<"setDelegate:">(delegate); }
+    /// Content comes to rest at whole pages, each as large as the view.
+    void setPagingEnabled(bool paging) const { send<"setPagingEnabled:">(paging); }
+    void setContentInsetAdjustment(ContentInsetAdjustment adjustment) const {
+        send<"setContentInsetAdjustmentBehavior:">(adjustment);
+    }
+    // Two fingers zoom what the delegate answers to viewForZoomingInScrollView:, between these.
+    void setMinimumZoomScale(double scale) const { send<"setMinimumZoomScale:">(scale); }
+    void setMaximumZoomScale(double scale) const { send<"setMaximumZoomScale:">(scale); }
+    void setBouncesZoom(bool bounces) const { send<"setBouncesZoom:">(bounces); }
     void setScrollIndicatorInsets(UIEdgeInsets insets) const {
         send<"setScrollIndicatorInsets:">(insets);
     }

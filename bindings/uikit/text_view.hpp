@@ -48,8 +48,6 @@ struct TextView : objc::Kind<TextView, "UITextView", ScrollView> {
     void setTextContainerInset(UIEdgeInsets insets) const {
         send<"setTextContainerInset:">(insets);
     }
-    /// Not retained.
-    void setDelegate(objc::Object delegate) const { send<"setDelegate:">(delegate); }
 };
 
 } // namespace ui

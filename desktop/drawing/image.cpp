@@ -1,4 +1,4 @@
-// Decodes pictures with GdkPixbuf into Cairo's pixels, and encodes them as PNG.
+// Decodes pictures with GdkPixbuf into Cairo's pixels.
 #include "desktop/drawing/image.hpp"
 
 #include "desktop/drawing/handle.hpp"
@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <fstream>
-#include <iterator>
 #include <utility>
 
 namespace desktop {
@@ -34,17 +33,23 @@ void makeClear(GdkPixbufLoader* loader, gpointer) {
     gdk_pixbuf_fill(gdk_pixbuf_loader_get_pixbuf(loader), 0);
 }
 
-Pixbuf decodePixbuf(std::span<const std::byte> bytes) {
-    if (bytes.empty()) {
-        return nullptr;
+/// Whether all of it is a picture. What is none is not read to its end.
+bool feed(GdkPixbufLoader* loader, const Image::Parts& parts) {
+    for (auto part = parts(); !part.empty(); part = parts()) {
+        if (gdk_pixbuf_loader_write(loader, reinterpret_cast<const guchar*>(part.data()),
+                                    part.size(), nullptr) == FALSE) {
+            return false;
+        }
     }
+    return true;
+}
+
+Pixbuf decodePixbuf(const Image::Parts& parts) {
     bool refused = false;
     const Loader loader(gdk_pixbuf_loader_new());
     g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(refuseLargePicture), &refused);
     g_signal_connect(loader.get(), "area-prepared", G_CALLBACK(makeClear), nullptr);
-    const bool written =
-        gdk_pixbuf_loader_write(loader.get(), reinterpret_cast<const guchar*>(bytes.data()),
-                                bytes.size(), nullptr) != FALSE;
+    const bool written = feed(loader.get(), parts);
     const bool complete = gdk_pixbuf_loader_close(loader.get(), nullptr) != FALSE;
     GdkPixbuf* decoded = gdk_pixbuf_loader_get_pixbuf(loader.get());
     if (!written || !complete || refused || decoded == nullptr) {
@@ -78,13 +83,6 @@ std::shared_ptr<cairo_surface_t> surfaceOf(GdkPixbuf* pixbuf) {
     return surface;
 }
 
-cairo_status_t appendBytes(void* bytes, const unsigned char* data, unsigned int length) {
-    const auto* first = reinterpret_cast<const std::byte*>(data);
-    auto& target = *static_cast<std::vector<std::byte>*>(bytes);
-    target.insert(target.end(), first, first + length);
-    return CAIRO_STATUS_SUCCESS;
-}
-
 } // namespace
 
 Image::Image(std::shared_ptr<cairo_surface_t> surface, double scale)
@@ -95,17 +93,25 @@ std::optional<Image> Image::load(const std::filesystem::path& file, double scale
     if (!std::filesystem::is_regular_file(file, error)) {
         return std::nullopt;
     }
+    constexpr std::size_t partSize = 1U << 16U;
     std::ifstream stream(file, std::ios::binary);
-    const std::vector<char> bytes{std::istreambuf_iterator<char>(stream), {}};
-    return decode(std::as_bytes(std::span(bytes)), scale);
+    std::vector<std::byte> part(partSize);
+    return decodeParts(
+        [&] {
+            stream.read(reinterpret_cast<char*>(part.data()), partSize);
+            return std::span<const std::byte>(part.data(),
+                                              static_cast<std::size_t>(stream.gcount()));
+        },
+        scale);
 }
 
 std::optional<Image> Image::decode(std::span<const std::byte> bytes, double scale) {
-    const Pixbuf pixbuf = decodePixbuf(bytes);
-    if (!pixbuf) {
-        return std::nullopt;
-    }
-    return Image(surfaceOf(pixbuf.get()), scale);
+    return decodeParts([&] { return std::exchange(bytes, {}); }, scale);
+}
+
+std::optional<Image> Image::decodeParts(const Parts& parts, double scale) {
+    const Pixbuf pixbuf = decodePixbuf(parts);
+    return pixbuf ? std::optional(Image(surfaceOf(pixbuf.get()), scale)) : std::nullopt;
 }
 
 Image Image::adopt(std::shared_ptr<cairo_surface_t> surface, double scale) {
@@ -134,22 +140,6 @@ Colour Image::pixel(int x, int y) const {
         return std::min(1.0, static_cast<double>((value >> shift) & 0xFF) / alpha);
     };
     return {component(16), component(8), component(0), alpha / 255.0};
-}
-
-std::vector<std::byte> Image::png() const {
-    std::vector<std::byte> bytes;
-    if (cairo_surface_write_to_png_stream(surface(), appendBytes, &bytes) != CAIRO_STATUS_SUCCESS) {
-        bytes.clear();
-    }
-    return bytes;
-}
-
-bool Image::savePng(const std::filesystem::path& file) const {
-    const std::vector<std::byte> bytes = png();
-    std::ofstream stream(file, std::ios::binary);
-    stream.write(reinterpret_cast<const char*>(bytes.data()),
-                 static_cast<std::streamsize>(bytes.size()));
-    return !bytes.empty() && stream.flush().good();
 }
 
 } // namespace desktop

@@ -3,6 +3,7 @@
 
 #include "desktop/foundation/application_folders.hpp"
 #include "desktop/foundation/bundle.hpp"
+#include "desktop/foundation/byte_count_formatter.hpp"
 #include "desktop/foundation/data_detector.hpp"
 #include "desktop/foundation/date.hpp"
 #include "desktop/foundation/delayed_perform.hpp"
@@ -30,6 +31,7 @@ void install(const std::string& bundleIdentifier) {
     installStrings();
     installStringTransforms();
     installPercentEncoding();
+    installByteCountFormatter();
     installRegularExpressions();
     registerDataDetector();
     const auto identifier = ns::String::fromUtf8(bundleIdentifier);
