@@ -25,7 +25,7 @@ struct Row {
     Command command;
 };
 
-constexpr std::array<Row, 26> table{{
+constexpr std::array<Row, 27> table{{
     {"send", &send},
     {"make", &make},
     {"tree", &tree},
@@ -39,6 +39,7 @@ constexpr std::array<Row, 26> table{{
     {"key", &key},
     {"menu", &menu},
     {"alert", &alert},
+    {"mail", &mail},
     {"screens", &screens},
     {"pasteboard", &pasteboard},
     {"preferences", &preferences},

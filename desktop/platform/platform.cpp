@@ -2,6 +2,7 @@
 #include "desktop/platform/platform.hpp"
 
 #include "desktop/avfaudio/speech_synthesizer.hpp"
+#include "desktop/messageui/mail_compose_view_controller.hpp"
 #include "desktop/safariservices/safari_view_controller.hpp"
 #include "desktop/uikit/uikit.hpp"
 #include "desktop/webkit/web_view.hpp"
@@ -16,6 +17,7 @@ void registerPlatform() {
     registerSpeechClasses();
     registerWebClasses();
     SafariViewController::registerClass();
+    MailComposeViewController::registerClass();
 }
 
 } // namespace desktop

@@ -46,7 +46,8 @@ DESKTOP = {
     "avfaudio": PLAIN,
     "webkit": [*PLAIN, "coregraphics", "uikit"],
     "safariservices": [*PLAIN, "uikit"],
-    "platform": ["foundation", "uikit", "avfaudio", "webkit", "safariservices"],
+    "messageui": [*PLAIN, "uikit"],
+    "platform": ["foundation", "uikit", "avfaudio", "webkit", "safariservices", "messageui"],
 }
 DESKTOP["host"] = list(DESKTOP)
 DESKTOP["viewer"] = [*DESKTOP]
