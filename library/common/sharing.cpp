@@ -10,9 +10,9 @@ namespace {
 
 constexpr bool animated = true;
 
-ui::ActivityViewController sheetOf(ns::String text) {
+ui::ActivityViewController sheetOf(objc::Object item) {
     const auto items = ns::MutableArray::make();
-    items.add(text);
+    items.add(item);
     return ui::ActivityViewController::sharing(items);
 }
 
@@ -24,8 +24,8 @@ void shareText(ns::String text) {
     topViewController().present(sheet, animated);
 }
 
-void shareText(ns::String text, ui::ViewController controller) {
-    controller.present(sheetOf(text), animated);
+void share(objc::Object item, ui::ViewController controller) {
+    controller.present(sheetOf(item), animated);
 }
 
 } // namespace wentra

@@ -4,7 +4,7 @@
 #include "bindings/foundation/regular_expression.hpp"
 #include "library/files/viewers/syntax_colours.hpp"
 
-#include <unordered_map>
+#include <map>
 
 namespace wentra::files {
 
@@ -16,7 +16,7 @@ public:
 private:
     [[nodiscard]] WordRole asked(char32_t character) const;
 
-    std::unordered_map<char32_t, WordRole> known_;
+    std::map<char32_t, WordRole> known_;
     // What has a pattern of ours has an expression.
     objc::Strong<ns::RegularExpression> combining_ = expression(u"[\\p{Grapheme_Extend}\\p{Cf}]");
     objc::Strong<ns::RegularExpression> word_ = expression(u"\\w");

@@ -12,14 +12,18 @@ namespace tests {
 
 class ViewerTest : public testing::Test {
 protected:
-    /// Makes the controller by its initialiser, presents it within a navigation controller.
+    /// Pushes the controller in a navigation controller that covers the application.
     void show(const Json& controller) {
-        const Json root =
+        const Json navigation =
             phone.message(phone.message({{"class", "UINavigationController"}}, "alloc"),
-                          "initWithRootViewController:", {controller});
-        phone.message(root, "setModalPresentationStyle:", {0});
-        phone.message(phone.message(phone.window(), "rootViewController"),
-                      "presentViewController:animated:completion:", {root, false, nullptr});
+                          "initWithRootViewController:", {made("UIViewController")});
+        constexpr int fullScreen = 0;
+        phone.message(navigation, "setModalPresentationStyle:", {fullScreen});
+        const Json application = phone.message(phone.window(), "rootViewController");
+        phone.message(application, "dismissViewControllerAnimated:completion:", {false, nullptr});
+        phone.message(application,
+                      "presentViewController:animated:completion:", {navigation, false, nullptr});
+        phone.message(navigation, "pushViewController:animated:", {controller, false});
         phone.advance(1);
     }
     Json made(const std::string& cls) { return phone.message({{"class", cls}}, "new"); }
