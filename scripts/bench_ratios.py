@@ -49,6 +49,10 @@ RATIOS = [
     ("opening a text of 1,000,000 units / of 2,000", "openText/1000000", "openText/2000", ""),
     ("stitching 20 screenshots into a file / encoding them", "stitchImages", "encodeStitched",
      "at most 1.2"),
+    ("matching 41 expressions in a page / opening and colouring it", "matchSyntax",
+     "openAndColour", "at least 3"),
+    ("searching a page / memmem", "searchPage", "searchMemory", "at most 2"),
+    ("showing the bytes of 64 MB / reading them", "showBytes", "readBlocks", "at most 1.5"),
     ("redrawing a caret / the whole screen", "caretRedraw", "fullRedraw", ""),
     ("redrawing a label / the whole screen", "labelRedraw", "fullRedraw", ""),
 ]

@@ -30,6 +30,11 @@ inline dispatch_queue_t mainQueue() { return &_dispatch_main_q; }
 /// The global queue of default priority: any background thread.
 inline dispatch_queue_t globalQueue() { return dispatch_get_global_queue(0, 0); }
 
+/// As `after` counts time.
+constexpr std::int64_t nanoseconds(double seconds) {
+    return static_cast<std::int64_t>(seconds * 1e9);
+}
+
 namespace detail {
 
 /// The body on its way to a queue, which calls and destroys it exactly once.

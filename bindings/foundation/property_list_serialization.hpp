@@ -24,6 +24,13 @@ struct PropertyListSerialization
         return error.result(sendClass<"propertyListWithData:options:format:error:", objc::Object>(
             data, 0UL, static_cast<void*>(nullptr), error.out()));
     }
+    /// The same with containers and texts that can be changed, and the format that it is in.
+    static Result<objc::Object> mutablePropertyList(Data data, PropertyListFormat& format) {
+        constexpr unsigned long mutableContainersAndLeaves = 2;
+        const ErrorPointer error;
+        return error.result(sendClass<"propertyListWithData:options:format:error:", objc::Object>(
+            data, mutableContainersAndLeaves, static_cast<void*>(&format), error.out()));
+    }
 };
 
 } // namespace ns

@@ -43,4 +43,10 @@ private:
     mutable id error_ = nullptr; ///< borrowed from the pool
 };
 
+inline Error String::writeToFile(String path, bool atomically, StringEncoding encoding) const {
+    const ErrorPointer error;
+    return error.unless(send<"writeToFile:atomically:encoding:error:", bool>(
+        path, atomically, encoding, error.out()));
+}
+
 } // namespace ns

@@ -30,6 +30,8 @@ constexpr bool areOptions(StringCompareOptions) { return true; }
 /// The platform's numbers.
 enum class StringEncoding : unsigned long { ascii = 1, utf8 = 4, isoLatin1 = 5, utf16 = 10 };
 
+struct Error;
+
 struct String : objc::Kind<String, "NSString"> {
     using Kind::Kind;
 
@@ -46,6 +48,8 @@ struct String : objc::Kind<String, "NSString"> {
     }
 
     [[nodiscard]] unsigned long length() const { return send<"length", unsigned long>(); }
+    /// Of the number that the text begins with; 0 without one.
+    [[nodiscard]] long integerValue() const { return send<"integerValue", long>(); }
     [[nodiscard]] float floatValue() const { return send<"floatValue", float>(); }
     [[nodiscard]] bool isEqualToString(String other) const {
         return send<"isEqualToString:", bool>(other);
@@ -64,6 +68,9 @@ struct String : objc::Kind<String, "NSString"> {
     void getCharacters(char16_t* buffer, ns::Range range) const {
         send<"getCharacters:range:">(buffer, range);
     }
+    /// Nil when the file holds the text; an error for text that has no such form. Atomically:
+    /// through a file beside it. Defined in result.hpp.
+    [[nodiscard]] Error writeToFile(String path, bool atomically, StringEncoding encoding) const;
     /// The UTF-16 units; empty for nil.
     [[nodiscard]] std::u16string utf16() const {
         std::u16string text(length(), u'\0');

@@ -15,6 +15,7 @@ struct Url : objc::Kind<Url, "NSURL"> {
     }
     /// Without percent escapes; nil when there is none.
     [[nodiscard]] String path() const { return send<"path", String>(); }
+    [[nodiscard]] String lastPathComponent() const { return send<"lastPathComponent", String>(); }
     [[nodiscard]] String absoluteString() const { return send<"absoluteString", String>(); }
     /// Nil when the address has none.
     [[nodiscard]] String host() const { return send<"host", String>(); }

@@ -53,6 +53,7 @@ struct BarButtonItem : objc::Kind<BarButtonItem, "UIBarButtonItem"> {
     }
     [[nodiscard]] ns::String title() const { return send<"title", ns::String>(); }
     void setTitle(ns::String title) const { send<"setTitle:">(title); }
+    void setEnabled(bool enabled) const { send<"setEnabled:">(enabled); }
 };
 
 } // namespace ui

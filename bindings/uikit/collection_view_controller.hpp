@@ -1,6 +1,7 @@
 // UICollectionViewController.
 #pragma once
 
+#include "bindings/uikit/collection_view.hpp"
 #include "bindings/uikit/view_controller.hpp"
 
 namespace ui {
@@ -8,6 +9,11 @@ namespace ui {
 struct CollectionViewController
     : objc::Kind<CollectionViewController, "UICollectionViewController", ViewController> {
     using Kind::Kind;
+
+    /// Its own, whose data source and delegate it is.
+    [[nodiscard]] CollectionView collectionView() const {
+        return send<"collectionView", CollectionView>();
+    }
 };
 
 } // namespace ui

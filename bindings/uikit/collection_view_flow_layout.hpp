@@ -9,6 +9,7 @@ struct CollectionViewFlowLayout
     : objc::Kind<CollectionViewFlowLayout, "UICollectionViewFlowLayout", CollectionViewLayout> {
     using Kind::Kind;
 
+    /// Of every item of which the delegate does not tell another, in points.
     void setItemSize(CGSize size) const { send<"setItemSize:">(size); }
     /// In points, at least, between the items of a line.
     void setMinimumInteritemSpacing(double points) const {

@@ -32,6 +32,7 @@ struct Color : objc::Kind<Color, "UIColor"> {
     static Color red() { return sendClass<"redColor", Color>(); }
     static Color green() { return sendClass<"greenColor", Color>(); }
     static Color orange() { return sendClass<"orangeColor", Color>(); }
+    static Color purple() { return sendClass<"purpleColor", Color>(); }
     static Color blue() { return sendClass<"blueColor", Color>(); }
     static Color gray() { return sendClass<"grayColor", Color>(); }
     static Color darkGray() { return sendClass<"darkGrayColor", Color>(); }
@@ -41,6 +42,7 @@ struct Color : objc::Kind<Color, "UIColor"> {
     static Color secondaryLabel() { return sendClass<"secondaryLabelColor", Color>(); }
     static Color systemBackground() { return sendClass<"systemBackgroundColor", Color>(); }
     static Color systemBlue() { return sendClass<"systemBlueColor", Color>(); }
+    static Color systemPurple() { return sendClass<"systemPurpleColor", Color>(); }
 
     /// What UIColor's class method of that name answers ("redColor"), if it is a colour; nil when
     /// there is no such method. The name must take no arguments.

@@ -20,6 +20,10 @@ struct Font : objc::Kind<Font, "UIFont"> {
     static Font system(double size, double weight) {
         return sendClass<"systemFontOfSize:weight:", Font>(size, weight);
     }
+    /// The system's font in which all letters are of one width.
+    static Font monospacedSystem(double size, double weight) {
+        return sendClass<"monospacedSystemFontOfSize:weight:", Font>(size, weight);
+    }
     static Font boldSystem(double size) { return sendClass<"boldSystemFontOfSize:", Font>(size); }
     /// The font of that PostScript, full or family name; nil when there is none.
     static Font withName(ns::String name, double size) {

@@ -37,6 +37,8 @@ struct Image : objc::Kind<Image, "UIImage"> {
     }
     /// In points.
     [[nodiscard]] CGSize size() const { return send<"size", CGSize>(); }
+    /// Pixels a point.
+    [[nodiscard]] double scale() const { return send<"scale", double>(); }
     [[nodiscard]] Image withRenderingMode(RenderingMode mode) const {
         return send<"imageWithRenderingMode:", Image>(mode);
     }

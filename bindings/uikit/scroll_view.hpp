@@ -49,6 +49,14 @@ struct ScrollView : objc::Kind<ScrollView, "UIScrollView", View> {
     void setKeyboardDismissMode(KeyboardDismissMode mode) const {
         send<"setKeyboardDismissMode:">(mode);
     }
+    /// Not retained.
+    void setDelegate(objc::Object delegate) const { send<"setDelegate:">(delegate); }
+    /// Content comes to rest at whole pages, each as large as the view.
+    void setPagingEnabled(bool paging) const { send<"setPagingEnabled:">(paging); }
+    // Two fingers zoom what the delegate answers to viewForZoomingInScrollView:, between these.
+    void setMinimumZoomScale(double scale) const { send<"setMinimumZoomScale:">(scale); }
+    void setMaximumZoomScale(double scale) const { send<"setMaximumZoomScale:">(scale); }
+    void setBouncesZoom(bool bounces) const { send<"setBouncesZoom:">(bounces); }
     void setScrollIndicatorInsets(UIEdgeInsets insets) const {
         send<"setScrollIndicatorInsets:">(insets);
     }

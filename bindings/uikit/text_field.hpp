@@ -10,6 +10,14 @@ namespace ui {
 enum class TextBorderStyle : long { none = 0, line = 1, bezel = 2, roundedRect = 3 };
 enum class TextFieldViewMode : long { never = 0, whileEditing = 1, unlessEditing = 2, always = 3 };
 
+enum class KeyboardType : long {
+    default_ = 0,
+    asciiCapable = 1,
+    numbersAndPunctuation = 2,
+    url = 3,
+    numberPad = 4,
+};
+
 struct TextField : objc::Kind<TextField, "UITextField", Control> {
     using Kind::Kind;
 
@@ -25,6 +33,7 @@ struct TextField : objc::Kind<TextField, "UITextField", Control> {
     void setBorderStyle(TextBorderStyle style) const { send<"setBorderStyle:">(style); }
     void setClearButtonMode(TextFieldViewMode mode) const { send<"setClearButtonMode:">(mode); }
     void setSecureTextEntry(bool secure) const { send<"setSecureTextEntry:">(secure); }
+    void setKeyboardType(KeyboardType type) const { send<"setKeyboardType:">(type); }
     /// Not retained.
     void setDelegate(objc::Object delegate) const { send<"setDelegate:">(delegate); }
 };

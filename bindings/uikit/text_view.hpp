@@ -9,6 +9,12 @@
 
 namespace ui {
 
+/// The name of the notification that a person has edited a text view.
+inline ns::String textViewTextDidChange() {
+    using namespace ns::literals;
+    return u"UITextViewTextDidChangeNotification"_ns;
+}
+
 struct TextView : objc::Kind<TextView, "UITextView", ScrollView> {
     using Kind::Kind;
 
@@ -42,8 +48,6 @@ struct TextView : objc::Kind<TextView, "UITextView", ScrollView> {
     void setTextContainerInset(UIEdgeInsets insets) const {
         send<"setTextContainerInset:">(insets);
     }
-    /// Not retained.
-    void setDelegate(objc::Object delegate) const { send<"setDelegate:">(delegate); }
 };
 
 } // namespace ui

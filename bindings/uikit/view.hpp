@@ -106,6 +106,9 @@ struct View : objc::Kind<View, "UIView", Responder> {
     void addSubview(View view) const { send<"addSubview:">(view); }
     void bringSubviewToFront(View view) const { send<"bringSubviewToFront:">(view); }
     void insertSubview(View view, long index) const { send<"insertSubview:atIndex:">(view, index); }
+    void insertSubviewBelow(View view, View sibling) const {
+        send<"insertSubview:belowSubview:">(view, sibling);
+    }
     void removeFromSuperview() const { send<"removeFromSuperview">(); }
     [[nodiscard]] View viewWithTag(long tag) const { return send<"viewWithTag:", View>(tag); }
     [[nodiscard]] ns::ArrayOf<GestureRecognizer> gestureRecognizers() const {

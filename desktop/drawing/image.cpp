@@ -1,16 +1,15 @@
-// Decodes pictures with GdkPixbuf into Cairo's pixels, and encodes them as PNG.
+// Decodes pictures with GdkPixbuf into Cairo's pixels.
 #include "desktop/drawing/image.hpp"
 
 #include "desktop/drawing/display/pixel_rectangle.hpp"
 #include "desktop/drawing/handle.hpp"
-#include "desktop/drawing/png_writer.hpp"
+#include "desktop/drawing/surfaces.hpp"
 
 #include <gdk-pixbuf/gdk-pixbuf.h>
 
 #include <algorithm>
 #include <cstdint>
 #include <fstream>
-#include <iterator>
 #include <utility>
 
 namespace desktop {
@@ -18,11 +17,6 @@ namespace {
 
 using Pixbuf = Handle<GdkPixbuf, g_object_unref>;
 using Loader = Handle<GdkPixbufLoader, g_object_unref>;
-
-std::shared_ptr<cairo_surface_t> makeSurface(int width, int height,
-                                             cairo_format_t format = CAIRO_FORMAT_ARGB32) {
-    return {cairo_image_surface_create(format, width, height), cairo_surface_destroy};
-}
 
 bool isRecording(cairo_surface_t* surface) {
     return cairo_surface_get_type(surface) == CAIRO_SURFACE_TYPE_RECORDING;
@@ -32,14 +26,6 @@ cairo_rectangle_t extentsOf(cairo_surface_t* recording) {
     cairo_rectangle_t extents{};
     cairo_recording_surface_get_extents(recording, &extents);
     return extents;
-}
-
-/// Paints the source onto the target so that (x, y) of it comes to the top left corner.
-void paintFrom(cairo_surface_t* target, cairo_surface_t* source, int x, int y) {
-    const Handle<cairo_t, cairo_destroy> painter(cairo_create(target));
-    cairo_set_operator(painter.get(), CAIRO_OPERATOR_SOURCE);
-    cairo_set_source_surface(painter.get(), source, -x, -y);
-    cairo_paint(painter.get());
 }
 
 /// A part of an opaque recording.
@@ -79,17 +65,23 @@ void makeClear(GdkPixbufLoader* loader, gpointer) {
     gdk_pixbuf_fill(gdk_pixbuf_loader_get_pixbuf(loader), 0);
 }
 
-Pixbuf decodePixbuf(std::span<const std::byte> bytes) {
-    if (bytes.empty()) {
-        return nullptr;
+/// Whether all of it is a picture. What is none is not read to its end.
+bool feed(GdkPixbufLoader* loader, const Image::Parts& parts) {
+    for (auto part = parts(); !part.empty(); part = parts()) {
+        if (gdk_pixbuf_loader_write(loader, reinterpret_cast<const guchar*>(part.data()),
+                                    part.size(), nullptr) == FALSE) {
+            return false;
+        }
     }
+    return true;
+}
+
+Pixbuf decodePixbuf(const Image::Parts& parts) {
     bool refused = false;
     const Loader loader(gdk_pixbuf_loader_new());
     g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(refuseLargePicture), &refused);
     g_signal_connect(loader.get(), "area-prepared", G_CALLBACK(makeClear), nullptr);
-    const bool written =
-        gdk_pixbuf_loader_write(loader.get(), reinterpret_cast<const guchar*>(bytes.data()),
-                                bytes.size(), nullptr) != FALSE;
+    const bool written = feed(loader.get(), parts);
     const bool complete = gdk_pixbuf_loader_close(loader.get(), nullptr) != FALSE;
     GdkPixbuf* decoded = gdk_pixbuf_loader_get_pixbuf(loader.get());
     if (!written || !complete || refused || decoded == nullptr) {
@@ -123,13 +115,6 @@ std::shared_ptr<cairo_surface_t> surfaceOf(GdkPixbuf* pixbuf) {
     return surface;
 }
 
-cairo_status_t appendBytes(void* bytes, const unsigned char* data, unsigned int length) {
-    const auto* first = reinterpret_cast<const std::byte*>(data);
-    auto& target = *static_cast<std::vector<std::byte>*>(bytes);
-    target.insert(target.end(), first, first + length);
-    return CAIRO_STATUS_SUCCESS;
-}
-
 } // namespace
 
 Image::Image(std::shared_ptr<cairo_surface_t> surface, double scale)
@@ -140,17 +125,25 @@ std::optional<Image> Image::load(const std::filesystem::path& file, double scale
     if (!std::filesystem::is_regular_file(file, error)) {
         return std::nullopt;
     }
+    constexpr std::size_t partSize = 1U << 16U;
     std::ifstream stream(file, std::ios::binary);
-    const std::vector<char> bytes{std::istreambuf_iterator<char>(stream), {}};
-    return decode(std::as_bytes(std::span(bytes)), scale);
+    std::vector<std::byte> part(partSize);
+    return decodeParts(
+        [&] {
+            stream.read(reinterpret_cast<char*>(part.data()), partSize);
+            return std::span<const std::byte>(part.data(),
+                                              static_cast<std::size_t>(stream.gcount()));
+        },
+        scale);
 }
 
 std::optional<Image> Image::decode(std::span<const std::byte> bytes, double scale) {
-    const Pixbuf pixbuf = decodePixbuf(bytes);
-    if (!pixbuf) {
-        return std::nullopt;
-    }
-    return Image(surfaceOf(pixbuf.get()), scale);
+    return decodeParts([&] { return std::exchange(bytes, {}); }, scale);
+}
+
+std::optional<Image> Image::decodeParts(const Parts& parts, double scale) {
+    const Pixbuf pixbuf = decodePixbuf(parts);
+    return pixbuf ? std::optional(Image(surfaceOf(pixbuf.get()), scale)) : std::nullopt;
 }
 
 Image Image::adopt(std::shared_ptr<cairo_surface_t> surface, double scale) {
@@ -208,49 +201,6 @@ Colour Image::pixel(int x, int y) const {
         return std::min(1.0, static_cast<double>((value >> shift) & 0xFF) / alpha);
     };
     return {component(16), component(8), component(0), alpha / 255.0};
-}
-
-/// A strip at a time, so that a tall recording needs no memory for all of its pixels.
-std::vector<std::byte> Image::opaquePng() const {
-    constexpr int rowsInStrip = 512;
-    const int width = pixelWidth();
-    const int height = pixelHeight();
-    PngWriter writer(static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height));
-    const auto strip = makeSurface(width, std::min(height, rowsInStrip), CAIRO_FORMAT_RGB24);
-    for (int top = 0; top < height; top += rowsInStrip) {
-        paintFrom(strip.get(), surface(), 0, top);
-        cairo_surface_flush(strip.get());
-        const unsigned char* pixels = cairo_image_surface_get_data(strip.get());
-        if (pixels == nullptr) {
-            return {};
-        }
-        for (int row = 0; row < std::min(rowsInStrip, height - top); ++row) {
-            writer.add(pixels + std::ptrdiff_t{row} * cairo_image_surface_get_stride(strip.get()));
-        }
-    }
-    const std::vector<unsigned char> png = writer.finish();
-    const auto* first = reinterpret_cast<const std::byte*>(png.data());
-    return {first, first + png.size()};
-}
-
-std::vector<std::byte> Image::png() const {
-    if (cairo_surface_get_content(surface()) == CAIRO_CONTENT_COLOR && pixelWidth() > 0 &&
-        pixelHeight() > 0) {
-        return opaquePng();
-    }
-    std::vector<std::byte> bytes;
-    if (cairo_surface_write_to_png_stream(surface(), appendBytes, &bytes) != CAIRO_STATUS_SUCCESS) {
-        bytes.clear();
-    }
-    return bytes;
-}
-
-bool Image::savePng(const std::filesystem::path& file) const {
-    const std::vector<std::byte> bytes = png();
-    std::ofstream stream(file, std::ios::binary);
-    stream.write(reinterpret_cast<const char*>(bytes.data()),
-                 static_cast<std::streamsize>(bytes.size()));
-    return !bytes.empty() && stream.flush().good();
 }
 
 } // namespace desktop

@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -24,6 +25,10 @@ public:
     static std::optional<Image> load(const std::filesystem::path& file, double scale = 1);
     /// As `load`, from the bytes of a file.
     static std::optional<Image> decode(std::span<const std::byte> bytes, double scale = 1);
+    /// Gives the bytes of a picture, a part at a time; an empty one at the end.
+    using Parts = std::function<std::span<const std::byte>()>;
+    /// As `decode`. What is no picture is not read to its end.
+    static std::optional<Image> decodeParts(const Parts& parts, double scale = 1);
     /// Shares an image surface in ARGB32 or RGB24, or a bounded recording of an opaque picture of
     /// any size, none of which must be drawn to any more.
     static Image adopt(std::shared_ptr<cairo_surface_t> surface, double scale);
@@ -47,6 +52,9 @@ public:
 
     /// The bytes of a PNG file; empty when the image cannot be encoded.
     std::vector<std::byte> png() const;
+    /// The bytes of a JPEG file over white; empty when the image cannot be encoded. The quality is
+    /// a number from 0 to 1.
+    std::vector<std::byte> jpeg(double quality) const;
     /// Writes a PNG file; false when that fails.
     bool savePng(const std::filesystem::path& file) const;
 

@@ -3,6 +3,7 @@
 
 #include "desktop/foundation/application_folders.hpp"
 #include "desktop/foundation/bundle.hpp"
+#include "desktop/foundation/byte_count_formatter.hpp"
 #include "desktop/foundation/data_detector.hpp"
 #include "desktop/foundation/date.hpp"
 #include "desktop/foundation/delayed_perform.hpp"
@@ -13,6 +14,7 @@
 #include "desktop/foundation/observers.hpp"
 #include "desktop/foundation/percent_encoding.hpp"
 #include "desktop/foundation/property_list_serialization.hpp"
+#include "desktop/foundation/regular_expression.hpp"
 #include "desktop/foundation/string.hpp"
 #include "desktop/foundation/string_transform.hpp"
 #include "desktop/foundation/suggested_filename.hpp"
@@ -30,6 +32,8 @@ void install(const std::string& bundleIdentifier) {
     installStrings();
     installStringTransforms();
     installPercentEncoding();
+    installByteCountFormatter();
+    installRegularExpressions();
     registerDataDetector();
     const auto identifier = ns::String::fromUtf8(bundleIdentifier);
     installDates();

@@ -40,6 +40,7 @@ constexpr auto table = std::to_array<Row>({
     {"key", &key},
     {"menu", &menu},
     {"alert", &alert},
+    {"mail", &mail},
     {"screens", &screens},
     {"pasteboard", &pasteboard},
     {"preferences", &preferences},

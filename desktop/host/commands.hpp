@@ -35,6 +35,7 @@ using Command = Json (*)(Session& session, const Json& request);
 [[nodiscard]] Json swipe(Session& session, const Json& request);
 // The controllers that are shown.
 [[nodiscard]] Json alert(Session& session, const Json& request);
+[[nodiscard]] Json mail(Session& session, const Json& request);
 [[nodiscard]] Json screens(Session& session, const Json& request);
 // The keyboard and the edit menu.
 [[nodiscard]] Json type(Session& session, const Json& request);

@@ -20,6 +20,7 @@
 #include "desktop/uikit/controls/button.hpp"
 #include "desktop/uikit/controls/clear_button.hpp"
 #include "desktop/uikit/controls/control.hpp"
+#include "desktop/uikit/controls/page_control.hpp"
 #include "desktop/uikit/controls/picker_view.hpp"
 #include "desktop/uikit/controls/progress_view.hpp"
 #include "desktop/uikit/controls/search_bar.hpp"
@@ -107,14 +108,14 @@ void registerClasses() {
                 NavigationItem, TextStorage, TextContainer, LayoutManager, TextPosition, TextRange,
                 MenuItem, MenuController, Responder, Application, ViewController, View, Window,
                 TextEffectsWindow, KeyboardView, CalloutBar, TextSelectionView, Label, ImageView,
-                ScrollView, StackView, NavigationBar, Control, Button, ClearButton, TextField,
-                SearchBar, TextView, Touch, Event, GestureRecognizer, TapGestureRecognizer,
-                LongPressGestureRecognizer, PanGestureRecognizer, PinchGestureRecognizer,
-                SwipeGestureRecognizer, ScrollPan, CollectionViewLayoutAttributes,
-                CollectionViewLayout, CollectionViewFlowLayout, CollectionReusableView,
-                CollectionViewCell, CollectionView, LayoutConstraint, LayoutGuide, LayoutAnchor,
-                XAnchor, YAnchor, Dimension, PickerColumn, PickerView, ProgressView,
-                ContextualAction, SwipeActionsConfiguration, TableViewCell, TableView,
+                ScrollView, StackView, NavigationBar, Control, Button, ClearButton, PageControl,
+                TextField, SearchBar, TextView, Touch, Event, GestureRecognizer,
+                TapGestureRecognizer, LongPressGestureRecognizer, PanGestureRecognizer,
+                PinchGestureRecognizer, SwipeGestureRecognizer, ScrollPan,
+                CollectionViewLayoutAttributes, CollectionViewLayout, CollectionViewFlowLayout,
+                CollectionReusableView, CollectionViewCell, CollectionView, LayoutConstraint,
+                LayoutGuide, LayoutAnchor, XAnchor, YAnchor, Dimension, PickerColumn, PickerView,
+                ProgressView, ContextualAction, SwipeActionsConfiguration, TableViewCell, TableView,
                 TableViewController, CollectionViewController>();
     // Controllers, and what they are made of.
     registerAll<SymbolConfiguration, BarButtonItem, PresentationController,

@@ -12,6 +12,13 @@ namespace wentra::analysis {
 struct LibraryLines {
     std::vector<std::u16string> system;
     std::vector<std::u16string> others;
+
+    /// All of them, the system's first.
+    [[nodiscard]] std::vector<std::u16string> all() const {
+        std::vector<std::u16string> lines = system;
+        lines.insert(lines.end(), others.begin(), others.end());
+        return lines;
+    }
 };
 
 /// The lines of the text (ended by "\n" alone) that name a library or framework.

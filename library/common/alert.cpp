@@ -1,18 +1,20 @@
 // Builds the platform's alert controller step by step.
 #include "library/common/alert.hpp"
 
+#include "bindings/dispatch/dispatch.hpp"
 #include "bindings/uikit/popover_presentation_controller.hpp"
 #include "library/common/screens.hpp"
 
 namespace wentra {
 
 const Alert& Alert::field(ns::String placeholder, ns::String text,
-                          ui::TextFieldViewMode clearButton) const {
+                          ui::TextFieldViewMode clearButton, ui::KeyboardType keyboard) const {
     const auto configure = [placeholder = objc::Copied(placeholder), text = objc::Copied(text),
-                            clearButton](ui::TextField field) {
+                            clearButton, keyboard](ui::TextField field) {
         field.setPlaceholder(placeholder);
         field.setText(text);
         field.setClearButtonMode(clearButton);
+        field.setKeyboardType(keyboard);
     };
     controller_.addTextField(ui::AlertController::Configuration::from(configure));
     return *this;
@@ -38,6 +40,15 @@ const Alert& Alert::covering(ui::ModalPresentation style) const {
 void Alert::presentFrom(ui::ViewController controller) const {
     constexpr bool animated = true;
     controller.present(controller_, animated);
+}
+
+void Alert::presentFor(double seconds, ui::ViewController controller) const {
+    constexpr bool animated = true;
+    const auto goAfterwards = [seconds, alert = controller_] {
+        dispatch::after(dispatch::nanoseconds(seconds), dispatch::mainQueue(),
+                        [alert] { alert.dismiss(animated); });
+    };
+    controller.present(controller_, animated, ui::ViewController::Completion::from(goAfterwards));
 }
 
 void Alert::present() const { topViewController().present(controller_, true); }

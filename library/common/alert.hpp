@@ -23,7 +23,8 @@ public:
 
     /// Adds a text field; fields come before the actions that read them.
     const Alert& field(ns::String placeholder = nullptr, ns::String text = nullptr,
-                       ui::TextFieldViewMode clearButton = ui::TextFieldViewMode::never) const;
+                       ui::TextFieldViewMode clearButton = ui::TextFieldViewMode::never,
+                       ui::KeyboardType keyboard = ui::KeyboardType::default_) const;
 
     /// An action that only closes the alert.
     const Alert& action(ns::String title,
@@ -55,6 +56,8 @@ public:
     void present() const;
     /// The same from that controller. Nothing for nil, and where it presents something already.
     void presentFrom(ui::ViewController controller) const;
+    /// The same, for so many seconds: it goes by itself.
+    void presentFor(double seconds, ui::ViewController controller) const;
 
 private:
     template <class Body>

@@ -1,13 +1,14 @@
-// One search of the platform's after the other.
+// A search of our own where the platform's rules are simple, or else one of its own after the
+// other.
 #include "library/common/case_insensitive_search.hpp"
 
-namespace wentra {
+#include "library/common/plain_search.hpp"
 
-std::vector<ns::Range> occurrencesIgnoringCase(ns::String text, ns::String sought) {
+namespace wentra {
+namespace {
+
+std::vector<ns::Range> platformOccurrences(ns::String text, ns::String sought) {
     std::vector<ns::Range> found;
-    if (!text || sought.length() == 0) {
-        return found;
-    }
     ns::Range rest{0, text.length()};
     while (const auto range =
                text.rangeOf(sought, ns::StringCompareOptions::caseInsensitive, rest)) {
@@ -16,6 +17,18 @@ std::vector<ns::Range> occurrencesIgnoringCase(ns::String text, ns::String sough
         rest = {end, text.length() - end};
     }
     return found;
+}
+
+} // namespace
+
+std::vector<ns::Range> occurrencesIgnoringCase(ns::String text, ns::String sought) {
+    if (!text || sought.length() == 0) {
+        return {};
+    }
+    const std::u16string units = text.utf16();
+    const std::u16string soughtUnits = sought.utf16();
+    return isPlainText(units) && isPlainText(soughtUnits) ? plainOccurrences(units, soughtUnits)
+                                                          : platformOccurrences(text, sought);
 }
 
 } // namespace wentra

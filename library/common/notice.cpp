@@ -7,11 +7,6 @@
 #include "library/common/light_background.hpp"
 
 namespace wentra {
-namespace {
-
-constexpr double nanosecondsPerSecond = 1e9;
-
-} // namespace
 
 CGRect noticeFrame(CGSize view, const NoticePlace& place) {
     constexpr CGSize size{260, 40};
@@ -24,8 +19,7 @@ void showNotice(ui::View view, ns::String text, const NoticePlace& place, double
     label.setTextAlignment(ui::TextAlignment::center);
     setLightBackground(label, ui::Color::lightGray());
     view.window().addSubview(label);
-    dispatch::after(static_cast<std::int64_t>(seconds * nanosecondsPerSecond),
-                    dispatch::mainQueue(),
+    dispatch::after(dispatch::nanoseconds(seconds), dispatch::mainQueue(),
                     [label = objc::Strong(label)] { label.removeFromSuperview(); });
 }
 

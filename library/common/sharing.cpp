@@ -25,13 +25,13 @@ void shareText(ns::String text) {
     topViewController().present(sheet, animated);
 }
 
-void shareText(ns::String text, ui::ViewController controller) {
-    controller.present(sheetOf(text), animated);
+void share(objc::Object item, ui::ViewController controller) {
+    controller.present(sheetOf(item), animated);
 }
 
 void shareFile(ns::String path, ui::ViewController controller) {
     constexpr bool isFolder = false;
-    controller.present(sheetOf(ns::Url::fileUrlWithPath(path, isFolder)), animated);
+    share(ns::Url::fileUrlWithPath(path, isFolder), controller);
 }
 
 } // namespace wentra

@@ -7,8 +7,9 @@ namespace wentra {
 
 /// Offers the text to the system's activities, over the top controller's context. Main thread.
 void shareText(ns::String text);
-/// The same from that controller, in the platform's own way. Nothing for nil.
-void shareText(ns::String text, ui::ViewController controller);
+/// The same from that controller, in the platform's own way, and of any object that activities
+/// know. Nothing for nil.
+void share(objc::Object item, ui::ViewController controller);
 /// The same for the file at that path.
 void shareFile(ns::String path, ui::ViewController controller);
 

@@ -78,7 +78,7 @@ void cutSelectedText(Next<void(Object)> former, ui::View view, Object sender) {
 
 void shareSelectedText(Next<void(Object)>, ui::View view, Object) {
     if (const ns::String text = selectedText(view); text) {
-        shareText(text, controllerAround(view));
+        share(text, controllerAround(view));
     }
 }
 

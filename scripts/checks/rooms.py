@@ -48,7 +48,8 @@ DESKTOP = {
     "replaykit": [*PLAIN, "coregraphics", "uikit"],
     "webkit": [*PLAIN, "coregraphics", "uikit"],
     "safariservices": [*PLAIN, "uikit"],
-    "platform": ["foundation", "uikit", "avfaudio", "speech", "replaykit", "webkit", "safariservices"],
+    "messageui": [*PLAIN, "uikit"],
+    "platform": ["foundation", "uikit", "avfaudio", "speech", "replaykit", "webkit", "safariservices", "messageui"],
 }
 DESKTOP["host"] = list(DESKTOP)
 DESKTOP["viewer"] = [*DESKTOP]

@@ -80,27 +80,40 @@ FlowSection CollectionViewFlowLayout::section(long index) const {
         interitemSpacing_, index);
     section.lineSpacing =
         asked<"collectionView:layout:minimumLineSpacingForSectionAtIndex:">(lineSpacing_, index);
+    setItems(section, index);
+    return section;
+}
+
+/// Items whose sizes nobody asks for, and those that turn out to be of one size, are a grid.
+void CollectionViewFlowLayout::setItems(FlowSection& section, long index) const {
+    constexpr auto sizeOf = &objc::selector<"collectionView:layout:sizeForItemAtIndexPath:">;
     const auto view = self().send<"collectionView", ui::CollectionView>();
-    const long count = view.numberOfItems(index);
-    section.items.reserve(static_cast<std::size_t>(count));
+    section.gridItems = static_cast<std::size_t>(view.numberOfItems(index));
+    section.gridItemSize = turned(itemSize_);
+    if (!view.send<"delegate", objc::Object>().respondsToSelector(sizeOf())) {
+        return;
+    }
+    const auto count = static_cast<long>(std::exchange(section.gridItems, 0U));
     for (long item = 0; item < count; ++item) {
         const objc::Strong<ns::IndexPath> path = ns::IndexPath::forItem(item, index);
         section.items.push_back(
             turned(asked<"collectionView:layout:sizeForItemAtIndexPath:">(itemSize_, path.raw())));
     }
-    section.isGrid =
-        std::ranges::adjacent_find(section.items, std::not_equal_to()) == section.items.end();
-    return section;
+    if (std::ranges::adjacent_find(section.items, std::not_equal_to()) == section.items.end() &&
+        !section.items.empty()) {
+        section.gridItems = section.items.size();
+        section.gridItemSize = section.items.front();
+        section.items.clear();
+    }
 }
 
 void CollectionViewFlowLayout::prepareLayout() {
     const auto view = self().send<"collectionView", ui::CollectionView>();
-    std::vector<FlowSection> sections;
+    placement_ = FlowPlacement(breadth());
     const long count = view.numberOfSections();
     for (long index = 0; index < count; ++index) {
-        sections.push_back(section(index));
+        placement_.add(section(index));
     }
-    placement_ = FlowPlacement(sections, breadth());
 }
 
 CGSize CollectionViewFlowLayout::contentSize() const {

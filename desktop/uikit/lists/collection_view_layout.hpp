@@ -82,6 +82,7 @@ private:
     [[nodiscard]] ns::Array attributesIn(CGRect rect) const;
     [[nodiscard]] ui::CollectionViewLayoutAttributes attributesAt(ns::IndexPath path) const;
     [[nodiscard]] FlowSection section(long index) const;
+    void setItems(FlowSection& section, long index) const;
     [[nodiscard]] bool isHorizontal() const { return direction_ == 1; }
     /// Between content and the placement's rows.
     [[nodiscard]] CGRect turned(CGRect rect) const;

@@ -193,18 +193,12 @@ void TableView::prepare() {
         return;
     }
     const objc::Pool pool;
-    std::vector<FlowSection> sections;
+    placement_ = FlowPlacement(width);
     sectionTops_.clear();
-    double top = heightBefore();
     for (long index = 0; index < numberOfSections(); ++index) {
-        sections.push_back(section(index));
-        sectionTops_.push_back(top);
-        top += sections.back().inset.top;
-        for (const CGSize& row : sections.back().items) {
-            top += row.height;
-        }
+        sectionTops_.push_back(heightBefore() + placement_.height());
+        placement_.add(section(index));
     }
-    placement_ = FlowPlacement(sections, width);
     self().setContentSize(
         {width, heightBefore() + placement_.height() + footer_.bounds().size.height});
 }

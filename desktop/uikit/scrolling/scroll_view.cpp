@@ -77,6 +77,13 @@ std::vector<objc::MethodRow> ScrollView::methods() {
         objc::method<"panGestureRecognizer", &Self::panGestureRecognizer>(),
         objc::method<"gestureRecognizerShouldBegin:", &Self::gestureRecognizerShouldBegin>(),
         objc::method<"handlePan:", &Self::handlePan>(),
+        objc::property<"minimumZoomScale", &Self::minimumZoom_, &Self::zoomLimitsChanged>(),
+        objc::property<"maximumZoomScale", &Self::maximumZoom_, &Self::zoomLimitsChanged>(),
+        objc::property<"zoomScale", &Self::zoomScale, &Self::setZoomScale>(),
+        objc::method<"setZoomScale:animated:", &Self::setZoomScaleAnimated>(),
+        objc::property<"bouncesZoom", &Self::bouncesZoom_>(),
+        objc::method<"pinchGestureRecognizer", &Self::pinchGestureRecognizer>(),
+        objc::method<"handlePinch:", &Self::handlePinch>(),
     };
     std::ranges::copy(ViewConstraints::scrollViewMethods(), std::back_inserter(rows));
     return rows;

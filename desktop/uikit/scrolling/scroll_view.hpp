@@ -4,6 +4,7 @@
 #include "bindings/objc/weak.hpp"
 #include "bindings/uikit/event.hpp"
 #include "bindings/uikit/pan_gesture_recognizer.hpp"
+#include "bindings/uikit/pinch_gesture_recognizer.hpp"
 #include "bindings/uikit/scroll_view.hpp"
 
 #include "desktop/class.hpp"
@@ -121,6 +122,19 @@ private:
     void stop();
     void endDecelerating();
     void endAnimation();
+
+    // Zooming, in scroll_view_zooming.cpp.
+    [[nodiscard]] ui::PinchGestureRecognizer pinchGestureRecognizer() const { return pinch_; }
+    [[nodiscard]] ui::View zoomedView() const;
+    [[nodiscard]] double zoomScale() const;
+    void zoomLimitsChanged();
+    [[nodiscard]] double allowedZoom(double scale) const;
+    [[nodiscard]] double shownZoom(double wanted) const;
+    void setZoomScale(double scale);
+    void setZoomScaleAnimated(double scale, bool animated);
+    void zoomTo(double scale, CGPoint place);
+    void handlePinch(ui::PinchGestureRecognizer pinch);
+    void endZooming();
     template <objc::Literal Name, class... Arguments>
     void tell(Arguments... arguments) const {
         const SEL name = objc::selector<Name>();
@@ -155,6 +169,11 @@ private:
     bool decelerating_ = false;
     objc::Weak<objc::Object> delegate_;
     objc::Strong<ScrollPanKind> pan_;
+    objc::Strong<ui::PinchGestureRecognizer> pinch_;
+    double minimumZoom_ = 1;
+    double maximumZoom_ = 1;
+    double zoomBegan_ = 1;
+    bool bouncesZoom_ = true;
     Drag drag_{};
     std::shared_ptr<Motion> motion_;
     ScrollIndicators indicators_;

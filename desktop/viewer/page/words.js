@@ -82,8 +82,8 @@ const words = {
     film: ["录屏", "Recording"],
     noEvents: ["还没有事件", "Nothing has happened yet"],
     eventsHint: [
-        "手机对外做的事：打开的网址、声音、朗读、照片、录屏、分享、网络请求和日志。",
-        "What the phone did to the outside: opened addresses, sounds, speech, pictures, recordings, shares, requests and log lines.",
+        "手机对外做的事：打开的网址、声音、朗读、照片、录屏、分享、邮件、网络请求和日志。",
+        "What the phone did to the outside: opened addresses, sounds, speech, pictures, recordings, shares, mails, requests and log lines.",
     ],
     allEvents: ["全部", "All"],
     download: ["下载", "Download"],

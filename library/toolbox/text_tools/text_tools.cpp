@@ -6,6 +6,7 @@
 #include "library/analysis/details_view_controller.hpp"
 #include "library/analysis/library_lines.hpp"
 #include "library/common/alert.hpp"
+#include "library/common/string_array.hpp"
 #include "library/toolbox/text_tools/unicode_escapes.hpp"
 
 namespace wentra::toolbox {
@@ -13,14 +14,6 @@ namespace {
 
 using namespace ns::literals;
 using analysis::SystemList;
-
-ns::Array strings(const std::vector<std::u16string>& texts) {
-    const auto array = ns::MutableArray::make();
-    for (const std::u16string& text : texts) {
-        array.add(ns::String::from(text));
-    }
-    return array;
-}
 
 } // namespace
 
@@ -51,9 +44,7 @@ void TextTools::convert(objc::Object /*sender*/) {
 }
 
 ns::Array TextTools::libraryLines(ns::String text) const {
-    analysis::LibraryLines lines = analysis::libraryLines(text.utf16(), SystemList::toolbox);
-    std::ranges::move(lines.others, std::back_inserter(lines.system));
-    return strings(lines.system);
+    return stringArray(analysis::libraryLines(text.utf16(), SystemList::toolbox).all());
 }
 
 bool TextTools::isSystemLibrary(ns::String line) const {

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <cmath>
 #include <limits>
 
@@ -21,8 +20,22 @@ FlowSection words(std::vector<double> widths) {
     return section;
 }
 
+FlowPlacement placed(const std::vector<FlowSection>& sections, double width = 100) {
+    FlowPlacement placement(width);
+    for (const FlowSection& section : sections) {
+        placement.add(section);
+    }
+    return placement;
+}
 FlowPlacement placed(const FlowSection& section, double width = 100) {
-    return {std::span(&section, 1), width};
+    return placed(std::vector{section}, width);
+}
+
+FlowSection grid(std::size_t items, double width) {
+    FlowSection section = words({});
+    section.gridItems = items;
+    section.gridItemSize = {width, 20};
+    return section;
 }
 
 TEST(FlowRules, FullLinesAreSpreadAndTheLastBeginsAtTheLeft) {
@@ -43,10 +56,40 @@ TEST(FlowRules, AnItemThatFillsALineLiesInItsMiddleUnlessItIsLast) {
 }
 
 TEST(FlowRules, GridsKeepTheirColumnsInTheLastLine) {
-    FlowSection grid = words({30, 30, 30, 30, 30});
-    grid.isGrid = true;
-    const auto placement = placed(grid);
+    const auto placement = placed(grid(5, 30));
+    EXPECT_EQ(placement.frame({0, 2}), (CGRect{{70, 0}, {30, 20}}));
     EXPECT_EQ(placement.frame({0, 4}), (CGRect{{35, 24}, {30, 20}}));
+    EXPECT_EQ(placement.height(), 44);
+    EXPECT_TRUE(placement.contains({0, 4}));
+    EXPECT_FALSE(placement.contains({0, 5}));
+}
+
+TEST(FlowRules, GridsOfOneColumnLieInTheMiddleButForTheLastLine) {
+    const auto placement = placed(grid(2, 60));
+    EXPECT_EQ(placement.frame({0, 0}).origin.x, 20);
+    EXPECT_EQ(placement.frame({0, 1}).origin.x, 0);
+}
+
+TEST(FlowRules, GridsAreFoundAmongAHundredMillionItems) {
+    constexpr std::size_t sections = 400'000;
+    FlowPlacement placement(100);
+    for (std::size_t section = 0; section < sections; ++section) {
+        placement.add(grid(256, 30)); // 86 lines
+    }
+    constexpr double high = 86 * 24 - 4;
+    EXPECT_EQ(placement.height(), sections * high);
+    const double top = 399'999 * high + 24;
+    EXPECT_EQ(placement.itemsIn({{0, top}, {100, 20}}),
+              (std::vector<ItemIndex>{{399'999, 3}, {399'999, 4}, {399'999, 5}}));
+    EXPECT_EQ(placement.itemsIn({{0, 7 * high - 20}, {20, 40}}),
+              (std::vector<ItemIndex>{{6, 255}, {7, 0}}));
+    EXPECT_EQ(placement.frame({399'999, 3}).origin.y, top);
+}
+
+TEST(FlowRules, GridsWithoutASizeAreSurvived) {
+    const auto placement = placed({grid(5, 0), grid(5, std::nan("")), grid(3, -1), grid(2, 1e300)});
+    EXPECT_TRUE(std::isfinite(placement.height()));
+    EXPECT_TRUE(std::isfinite(placement.frame({3, 1}).origin.y));
 }
 
 TEST(FlowRules, LinesAreAsHighAsTheirHighestItem) {
@@ -60,8 +103,7 @@ TEST(FlowRules, LinesAreAsHighAsTheirHighestItem) {
 }
 
 TEST(FlowRules, SectionsFollowEachOther) {
-    const std::array sections{words({30, 30}), words({}), words({10})};
-    const FlowPlacement placement(sections, 100);
+    const auto placement = placed({words({30, 30}), words({}), words({10})});
     EXPECT_EQ(placement.frame({2, 0}).origin.y, 20);
     EXPECT_TRUE(placement.contains({0, 1}));
     EXPECT_FALSE(placement.contains({0, 2}));

@@ -1,0 +1,152 @@
+// Reads the file in blocks, and shows a section for each.
+#include "library/files/viewers/hex_editor_view_controller.hpp"
+
+#include "bindings/foundation/data.hpp"
+#include "bindings/foundation/input_stream.hpp"
+#include "bindings/objc/peer.hpp"
+#include "bindings/objc/pool.hpp"
+#include "bindings/uikit/collection_view_flow_layout.hpp"
+#include "library/common/light_background.hpp"
+#include "library/files/viewers/hex_cell.hpp"
+#include "library/files/viewers/hex_digits.hpp"
+#include "library/files/viewers/regular_file.hpp"
+
+#include <algorithm>
+#include <vector>
+
+namespace wentra::files {
+namespace {
+
+using namespace ns::literals;
+
+class HexEditorViewControllerPeer
+    : public objc::Peer<HexEditorViewControllerPeer, HexEditorViewController> {
+public:
+    static constexpr auto methods() {
+        using Peer = HexEditorViewControllerPeer;
+        return std::array{
+            objc::property<"srcPath", &Peer::path_>(),
+            objc::property<"inputStream", &Peer::stream_>(),
+            objc::property<"pagedData", &Peer::blocks_>(),
+            objc::method<"initWithSrcPath:", &Peer::initWithPath>(),
+            objc::method<"viewDidLoad", &Peer::viewDidLoad>(),
+            objc::method<"prepareData", &Peer::readFile>(),
+            objc::method<"viewDidLayoutSubviews", &Peer::viewDidLayoutSubviews>(),
+            objc::method<"numberOfSectionsInCollectionView:", &Peer::blockCount>(),
+            objc::method<"collectionView:numberOfItemsInSection:", &Peer::byteCount>(),
+            objc::method<"collectionView:cellForItemAtIndexPath:", &Peer::cell>(),
+        };
+    }
+
+private:
+    HexEditorViewController initWithPath(ns::String path);
+    void viewDidLoad();
+    void readFile();
+    bool readPart(std::vector<char>& buffer);
+    void cut(std::string_view bytes);
+    void viewDidLayoutSubviews();
+    void addGrid(CGRect frame);
+
+    [[nodiscard]] long blockCount(ui::CollectionView) const {
+        return static_cast<long>(blocks_.count());
+    }
+    [[nodiscard]] ns::Data block(long index) const {
+        return blocks_.at(static_cast<unsigned long>(index)).assume<ns::Data>();
+    }
+    [[nodiscard]] long byteCount(ui::CollectionView, long section) const {
+        return static_cast<long>(block(section).length());
+    }
+    [[nodiscard]] ui::CollectionViewCell cell(ui::CollectionView grid, ns::IndexPath path) const;
+
+    objc::Copied<ns::String> path_;
+    objc::Strong<ns::InputStream> stream_; ///< only while reading
+    objc::Strong<ns::MutableArray> blocks_;
+    /// Lies over the grid that every such controller has.
+    objc::Strong<ui::CollectionView> grid_;
+};
+
+HexEditorViewController HexEditorViewControllerPeer::initWithPath(ns::String path) {
+    super<"initWithCollectionViewLayout:", objc::Object>(ui::CollectionViewFlowLayout::make());
+    path_ = path;
+    return self();
+}
+
+void HexEditorViewControllerPeer::viewDidLoad() {
+    super<"viewDidLoad">();
+    // It would ask for cells that it does not know.
+    self().collectionView().setDataSource(nullptr);
+    self().send<"prepareData">();
+}
+
+void HexEditorViewControllerPeer::readFile() {
+    constexpr std::size_t partSize = 1U << 16U;
+    blocks_ = ns::MutableArray::make();
+    if (!regularFileSize(path_)) {
+        return; // a pipe or a device need not have an end
+    }
+    stream_ = ns::InputStream::withFileAtPath(path_);
+    stream_.open();
+    std::vector<char> buffer(partSize);
+    while (stream_.hasBytesAvailable() && readPart(buffer)) {
+    }
+    stream_.close();
+    stream_ = nullptr;
+}
+
+/// Many blocks at a time: asking for each would take most of the time. Whether there may be more.
+bool HexEditorViewControllerPeer::readPart(std::vector<char>& buffer) {
+    std::size_t filled = 0;
+    long count = 1;
+    while (count > 0 && filled < buffer.size()) {
+        count = stream_.read(buffer.data() + filled, buffer.size() - filled);
+        filled += static_cast<std::size_t>(std::max(count, 0L));
+    }
+    cut({buffer.data(), filled});
+    return count > 0;
+}
+
+void HexEditorViewControllerPeer::cut(std::string_view bytes) {
+    constexpr std::size_t blockSize = 256;
+    const objc::Pool pool;
+    for (; !bytes.empty(); bytes.remove_prefix(std::min(blockSize, bytes.size()))) {
+        blocks_.add(ns::Data::from(bytes.substr(0, blockSize)));
+    }
+}
+
+void HexEditorViewControllerPeer::viewDidLayoutSubviews() {
+    super<"viewDidLayoutSubviews">();
+    const CGRect bounds = self().view().bounds();
+    if (grid_) {
+        grid_.setFrame(bounds);
+    } else {
+        addGrid(bounds);
+    }
+}
+
+void HexEditorViewControllerPeer::addGrid(CGRect frame) {
+    constexpr double side = 24; // sixteen bytes in the line of a phone
+    const auto layout = ui::CollectionViewFlowLayout::make();
+    layout.setItemSize({side, side});
+    layout.setMinimumInteritemSpacing(0);
+    layout.setMinimumLineSpacing(0);
+    grid_ = ui::CollectionView::withFrame(frame, layout);
+    grid_.registerClass(HexCell::classObject(), u"HexCell"_ns);
+    setLightBackground(grid_, ui::Color::white());
+    grid_.setDataSource(self());
+    self().view().addSubview(grid_);
+}
+
+ui::CollectionViewCell HexEditorViewControllerPeer::cell(ui::CollectionView grid,
+                                                         ns::IndexPath path) const {
+    const auto cell = grid.dequeueReusableCell(u"HexCell"_ns, path).assume<HexCell>();
+    const ns::Data bytes = block(path.section());
+    const auto digits = hexDigits(static_cast<unsigned char>(bytes.bytes()[path.item()]));
+    cell.hexLabel().setText(ns::String::from({digits.data(), digits.size()}));
+    return cell;
+}
+
+} // namespace
+
+void registerHexEditorViewController() { HexEditorViewControllerPeer::registerClass(); }
+
+} // namespace wentra::files
