@@ -30,6 +30,10 @@ struct Data : objc::Kind<Data, "NSData"> {
         return make<"initWithBase64EncodedString:options:">(text, 0UL);
     }
 
+    /// Valid as long as the object; none for nil.
+    [[nodiscard]] std::string_view bytes() const {
+        return {static_cast<const char*>(send<"bytes", const void*>()), length()};
+    }
     [[nodiscard]] unsigned long length() const { return send<"length", unsigned long>(); }
     [[nodiscard]] String base64() const {
         return send<"base64EncodedStringWithOptions:", String>(0UL);

@@ -11,6 +11,7 @@
 #include "library/scratchpad/scratch_pad_hook.hpp"
 #include "library/toolbox/toolbox.hpp"
 #include "library/toolbox/view_model.hpp"
+#include "library/utilities/utilities.hpp"
 
 #include <array>
 #include <mutex>
@@ -30,8 +31,9 @@ Face clipboardFace() {
     return {classes, {}};
 }
 
-constexpr std::array rooms{&commonFace,     &labels::face,  &clipboardFace,
-                           &analysis::face, &toolbox::face, &editing::face};
+constexpr std::array rooms{&commonFace,      &labels::face,   &clipboardFace,
+                           &utilities::face, &analysis::face, &toolbox::face,
+                           &editing::face};
 
 void install(std::span<const Table> tables) {
     for (const Table table : tables) {

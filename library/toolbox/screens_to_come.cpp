@@ -20,8 +20,6 @@ std::span<const objc::Change> screensToCome() {
         objc::addition<"showClipboard:", &notYetFor>(),
         // The quick switches.
         objc::addition<"handlePasteButtonLongPress:", &notYetFor>(),
-        // The utilities menu.
-        objc::addition<"longPress:", &notYetFor>(),
         // The list of files and crash logs.
         objc::addition<"handlerzLongPress:", &notYetFor>(),
         // The downloader.

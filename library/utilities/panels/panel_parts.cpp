@@ -1,0 +1,43 @@
+// Places things about the middle of the screen.
+#include "library/utilities/panels/panel_parts.hpp"
+
+#include "bindings/uikit/screen.hpp"
+#include "library/common/buttons.hpp"
+#include "library/common/outline.hpp"
+
+namespace wentra::utilities {
+namespace {
+
+using namespace ns::literals;
+
+CGPoint fromMiddle(double right, double below) {
+    const CGSize screen = ui::Screen::mainScreen().bounds().size;
+    return {screen.width / 2 + right, screen.height / 2 + below};
+}
+
+} // namespace
+
+ui::TextView addPanelText(ui::View panel, CGSize size, double below) {
+    const auto text = ui::TextView::withFrame({{}, size});
+    text.setCenter(fromMiddle(0, below));
+    drawOutline(text, {6, 1, ui::Color::lightGray()});
+    panel.addSubview(text);
+    return text;
+}
+
+void addPanelButton(ui::View panel, ns::String title, CGPoint offset, objc::Object target,
+                    SEL action) {
+    const ButtonLook look{
+        .title = title, .frame = {{}, {100, 30}}, .background = ui::Color::blue()};
+    const auto button = makeButton(look, target, action);
+    button.setCenter(fromMiddle(offset.x, offset.y));
+    button.setTitleColor(ui::Color::white(), ui::ControlState::normal);
+    panel.addSubview(button);
+}
+
+void addPanelCloser(ToolScreens& screens) {
+    constexpr double lift = 235;
+    screens.addCloseButton(u"关闭窗口"_ns, lift);
+}
+
+} // namespace wentra::utilities
