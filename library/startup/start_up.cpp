@@ -31,9 +31,8 @@ Face clipboardFace() {
     return {classes, {}};
 }
 
-constexpr std::array rooms{&commonFace,      &labels::face,   &clipboardFace,
-                           &utilities::face, &analysis::face, &toolbox::face,
-                           &editing::face};
+constexpr std::array rooms{&commonFace,     &labels::face,  &clipboardFace, &utilities::face,
+                           &analysis::face, &toolbox::face, &editing::face};
 
 void install(std::span<const Table> tables) {
     for (const Table table : tables) {

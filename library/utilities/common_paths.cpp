@@ -26,8 +26,7 @@ constexpr std::array commonPaths{
                u"filza:///var/mobile/Library/Preferences/net.limneos.audiorecorder/"},
     CommonPath{u"已装插件库列表-无根路径",
                u"filza:///var/jb/Library/MobileSubstrate/DynamicLibraries/"},
-    CommonPath{u"越狱插件设置配置-无根路径",
-               u"filza:///var/jb/var/mobile/Library/Preferences/"},
+    CommonPath{u"越狱插件设置配置-无根路径", u"filza:///var/jb/var/mobile/Library/Preferences/"},
     CommonPath{u"PreferenceBundles-无根路径", u"filza:///var/jb/Library/PreferenceBundles/"},
 };
 
@@ -38,8 +37,8 @@ void open(std::u16string_view url) {
 } // namespace
 
 void showCommonPaths(ToolScreens& screens) {
-    const auto sheet = ui::AlertController::with(u"常用路径"_ns, u"选择一个路径"_ns,
-                                                 ui::AlertStyle::actionSheet);
+    const auto sheet =
+        ui::AlertController::with(u"常用路径"_ns, u"选择一个路径"_ns, ui::AlertStyle::actionSheet);
     for (const CommonPath& path : commonPaths) {
         Alert(sheet).action(ns::String::from(path.title), [&path] { open(path.url); });
     }

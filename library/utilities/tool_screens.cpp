@@ -47,8 +47,7 @@ void ToolScreens::showError(std::u16string_view message) {
 }
 
 void ToolScreens::tell(ns::String message) {
-    const auto alert =
-        ui::AlertController::with(u"错误"_ns, message, ui::AlertStyle::alert);
+    const auto alert = ui::AlertController::with(u"错误"_ns, message, ui::AlertStyle::alert);
     Alert(alert).action(u"好的"_ns);
     if (!holds_) {
         self().present(alert, animated);
@@ -73,9 +72,9 @@ void ToolScreens::showHeld() {
     }
     const objc::Strong<ui::ViewController> screen = held_.first().assume<ui::ViewController>();
     held_.removeIdentical(screen);
-    topViewController().present(screen, animated,
-                                ui::ViewController::Completion::from(
-                                    [this, kept = objc::Strong(self())] { showHeld(); }));
+    topViewController().present(
+        screen, animated,
+        ui::ViewController::Completion::from([this, kept = objc::Strong(self())] { showHeld(); }));
 }
 
 ui::View ToolScreens::newScreen() {
@@ -112,8 +111,6 @@ void ToolScreens::showPage(ns::Url url) {
     showScreen();
 }
 
-void ToolScreens::close(objc::Object /*sender*/) {
-    ui::ViewController(screen_).dismiss(animated);
-}
+void ToolScreens::close(objc::Object /*sender*/) { ui::ViewController(screen_).dismiss(animated); }
 
 } // namespace wentra::utilities

@@ -134,7 +134,11 @@ ns::String UmacaTableViewControllerPeer::titleAt(ns::IndexPath path) const {
 ui::TableViewCell UmacaTableViewControllerPeer::cell(ui::TableView table,
                                                      ns::IndexPath path) const {
     const auto cell = table.dequeueReusableCell(reuseIdentifier(), path);
+    // The list is narrow, and two long titles differ at their ends only.
+    constexpr double smallestScale = 0.5;
     cell.textLabel().setText(titleAt(path));
+    cell.textLabel().setAdjustsFontSizeToFitWidth(true);
+    cell.textLabel().setMinimumScaleFactor(smallestScale);
     return cell;
 }
 
@@ -154,9 +158,7 @@ void UmacaTableViewControllerPeer::run(ns::String title) {
 } // namespace
 
 ToolScreens& ToolScreens::of(objc::Object controller) { return List::of(controller).screens; }
-TextDatabases& TextDatabases::of(objc::Object controller) {
-    return List::of(controller).databases;
-}
+TextDatabases& TextDatabases::of(objc::Object controller) { return List::of(controller).databases; }
 RuntimeDump& RuntimeDump::of(objc::Object controller) { return List::of(controller).dump; }
 Base64Panel& Base64Panel::of(objc::Object controller) { return List::of(controller).base64; }
 SymbolCounter& SymbolCounter::of(objc::Object controller) { return List::of(controller).counter; }

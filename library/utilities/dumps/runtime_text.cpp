@@ -12,9 +12,8 @@ namespace {
 
 void appendClass(Class cls, std::string& text) {
     text.append(class_getName(cls)).append("\n");
-    objc::forEachProperty(cls, [&text](const char* name) {
-        text.append("\t@property ").append(name).append("\n");
-    });
+    objc::forEachProperty(
+        cls, [&text](const char* name) { text.append("\t@property ").append(name).append("\n"); });
     objc::forEachMethod(cls, [&text](SEL selector) {
         text.append("\t").append(sel_getName(selector)).append("\n");
     });
@@ -41,9 +40,8 @@ std::string classText() {
 
 std::string imageText() {
     std::string text;
-    dyld::forEachImage([&text](const char* path) {
-        text.append(text.empty() ? "" : "\n\n").append(path);
-    });
+    dyld::forEachImage(
+        [&text](const char* path) { text.append(text.empty() ? "" : "\n\n").append(path); });
     return text;
 }
 

@@ -5,6 +5,8 @@
 #include "library/common/buttons.hpp"
 #include "library/common/outline.hpp"
 
+#include <algorithm>
+
 namespace wentra::utilities {
 namespace {
 
@@ -15,11 +17,19 @@ CGPoint fromMiddle(double right, double below) {
     return {screen.width / 2 + right, screen.height / 2 + below};
 }
 
+/// On most screens the upper text begins above the panel: its first line is to be seen.
+void clearTopEdge(ui::TextView text) {
+    constexpr double usual = 8;
+    const double hidden = std::max(0.0, -text.frame().origin.y);
+    text.setTextContainerInset({usual + hidden, 0, usual, 0});
+}
+
 } // namespace
 
 ui::TextView addPanelText(ui::View panel, CGSize size, double below) {
     const auto text = ui::TextView::withFrame({{}, size});
     text.setCenter(fromMiddle(0, below));
+    clearTopEdge(text);
     drawOutline(text, {6, 1, ui::Color::lightGray()});
     panel.addSubview(text);
     return text;

@@ -13,9 +13,9 @@ struct Case {
 };
 
 const Case cases[]{
-    {u"", true},          {u"SGVsbG8=", true},   {u"SGVsbA==", true},  {u"+/az", true},
+    {u"", true},          {u"SGVsbG8=", true},    {u"SGVsbA==", true},   {u"+/az", true},
     {u"SGVsbG8", false},  {u"SGVsbG8=\n", false}, {u"SG\nVsbG8", false}, {u"S===", false},
-    {u"SG=sbG8=", false}, {u"SGV-", false},      {u"SGV_", false},     {u"SGV\u4e2d", false},
+    {u"SG=sbG8=", false}, {u"SGV-", false},       {u"SGV_", false},      {u"SGV\u4e2d", false},
 };
 
 TEST(Base64Text, IsBase64ToTheLetter) {

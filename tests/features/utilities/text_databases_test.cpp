@@ -81,11 +81,12 @@ TEST_F(TextDatabases, ImportWhatTheyHaveExported) {
     write(documents / importFile, output(exportFile));
     choose(importTool);
     EXPECT_EQ(complaint(), "");
-    EXPECT_EQ(sqlite(replacements,
-                     "SELECT ZPHRASE, ZSHORTCUT, Z_ENT, Z_OPT, ZWASDELETED, ZNEEDSSAVETOCLOUD, "
-                     "ZREMOTERECORDINFO IS NULL, length(ZUNIQUENAME), typeof(ZTIMESTAMP) FROM "
-                     "ZTEXTREPLACEMENTENTRY WHERE Z_PK > 2 ORDER BY Z_PK"),
-              "你好|nh|1|3|0|0|1|36|real\n😀|xl|1|3|0|0|1|36|real\n");
+    EXPECT_EQ(
+        sqlite(replacements,
+               "SELECT ZPHRASE, ZSHORTCUT, Z_ENT, Z_OPT, ZWASDELETED, ZNEEDSSAVETOCLOUD, "
+               "ZREMOTERECORDINFO IS NULL, length(ZUNIQUENAME), typeof(ZTIMESTAMP) <> 'text' FROM "
+               "ZTEXTREPLACEMENTENTRY WHERE Z_PK > 2 ORDER BY Z_PK"),
+        "你好|nh|1|3|0|0|1|36|1\n😀|xl|1|3|0|0|1|36|1\n");
     EXPECT_EQ(sqlite(replacements, "SELECT count(DISTINCT ZUNIQUENAME) FROM "
                                    "ZTEXTREPLACEMENTENTRY WHERE ZUNIQUENAME = upper(ZUNIQUENAME)"),
               "2\n");
@@ -108,9 +109,9 @@ TEST_F(TextDatabases, ImportLinesOfEveryShape) {
           "\n\n \non my way omw\nalone\nwindows w\r\n'; DROP TABLE x; y\nlast l");
     choose(importTool);
     EXPECT_EQ(complaint(), "");
-    EXPECT_EQ(sqlite(replacements,
-                     "SELECT quote(ZPHRASE), hex(ZSHORTCUT) FROM ZTEXTREPLACEMENTENTRY"),
-              "''|\n'on'|6D79\n'windows'|770D\n''';'|44524F50\n'last'|6C\n");
+    EXPECT_EQ(
+        sqlite(replacements, "SELECT quote(ZPHRASE), hex(ZSHORTCUT) FROM ZTEXTREPLACEMENTENTRY"),
+        "''|\n'on'|6D79\n'windows'|770D\n''';'|44524F50\n'last'|6C\n");
 }
 
 TEST_F(TextDatabases, ImportNothingWithoutLinesOrText) {
@@ -157,12 +158,10 @@ INSTANTIATE_TEST_SUITE_P(
               "查询错误: no such table: bookmarks"},
         Fault{"safari书签导出", "CREATE TABLE bookmarks (address TEXT)",
               "查询错误: no such column: url"},
-        Fault{"自带输入法批量导出词库", "missing",
-              "无法打开数据库: unable to open database file"},
+        Fault{"自带输入法批量导出词库", "missing", "无法打开数据库: unable to open database file"},
         Fault{"自带输入法批量导出词库", "CREATE TABLE ZTEXTREPLACEMENTENTRY (ZPHRASE TEXT)",
               "查询错误: no such column: ZSHORTCUT"},
-        Fault{"自带输入法批量导入词库", "missing",
-              "无法打开数据库: unable to open database file"},
+        Fault{"自带输入法批量导入词库", "missing", "无法打开数据库: unable to open database file"},
         Fault{"自带输入法批量导入词库", "CREATE TABLE x (y)",
               "查询错误: no such table: ZTEXTREPLACEMENTENTRY"},
         Fault{"自带输入法批量导入词库",

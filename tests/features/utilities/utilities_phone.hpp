@@ -56,8 +56,8 @@ protected:
         phone.message(list, "setMenuData:", {Json::array({title})});
         const Json path =
             phone.message({{"class", "NSIndexPath"}}, "indexPathForItem:inSection:", {0, 0});
-        phone.message(list, "tableView:didSelectRowAtIndexPath:",
-                      {phone.message(list, "tableView"), path});
+        phone.message(
+            list, "tableView:didSelectRowAtIndexPath:", {phone.message(list, "tableView"), path});
         phone.advance(1);
     }
     Json screens() { return phone.result({{"do", "screens"}}); }

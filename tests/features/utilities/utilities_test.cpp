@@ -31,7 +31,8 @@ TEST_F(UtilitiesList, ShowsItsTwelveRows) {
     EXPECT_EQ(titles.back(), "自带输入法批量导出词库");
     EXPECT_EQ(phone.message(list, "preferredContentSize")["size"], (Json{140, 528}));
     EXPECT_EQ(phone.message(list, "title"), "功能列表-QF");
-    EXPECT_EQ(visible({{"text", "BASE64加解密"}}).size(), 1U);
+    const Json row = visible({{"text", "BASE64加解密"}}).at(0);
+    EXPECT_EQ(phone.message(row, "adjustsFontSizeToFitWidth"), true);
     EXPECT_EQ(phone.message(list, "adaptivePresentationStyleForPresentationController:", {nullptr}),
               -1);
 }
@@ -62,8 +63,10 @@ struct Page {
 
 TEST_F(UtilitiesList, ShowsPagesUntilTheyAreClosed) {
     const Page pages[]{
-        {"json排版", "/jsonviewernew/"}, {"多进制转换", "/"},
-        {"RGB颜色库", "/"},              {"时间戳转换", "/tools/index?name=timestamptrans"},
+        {"json排版", "/jsonviewernew/"},
+        {"多进制转换", "/"},
+        {"RGB颜色库", "/"},
+        {"时间戳转换", "/tools/index?name=timestamptrans"},
         {"Unicode转换", "/front-end/3602/"},
     };
     for (const Page& page : pages) {
@@ -135,14 +138,16 @@ TEST_F(Base64, GoesBothWays) {
 }
 
 TEST_F(Base64, IsStrict) {
-    for (const char* wrong : {"SGVsbG8", "SGVs\nbG8=", "SGVs bG8=", "SGVsbG8=\n", "SGVsbG8-",
-                              "=", "SG=sbG8=", "SGVsbG8==", "/w==", "你好"}) {
+    for (const char* wrong : {"SGVsbG8", "SGVs\nbG8=", "SGVs bG8=", "SGVsbG8=\n", "SGVsbG8-", "=",
+                              "SG=sbG8=", "SGVsbG8==", "/w==", "你好"}) {
         EXPECT_EQ(decoded(wrong), "") << wrong;
     }
 }
 
 TEST_F(Base64, HasItsViewsAboutTheMiddle) {
     EXPECT_EQ(frameOf("inputBase64TextView"), (std::vector<double>{12.5, -18, 365, 200}));
+    const Json input = phone.message(list, "inputBase64TextView");
+    EXPECT_EQ(phone.message(input, "textContainerInset")["insets"], (Json{26, 0, 8, 0}));
     EXPECT_EQ(frameOf("outputBase64TextView"), (std::vector<double>{12.5, 223.2, 365, 320}));
     EXPECT_EQ(visible({{"title", "加密"}}).at(0)["frame"], (Json{80, 187, 100, 30}));
     EXPECT_EQ(visible({{"title", "解密"}}).at(0)["frame"], (Json{210, 187, 100, 30}));
@@ -190,8 +195,7 @@ TEST_F(UtilitiesList, LeavesTheFormerDumpWhereItCannotWrite) {
 class Numbers : public UtilitiesList {
 protected:
     const std::string tool = "本机所有手机号";
-    const std::filesystem::path accounts =
-        home / "Library/Preferences/com.apple.itunescloud.plist";
+    const std::filesystem::path accounts = home / "Library/Preferences/com.apple.itunescloud.plist";
     void write(const std::string& bytes) {
         std::filesystem::create_directories(accounts.parent_path());
         std::ofstream(accounts, std::ios::binary) << bytes;

@@ -58,7 +58,8 @@ TEST(MethodBodies, AreSoughtOnceWhereNoneEnds) {
 
 TEST(SymbolReport, TellsAllOfTheTextAndWhatMethodsHave) {
     const std::u16string report = symbolReport(u"- (void)a {\nx = 1;\n}");
-    EXPECT_TRUE(report.starts_with(u"全文符号数量：\n\n   { 符号有1个\n   } 符号有1个\n   < 符号有0个\n"));
+    EXPECT_TRUE(
+        report.starts_with(u"全文符号数量：\n\n   { 符号有1个\n   } 符号有1个\n   < 符号有0个\n"));
     const std::size_t parts = report.find(u"\n--------\n\n各段落符号数量：\n\n");
     ASSERT_NE(parts, report.npos);
     EXPECT_EQ(report.substr(parts), u"\n--------\n\n各段落符号数量：\n\n"

@@ -57,10 +57,10 @@ TEST(PopoverPlaces, ABoxLiesOverAnAnchorThatFillsTheScreen) {
     };
     EXPECT_EQ(place({{0, 0}, {390, 844}}).box.size, (CGSize{140, 528}));
     EXPECT_EQ(place({{0, 210}, {390, 1050}}).box.origin.y, 210 + PopoverPlace::arrowHeight);
-    EXPECT_EQ(popoverPlace({{0, 0}, {390, 844}}, {140, 528}, screen,
-                           ui::PopoverArrowDirection::down)
-                  .box.size.height,
-              0)
+    EXPECT_EQ(
+        popoverPlace({{0, 0}, {390, 844}}, {140, 528}, screen, ui::PopoverArrowDirection::down)
+            .box.size.height,
+        0)
         << "there is no room above";
 }
 
