@@ -14,6 +14,8 @@ build  libobjc-12-dev           the Objective-C runtime on the desktop
 build  libcairo2-dev            draws shapes and pictures
 build  libicu-dev               transliterates text
 build  libpsl-dev               knows the top-level domains
+build  libsqlite3-dev           databases of the phone
+build  sqlite3                  makes and checks databases in tests
 build  libpango1.0-dev          lays out text
 build  libharfbuzz-dev          measures fonts
 build  libfontconfig-dev        finds fonts
@@ -35,7 +37,7 @@ build  fonts-noto-cjk           Chinese text
 build  fonts-noto-color-emoji   emoji
 build  fonts-dejavu-core        serif and monospaced faces
 build  fonts-dejavu-extra       italic and condensed faces
-build  python3                  runs the tour
+build  python3                  makes the files of a used phone, runs the tour
 browser chromium                shows the page in tests
 browser nodejs                  runs the tests of the page
 browser npm                     fetches what those tests need

@@ -30,9 +30,9 @@ struct Data : objc::Kind<Data, "NSData"> {
         return make<"initWithBase64EncodedString:options:">(text, 0UL);
     }
 
-    /// Borrowed: valid as long as the data.
-    [[nodiscard]] const char* bytes() const {
-        return static_cast<const char*>(send<"bytes", const void*>());
+    /// Valid as long as the object; none for nil.
+    [[nodiscard]] std::string_view bytes() const {
+        return {static_cast<const char*>(send<"bytes", const void*>()), length()};
     }
     [[nodiscard]] unsigned long length() const { return send<"length", unsigned long>(); }
     [[nodiscard]] String base64() const {

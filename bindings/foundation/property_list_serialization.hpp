@@ -18,11 +18,12 @@ struct PropertyListSerialization
         return error.result(sendClass<"dataWithPropertyList:format:options:error:", Data>(
             list, format, 0UL, error.out()));
     }
-    /// The list in the bytes, of whichever format, immutable; an error when they hold none.
-    static Result<objc::Object> propertyList(Data data) {
+    /// The list in the bytes, of whichever format, which is told when `format` is not null;
+    /// immutable. An error when they hold none.
+    static Result<objc::Object> propertyList(Data data, PropertyListFormat* format = nullptr) {
         const ErrorPointer error;
         return error.result(sendClass<"propertyListWithData:options:format:error:", objc::Object>(
-            data, 0UL, static_cast<void*>(nullptr), error.out()));
+            data, 0UL, static_cast<void*>(format), error.out()));
     }
     /// The same with containers and texts that can be changed, and the format that it is in.
     static Result<objc::Object> mutablePropertyList(Data data, PropertyListFormat& format) {

@@ -2,6 +2,7 @@
 #include "desktop/foundation/foundation.hpp"
 
 #include "desktop/foundation/application_folders.hpp"
+#include "desktop/foundation/base64.hpp"
 #include "desktop/foundation/bundle.hpp"
 #include "desktop/foundation/byte_count_formatter.hpp"
 #include "desktop/foundation/data_detector.hpp"
@@ -34,6 +35,7 @@ void install(const std::string& bundleIdentifier) {
     installPercentEncoding();
     installByteCountFormatter();
     installRegularExpressions();
+    installBase64();
     registerDataDetector();
     const auto identifier = ns::String::fromUtf8(bundleIdentifier);
     installDates();

@@ -14,7 +14,7 @@ const char* const usage =
     "usage: host [--app NAME] [--bundle ID] [--root DIR] [--library FILE | --no-library]\n"
     "            [--clock virtual|real] [--date YYYY-MM-DDThh:mm:ss]\n"
     "            [--automation | --viewer [--port N]]\n"
-    "            [--size WxH@S] [--content FILE] [--settings-bundle]\n"
+    "            [--size WxH@S] [--content FILE] [--settings-bundle] [--device-files]\n"
     "            [--list-apps] [--help]\n";
 
 namespace {
@@ -99,7 +99,7 @@ struct Option {
     void (*read)(Options& options, Words& words);
 };
 
-constexpr std::array<Option, 16> table{{
+constexpr std::array<Option, 17> table{{
     {"--app", [](Options& o, Words& w) { o.application = w.value("--app"); }},
     {"--bundle", [](Options& o, Words& w) { o.bundle = w.value("--bundle"); }},
     {"--root", [](Options& o, Words& w) { o.root = w.value("--root"); }},
@@ -113,6 +113,7 @@ constexpr std::array<Option, 16> table{{
     {"--size", [](Options& o, Words& w) { o.screen = parseScreen(w.value("--size")); }},
     {"--content", [](Options& o, Words& w) { o.content = w.value("--content"); }},
     {"--settings-bundle", [](Options& o, Words&) { o.settingsBundle = true; }},
+    {"--device-files", [](Options& o, Words&) { o.deviceFiles = true; }},
     {"--list-apps", [](Options& o, Words&) { o.listsApplications = true; }},
     {"--help", [](Options& o, Words&) { o.help = true; }},
     {"-h", [](Options& o, Words&) { o.help = true; }},

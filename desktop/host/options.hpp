@@ -38,6 +38,8 @@ struct Options {
     std::uint16_t port = 0;
     /// Puts the settings bundle's pictures on the device, as for a page.
     bool settingsBundle = false;
+    /// Puts a used phone's files on the device, as for a page.
+    bool deviceFiles = false;
     ScreenShape screen;
     /// The file with the screen's texts.
     std::optional<std::filesystem::path> content;

@@ -1,6 +1,7 @@
 // The host: a process in which an application runs on the desktop platform, with the library in it.
 #include "desktop/host/app.hpp"
 #include "desktop/host/automation.hpp"
+#include "desktop/host/device_files.hpp"
 #include "desktop/host/device_folder.hpp"
 #include "desktop/host/event_recording.hpp"
 #include "desktop/host/main_loop.hpp"
@@ -107,10 +108,13 @@ int runDevice(const App& app, const Options& options, const std::function<void(V
     }
 }
 
-/// Gives the device the settings bundle's pictures where they are wanted.
+/// Gives the device the settings bundle's pictures and a used phone's files where they are wanted.
 void furnish(const DeviceFolder& device, const Options& options) {
     if (options.settingsBundle || options.viewer) {
         addSettingsBundle(device.path());
+    }
+    if (options.deviceFiles || options.viewer) {
+        addDeviceFiles(device.path());
     }
 }
 

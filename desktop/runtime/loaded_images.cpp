@@ -1,15 +1,33 @@
 // The dynamic loader's list of loaded images.
-#include <cstdint>
+#include "bindings/dyld/images.hpp"
+
 #include <filesystem>
 #include <link.h>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
 
-/// Anew at each call: the list grows while the process runs.
+/// How many images have come and gone so far.
+unsigned long long changes() {
+    unsigned long long count = 0;
+    dl_iterate_phdr(
+        [](dl_phdr_info* info, std::size_t, void* out) {
+            *static_cast<unsigned long long*>(out) = info->dlpi_adds + info->dlpi_subs;
+            return 1; // all of them tell the same
+        },
+        &count);
+    return count;
+}
+
+/// Anew whenever an image has come or gone.
 const std::vector<std::string>& images() {
+    thread_local unsigned long long known = 0;
     thread_local std::vector<std::string> names;
+    if (const auto now = changes(); std::exchange(known, now) == now) {
+        return names;
+    }
     names.clear();
     dl_iterate_phdr(
         [](dl_phdr_info* info, std::size_t, void* out) {
@@ -27,13 +45,10 @@ const std::vector<std::string>& images() {
 
 } // namespace
 
-extern "C" {
-
 std::uint32_t _dyld_image_count() { return static_cast<std::uint32_t>(images().size()); }
 
 /// The image's path, null past the end; valid until the next call on this thread.
 const char* _dyld_get_image_name(std::uint32_t index) {
     const auto& names = images();
     return index < names.size() ? names[index].c_str() : nullptr;
-}
 }

@@ -1,8 +1,9 @@
-// Adding properties to classes at run time, which GNU libobjc lacks.
+// Properties of classes that are made at run time, which GNU libobjc lacks.
 #include "desktop/runtime/properties.hpp"
 
 #include "bindings/objc/runtime.hpp"
 
+#include <cstdlib>
 #include <map>
 #include <mutex>
 
@@ -10,17 +11,18 @@ namespace desktop {
 namespace {
 
 std::mutex mutex;
-std::map<Class, std::vector<DeclaredProperty>>& declared() {
-    static auto* table = new std::map<Class, std::vector<DeclaredProperty>>;
+/// The runtime hands out pointers to them.
+std::map<Class, std::deque<DeclaredProperty>>& declared() {
+    static auto* table = new std::map<Class, std::deque<DeclaredProperty>>;
     return *table;
 }
 
 } // namespace
 
-std::vector<DeclaredProperty> declaredProperties(Class cls) {
+std::deque<DeclaredProperty> declaredProperties(Class cls) {
     const std::scoped_lock lock(mutex);
     const auto found = declared().find(cls);
-    return found == declared().end() ? std::vector<DeclaredProperty>() : found->second;
+    return found == declared().end() ? std::deque<DeclaredProperty>() : found->second;
 }
 
 } // namespace desktop
@@ -41,4 +43,26 @@ objc::Boolean class_addProperty(Class cls, const char* name,
     }
     properties.push_back({name, text});
     return 1;
+}
+
+objc_property_t* class_copyPropertyList(Class cls, unsigned int* count) {
+    const std::scoped_lock lock(desktop::mutex);
+    const auto found = desktop::declared().find(cls);
+    const std::size_t size = found == desktop::declared().end() ? 0 : found->second.size();
+    if (count != nullptr) {
+        *count = static_cast<unsigned int>(size);
+    }
+    if (size == 0) {
+        return nullptr;
+    }
+    auto* const properties =
+        static_cast<objc_property_t*>(std::calloc(size + 1, sizeof(objc_property_t)));
+    for (std::size_t index = 0; properties != nullptr && index < size; ++index) {
+        properties[index] = reinterpret_cast<objc_property_t>(&found->second[index]);
+    }
+    return properties;
+}
+
+const char* property_getName(objc_property_t property) {
+    return reinterpret_cast<const desktop::DeclaredProperty*>(property)->name.c_str();
 }

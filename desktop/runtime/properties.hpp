@@ -3,8 +3,8 @@
 
 #include "bindings/objc/runtime.hpp"
 
+#include <deque>
 #include <string>
-#include <vector>
 
 namespace desktop {
 
@@ -15,6 +15,6 @@ struct DeclaredProperty {
 };
 
 /// The class's own properties, in the order in which they were declared. Any thread.
-[[nodiscard]] std::vector<DeclaredProperty> declaredProperties(Class cls);
+[[nodiscard]] std::deque<DeclaredProperty> declaredProperties(Class cls);
 
 } // namespace desktop

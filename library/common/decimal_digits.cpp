@@ -48,4 +48,9 @@ std::size_t countDecimalDigits(std::u16string_view text) {
     return count;
 }
 
+std::size_t decimalDigitSize(std::u16string_view text) {
+    const std::size_t size = text.size();
+    return size > 0 && isDecimalDigit(takeCharacter(text)) ? size - text.size() : 0;
+}
+
 } // namespace wentra

@@ -10,4 +10,7 @@ namespace wentra {
 /// matches: Unicode's general category Nd.
 [[nodiscard]] std::size_t countDecimalDigits(std::u16string_view text);
 
+/// How many units the digit takes that the text begins with; 0 when it begins with none.
+[[nodiscard]] std::size_t decimalDigitSize(std::u16string_view text);
+
 } // namespace wentra

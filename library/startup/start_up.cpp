@@ -12,6 +12,7 @@
 #include "library/scratchpad/scratch_pad_hook.hpp"
 #include "library/toolbox/toolbox.hpp"
 #include "library/toolbox/view_model.hpp"
+#include "library/utilities/utilities.hpp"
 
 #include <array>
 #include <mutex>
@@ -25,8 +26,8 @@ Face commonFace() {
     return {classes, categories};
 }
 
-constexpr std::array rooms{&commonFace,  &labels::face,  &clipboard::face, &analysis::face,
-                           &files::face, &toolbox::face, &editing::face};
+constexpr std::array rooms{&commonFace,     &labels::face, &clipboard::face, &utilities::face,
+                           &analysis::face, &files::face,  &toolbox::face,   &editing::face};
 
 void install(std::span<const Table> tables) {
     for (const Table table : tables) {

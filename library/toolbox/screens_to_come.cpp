@@ -15,8 +15,6 @@ void notYetFor(FloatingViewController, objc::Object) {}
 
 std::span<const objc::Change> screensToCome() {
     static constexpr std::array changes{
-        // The utilities menu.
-        objc::addition<"longPress:", &notYetFor>(),
         // The list of files and crash logs.
         objc::addition<"handlerzLongPress:", &notYetFor>(),
     };

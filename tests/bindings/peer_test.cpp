@@ -1,6 +1,7 @@
 // Classes written in C++: life, properties, inheritance, exceptions.
 #include "bindings/foundation/exception.hpp"
 #include "bindings/foundation/string.hpp"
+#include "bindings/objc/class_list.hpp"
 #include "bindings/objc/peer.hpp"
 #include "bindings/objc/pool.hpp"
 #include "bindings/uikit/view.hpp"
@@ -8,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <stdexcept>
 #include <vector>
 
@@ -112,6 +114,19 @@ TEST_F(PeerTest, PropertiesCopyRetainAndTell) {
     ASSERT_EQ(declared.size(), 2U);
     EXPECT_EQ(declared[0].name + " " + declared[0].attributes, "name T@,C,N");
     EXPECT_EQ(declared[1].name + " " + declared[1].attributes, "tame TB,N,GisTame");
+}
+
+TEST_F(PeerTest, TheRuntimeTellsOfClassesAndWhatTheyDeclare) {
+    EXPECT_EQ(std::ranges::count(objc::allClasses(), Animal::classObject()), 1);
+    std::vector<std::string> properties;
+    objc::forEachProperty(Animal::classObject(),
+                          [&](const char* name) { properties.emplace_back(name); });
+    EXPECT_EQ(properties, (std::vector<std::string>{"name", "tame"}));
+    std::vector<std::string> methods;
+    objc::forEachMethod(Bird::classObject(),
+                        [&](SEL selector) { methods.emplace_back(sel_getName(selector)); });
+    EXPECT_EQ(std::ranges::count(methods, "legs"), 1);
+    EXPECT_EQ(std::ranges::count(methods, "name"), 0) << "the superclass's";
 }
 
 TEST_F(PeerTest, SubclassesOverrideAndReachTheSuperclass) {

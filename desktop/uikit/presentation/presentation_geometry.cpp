@@ -78,6 +78,33 @@ PopoverPlace placeOn(Side side, CGRect anchor, CGSize content, CGRect room) {
     return place;
 }
 
+struct BestSide {
+    Side side{};
+    double share = -1; ///< of the content that fits there
+};
+
+BestSide bestSide(CGRect anchor, CGSize content, CGRect room, Side permittedSides) {
+    constexpr std::array order{Side::up, Side::down, Side::left, Side::right};
+    BestSide best;
+    for (const Side side : order) {
+        const double fits = share(content, roomBeside(anchor, room, side));
+        // With no permitted side at all, every side is.
+        const bool permitted =
+            !objc::haveAny(permittedSides, Side::any) || objc::haveAny(permittedSides, side);
+        if (permitted && fits > best.share) {
+            best = {side, fits};
+        }
+    }
+    return best;
+}
+
+/// Where a box points that lies over its anchor, which fills the screen.
+CGRect topEdge(CGRect anchor, CGRect room) {
+    const double bottom = room.origin.y + room.size.height;
+    return {{anchor.origin.x, within(anchor.origin.y, room.origin.y, bottom)},
+            {anchor.size.width, 0}};
+}
+
 } // namespace
 
 CGRect sheetFrame(CGRect screen, UIEdgeInsets safeArea) {
@@ -103,20 +130,13 @@ CGRect PopoverPlace::frame() const {
 }
 
 PopoverPlace popoverPlace(CGRect anchor, CGSize content, CGRect room, Side permittedSides) {
-    constexpr std::array order{Side::up, Side::down, Side::left, Side::right};
-    Side best{};
-    double bestShare = -1;
-    for (const Side side : order) {
-        const double fits = share(content, roomBeside(anchor, room, side));
-        // With no permitted side at all, every side is.
-        const bool permitted =
-            !objc::haveAny(permittedSides, Side::any) || objc::haveAny(permittedSides, side);
-        if (permitted && fits > bestShare) {
-            best = side;
-            bestShare = fits;
-        }
-    }
-    return placeOn(best, anchor, content, room);
+    constexpr double tooLittle = 0.5;
+    const BestSide beside = bestSide(anchor, content, room, permittedSides);
+    const CGRect edge = topEdge(anchor, room);
+    const BestSide over = bestSide(edge, content, room, permittedSides);
+    return beside.share < tooLittle && over.share > beside.share
+               ? placeOn(over.side, edge, content, room)
+               : placeOn(beside.side, anchor, content, room);
 }
 
 } // namespace desktop

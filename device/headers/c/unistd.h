@@ -9,4 +9,5 @@ extern "C" {
 int access(const char* path, int mode);
 int close(int descriptor);
 ssize_t pread(int descriptor, void* bytes, size_t size, off_t offset);
+ssize_t write(int descriptor, const void* bytes, size_t size);
 }

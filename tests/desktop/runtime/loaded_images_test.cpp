@@ -1,11 +1,9 @@
 // The list of loaded images: the executable first, libraries after it.
+#include "bindings/dyld/images.hpp"
+
 #include <gtest/gtest.h>
 
-#include <cstdint>
 #include <string>
-
-extern "C" std::uint32_t _dyld_image_count();
-extern "C" const char* _dyld_get_image_name(std::uint32_t index);
 
 namespace {
 

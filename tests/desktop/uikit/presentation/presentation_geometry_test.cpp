@@ -50,6 +50,20 @@ TEST(PopoverPlaces, NothingLeavesTheRoom) {
     EXPECT_LE(huge.box.origin.y + huge.box.size.height, 800);
 }
 
+TEST(PopoverPlaces, ABoxLiesOverAnAnchorThatFillsTheScreen) {
+    const CGRect screen{{10, 57}, {370, 743}};
+    const auto place = [&](CGRect anchor) {
+        return popoverPlace(anchor, {140, 528}, screen, ui::PopoverArrowDirection::any);
+    };
+    EXPECT_EQ(place({{0, 0}, {390, 844}}).box.size, (CGSize{140, 528}));
+    EXPECT_EQ(place({{0, 210}, {390, 1050}}).box.origin.y, 210 + PopoverPlace::arrowHeight);
+    EXPECT_EQ(
+        popoverPlace({{0, 0}, {390, 844}}, {140, 528}, screen, ui::PopoverArrowDirection::down)
+            .box.size.height,
+        0)
+        << "there is no room above";
+}
+
 TEST(Sheets, LeaveTheTopToWhatTheyCover) {
     EXPECT_EQ(sheetFrame({{0, 0}, {390, 844}}, {47, 0, 34, 0}), (CGRect{{0, 57}, {390, 787}}));
     EXPECT_EQ(sheetFrame({{0, 0}, {10, 20}}, {47, 0, 34, 0}).size.height, 0);

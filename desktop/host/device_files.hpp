@@ -1,0 +1,12 @@
+// The files of a phone that has been in use.
+#pragma once
+
+#include <filesystem>
+
+namespace desktop::host {
+
+/// Gives a device that has no crash reports yet some of them, and bookmarks, text replacements and
+/// accounts: what the tools that read the system's files work on. Files that are there stay.
+void addDeviceFiles(const std::filesystem::path& root);
+
+} // namespace desktop::host

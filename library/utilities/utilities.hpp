@@ -1,0 +1,11 @@
+// The face of the room of utilities.
+#pragma once
+
+#include "library/common/face.hpp"
+
+namespace wentra::utilities {
+
+/// The list.
+Face face();
+
+} // namespace wentra::utilities
