@@ -72,6 +72,7 @@ struct MutableArray : objc::Kind<MutableArray, "NSMutableArray", Array> {
     void removeIdentical(objc::Object element) const { send<"removeObjectIdenticalTo:">(element); }
     /// Every element that is equal to this one.
     void remove(objc::Object element) const { send<"removeObject:">(element); }
+    void removeAt(unsigned long index) const { send<"removeObjectAtIndex:">(index); }
     void removeAll() const { send<"removeAllObjects">(); }
 };
 

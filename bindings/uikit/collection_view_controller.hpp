@@ -1,6 +1,7 @@
 // UICollectionViewController.
 #pragma once
 
+#include "bindings/uikit/collection_view_layout.hpp"
 #include "bindings/uikit/view_controller.hpp"
 
 namespace ui {
@@ -8,6 +9,10 @@ namespace ui {
 struct CollectionViewController
     : objc::Kind<CollectionViewController, "UICollectionViewController", ViewController> {
     using Kind::Kind;
+
+    static CollectionViewController withLayout(CollectionViewLayout layout) {
+        return make<"initWithCollectionViewLayout:">(layout);
+    }
 };
 
 } // namespace ui

@@ -9,11 +9,15 @@ namespace ui {
 
 /// The platform's numbers.
 enum class TableViewStyle : long { plain = 0, grouped = 1, insetGrouped = 2 };
+enum class TableViewRowAnimation : long { automatic = 100 };
 enum class TableViewCellSeparatorStyle : long { none = 0, singleLine = 1 };
 
 struct TableView : objc::Kind<TableView, "UITableView", ScrollView> {
     using Kind::Kind;
 
+    static TableView withFrame(CGRect frame, TableViewStyle style) {
+        return make<"initWithFrame:style:">(frame, style);
+    }
     void setSeparatorStyle(TableViewCellSeparatorStyle style) const {
         send<"setSeparatorStyle:">(style);
     }
@@ -29,6 +33,20 @@ struct TableView : objc::Kind<TableView, "UITableView", ScrollView> {
                                                     ns::IndexPath path) const {
         return send<"dequeueReusableCellWithIdentifier:forIndexPath:", TableViewCell>(identifier,
                                                                                       path);
+    }
+    /// A cell used before, or nil: the data source makes one.
+    [[nodiscard]] TableViewCell dequeueReusableCell(ns::String identifier) const {
+        return send<"dequeueReusableCellWithIdentifier:", TableViewCell>(identifier);
+    }
+    /// Nil for a cell that shows no row.
+    [[nodiscard]] ns::IndexPath indexPathFor(TableViewCell cell) const {
+        return send<"indexPathForCell:", ns::IndexPath>(cell);
+    }
+    /// Asks the data source for everything anew.
+    void reloadData() const { send<"reloadData">(); }
+    /// The data source has fewer rows already.
+    void deleteRows(ns::Array paths, TableViewRowAnimation animation) const {
+        send<"deleteRowsAtIndexPaths:withRowAnimation:">(paths, animation);
     }
     void deselectRow(ns::IndexPath path, bool animated) const {
         send<"deselectRowAtIndexPath:animated:">(path, animated);

@@ -7,7 +7,7 @@
 namespace desktop::host {
 
 std::span<const App* const> apps() {
-    static constexpr std::array all{&notesApp, &settingsApp, &chatApp, &plainApp};
+    static constexpr std::array all{&notesApp, &settingsApp, &chatApp, &filesApp, &plainApp};
     return all;
 }
 

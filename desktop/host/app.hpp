@@ -23,6 +23,7 @@ struct App {
 extern const App notesApp;
 extern const App settingsApp;
 extern const App chatApp;
+extern const App filesApp;
 extern const App plainApp;
 
 /// Every application, in the order in which they are listed.

@@ -25,7 +25,7 @@ struct Row {
     Command command;
 };
 
-constexpr std::array<Row, 26> table{{
+constexpr std::array<Row, 28> table{{
     {"send", &send},
     {"make", &make},
     {"tree", &tree},
@@ -38,9 +38,11 @@ constexpr std::array<Row, 26> table{{
     {"type", &type},
     {"key", &key},
     {"menu", &menu},
+    {"context", &context},
     {"alert", &alert},
     {"screens", &screens},
     {"pasteboard", &pasteboard},
+    {"file", &file},
     {"preferences", &preferences},
     {"defaults", &defaults},
     {"documents", &documents},

@@ -52,7 +52,8 @@ TEST(Options, HelpAndListGoToStandardOutput) {
     const std::string apps = list.rest();
     EXPECT_EQ(list.wait(), 0);
     for (const char* line : {"notes", "com.example.notes", "settings", "com.apple.Preferences",
-                             "chat", "com.hammerandchisel.discord", "plain", "com.example.plain"}) {
+                             "chat", "com.hammerandchisel.discord", "files", "com.example.files",
+                             "plain", "com.example.plain"}) {
         EXPECT_NE(apps.find(line), std::string::npos) << line;
     }
 }

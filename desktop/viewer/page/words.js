@@ -41,6 +41,7 @@ const words = {
     notes: ["备忘录", "Notes"],
     settings: ["系统设置", "Settings"],
     chat: ["聊天", "Chat"],
+    files: ["文件", "Files"],
     plain: ["空白应用", "Plain"],
     search: ["搜索设置", "Search preferences"],
     preferencesHint: [
