@@ -7,6 +7,7 @@
 #include "library/clipboard/text_view_controller.hpp"
 #include "library/common/draggable_view.hpp"
 #include "library/editing/editing.hpp"
+#include "library/files/files.hpp"
 #include "library/labels/labels.hpp"
 #include "library/scratchpad/scratch_pad_hook.hpp"
 #include "library/toolbox/toolbox.hpp"
@@ -30,8 +31,8 @@ Face clipboardFace() {
     return {classes, {}};
 }
 
-constexpr std::array rooms{&commonFace,     &labels::face,  &clipboardFace,
-                           &analysis::face, &toolbox::face, &editing::face};
+constexpr std::array rooms{&commonFace,  &labels::face,  &clipboardFace, &analysis::face,
+                           &files::face, &toolbox::face, &editing::face};
 
 void install(std::span<const Table> tables) {
     for (const Table table : tables) {
