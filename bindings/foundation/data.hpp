@@ -45,4 +45,8 @@ struct Data : objc::Kind<Data, "NSData"> {
     }
 };
 
+inline String String::from(Data data, StringEncoding encoding) {
+    return make<"initWithData:encoding:">(data, encoding);
+}
+
 } // namespace ns

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "bindings/foundation/array.hpp"
+#include "bindings/foundation/date.hpp"
+#include "bindings/foundation/number.hpp"
 #include "bindings/foundation/result.hpp"
 #include "bindings/foundation/url.hpp"
 
@@ -11,6 +13,20 @@ namespace ns {
 enum class SearchPathDirectory : unsigned long { document = 9 };
 /// Whose folders; the platform's bits.
 enum class SearchPathDomainMask : unsigned long { user = 1 };
+
+/// The names of files' attributes.
+namespace file_attributes {
+
+using namespace literals;
+
+/// NSFileSize, NSFilePosixPermissions: numbers.
+inline String size() { return u"NSFileSize"_ns; }
+inline String posixPermissions() { return u"NSFilePosixPermissions"_ns; }
+/// NSFileCreationDate, NSFileModificationDate: dates.
+inline String creationDate() { return u"NSFileCreationDate"_ns; }
+inline String modificationDate() { return u"NSFileModificationDate"_ns; }
+
+} // namespace file_attributes
 
 struct FileManager : objc::Kind<FileManager, "NSFileManager"> {
     using Kind::Kind;
@@ -35,6 +51,11 @@ struct FileManager : objc::Kind<FileManager, "NSFileManager"> {
     [[nodiscard]] ArrayOf<Url> urlsFor(SearchPathDirectory directory,
                                        SearchPathDomainMask domains) const {
         return send<"URLsForDirectory:inDomains:", ArrayOf<Url>>(directory, domains);
+    }
+    /// By the names above; of a link itself where the path leads to one.
+    [[nodiscard]] Result<Dictionary> attributesOfItem(String path) const {
+        const ErrorPointer error;
+        return error.result(send<"attributesOfItemAtPath:error:", Dictionary>(path, error.out()));
     }
 };
 

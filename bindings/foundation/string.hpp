@@ -28,7 +28,15 @@ enum class StringCompareOptions : unsigned long {
 constexpr bool areOptions(StringCompareOptions) { return true; }
 
 /// The platform's numbers.
-enum class StringEncoding : unsigned long { ascii = 1, utf8 = 4, isoLatin1 = 5, utf16 = 10 };
+enum class StringEncoding : unsigned long {
+    ascii = 1,
+    japaneseEuc = 3,
+    utf8 = 4,
+    isoLatin1 = 5,
+    utf16 = 10
+};
+
+struct Data;
 
 struct Error;
 
@@ -46,6 +54,9 @@ struct String : objc::Kind<String, "NSString"> {
                                                       static_cast<unsigned long>(text.size()),
                                                       StringEncoding::utf8);
     }
+
+    /// Nil when the bytes are no text in that encoding. Defined in data.hpp.
+    static String from(Data data, StringEncoding encoding);
 
     [[nodiscard]] unsigned long length() const { return send<"length", unsigned long>(); }
     /// Of the number that the text begins with; 0 without one.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bindings/uikit/image.hpp"
+#include "bindings/uikit/view.hpp"
 
 namespace ui {
 
@@ -51,6 +52,8 @@ struct BarButtonItem : objc::Kind<BarButtonItem, "UIBarButtonItem"> {
     static BarButtonItem withSystemItem(BarButtonSystemItem item, objc::Object target, SEL action) {
         return make<"initWithBarButtonSystemItem:target:action:">(item, target, action);
     }
+    /// Shows the view, which the item keeps.
+    static BarButtonItem withCustomView(View view) { return make<"initWithCustomView:">(view); }
     [[nodiscard]] ns::String title() const { return send<"title", ns::String>(); }
     void setTitle(ns::String title) const { send<"setTitle:">(title); }
     void setEnabled(bool enabled) const { send<"setEnabled:">(enabled); }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bindings/uikit/collection_view.hpp"
+#include "bindings/uikit/collection_view_layout.hpp"
 #include "bindings/uikit/view_controller.hpp"
 
 namespace ui {
@@ -13,6 +14,10 @@ struct CollectionViewController
     /// Its own, whose data source and delegate it is.
     [[nodiscard]] CollectionView collectionView() const {
         return send<"collectionView", CollectionView>();
+    }
+
+    static CollectionViewController withLayout(CollectionViewLayout layout) {
+        return make<"initWithCollectionViewLayout:">(layout);
     }
 };
 

@@ -51,6 +51,10 @@ struct TableView : objc::Kind<TableView, "UITableView", ScrollView> {
     void deleteRows(ns::Array paths, TableViewRowAnimation animation) const {
         send<"deleteRowsAtIndexPaths:withRowAnimation:">(paths, animation);
     }
+    /// Nil for a cell that shows no row.
+    [[nodiscard]] ns::IndexPath indexPathFor(TableViewCell cell) const {
+        return send<"indexPathForCell:", ns::IndexPath>(cell);
+    }
     void deselectRow(ns::IndexPath path, bool animated) const {
         send<"deselectRowAtIndexPath:animated:">(path, animated);
     }

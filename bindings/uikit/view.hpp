@@ -118,6 +118,8 @@ struct View : objc::Kind<View, "UIView", Responder> {
     /// with the recognizers, in gesture_recognizer.hpp.
     void addGestureRecognizer(GestureRecognizer recognizer) const;
     void removeGestureRecognizer(GestureRecognizer recognizer) const;
+    /// A context menu's, or another; the view keeps it.
+    void addInteraction(objc::Object interaction) const { send<"addInteraction:">(interaction); }
     /// The front-most view inside this one that takes touches at the point (in this view's
     /// coordinates), or nil. The event may be nil. Defined with the events, in event.hpp.
     [[nodiscard]] View hitTest(CGPoint point, Event event) const;

@@ -9,6 +9,8 @@
 #include "desktop/foundation/date.hpp"
 #include "desktop/foundation/delayed_perform.hpp"
 #include "desktop/foundation/dictionary_files.hpp"
+#include "desktop/foundation/error_description.hpp"
+#include "desktop/foundation/file_manager.hpp"
 #include "desktop/foundation/json_serialization.hpp"
 #include "desktop/foundation/loading_protocol.hpp"
 #include "desktop/foundation/main_operation_queue.hpp"
@@ -43,6 +45,8 @@ void install(const std::string& bundleIdentifier) {
     installApplicationFolders(identifier);
     installUserDefaults(identifier);
     installDictionaryFiles();
+    installFileManager();
+    installErrorDescriptions();
     installPropertyListSerialization();
     installJsonSerialization();
     installDelayedPerform();

@@ -7,7 +7,8 @@
 namespace desktop::host {
 
 std::span<const App* const> apps() {
-    static constexpr std::array all{&notesApp, &settingsApp, &chatApp, &browserApp, &plainApp};
+    static constexpr std::array all{&notesApp,   &settingsApp, &chatApp,
+                                    &browserApp, &filesApp,    &plainApp};
     return all;
 }
 

@@ -24,6 +24,7 @@ extern const App notesApp;
 extern const App settingsApp;
 extern const App chatApp;
 extern const App browserApp;
+extern const App filesApp;
 extern const App plainApp;
 
 /// Every application, in the order in which they are listed.

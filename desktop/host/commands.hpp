@@ -41,7 +41,9 @@ using Command = Json (*)(Session& session, const Json& request);
 [[nodiscard]] Json type(Session& session, const Json& request);
 [[nodiscard]] Json key(Session& session, const Json& request);
 [[nodiscard]] Json menu(Session& session, const Json& request);
+[[nodiscard]] Json context(Session& session, const Json& request);
 // What the device keeps.
+[[nodiscard]] Json file(Session& session, const Json& request);
 [[nodiscard]] Json pasteboard(Session& session, const Json& request);
 [[nodiscard]] Json preferences(Session& session, const Json& request);
 [[nodiscard]] Json defaults(Session& session, const Json& request);

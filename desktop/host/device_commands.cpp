@@ -1,4 +1,5 @@
-// Commands for what the device keeps: pasteboard, preferences, user defaults, documents.
+// Commands for what the device keeps: pasteboard, files, preferences, user defaults, documents.
+#include "desktop/foundation/file_dates.hpp"
 #include "desktop/host/arguments.hpp"
 #include "desktop/host/commands.hpp"
 #include "desktop/host/preference_file.hpp"
@@ -6,6 +7,8 @@
 #include "bindings/foundation/file_manager.hpp"
 #include "bindings/foundation/user_defaults.hpp"
 #include "bindings/uikit/pasteboard.hpp"
+
+#include <cmath>
 
 namespace desktop::host {
 namespace {
@@ -21,6 +24,16 @@ void setPasteboardImage(const std::string& file) {
 void setPasteboardText(const Values& values, const Json& text) {
     ui::Pasteboard::generalPasteboard().setString(text.is_null() ? ns::String()
                                                                  : values.toKind<ns::String>(text));
+}
+
+/// Seconds since 1970.
+double dateArgument(const Json& request, const char* name) {
+    const Json& value = anyArgument(request, name);
+    constexpr double farthest = 1e11;
+    if (!value.is_number() || std::abs(value.get<double>()) > farthest) {
+        throw RequestError(std::string("\"") + name + "\" must be seconds since 1970");
+    }
+    return value.get<double>();
 }
 
 ns::PropertyListFormat formatArgument(const Json& request) {
@@ -43,6 +56,15 @@ Json pasteboard(Session& session, const Json& request) {
         setPasteboardText(session.values, *text);
     }
     return session.values.toJson(ui::Pasteboard::generalPasteboard().string());
+}
+
+Json file(Session&, const Json& request) {
+    const std::string& path = stringArgument(request, "path");
+    if (argument(request, "created") != nullptr &&
+        !foundation::setCreationDate(path, dateArgument(request, "created"))) {
+        throw RequestError("there is no file " + path);
+    }
+    return {{"created", foundation::creationDate(path)}};
 }
 
 Json preferences(Session& session, const Json& request) {

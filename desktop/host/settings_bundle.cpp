@@ -1,5 +1,7 @@
-// Draws the floating button's picture.
+// Draws the floating button's picture, and puts the icons beside it.
 #include "desktop/host/settings_bundle.hpp"
+
+#include "desktop/host/bundle_icons.hpp"
 
 #include "desktop/drawing/canvas.hpp"
 #include "desktop/drawing/text_layout.hpp"
@@ -34,6 +36,8 @@ void addSettingsBundle(const std::filesystem::path& root) {
     const auto bundle = root / "Library/PreferenceBundles/hovtanprefs.bundle";
     if (std::filesystem::create_directories(bundle)) {
         ballPicture().savePng(bundle / "xfq.png");
+        std::filesystem::create_directory(bundle / "tubiao");
+        drawBundleIcons(bundle / "tubiao");
     }
 }
 

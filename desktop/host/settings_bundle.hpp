@@ -5,8 +5,8 @@
 
 namespace desktop::host {
 
-/// Gives the device below `root` a picture for the floating button, unless it has its settings
-/// bundle already. Throws std::filesystem::filesystem_error.
+/// Gives the device below `root` a picture for the floating button and the icons of files and
+/// toolbars, unless it has its settings bundle already. Throws std::filesystem::filesystem_error.
 void addSettingsBundle(const std::filesystem::path& root);
 
 } // namespace desktop::host

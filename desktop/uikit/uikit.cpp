@@ -16,6 +16,9 @@
 #include "desktop/uikit/application/window_scene.hpp"
 #include "desktop/uikit/constraints/layout_anchor.hpp"
 #include "desktop/uikit/constraints/layout_guide.hpp"
+#include "desktop/uikit/contextmenus/context_menu_interaction.hpp"
+#include "desktop/uikit/contextmenus/context_menu_view.hpp"
+#include "desktop/uikit/contextmenus/menu_elements.hpp"
 #include "desktop/uikit/controllers/view_controller.hpp"
 #include "desktop/uikit/controls/button.hpp"
 #include "desktop/uikit/controls/clear_button.hpp"
@@ -122,6 +125,8 @@ void registerClasses() {
                 PopoverPresentationController, AlertAction, NavigationController, AlertController,
                 TransitionView, LayoutContainer, SheetView, DimmingView, PopoverView, AlertView,
                 Toolbar, AlertRow, ActivityViewController, TransitionCoordinator>();
+    registerAll<MenuElement, Action, Menu, ContextMenuConfiguration, ContextMenuInteraction,
+                ContextMenuView>();
     installStringDrawing();
     installGeometryValues();
 }

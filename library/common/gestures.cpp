@@ -29,6 +29,11 @@ void addPress(ui::View view, objc::Object owner, SEL action, double seconds,
     press.setNumberOfTouchesRequired(fingers);
 }
 
+void addSwipe(ui::View view, objc::Object owner, SEL action,
+              ui::SwipeGestureRecognizerDirection direction) {
+    add<ui::SwipeGestureRecognizer>(view, owner, action).setDirection(direction);
+}
+
 ui::PanGestureRecognizer addPan(ui::View view, objc::Object owner, SEL action) {
     return add<ui::PanGestureRecognizer>(view, owner, action);
 }

@@ -3,6 +3,7 @@
 
 #include "bindings/uikit/pan_gesture_recognizer.hpp"
 #include "bindings/uikit/pinch_gesture_recognizer.hpp"
+#include "bindings/uikit/swipe_gesture_recognizer.hpp"
 #include "bindings/uikit/view.hpp"
 
 namespace wentra {
@@ -15,6 +16,9 @@ void addTap(ui::View view, objc::Object owner, SEL action, unsigned long taps = 
 /// A long press of at least that many seconds; the platform's own duration when none are given.
 void addPress(ui::View view, objc::Object owner, SEL action, double seconds = 0,
               unsigned long fingers = 1);
+
+void addSwipe(ui::View view, objc::Object owner, SEL action,
+              ui::SwipeGestureRecognizerDirection direction);
 
 ui::PanGestureRecognizer addPan(ui::View view, objc::Object owner, SEL action);
 

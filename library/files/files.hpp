@@ -1,11 +1,11 @@
-// The face of the room of files: their panes and their viewers.
+// The face of the file manager's room: its browser and its viewers.
 #pragma once
 
 #include "library/common/face.hpp"
 
 namespace wentra::files {
 
-/// The viewers.
+/// The browser and the viewers.
 Face face();
 
 } // namespace wentra::files

@@ -18,7 +18,7 @@ INTERNAL = {
     "UIPickerColumnView",
     "UIScrollViewPanGestureRecognizer", "UITextEffectsWindow", "UITextFieldClearButton",
     "UITextSelectionView", "UITransitionView", "_UIAlertControllerActionView",
-    "_UIAlertControllerView", "_UIPopoverView", "_UIViewControllerTransitionCoordinator",
+    "_UIAlertControllerView", "_UIContextMenuContainerView", "_UIPopoverView", "_UIViewControllerTransitionCoordinator",
 }
 
 

@@ -41,6 +41,7 @@ DESKTOP = {
     "coregraphics": ["drawing"],
     "audiotoolbox": ["runtime"],
     "commoncrypto": [],
+    "darwin": [],
     "quartzcore": [*PLAIN, "coregraphics"],
     "uikit": [*PLAIN, "coregraphics", "quartzcore", "foundation"],
     "avfaudio": [*PLAIN, "foundation"],

@@ -57,7 +57,7 @@ void GestureRecognizer::take(GestureStep step) {
 }
 
 void GestureRecognizer::decide() {
-    for (const auto& other : mustFailFirst_) {
+    for (const auto& other : predecessors()) {
         const GestureRecognizer& peer = of(other);
         if (peer.isUnderWay() || peer.state_ == ui::GestureState::ended) {
             fail();
@@ -153,7 +153,7 @@ void GestureRecognizer::startAnew() {
 void GestureRecognizer::answerWaiting() {
     std::vector<objc::Strong<ui::GestureRecognizer>> asked;
     for (const ui::GestureRecognizer other : waiting()) {
-        if (std::ranges::find(of(other).mustFailFirst_, self()) != of(other).mustFailFirst_.end()) {
+        if (of(other).waitsFor(self())) {
             asked.emplace_back(other);
         }
     }
@@ -197,6 +197,26 @@ std::vector<objc::Strong<ui::GestureRecognizer>> GestureRecognizer::competitors(
         }
     }
     return others;
+}
+
+/// Whether this one is made only when the other one has failed.
+bool GestureRecognizer::waitsFor(ui::GestureRecognizer other) const {
+    constexpr auto asked =
+        &objc::selector<"gestureRecognizer:shouldBeRequiredToFailByGestureRecognizer:">;
+    const auto delegate = of(other).delegate_.strong();
+    return std::ranges::find(mustFailFirst_, other) != mustFailFirst_.end() ||
+           (delegate.respondsToSelector(asked()) &&
+            objc::sendTo<bool>(delegate.raw(), asked(), other, self()));
+}
+
+std::vector<objc::Strong<ui::GestureRecognizer>> GestureRecognizer::predecessors() const {
+    auto all = mustFailFirst_;
+    for (const auto& other : competitors()) {
+        if (std::ranges::find(all, other) == all.end() && waitsFor(other)) {
+            all.push_back(other);
+        }
+    }
+    return all;
 }
 
 /// Whether this recognizer's delegate lets it recognize together with the other one.

@@ -94,6 +94,8 @@ private:
     [[nodiscard]] std::vector<objc::Strong<ui::GestureRecognizer>> competitors() const;
     [[nodiscard]] bool allows(ui::GestureRecognizer other) const;
     [[nodiscard]] bool excludes(ui::GestureRecognizer other) const;
+    [[nodiscard]] bool waitsFor(ui::GestureRecognizer other) const;
+    [[nodiscard]] std::vector<objc::Strong<ui::GestureRecognizer>> predecessors() const;
 
     GestureRule* rule_ = nullptr;
     ui::GestureState state_ = ui::GestureState::possible;

@@ -47,6 +47,7 @@ public:
             objc::method<"loadView", &Self::loadView>(),
             objc::method<"collectionView", &Self::collectionView>(),
             objc::method<"collectionViewLayout", &Self::layout>(),
+            objc::method<"collectionView:numberOfItemsInSection:", &Self::numberOfItems>(),
         };
     }
 
@@ -55,6 +56,8 @@ private:
     void loadView();
     [[nodiscard]] ui::CollectionView collectionView() const;
     [[nodiscard]] ui::CollectionViewLayout layout() const { return layout_; }
+    /// A controller that has nothing to say about items has none.
+    [[nodiscard]] long numberOfItems(ui::CollectionView, long) const { return 0; }
 
     objc::Strong<ui::CollectionViewLayout> layout_;
     objc::Strong<ui::CollectionView> collection_;

@@ -16,18 +16,23 @@ constexpr double flexible = -1;
 } // namespace
 
 std::vector<double> toolbarPlaces(const std::vector<double>& widths, double room) {
+    const auto gapBefore = [&widths](std::size_t item) {
+        const bool apart = item > 0 && widths[item] >= 0 && widths[item - 1] >= 0;
+        return apart ? itemGap : 0;
+    };
     double taken = 0;
     double flexibleCount = 0;
     for (std::size_t item = 0; item < widths.size(); ++item) {
-        taken += std::max(0.0, widths[item]) + (item > 0 ? itemGap : 0);
+        taken += std::max(0.0, widths[item]) + gapBefore(item);
         flexibleCount += widths[item] < 0 ? 1 : 0;
     }
     const double share = flexibleCount > 0 ? std::max(0.0, room - taken) / flexibleCount : 0;
     std::vector<double> places;
     double next = 0;
-    for (const double width : widths) {
+    for (std::size_t item = 0; item < widths.size(); ++item) {
+        next += gapBefore(item);
         places.push_back(next);
-        next += (width < 0 ? share : width) + itemGap;
+        next += widths[item] < 0 ? share : widths[item];
     }
     return places;
 }
@@ -40,6 +45,7 @@ std::vector<objc::MethodRow> Toolbar::methods() {
         objc::flag<"translucent", &Toolbar::translucent_>(),
         objc::method<"layoutSubviews", &Toolbar::layoutSubviews>(),
         objc::method<"sizeThatFits:", &Toolbar::sizeThatFits>(),
+        objc::method<"intrinsicContentSize", &Toolbar::intrinsicContentSize>(),
     };
 }
 

@@ -5,6 +5,7 @@
 #include "bindings/uikit/toolbar.hpp"
 
 #include "desktop/class.hpp"
+#include "desktop/uikit/views/view.hpp"
 
 #include <vector>
 
@@ -22,6 +23,8 @@ private:
     void setItemsAnimated(ns::Array items, bool) { setItems(items); }
     void layoutSubviews();
     [[nodiscard]] CGSize sizeThatFits(CGSize room) const { return {room.width, barHeight}; }
+    /// As high as a bar where constraints say no height, and as wide as they say.
+    [[nodiscard]] CGSize intrinsicContentSize() const { return {noIntrinsicMetric, barHeight}; }
 
     objc::Copied<ns::Array> items_;
     objc::Strong<ui::Color> barTintColor_;

@@ -46,6 +46,10 @@ public:
     static ui::Image imageOf(CGImageRef image) {
         return objc::wrap<ui::Image>(reinterpret_cast<id>(image));
     }
+    /// The symbol's name; empty for nil and for pictures.
+    static std::string symbolNameOf(ui::Image image) {
+        return image ? of(image).symbolName_ : std::string();
+    }
     /// Draws the image over the rectangle: a shape in its own tint, or else in the one given.
     static void draw(ui::Image image, Canvas& canvas, const Rectangle& area, ui::Color tint);
 

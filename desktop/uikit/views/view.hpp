@@ -119,6 +119,9 @@ private:
     void addGestureRecognizer(ui::GestureRecognizer recognizer);
     void removeGestureRecognizer(ui::GestureRecognizer recognizer);
     void releaseRecognizers();
+    [[nodiscard]] ns::Array interactions() const;
+    void addInteraction(objc::Object interaction);
+    void removeInteraction(objc::Object interaction);
     [[nodiscard]] bool gestureRecognizerShouldBegin(ui::GestureRecognizer) const { return true; }
     bool endEditing(bool force);
     [[nodiscard]] ui::View hitTest(CGPoint point, ui::Event event) const;
@@ -138,6 +141,7 @@ private:
     objc::Copied<ns::String> accessibilityIdentifier_;
     objc::Copied<ns::String> restorationIdentifier_;
     objc::Strong<ns::MutableArray> recognizers_;
+    objc::Strong<ns::MutableArray> interactions_;
     std::unique_ptr<ViewConstraints> constraints_;
     long tag_ = 0;
     long contentMode_ = 0;

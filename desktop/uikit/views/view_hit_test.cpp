@@ -50,6 +50,28 @@ void View::removeGestureRecognizer(ui::GestureRecognizer recognizer) {
     }
 }
 
+ns::Array View::interactions() const {
+    return interactions_ ? interactions_.copied() : ns::MutableArray::make();
+}
+
+void View::addInteraction(objc::Object interaction) {
+    if (!interactions_) {
+        interactions_ = ns::MutableArray::make();
+    }
+    interaction.send<"willMoveToView:">(self());
+    interactions_.add(interaction);
+    interaction.send<"didMoveToView:">(self());
+}
+
+void View::removeInteraction(objc::Object interaction) {
+    if (interactions_.contains(interaction)) {
+        const objc::Strong<objc::Object> kept = interaction;
+        kept.send<"willMoveToView:">(ui::View());
+        interactions_.removeIdentical(kept);
+        kept.send<"didMoveToView:">(ui::View());
+    }
+}
+
 void View::releaseRecognizers() {
     for (const objc::Object recognizer : recognizers_) {
         GestureRecognizer::of(recognizer).setView(nullptr);

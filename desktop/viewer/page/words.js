@@ -42,6 +42,7 @@ const words = {
     settings: ["系统设置", "Settings"],
     chat: ["聊天", "Chat"],
     browser: ["浏览器", "Browser"],
+    files: ["文件", "Files"],
     plain: ["空白应用", "Plain"],
     search: ["搜索设置", "Search preferences"],
     preferencesHint: [

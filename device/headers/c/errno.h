@@ -7,6 +7,9 @@ extern "C" int* __error();
 
 #define EINTR 4
 #define EBUSY 16
+#define EEXIST 17
+#define EXDEV 18
 #define EINVAL 22
 #define ERANGE 34
+#define ENOTSUP 45
 #define ETIMEDOUT 60

@@ -1,4 +1,4 @@
-// Formatting, and removing files, on the phone.
+// Formatting, and removing and renaming files, on the phone.
 #pragma once
 
 #include <stdarg.h>
@@ -12,4 +12,5 @@ int snprintf(char* buffer, size_t size, const char* format, ...)
 int vsnprintf(char* buffer, size_t size, const char* format, va_list arguments)
     __attribute__((format(printf, 3, 0)));
 int remove(const char* path);
+int rename(const char* from, const char* to);
 }

@@ -24,6 +24,8 @@ void free(void* memory);
 int posix_memalign(void** memory, size_t alignment, size_t size);
 [[noreturn]] void abort();
 
+char* realpath(const char* path, char* resolved);
+
 unsigned arc4random_uniform(unsigned bound);
 
 int abs(int number);

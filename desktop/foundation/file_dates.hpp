@@ -1,0 +1,18 @@
+// When files were made.
+#pragma once
+
+#include "bindings/foundation/date.hpp"
+
+#include <string>
+
+namespace desktop::foundation {
+
+/// Seconds since 1970 at which the entry was made, itself where it is a link: what was set, else
+/// what the file system knows, else its last change. Any thread.
+[[nodiscard]] double creationDate(const std::string& path);
+
+/// Linux lets nobody set the date: this process keeps it, as long as the entry is there. False
+/// when there is none.
+bool setCreationDate(const std::string& path, double secondsSince1970);
+
+} // namespace desktop::foundation

@@ -1,0 +1,55 @@
+// Reads texts of unknown encoding.
+#include "library/files/browser/file_reading.hpp"
+
+#include "bindings/foundation/data.hpp"
+#include "bindings/foundation/log.hpp"
+#include "library/common/text_encoding.hpp"
+
+#include <array>
+#include <sys/stat.h>
+
+namespace wentra::files {
+namespace {
+
+using namespace ns::literals;
+
+ns::String decoded(ns::Data bytes) {
+    using enum ns::StringEncoding;
+    for (const ns::StringEncoding encoding : {utf8, ascii, japaneseEuc}) {
+        if (const auto text = ns::String::from(bytes, encoding); text) {
+            return text;
+        }
+    }
+    ns::log("无法确定数据的编码");
+    return u""_ns;
+}
+
+} // namespace
+
+bool isFolder(const std::string& path) {
+    struct stat status {};
+    return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+bool isPlainFile(const std::string& path) {
+    struct stat status {};
+    return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+ns::Url urlOf(const std::string& path) {
+    constexpr bool isDirectory = false;
+    return isUtf8(path) ? ns::Url::fileUrlWithPath(ns::String::fromUtf8(path), isDirectory)
+                        : ns::Url();
+}
+
+ns::String textOfFile(ns::Url url) {
+    const auto bytes =
+        isPlainFile(url.path().utf8()) ? ns::Data::withContentsOfFile(url.path()) : ns::Data();
+    if (!bytes) {
+        ns::log("无法从中读取数据 " + ns::description(url).utf8());
+        return u""_ns;
+    }
+    return decoded(bytes);
+}
+
+} // namespace wentra::files
