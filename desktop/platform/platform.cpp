@@ -3,8 +3,8 @@
 
 #include "desktop/avfaudio/audio_engine.hpp"
 #include "desktop/avfaudio/speech_synthesizer.hpp"
-#include "desktop/replaykit/screen_recorder.hpp"
 #include "desktop/messageui/mail_compose_view_controller.hpp"
+#include "desktop/replaykit/screen_recorder.hpp"
 #include "desktop/safariservices/safari_view_controller.hpp"
 #include "desktop/speech/speech_recognizer.hpp"
 #include "desktop/uikit/uikit.hpp"
