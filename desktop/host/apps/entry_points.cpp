@@ -33,27 +33,27 @@ Passage passage(ns::UrlSessionTask task, ns::String address) {
     return passage(task.send<"originalRequest", ns::UrlRequest>().url(), address);
 }
 
-void newUrl(ns::String address, PassageHandler handler) {
+void newUrl(ns::String address, const PassageHandler& handler) {
     handler(passage(ns::Url::withString(address), address));
 }
 
-void initialisedUrl(ns::String address, PassageHandler handler) {
+void initialisedUrl(ns::String address, const PassageHandler& handler) {
     handler(passage(ns::Url::make<"initWithString:">(address), address));
 }
 
-void dataTaskOfSessionClass(ns::String address, PassageHandler handler) {
+void dataTaskOfSessionClass(ns::String address, const PassageHandler& handler) {
     handler(
         passage(ns::UrlSession::sendClass<"dataTaskWithURL:", ns::UrlSessionTask>(urlFrom(address)),
                 address));
 }
 
-void handledDataTask(ns::String address, PassageHandler handler) {
+void handledDataTask(ns::String address, const PassageHandler& handler) {
     const auto ignored = ns::UrlSession::Handler::from([](ns::Data, ns::UrlResponse, ns::Error) {});
     handler(
         passage(ns::UrlSession::sharedSession().dataTask(requestFor(address), ignored), address));
 }
 
-void dataTask(ns::String address, PassageHandler handler) {
+void dataTask(ns::String address, const PassageHandler& handler) {
     handler(
         passage(ns::UrlSession::sharedSession().send<"dataTaskWithRequest:", ns::UrlSessionTask>(
                     requestFor(address)),
@@ -92,19 +92,19 @@ private:
     PassageHandler handler_;
 };
 
-void connection(ns::String address, PassageHandler handler) {
+void connection(ns::String address, const PassageHandler& handler) {
     const auto listener = ConnectionListenerKind::make();
-    ConnectionListener::of(listener).listen(address, std::move(handler));
+    ConnectionListener::of(listener).listen(address, handler);
     ns::UrlConnection::sendClass<"connectionWithRequest:delegate:", Object>(requestFor(address),
                                                                             listener);
 }
 
-void webView(ns::String address, PassageHandler handler) {
+void webView(ns::String address, const PassageHandler& handler) {
     const auto view = wk::WebView::withFrame({});
     handler(view.load(requestFor(address)) ? Passage::passed : Passage::changed);
 }
 
-void urlOfRequest(ns::String address, PassageHandler handler) {
+void urlOfRequest(ns::String address, const PassageHandler& handler) {
     const auto request = requestFor(u"https://example.com"_ns);
     request.send<"setURL:">(urlFrom(address));
     handler(passage(request.url(), address));
@@ -119,12 +119,12 @@ bool isTaken(ns::UrlRequest request) {
     }
 }
 
-void protocol(ns::String address, PassageHandler handler) {
+void protocol(ns::String address, const PassageHandler& handler) {
     const bool takes = isTaken(requestFor(address));
     handler(takes ? Passage::changed : Passage::passed);
 }
 
-void canonicalRequest(ns::String address, PassageHandler handler) {
+void canonicalRequest(ns::String address, const PassageHandler& handler) {
     handler(passage(ns::UrlProtocol::sendClass<"canonicalRequestForRequest:", ns::UrlRequest>(
                         requestFor(address))
                         .url(),

@@ -19,7 +19,7 @@ struct EntryPoint {
     const char* className;
     const char* method; ///< as people write it, with "+" before a class method
     /// Begins to load what has that address, and looks whether that is what is loaded.
-    void (*load)(ns::String address, PassageHandler handler);
+    void (*load)(ns::String address, const PassageHandler& handler);
 };
 
 /// All ten. Main thread.
