@@ -145,3 +145,22 @@ test("a word picked by the mouse is translated from the edit menu", async () => 
     await first({ class: "MovableAlertViewzerk" });
     await phone.showing("你好");
 });
+
+test("a copied text is found in the history and taken from there", async () => {
+    await phone.do("preferences", { set: { 开启文字复制: true, kqwzfc: true } });
+    await phone.page.click("#tab-applications");
+    await phone.page.getByRole("button", { name: "重新启动" }).first().click();
+    await phone.page.waitForTimeout(1000);
+    const label = await phone.showing("hello");
+    await phone.press(middle(label.rect), 600);
+    await phone.tap([358, 222]); // the ball
+    const { rect } = await first({ title: "全选文字" });
+    await phone.press(middle(rect), 300);
+    await first({ class: "UITableViewCell" });
+    await phone.do("pasteboard", { set: "something else" });
+
+    const [row] = await phone.do("find", { where: { class: "UITableViewCell", visible: true } });
+    await phone.tap(middle(row.rect));
+    await phone.gone({ class: "UITableViewCell" });
+    assert.equal(await phone.do("pasteboard"), "hello");
+});

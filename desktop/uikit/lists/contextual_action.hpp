@@ -7,6 +7,8 @@
 
 #include "desktop/class.hpp"
 
+#include <vector>
+
 namespace desktop {
 
 class ContextualAction : public PlatformClass<ContextualAction, ui::ContextualAction> {

@@ -4,6 +4,7 @@
 #include "bindings/uikit/button.hpp"
 
 #include <algorithm>
+#include <utility>
 
 namespace desktop {
 namespace {
