@@ -6,6 +6,19 @@
 #include <cstdlib>
 #include <vector>
 
+struct objc_property;
+using objc_property_t = objc_property*;
+
+// Of the runtime's C interface what only this file needs.
+extern "C" {
+/// How many classes there are; writes at most `count` of them.
+int objc_getClassList(Class* buffer, int count);
+objc_property_t* class_copyPropertyList(Class cls, unsigned int* count);
+const char* property_getName(objc_property_t property);
+Method* class_copyMethodList(Class cls, unsigned int* count);
+SEL method_getName(Method method);
+}
+
 namespace objc {
 
 /// Every class that is registered, in the runtime's order.

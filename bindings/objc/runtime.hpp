@@ -10,14 +10,12 @@ struct objc_class;
 struct objc_selector;
 struct objc_method;
 struct objc_ivar;
-struct objc_property;
 
 using id = objc_object*;
 using Class = objc_class*;
 using SEL = const objc_selector*;
 using Method = objc_method*;
 using Ivar = objc_ivar*;
-using objc_property_t = objc_property*;
 using IMP = void (*)();
 
 namespace objc {
@@ -39,8 +37,6 @@ Class objc_getMetaClass(const char* name);
 Class objc_lookUpClass(const char* name);
 Class objc_allocateClassPair(Class superclass, const char* name, std::size_t extraBytes);
 void objc_registerClassPair(Class cls);
-/// How many classes there are; writes at most `count` of them.
-int objc_getClassList(Class* buffer, int count);
 
 Class object_setClass(id object, Class cls);
 id objc_alloc(Class cls);
@@ -64,8 +60,6 @@ Method class_getInstanceMethod(Class cls, SEL name);
 Method class_getClassMethod(Class cls, SEL name);
 IMP class_getMethodImplementation(Class cls, SEL name);
 Method* class_copyMethodList(Class cls, unsigned int* count);
-objc_property_t* class_copyPropertyList(Class cls, unsigned int* count);
-const char* property_getName(objc_property_t property);
 
 IMP method_getImplementation(Method method);
 IMP method_setImplementation(Method method, IMP implementation);

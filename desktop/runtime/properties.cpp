@@ -1,7 +1,7 @@
 // Properties of classes that are made at run time, which GNU libobjc lacks.
 #include "desktop/runtime/properties.hpp"
 
-#include "bindings/objc/runtime.hpp"
+#include "bindings/objc/class_list.hpp"
 
 #include <cstdlib>
 #include <map>
