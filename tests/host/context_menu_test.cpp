@@ -50,6 +50,17 @@ TEST_F(ContextMenu, ComesUpByAPressAndGoesByATapBesideIt) {
     EXPECT_TRUE(host.result({{"do", "pasteboard"}}).is_string());
 }
 
+TEST_F(ContextMenu, ScrollsWhereTheScreenIsLow) {
+    host.result({{"do", "rotate"}, {"to", "landscapeLeft"}});
+    host.result({{"do", "advance"}, {"seconds", 1}});
+    context({{"on", cell}});
+    const Json list = host.result({{"do", "find"}, {"where", {{"class", "UIScrollView"}}}}).back();
+    EXPECT_LT(list["frame"][3], 390);
+    host.result({{"do", "slide"}, {"path", {{100, 300}, {100, 200}, {100, 120}}}});
+    EXPECT_GT(host.message(list, "contentOffset")["point"][1], 100);
+    EXPECT_EQ(context(Json::object())["items"].size(), 12U); // nothing was chosen
+}
+
 TEST_F(ContextMenu, RefusesWhatIsNotThere) {
     const Json window = host.result({{"do", "tree"}})[0];
     EXPECT_NE(host.error({{"do", "context"}, {"on", window}}), "");

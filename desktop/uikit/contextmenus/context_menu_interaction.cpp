@@ -74,7 +74,7 @@ bool ContextMenuInteraction::show(CGPoint place) {
                                           ui::ContextMenuConfiguration>(self(), place);
     const auto menu =
         configuration ? ContextMenuConfiguration::of(configuration).menu() : ui::Menu();
-    if (!menu || menu.children().count() == 0) {
+    if (!menu || menu.children().count() == 0 || !view().window()) {
         return false;
     }
     ContextMenuView::show(menu, ContextMenuConfiguration::of(configuration).preview(), view());

@@ -47,6 +47,7 @@ void ContextMenuView::show(ui::Menu menu, ui::ViewController preview, ui::View b
     of(view).beside_ = beside.convertRect(beside.bounds(), nullptr);
     of(view).build(menu, preview);
     window.addSubview(view);
+    view.layoutIfNeeded();
     current() = view;
 }
 
@@ -73,7 +74,7 @@ void ContextMenuView::choose(ui::MenuElement element) {
 void ContextMenuView::build(ui::Menu menu, ui::ViewController preview) {
     menu_ = menu;
     preview_ = preview;
-    list_ = ui::View::withFrame({});
+    list_ = ui::ScrollView::withFrame({});
     list_.setBackgroundColor(plain());
     list_.layer().setCornerRadius(corner);
     list_.setClipsToBounds(true);
@@ -90,7 +91,7 @@ void ContextMenuView::build(ui::Menu menu, ui::ViewController preview) {
         list_.addSubview(rows_.back().view);
         top += rowHeight;
     }
-    list_.setFrame({{}, {listWidth, top}});
+    list_.setContentSize({listWidth, top});
     self().addSubview(list_);
     if (preview) {
         preview.view().setClipsToBounds(true);
@@ -115,18 +116,20 @@ ui::View ContextMenuView::rowFor(ui::MenuElement element, double top) const {
     return row;
 }
 
-/// Below the view, or above it where there is more room; over it where neither has enough.
+/// Below the view, or above it where there is more room; over it where neither has enough. A list
+/// that is higher than the screen scrolls.
 void ContextMenuView::layoutSubviews() {
     const CGRect room = self().bounds();
     const UIEdgeInsets safe = self().safeAreaInsets();
-    const double height = list_.bounds().size.height;
     const double least = safe.top + gap;
-    const double most = room.size.height - safe.bottom - gap - height;
+    const double foot = room.size.height - safe.bottom - gap;
+    const double height = std::min(list_.contentSize().height, foot - least);
+    const double most = foot - height;
     const double below = beside_.origin.y + beside_.size.height + gap;
     const double above = beside_.origin.y - gap - height;
     const double y = std::max(least, below <= most ? below : above >= least ? above : most);
-    const double x =
-        std::clamp(beside_.origin.x, gap, std::max(gap, room.size.width - gap - listWidth));
+    const double right = room.size.width - safe.right - gap - listWidth;
+    const double x = std::max(safe.left + gap, std::min(beside_.origin.x, right));
     list_.setFrame({{x, y}, {listWidth, height}});
     if (preview_) {
         const CGSize wanted = preview_.preferredContentSize();

@@ -5,6 +5,7 @@
 #include "bindings/uikit/event.hpp"
 #include "bindings/uikit/label.hpp"
 #include "bindings/uikit/menu.hpp"
+#include "bindings/uikit/scroll_view.hpp"
 #include "bindings/uikit/touch.hpp"
 #include "bindings/uikit/view_controller.hpp"
 
@@ -61,7 +62,7 @@ private:
 
     objc::Strong<ui::Menu> menu_;
     objc::Strong<ui::ViewController> preview_;
-    objc::Strong<ui::View> list_;
+    objc::Strong<ui::ScrollView> list_;
     CGRect beside_;
     std::vector<Row> rows_;
 };

@@ -36,7 +36,7 @@ void Creating::createAnywhere(const std::string& name, Kind kind) {
 void Creating::askAnywhere() {
     const Alert alert(u"新建"_ns, u"\n文件还是文件夹？"_ns);
     alert.field(u"名称"_ns);
-    const auto making = [this](std::string ending, Kind kind) {
+    const auto making = [this](const std::string& ending, Kind kind) {
         return [this, ending, kind, whole = objc::Strong(self())](ui::TextField field) {
             createAnywhere(pathOf(field.text()) + ending, kind);
         };

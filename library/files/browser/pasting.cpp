@@ -61,7 +61,7 @@ void Pasting::askAbout(const std::string& source, const std::string& destination
     const auto pane = objc::Strong(table);
     Alert(u"警告"_ns, u"目标路径已存在同名文件，你希望覆盖文件还是重命名粘贴?"_ns)
         .action(u"覆盖文件"_ns,
-                [this, from, to, whole = objc::Strong(self())] {
+                [from, to, whole = objc::Strong(self())] {
                     whole.send<"copyItemAtPath:toPath:">(static_cast<ns::String>(from),
                                                          static_cast<ns::String>(to));
                 })
