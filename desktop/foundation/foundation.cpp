@@ -3,7 +3,6 @@
 
 #include "desktop/foundation/application_folders.hpp"
 #include "desktop/foundation/bundle.hpp"
-#include "desktop/foundation/byte_count.hpp"
 #include "desktop/foundation/data_detector.hpp"
 #include "desktop/foundation/date.hpp"
 #include "desktop/foundation/delayed_perform.hpp"
@@ -41,7 +40,6 @@ void install(const std::string& bundleIdentifier) {
     installDictionaryFiles();
     installFileManager();
     installErrorDescriptions();
-    installByteCounts();
     installPropertyListSerialization();
     installJsonSerialization();
     installDelayedPerform();
