@@ -2,6 +2,7 @@
 // against memmem, and a large file in the viewer of bytes against reading it.
 #include "bench/support/phone.hpp"
 
+#include "bindings/foundation/data.hpp"
 #include "bindings/foundation/input_stream.hpp"
 #include "bindings/foundation/url.hpp"
 #include "bindings/objc/pool.hpp"

@@ -59,7 +59,6 @@ objc::Boolean class_addProperty(Class cls, const char* name,
 Method class_getInstanceMethod(Class cls, SEL name);
 Method class_getClassMethod(Class cls, SEL name);
 IMP class_getMethodImplementation(Class cls, SEL name);
-Method* class_copyMethodList(Class cls, unsigned int* count);
 
 IMP method_getImplementation(Method method);
 IMP method_setImplementation(Method method, IMP implementation);

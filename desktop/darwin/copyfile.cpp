@@ -105,6 +105,11 @@ bool copyLink(const char* from, const char* to) {
     return length >= 0 && symlink(target.data(), to) == 0;
 }
 
+std::string below(const std::string& folder, const std::string& name) {
+    std::string path = folder;
+    return path.append("/").append(name);
+}
+
 bool copyTree(const std::string& from, const std::string& to);
 
 bool copyFolder(const std::string& from, const std::string& to) {
@@ -116,7 +121,7 @@ bool copyFolder(const std::string& from, const std::string& to) {
     errno = folder ? 0 : errno;
     while (const dirent* entry = folder ? readdir(folder.get()) : nullptr) {
         const std::string name = entry->d_name;
-        if (name != "." && name != ".." && !copyTree(from + "/" + name, to + "/" + name)) {
+        if (name != "." && name != ".." && !copyTree(below(from, name), below(to, name))) {
             return false;
         }
         errno = 0;

@@ -5,7 +5,6 @@
 #include "desktop/foundation/base64.hpp"
 #include "desktop/foundation/bundle.hpp"
 #include "desktop/foundation/byte_count_formatter.hpp"
-#include "desktop/foundation/byte_count.hpp"
 #include "desktop/foundation/data_detector.hpp"
 #include "desktop/foundation/date.hpp"
 #include "desktop/foundation/delayed_perform.hpp"
@@ -48,7 +47,6 @@ void install(const std::string& bundleIdentifier) {
     installDictionaryFiles();
     installFileManager();
     installErrorDescriptions();
-    installByteCounts();
     installPropertyListSerialization();
     installJsonSerialization();
     installDelayedPerform();

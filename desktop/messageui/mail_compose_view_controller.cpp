@@ -85,7 +85,7 @@ void MailComposeViewController::setBody(ns::String body, bool isHtml) {
 
 void MailComposeViewController::addAttachment(ns::Data data, ns::String type, ns::String name) {
     contents_.emplace_back(data);
-    message_.attachments.push_back({name.utf8(), type.utf8(), {data.bytes(), data.length()}});
+    message_.attachments.push_back({name.utf8(), type.utf8(), data.bytes()});
 }
 
 void MailComposeViewController::viewDidLoad() {

@@ -20,5 +20,6 @@ template string operator+<char, char_traits<char>, allocator<char>>(const char*,
 
 string to_string(unsigned number) { return decimal(number); }
 string to_string(long number) { return decimal(number); }
+string to_string(unsigned long long number) { return decimal(number); }
 
 _LIBCPP_END_NAMESPACE_STD

@@ -16,6 +16,7 @@ using Rank = std::pair<long long, long>;
 
 struct Ranked {
     Rank rank;
+    std::size_t place; ///< among those that are sorted: equal ones keep their order
     std::string name;
 };
 
@@ -29,10 +30,10 @@ Rank bySize(const struct stat& status) { return {status.st_size, 0}; }
 constexpr Rank oldest{std::numeric_limits<long long>::min(), 0};
 constexpr Rank empty{0, 0};
 
-Ranked ranked(const Folder& folder, const char* name, Rank (*rank)(const struct stat&),
-              Rank unknown) {
+void add(std::vector<Ranked>& entries, const Folder& folder, const char* name,
+         Rank (*rank)(const struct stat&), Rank unknown) {
     struct stat status {};
-    return {folder.ask(name, status) ? rank(status) : unknown, name};
+    entries.push_back({folder.ask(name, status) ? rank(status) : unknown, entries.size(), name});
 }
 
 std::vector<Ranked> ranked(const Names& names, const std::string& path,
@@ -41,15 +42,18 @@ std::vector<Ranked> ranked(const Names& names, const std::string& path,
     std::vector<Ranked> entries;
     entries.reserve(names.size());
     for (const std::string& name : names) {
-        entries.push_back(ranked(folder, name.c_str(), rank, unknown));
+        add(entries, folder, name.c_str(), rank, unknown);
     }
     return entries;
 }
 
 /// Takes the entries' names.
 Names sorted(std::vector<Ranked> entries, Order order) {
-    std::ranges::stable_sort(entries, [order](const Ranked& one, const Ranked& other) {
-        return order == Order::ascending ? one.rank < other.rank : other.rank < one.rank;
+    std::ranges::sort(entries, [order](const Ranked& one, const Ranked& other) {
+        if (one.rank == other.rank) {
+            return one.place < other.place;
+        }
+        return (order == Order::ascending) == (one.rank < other.rank);
     });
     Names names;
     names.reserve(entries.size());
@@ -65,7 +69,7 @@ Names listing(const std::string& path) {
     const Folder folder(path);
     std::vector<Ranked> entries;
     while (const dirent* entry = folder.next()) {
-        entries.push_back(ranked(folder, entry->d_name, &byDate, oldest));
+        add(entries, folder, entry->d_name, &byDate, oldest);
     }
     return sorted(std::move(entries), Order::descending);
 }

@@ -8,7 +8,6 @@
 namespace wentra::toolbox {
 namespace {
 
-void notYet(FloatingViewController) {}
 void notYetFor(FloatingViewController, objc::Object) {}
 
 } // namespace

@@ -140,7 +140,8 @@ void stringsGrow() {
     text.insert(0, "begin ");
     text = "very " + text;
     expect(text.size() == 3011 && text.starts_with("very begin ab"), "strings lose text");
-    expect(std::to_string(4294967295U) == "4294967295" && std::to_string(-20L) == "-20",
+    expect(std::to_string(4294967295U) == "4294967295" && std::to_string(-20L) == "-20" &&
+               std::to_string(18446744073709551615ULL) == "18446744073709551615",
            "numbers are written wrongly");
 }
 

@@ -8,7 +8,7 @@ namespace wentra::files {
 
 std::string numberedPath(const std::string& source, const std::string& destination) {
     std::string path = destination;
-    for (int counter = 1; entryExists(path); ++counter) {
+    for (unsigned counter = 1; entryExists(path); ++counter) {
         std::string name(baseOf(source));
         name.append("-").append(std::to_string(counter)).append(".").append(extensionOf(source));
         path = joined(parentOf(destination), name);

@@ -140,7 +140,8 @@ ui::CollectionViewCell HexEditorViewControllerPeer::cell(ui::CollectionView grid
                                                          ns::IndexPath path) const {
     const auto cell = grid.dequeueReusableCell(u"HexCell"_ns, path).assume<HexCell>();
     const ns::Data bytes = block(path.section());
-    const auto digits = hexDigits(static_cast<unsigned char>(bytes.bytes()[path.item()]));
+    const auto digits =
+        hexDigits(static_cast<unsigned char>(bytes.bytes()[static_cast<std::size_t>(path.item())]));
     cell.hexLabel().setText(ns::String::from({digits.data(), digits.size()}));
     return cell;
 }

@@ -11,6 +11,13 @@ class Operations : public Browser {
 protected:
     fs::path leftFile(const std::string& name) { return files.documents / name; }
     fs::path rightFile(const std::string& name) { return files.media / name; }
+    /// Until the list is empty: each copy takes itself off when it is done.
+    void awaitCopies() {
+        constexpr int longest = 5000;
+        for (int turn = 0; turn < longest && !send("copiedPaths").empty(); ++turn) {
+            phone->advance(0.1);
+        }
+    }
     std::vector<std::string> actions() {
         std::vector<std::string> titles;
         const Json front = alert();
@@ -72,9 +79,7 @@ TEST_F(Operations, CopyAllAndEmptyTheList) {
     phone->copy(nullptr);
     paneMenu(right, "粘贴内容");
     EXPECT_TRUE(alert().is_null());
-    for (int turn = 0; turn < 100 && !send("copiedPaths").empty(); ++turn) {
-        phone->advance(0.1);
-    }
+    awaitCopies();
     EXPECT_EQ(list(right), (Json{"a.txt", "b"})); // with the dates of the originals
     EXPECT_EQ(read(rightFile("a.txt")), "a");
     EXPECT_EQ(send("copiedPaths").size(), 0U);
@@ -97,9 +102,7 @@ TEST_F(Operations, AskBeforeTheyReplaceAndCount) {
     write(rightFile("a"), "longer than before");
     paneMenu(right, "粘贴内容");
     choose("覆盖文件");
-    for (int turn = 0; turn < 100 && !send("copiedPaths").empty(); ++turn) {
-        phone->advance(0.1);
-    }
+    awaitCopies();
     EXPECT_EQ(read(rightFile("a")), "new");
 }
 
@@ -110,9 +113,7 @@ TEST_F(Operations, LeaveAFileAloneThatIsPastedOverItself) {
     phone->copy(nullptr);
     paneMenu(left, "粘贴内容");
     choose("覆盖文件");
-    for (int turn = 0; turn < 100 && !send("copiedPaths").empty(); ++turn) {
-        phone->advance(0.1);
-    }
+    awaitCopies();
     EXPECT_EQ(read(leftFile("a")), "whole");
     EXPECT_EQ(list(left), Json{"a"});
 }
