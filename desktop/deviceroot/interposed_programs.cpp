@@ -102,6 +102,14 @@ int posix_spawnp(pid_t* process, const char* path, const posix_spawn_file_action
     return errorOf(spawn());
 }
 
+int posix_spawn_file_actions_addchdir_np(posix_spawn_file_actions_t* actions,
+                                         const char* folder) noexcept {
+    const auto add = [&]() -> int {
+        DEVICEROOT_REDIRECT(posix_spawn_file_actions_addchdir_np, actions, DevicePath(folder));
+    };
+    return errorOf(add());
+}
+
 void* dlopen(const char* path, int mode) noexcept {
     constexpr std::string_view searched = "@rpath/";
     const std::string_view name(path == nullptr ? "" : path);

@@ -91,6 +91,7 @@ void MailComposeViewController::addAttachment(ns::Data data, ns::String type, ns
 void MailComposeViewController::viewDidLoad() {
     super<"viewDidLoad">();
     const auto form = ui::ViewController::make();
+    form.view().setFrame(self().view().bounds());
     showMail(message_, form.view());
     form.navigationItem().setTitle(u"新邮件"_ns);
     form.navigationItem().setLeftBarButtonItem(ui::BarButtonItem::withSystemItem(

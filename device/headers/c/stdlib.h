@@ -26,6 +26,7 @@ int posix_memalign(void** memory, size_t alignment, size_t size);
 
 char* realpath(const char* path, char* resolved);
 
+char* getenv(const char* name);
 unsigned arc4random_uniform(unsigned bound);
 
 int abs(int number);

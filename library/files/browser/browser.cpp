@@ -7,6 +7,7 @@
 #include "library/files/browser/menus.hpp"
 #include "library/files/browser/opening.hpp"
 #include "library/files/browser/screen.hpp"
+#include "library/files/conversion/package_extraction.hpp"
 
 namespace wentra::files {
 namespace {
@@ -21,7 +22,8 @@ public:
                                      objc::method<"viewDidLoad", &Self::load>()},
                           Panes::methods(), Screen::methods(), Cells::methods(), Opening::methods(),
                           Pasting::methods(), Deleting::methods(), Creating::methods(),
-                          DuplicateFinder::methods(), Menus::methods());
+                          DuplicateFinder::methods(), ImageConversion::methods(),
+                          MailSending::methods(), PackageExtraction::methods(), Menus::methods());
     }
 
     Panes panes{self()};
@@ -32,7 +34,12 @@ public:
     Deleting deleting{self(), panes};
     Creating creating{self(), panes};
     DuplicateFinder duplicates{self(), panes};
-    Menus menus{self(), {panes, pasting, deleting, creating, duplicates, Transfers(self(), panes)}};
+    ImageConversion imageConversion{self(), panes};
+    MailSending mailSending{self(), panes};
+    PackageExtraction packageExtraction{self()};
+    Menus menus{self(),
+                {panes, pasting, deleting, creating, duplicates, imageConversion, mailSending,
+                 Transfers(self(), panes)}};
 
 private:
     /// Presenters make it as any controller; its superclass wants a layout nevertheless.
@@ -65,6 +72,13 @@ Deleting& Deleting::of(objc::Object controller) { return Whole::of(controller).d
 Creating& Creating::of(objc::Object controller) { return Whole::of(controller).creating; }
 DuplicateFinder& DuplicateFinder::of(objc::Object controller) {
     return Whole::of(controller).duplicates;
+}
+ImageConversion& ImageConversion::of(objc::Object controller) {
+    return Whole::of(controller).imageConversion;
+}
+MailSending& MailSending::of(objc::Object controller) { return Whole::of(controller).mailSending; }
+PackageExtraction& PackageExtraction::of(objc::Object controller) {
+    return Whole::of(controller).packageExtraction;
 }
 Menus& Menus::of(objc::Object controller) { return Whole::of(controller).menus; }
 

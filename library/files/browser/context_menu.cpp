@@ -6,6 +6,7 @@
 #include "library/files/browser/file_reading.hpp"
 #include "library/files/browser/menus.hpp"
 #include "library/files/browser/viewers.hpp"
+#include "library/files/conversion/xml_copy.hpp"
 
 namespace wentra::files {
 namespace {
@@ -54,9 +55,6 @@ constexpr auto showBytes = [](Operations& all, const Row& row) {
     }
 };
 
-/// What is not there yet.
-constexpr auto nothing = [](Operations&, const Row&) {};
-
 constexpr std::array actions{
     RowAction{u"选择", u"checkmark.circle", choose},
     RowAction{u"删除", u"trash",
@@ -69,10 +67,19 @@ constexpr std::array actions{
     RowAction{u"重命名", u"pencil.and.outline",
               [](Operations& all, const Row& row) { all.transfers.rename(row.table, row.path); }},
     RowAction{u"复制路径", u"chart.bar.doc.horizontal", copyPath},
-    RowAction{u"直接发邮件附件", u"envelope", nothing},
-    RowAction{u"图片转换为JPG", u"photo", nothing},
-    RowAction{u"图片转换为PNG", u"photo.artframe", nothing},
-    RowAction{u"转换为XML明文", u"faxmachine", nothing},
+    RowAction{
+        u"直接发邮件附件", u"envelope",
+        [](Operations& all, const Row& row) { all.mailSending.compose(row.table, row.path); }},
+    RowAction{u"图片转换为JPG", u"photo",
+              [](Operations& all, const Row& row) {
+                  all.imageConversion.convert(row.path, row.table, u"jpg"_ns);
+              }},
+    RowAction{u"图片转换为PNG", u"photo.artframe",
+              [](Operations& all, const Row& row) {
+                  all.imageConversion.convert(row.path, row.table, u"png"_ns);
+              }},
+    RowAction{u"转换为XML明文", u"faxmachine",
+              [](Operations& all, const Row& row) { copyAsXml(all.panes, row.table, row.path); }},
     RowAction{u"十六进制预览器", u"textformat.abc.dottedunderline", showBytes},
 };
 

@@ -9,6 +9,8 @@
 #include "library/files/browser/duplicate_finder.hpp"
 #include "library/files/browser/pasting.hpp"
 #include "library/files/browser/transfers.hpp"
+#include "library/files/conversion/image_conversion.hpp"
+#include "library/files/conversion/mail_sending.hpp"
 
 namespace wentra::files {
 
@@ -19,6 +21,8 @@ struct Operations {
     Deleting& deleting;
     Creating& creating;
     DuplicateFinder& duplicates;
+    ImageConversion& imageConversion;
+    MailSending& mailSending;
     Transfers transfers;
 };
 
