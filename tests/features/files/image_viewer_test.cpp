@@ -50,7 +50,7 @@ protected:
 TEST_F(ImageViewer, OpensAtTheChosenImage) {
     openThree(2);
     EXPECT_EQ(offset(), 2 * 390);
-    EXPECT_EQ(line(), "图片名: c.png, 像素: 8 × 8, \n宽高比: 1.00, 大小: 203 bytes");
+    EXPECT_EQ(line(), "图片名: c.png, 像素: 8 × 8, \n宽高比: 1.00, 大小: 203字节");
 }
 
 TEST_F(ImageViewer, TellsPixelsRatioAndSize) {
@@ -129,7 +129,7 @@ TEST_F(ImageViewer, AlwaysSharesTheFirstImage) {
 TEST_F(ImageViewer, LogsThatThereIsNothingToShare) {
     write("a.png", "no picture");
     open({"a.png"}, 0);
-    EXPECT_EQ(line(), "图片名: a.png, 像素: 0 × 0, \n宽高比: nan, 大小: 10 bytes");
+    EXPECT_EQ(line(), "图片名: a.png, 像素: 0 × 0, \n宽高比: nan, 大小: 10字节");
     press("分享图片");
     const auto logged = phone.events("log");
     ASSERT_FALSE(logged.empty());
