@@ -28,6 +28,7 @@ protected:
     }
     /// Chooses from the row's menu.
     void choose(const std::string& title, const std::string& name) {
+        phone.message(table, "layoutIfNeeded");
         const Json cell = phone.message(table, "cellForRowAtIndexPath:", {row(name)});
         phone.result({{"do", "context"}, {"on", cell}, {"choose", title}});
         phone.advance(1);
@@ -36,10 +37,8 @@ protected:
         const Json shown = alert();
         return shown["title"].get<std::string>() + ": " + shown["message"].get<std::string>();
     }
-    /// A picture of two pixels, the second half transparent.
+    /// A picture of two pixels.
     void paint(const std::string& name) {
-        const Json icon = phone.message({{"class", "UIImage"}}, "systemImageNamed:", {"trash"});
-        static_cast<void>(icon);
         write("work/" + name, "P6\n2 1\n255\n\xFF\x01\x01\x01\x01\xFF");
     }
 
