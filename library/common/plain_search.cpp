@@ -22,16 +22,22 @@ constexpr bool isPlain(char16_t unit) {
 constexpr char16_t lowerCase(char16_t unit) {
     return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 0x20) : unit;
 }
-constexpr char16_t upperCase(char16_t unit) {
-    return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - 0x20) : unit;
+
+bool isAscii(std::u16string_view block) {
+    std::uint16_t seen = 0;
+    for (const char16_t unit : block) {
+        seen = static_cast<std::uint16_t>(seen | unit);
+    }
+    return seen < 0x80;
 }
 
-/// A unit of what is sought, in both cases.
+/// A unit of what is sought, and its case.
 struct Letter {
-    explicit Letter(char16_t unit) : lower(lowerCase(unit)), upper(upperCase(unit)) {}
+    explicit Letter(char16_t unit)
+        : lower(lowerCase(unit)), caseBit(lower >= u'a' && lower <= u'z' ? u' ' : u'\0') {}
 
     char16_t lower;
-    char16_t upper;
+    char16_t caseBit; ///< what tells it from the capital letter; 0 where there is none
 };
 
 class Search {
@@ -67,13 +73,15 @@ private:
     [[nodiscard]] bool mayStandIn(std::size_t place) const {
         const char16_t* const starts = text_.data() + place;
         const char16_t* const ends = starts + sought_.size() - 1;
-        const auto [lower, upper] = first_;
-        const auto [lastLower, lastUpper] = last_;
+        const auto [lower, caseBit] = first_;
+        const auto [lastLower, lastCaseBit] = last_;
+        // A unit with the case's bit set is the small letter: what differs from it in no bit.
         std::uint16_t found = 0;
         for (std::size_t index = 0; index < blockSize; ++index) {
-            const bool first = (starts[index] == lower) | (starts[index] == upper);
-            const bool last = (ends[index] == lastLower) | (ends[index] == lastUpper);
-            found = static_cast<std::uint16_t>(found | (first & last));
+            const auto first = static_cast<std::uint16_t>((starts[index] | caseBit) ^ lower);
+            const auto last = static_cast<std::uint16_t>((ends[index] | lastCaseBit) ^ lastLower);
+            const auto differs = static_cast<std::uint16_t>(first | last);
+            found = static_cast<std::uint16_t>(found | (differs == 0 ? 1U : 0U));
         }
         return found != 0;
     }
@@ -94,11 +102,7 @@ private:
 bool isPlainText(std::u16string_view text) {
     while (!text.empty()) {
         const std::u16string_view block = text.substr(0, blockSize);
-        bool plain = true;
-        for (const char16_t unit : block) {
-            plain &= isPlain(unit);
-        }
-        if (!plain) {
+        if (!isAscii(block) && !std::ranges::all_of(block, &isPlain)) {
             return false;
         }
         text.remove_prefix(block.size());
