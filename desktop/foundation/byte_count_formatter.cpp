@@ -1,4 +1,4 @@
-// The platform's rules in English.
+// The platform's rules in simplified Chinese.
 #include "desktop/foundation/byte_count_formatter.hpp"
 
 #include "bindings/foundation/byte_count_formatter.hpp"
@@ -47,10 +47,10 @@ ns::String text(Formatting /*next*/, objc::Object /*formatter*/, long long bytes
 std::string byteCountText(long long bytes, double kilobyte) {
     const auto count = static_cast<double>(bytes);
     if (bytes == 0) {
-        return "Zero KB";
+        return "零KB";
     }
     if (std::abs(count) < kilobyte) {
-        return std::to_string(bytes) + (bytes == 1 ? " byte" : " bytes");
+        return std::to_string(bytes) + "字节";
     }
     double value = count / kilobyte;
     std::size_t unit = 0;

@@ -12,9 +12,9 @@ using desktop::foundation::byteCountText;
 
 TEST(ByteCountFormatter, WritesTheLargestUnitOfWhichThereIsOne) {
     const std::pair<long long, const char*> texts[]{
-        {0, "Zero KB"},
-        {1, "1 byte"},
-        {999, "999 bytes"},
+        {0, "零KB"},
+        {1, "1字节"},
+        {999, "999字节"},
         {1000, "1 KB"},
         {1499, "1 KB"},
         {999'499, "999 KB"},
