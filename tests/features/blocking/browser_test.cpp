@@ -39,12 +39,12 @@ const Rows allPass{{"+URLWithString:", "通过通过通过"},
                    {"+canInitWithRequest:", "通过通过通过"},
                    {"+canonicalRequestForRequest:", "通过通过通过"}};
 
-TEST(Browser, EverythingPassesWithoutTheLibrary) {
+TEST(BrowserApplication, EverythingPassesWithoutTheLibrary) {
     tests::Phone phone({"--app", "browser", "--no-library"});
     EXPECT_EQ(rows(phone), allPass);
 }
 
-TEST(Browser, ShowsWhatIsBlockedAtEachEntryPoint) {
+TEST(BrowserApplication, ShowsWhatIsBlockedAtEachEntryPoint) {
     tests::Phone phone({"--app", "browser"});
     Rows blocked{{"+URLWithString:", "通过通过通过"},
                  {"initWithString:", "通过屏蔽屏蔽"},
@@ -65,7 +65,7 @@ TEST(Browser, ShowsWhatIsBlockedAtEachEntryPoint) {
     EXPECT_TRUE(phone.swallowed().empty());
 }
 
-TEST(Browser, EveryLoadThatPassesIsARequest) {
+TEST(BrowserApplication, EveryLoadThatPassesIsARequest) {
     tests::Phone phone({"--app", "browser"});
     rows(phone);
     const Json events = phone.result({{"do", "events"}});
