@@ -19,6 +19,7 @@ template class basic_string<char>;
 template string operator+<char, char_traits<char>, allocator<char>>(const char*, const string&);
 
 string to_string(unsigned number) { return decimal(number); }
+string to_string(unsigned long number) { return decimal(number); }
 string to_string(long number) { return decimal(number); }
 string to_string(unsigned long long number) { return decimal(number); }
 

@@ -36,6 +36,7 @@ bool claim(volatile std::once_flag::_State_type& state) {
 
 _LIBCPP_BEGIN_NAMESPACE_STD
 
+mutex::~mutex() noexcept { pthread_mutex_destroy(&__m_); }
 void mutex::lock() { pthread_mutex_lock(&__m_); }
 void mutex::unlock() noexcept { pthread_mutex_unlock(&__m_); }
 

@@ -9,8 +9,9 @@ namespace wentra::clipboard {
 std::vector<std::size_t> orderOf(std::span<const std::u16string> times, bool ascending) {
     std::vector<std::size_t> places(times.size());
     std::iota(places.begin(), places.end(), std::size_t{0});
-    std::ranges::stable_sort(places, [times, ascending](std::size_t one, std::size_t other) {
-        return ascending ? times[one] < times[other] : times[one] > times[other];
+    std::ranges::sort(places, [times, ascending](std::size_t one, std::size_t other) {
+        const int order = times[one].compare(times[other]);
+        return order == 0 ? one < other : (order < 0) == ascending;
     });
     return places;
 }

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <array>
-#include <unordered_set>
+#include <set>
 
 namespace wentra::utilities {
 namespace {
@@ -22,7 +22,7 @@ bool isTime(std::u16string_view number) {
 std::vector<std::u16string_view> longNumbers(std::u16string_view text) {
     constexpr int length = 13;
     std::vector<std::u16string_view> numbers;
-    std::unordered_set<std::u16string_view> known;
+    std::set<std::u16string_view> known;
     int digits = 0;
     std::size_t start = 0;
     for (std::size_t at = 0; at < text.size();) {
