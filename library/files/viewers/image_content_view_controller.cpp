@@ -16,6 +16,7 @@
 #include "library/files/viewers/image_info.hpp"
 #include "library/files/viewers/regular_file.hpp"
 
+#include <cmath>
 #include <vector>
 
 namespace wentra::files {
@@ -199,7 +200,8 @@ double ImageContentViewControllerPeer::position() const {
 
 /// On the way back to the first page the line stays as it is until the pages come to rest.
 void ImageContentViewControllerPeer::scrolled(ui::ScrollView) {
-    const auto page = static_cast<long>(position() + 0.5);
+    const double rounded = std::trunc(position() + 0.5);
+    const auto page = static_cast<long>(rounded);
     if (page != pageControl_.currentPage() && page != describedIndex_) {
         updateInfo(page);
     }

@@ -23,7 +23,7 @@ using namespace ns::literals;
 constexpr std::array<double, 3> squeezedScales{0.3, 0.7, 1};
 constexpr double secondsOfScale = 0.1 / squeezedScales.size();
 
-void squeeze(objc::Strong<ui::View> view, std::size_t step = 0) {
+void squeeze(const objc::Strong<ui::View>& view, std::size_t step = 0) {
     if (step == squeezedScales.size()) {
         return;
     }
