@@ -36,7 +36,9 @@ bool claim(volatile std::once_flag::_State_type& state) {
 
 _LIBCPP_BEGIN_NAMESPACE_STD
 
+#ifndef _LIBCPP_HAS_TRIVIAL_MUTEX_DESTRUCTION // as on Linux, where this is tested
 mutex::~mutex() noexcept { pthread_mutex_destroy(&__m_); }
+#endif
 void mutex::lock() { pthread_mutex_lock(&__m_); }
 void mutex::unlock() noexcept { pthread_mutex_unlock(&__m_); }
 
