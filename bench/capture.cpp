@@ -1,10 +1,10 @@
 // Tall pictures, against encoding their pixels alone; and how quickly an application shows its
 // frames while its screen is recorded.
+#include "bench/support/panel_of_texts.hpp"
 #include "bench/support/phone.hpp"
 
 #include "bindings/objc/pool.hpp"
 #include "bindings/uikit/image.hpp"
-#include "bindings/uikit/label.hpp"
 #include "bindings/uikit/screen.hpp"
 #include "bindings/uikit/window.hpp"
 #include "desktop/drawing/png_writer.hpp"
@@ -29,17 +29,7 @@ constexpr double scale = 3;
 struct Scene {
     Scene() {
         window = ui::Window::withFrame(ui::Screen::mainScreen().bounds());
-        panel = ui::View::withFrame({{0, 60}, {390, 610}});
-        panel.setBackgroundColor(ui::Color::white());
-        for (int row = 0; row < 24; ++row) {
-            for (int column = 0; column < 4; ++column) {
-                const auto label =
-                    ui::Label::withFrame({{column * 96.0 + 6, row * 25.0 + 4}, {90, 22}});
-                label.setText(row % 2 == 0 ? u"选择 word"_ns : u"复制文本 12"_ns);
-                panel.addSubview(label);
-            }
-        }
-        window.addSubview(panel);
+        panel = bench::addPanelOfTexts(window);
         window.makeKeyAndVisible();
         controller = FloatingViewController::make();
         static_cast<void>(controller.view());

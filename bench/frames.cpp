@@ -1,9 +1,9 @@
 // What the browser page is sent: bytes and processor time of small and large changes.
+#include "bench/support/panel_of_texts.hpp"
 #include "bench/support/phone.hpp"
 
 #include "bindings/objc/pool.hpp"
 #include "bindings/uikit/application.hpp"
-#include "bindings/uikit/label.hpp"
 #include "bindings/uikit/screen.hpp"
 #include "bindings/uikit/window.hpp"
 #include "desktop/uikit/application/screen_image.hpp"
@@ -25,19 +25,9 @@ struct Scene {
     Scene() {
         const CGRect bounds = ui::Screen::mainScreen().bounds();
         window = ui::Window::withFrame(bounds);
-        panel = ui::View::withFrame({{0, 60}, {390, 610}});
-        panel.setBackgroundColor(ui::Color::white());
-        for (int row = 0; row < 24; ++row) {
-            for (int column = 0; column < 4; ++column) {
-                const auto label =
-                    ui::Label::withFrame({{column * 96.0 + 6, row * 25.0 + 4}, {90, 22}});
-                label.setText(row % 2 == 0 ? u"选择 word"_ns : u"复制文本 12"_ns);
-                panel.addSubview(label);
-            }
-        }
+        panel = bench::addPanelOfTexts(window);
         caret = ui::View::withFrame({{100, 700}, {2, 20}});
         caret.setBackgroundColor(ui::Color::blue());
-        window.addSubview(panel);
         window.addSubview(caret);
         window.makeKeyAndVisible();
     }

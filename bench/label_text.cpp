@@ -2,6 +2,7 @@
 // against the plain approach, which lets Foundation read the file; and what the platform takes of
 // it.
 #include "bench/support/phone.hpp"
+#include "bench/support/plain_read.hpp"
 
 #include "bindings/foundation/dictionary.hpp"
 #include "bindings/foundation/number.hpp"
@@ -13,26 +14,14 @@
 #include <benchmark/benchmark.h>
 
 #include <array>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
 using namespace ns::literals;
 using bench::PlistForm;
 
-/// open, fstat, read, close: what any approach that reads anew has to pay.
 void plainRead(benchmark::State& state, PlistForm form) {
-    const std::string& path = bench::preferenceFile(form);
-    std::array<char, 65536> buffer{};
-    for (auto _ : state) {
-        const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-        struct stat status {};
-        fstat(file, &status);
-        benchmark::DoNotOptimize(read(file, buffer.data(), buffer.size()));
-        close(file);
-    }
+    bench::readPlainly(state, bench::preferenceFile(form));
 }
 
 void preferences(benchmark::State& state, PlistForm form) {

@@ -1,16 +1,12 @@
 // A new URL through the hook that blocks requests, against reading the preference file alone; and
 // what the platform takes of it.
 #include "bench/support/phone.hpp"
+#include "bench/support/plain_read.hpp"
 
 #include "bindings/foundation/url.hpp"
 #include "bindings/objc/pool.hpp"
 
 #include <benchmark/benchmark.h>
-
-#include <array>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
@@ -32,17 +28,8 @@ void platformUrl(benchmark::State& state) {
     make(state);
 }
 
-/// open, fstat, read, close: what any approach that reads anew has to pay.
 void plainBlockingRead(benchmark::State& state, PlistForm form) {
-    const std::string& path = bench::blockingFile(form, true);
-    std::array<char, 65536> buffer{};
-    for (auto _ : state) {
-        const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-        struct stat status {};
-        fstat(file, &status);
-        benchmark::DoNotOptimize(read(file, buffer.data(), buffer.size()));
-        close(file);
-    }
+    bench::readPlainly(state, bench::blockingFile(form, true));
 }
 
 void newUrl(benchmark::State& state, PlistForm form, bool blocks) {

@@ -72,7 +72,7 @@ public:
 
     bool receive(std::string_view piece, long long received, long long expected) override {
         file_.write(piece.data(), static_cast<std::streamsize>(piece.size()));
-        if (delegateFor(progress)) {
+        if (!handler_ && delegateFor(progress)) {
             UrlSession::of(session_).perform([delivery = this, session = objc::Strong(session_),
                                               task = objc::Strong(task_),
                                               written = static_cast<long long>(piece.size()),

@@ -19,6 +19,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <filesystem>
 #include <future>
 
 namespace {
@@ -337,26 +338,6 @@ TEST_F(UrlSession, IsUsedFromSeveralThreads) {
     EXPECT_EQ(good, 40);
 }
 
-TEST_F(UrlSession, DownloadsToAFileThatIsGoneAfterwards) {
-    const PlainServer server([](const std::string&) { return response("the file"); });
-    std::promise<std::pair<std::string, std::string>> promise;
-    ns::UrlSession::sharedSession()
-        .downloadTask(
-            urlFrom(server.url("/")),
-            ns::UrlSession::DownloadHandler::from(
-                [&promise](ns::Url file, ns::UrlResponse, ns::Error) {
-                    const auto path = file.send<"path", ns::String>();
-                    promise.set_value({path.utf8(), bytesOf(ns::Data::withContentsOfFile(path))});
-                }))
-        .resume();
-    const auto [path, content] = awaited(promise.get_future());
-    EXPECT_EQ(content, "the file");
-    for (int i = 0; i < 500 && access(path.c_str(), F_OK) == 0; ++i) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    }
-    EXPECT_NE(access(path.c_str(), F_OK), 0);
-}
-
 struct DelegateKind : objc::Kind<DelegateKind, "SessionTestDelegate"> {
     using Kind::Kind;
 };
@@ -430,6 +411,23 @@ TEST_F(UrlSessionDelegate, GetsTheProgressOfADownloadAndItsFile) {
     session.downloadTask(urlFrom(server.url("/"))).resume();
     EXPECT_EQ(told(), "all written, downloaded, completed, invalid");
     EXPECT_EQ(Delegate::of(delegate).bytes, content);
+}
+
+TEST_F(UrlSessionDelegate, AHandlersFileIsGoneAfterwards) {
+    std::promise<std::pair<std::string, std::string>> promise;
+    session
+        .downloadTask(
+            urlFrom(server.url("/")),
+            ns::UrlSession::DownloadHandler::from(
+                [&promise](ns::Url file, ns::UrlResponse, ns::Error) {
+                    const auto path = file.send<"path", ns::String>();
+                    promise.set_value({path.utf8(), bytesOf(ns::Data::withContentsOfFile(path))});
+                }))
+        .resume();
+    EXPECT_EQ(told(), "invalid");
+    const auto [path, bytes] = awaited(promise.get_future());
+    EXPECT_EQ(bytes, content);
+    EXPECT_FALSE(std::filesystem::exists(path));
 }
 
 TEST_F(UrlSessionDelegate, HearsOfTasksThatInvalidationCancels) {
