@@ -16,6 +16,7 @@ struct ScreenRecorder : objc::Kind<ScreenRecorder, "RPScreenRecorder"> {
     /// Nil where the framework is not loaded.
     static ScreenRecorder sharedRecorder() { return sendClass<"sharedRecorder", ScreenRecorder>(); }
 
+    [[nodiscard]] bool isRecording() const { return send<"isRecording", bool>(); }
     void setMicrophoneEnabled(bool enabled) const { send<"setMicrophoneEnabled:">(enabled); }
     /// `started`, which may be nil, is called on any thread once recording has begun or failed.
     void startRecording(Started started) const { send<"startRecordingWithHandler:">(started); }

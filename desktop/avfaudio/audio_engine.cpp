@@ -4,8 +4,11 @@
 #include "bindings/objc/pool.hpp"
 #include "desktop/avfaudio/audio_input_node.hpp"
 #include "desktop/avfaudio/audio_pcm_buffer.hpp"
+#include "desktop/foundation/bundle.hpp"
 
 namespace desktop {
+
+using namespace ns::literals;
 
 av::AudioInputNode AudioEngine::inputNode() {
     if (!inputNode_) {
@@ -15,6 +18,7 @@ av::AudioInputNode AudioEngine::inputNode() {
 }
 
 bool AudioEngine::start(id*) {
+    foundation::requireUsageDescription(u"NSMicrophoneUsageDescription"_ns);
     if (!isRunning_) {
         isRunning_ = true;
         Microphone::shared().restart();

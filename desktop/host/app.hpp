@@ -18,6 +18,9 @@ struct App {
     void (*readContent)(const std::filesystem::path& file);
     /// The application's own code: makes its window. Main thread.
     void (*launch)();
+    /// Whether its Info dictionary says what it wants photos, microphone and speech for: without
+    /// that, the system ends it when it asks for them.
+    bool describesUsage = true;
 };
 
 extern const App notesApp;

@@ -11,6 +11,7 @@
 #include "bindings/foundation/user_defaults.hpp"
 #include "bindings/objc/boundary.hpp"
 #include "bindings/objc/pool.hpp"
+#include "desktop/foundation/bundle.hpp"
 #include "desktop/foundation/foundation.hpp"
 #include "desktop/platform/platform.hpp"
 #include "desktop/runtime/process_end.hpp"
@@ -93,6 +94,9 @@ int runDevice(const App& app, const Options& options, const std::function<void(V
         watchForStop();
         setClock(options);
         foundation::install(options.bundle.value_or(app.bundleIdentifier));
+        if (!app.describesUsage) {
+            foundation::forgetUsageDescriptions();
+        }
         recordEvents();
         registerPlatform();
         Values values; // before the library can change how its parts are made

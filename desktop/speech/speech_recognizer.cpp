@@ -2,6 +2,7 @@
 #include "desktop/speech/speech_recognizer.hpp"
 
 #include "bindings/foundation/exception.hpp"
+#include "desktop/foundation/bundle.hpp"
 #include "desktop/runtime/main_queue.hpp"
 #include "desktop/speech/recognition_settings.hpp"
 #include "desktop/speech/recognition_values.hpp"
@@ -58,6 +59,7 @@ sf::SpeechRecognizerAuthorizationStatus SpeechRecognizer::authorizationStatus(Cl
 }
 
 void SpeechRecognizer::requestAuthorization(Class cls, sf::SpeechRecognizer::Authorization told) {
+    foundation::requireUsageDescription(u"NSSpeechRecognitionUsageDescription"_ns);
     wasAsked = true;
     MainQueue::shared().add([told = objc::Copied(told), cls] { told(authorizationStatus(cls)); });
 }

@@ -45,7 +45,7 @@ DESKTOP = {
     "quartzcore": [*PLAIN, "coregraphics"],
     "uikit": [*PLAIN, "coregraphics", "quartzcore", "foundation"],
     "avfaudio": [*PLAIN, "foundation"],
-    "speech": ["runtime", "avfaudio", "uikit"],
+    "speech": ["runtime", "foundation", "avfaudio", "uikit"],
     "replaykit": [*PLAIN, "coregraphics", "uikit"],
     "webkit": [*PLAIN, "coregraphics", "uikit"],
     "safariservices": [*PLAIN, "uikit"],

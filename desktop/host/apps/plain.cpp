@@ -33,6 +33,6 @@ void launch() {
 
 } // namespace
 
-const App plainApp{"plain", "com.example.plain", [] {}, nullptr, &launch};
+const App plainApp{"plain", "com.example.plain", [] {}, nullptr, &launch, false};
 
 } // namespace desktop::host

@@ -5,6 +5,7 @@
 #include "bindings/objc/pool.hpp"
 #include "bindings/uikit/saved_photos.hpp"
 #include "desktop/deviceroot/deviceroot.hpp"
+#include "desktop/foundation/bundle.hpp"
 #include "desktop/runtime/event_log.hpp"
 #include "desktop/runtime/main_queue.hpp"
 #include "desktop/uikit/values/image.hpp"
@@ -81,7 +82,9 @@ std::optional<std::string> add(std::span<const std::byte> bytes, std::string_vie
 
 void UIImageWriteToSavedPhotosAlbum(id image, id target, SEL done, void* context) {
     using namespace desktop;
+    using namespace ns::literals;
     const objc::Pool pool;
+    foundation::requireUsageDescription(u"NSPhotoLibraryAddUsageDescription"_ns);
     const objc::Strong<ui::Image> saved = objc::wrap<ui::Image>(image);
     const objc::Strong<ns::Error> error = photos::save(saved);
     const objc::Strong<objc::Object> told = objc::wrap<objc::Object>(target);

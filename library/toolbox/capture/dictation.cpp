@@ -1,12 +1,13 @@
 // From the microphone over the recognizer to an alert.
 #include "library/toolbox/capture/dictation.hpp"
 
-#include "bindings/dispatch/dispatch.hpp"
 #include "bindings/foundation/bundle.hpp"
 #include "bindings/foundation/number.hpp"
 #include "bindings/foundation/user_defaults.hpp"
 #include "library/common/alert.hpp"
 #include "library/common/gestures.hpp"
+#include "library/toolbox/capture/usage_description.hpp"
+#include "library/toolbox/main_thread.hpp"
 
 namespace wentra::toolbox {
 namespace {
@@ -15,6 +16,11 @@ using namespace ns::literals;
 
 constexpr unsigned long microphoneBus = 0;
 
+bool mayListen() {
+    return hasUsageDescription(u"NSSpeechRecognitionUsageDescription"_ns) &&
+           hasUsageDescription(u"NSMicrophoneUsageDescription"_ns);
+}
+
 bool isInSettings() {
     return ns::Bundle::mainBundle().bundleIdentifier().isEqual(u"com.apple.Preferences"_ns);
 }
@@ -22,22 +28,25 @@ bool isInSettings() {
 } // namespace
 
 void Dictation::prepare() {
-    if (!isInSettings() || task_) {
+    if (!isInSettings() || !mayListen() || task_) {
         return;
     }
     engine_ = av::AudioEngine::make();
     recognizer_ = sf::SpeechRecognizer::withLocale(ns::Locale::withIdentifier(u"zh_CN"_ns));
     recognizer_.setDelegate(self());
     offerButton();
-    if (!recognizer_.isAvailable()) {
-        return;
+    if (recognizer_.isAvailable()) {
+        requestAuthorization();
     }
+}
+
+void Dictation::requestAuthorization() const {
     using Status = sf::SpeechRecognizerAuthorizationStatus;
-    sf::SpeechRecognizer::requestAuthorization(
-        sf::SpeechRecognizer::Authorization::from([kept = objc::Strong(self())](Status status) {
-            const bool isAuthorized = status == Status::authorized;
-            dispatch::async(dispatch::mainQueue(),
-                            [kept, isAuthorized] { of(kept).tellOnce(isAuthorized); });
+    sf::SpeechRecognizer::requestAuthorization(sf::SpeechRecognizer::Authorization::from(
+        [controller = objc::Strong(self())](Status status) mutable {
+            onMainThread(std::move(controller), [status](FloatingViewController asking) {
+                of(asking).tellOnce(status == Status::authorized);
+            });
         }));
 }
 

@@ -36,6 +36,7 @@ private:
     void finish();
 
     void offerButton();
+    void requestAuthorization() const;
     void tellOnce(bool isAuthorized) const;
     void startTask();
     bool startEngine() const;

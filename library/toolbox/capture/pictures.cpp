@@ -10,6 +10,7 @@
 #include "library/common/haptic.hpp"
 #include "library/common/screens.hpp"
 #include "library/toolbox/capture/stitching.hpp"
+#include "library/toolbox/capture/usage_description.hpp"
 
 #include <vector>
 
@@ -97,7 +98,11 @@ void Pictures::stitch() {
 }
 
 void Pictures::save(ui::Image image) const {
-    if (image) {
+    if (!hasUsageDescription(u"NSPhotoLibraryAddUsageDescription"_ns)) {
+        Alert(u"错误"_ns, u"这个应用没有声明相册用途，系统不允许它存储图片"_ns)
+            .action(u"好的"_ns)
+            .present();
+    } else if (image) {
         UIImageWriteToSavedPhotosAlbum(
             image.raw(), self().raw(),
             objc::selector<"image:didFinishSavingWithError:contextInfo:">(), nullptr);

@@ -40,7 +40,6 @@ private:
     void stitch();
     void saved(ui::Image image, ns::Error error, void* context);
     void save(ui::Image image) const;
-    void tell(ns::String text) const;
 
     const Recording& recording_;
     objc::Strong<ns::MutableArray> collected_;

@@ -8,6 +8,8 @@
 #include "library/common/draggable_view.hpp"
 #include "library/common/gestures.hpp"
 #include "library/common/screens.hpp"
+#include "library/toolbox/capture/usage_description.hpp"
+#include "library/toolbox/main_thread.hpp"
 #include "library/toolbox/panel/host_screens.hpp"
 #include "library/toolbox/stored_size.hpp"
 
@@ -90,33 +92,53 @@ void Recording::showContainer() const {
 }
 
 void Recording::start() {
-    recorder_.setMicrophoneEnabled(true);
+    recorder_.setMicrophoneEnabled(hasUsageDescription(u"NSMicrophoneUsageDescription"_ns));
     container_.removeFromSuperview(); // one that a recording left behind which ended by itself
     container_ = self().send<"createContainerView", ui::View>();
     fillContainer();
     showContainer();
-    recorder_.startRecording({});
+    recorder_.startRecording(rp::ScreenRecorder::Started::from(
+        [controller = objc::Strong(self())](ns::Error error) mutable {
+            onMainThread(std::move(controller),
+                         [failed = static_cast<bool>(error)](FloatingViewController starting) {
+                             if (failed) {
+                                 of(starting).removeContainerUnlessRecording();
+                             }
+                         });
+        }));
+}
+
+/// There is nothing to stop then.
+void Recording::removeContainerUnlessRecording() const {
+    if (!recorder_.isRecording()) {
+        container_.removeFromSuperview();
+    }
 }
 
 void Recording::stop() {
     squeeze(self().send<"stopRecordButton", ui::View>());
     recorder_.stopRecording(rp::ScreenRecorder::Stopped::from(
-        [kept = objc::Strong(self())](rp::PreviewViewController preview, ns::Error error) {
-            dispatch::async(dispatch::mainQueue(),
-                            [kept, preview = objc::Strong(preview), error = objc::Strong(error)] {
-                                of(kept).stopped(preview, error);
-                            });
+        [controller = objc::Strong(self())](rp::PreviewViewController preview,
+                                            ns::Error error) mutable {
+            onMainThread(std::move(controller),
+                         [preview = objc::Strong(preview),
+                          error = objc::Strong(error)](FloatingViewController stopping) {
+                             of(stopping).stopped(preview, error);
+                         });
         }));
 }
 
 void Recording::stopped(rp::PreviewViewController preview, ns::Error error) const {
     if (error) {
         ns::log("停止录制错误 : " + error.localizedDescription().utf8());
-    } else if (preview) {
-        preview.setPreviewControllerDelegate(self());
-        preview.setModalPresentationStyle(ui::ModalPresentation::overFullScreen);
-        presentOverHost(self(), preview);
     }
+    if (error || !preview) {
+        removeContainerUnlessRecording();
+        return;
+    }
+    preview.setPreviewControllerDelegate(self());
+    preview.setModalPresentationStyle(ui::ModalPresentation::overFullScreen);
+    presentOverHost(self(), preview);
 }
 
 void Recording::previewFinished(objc::Object preview) {

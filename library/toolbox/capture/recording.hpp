@@ -50,6 +50,7 @@ private:
     void fillContainer();
     ui::Button addButton(ns::String symbol, ns::String label, CGRect frame, SEL action) const;
     void showContainer() const;
+    void removeContainerUnlessRecording() const;
     void stopped(rp::PreviewViewController preview, ns::Error error) const;
 
     objc::Strong<rp::ScreenRecorder> recorder_;

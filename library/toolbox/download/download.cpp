@@ -1,7 +1,6 @@
 // Starting downloads, and what becomes of them.
 #include "library/toolbox/download/download.hpp"
 
-#include "bindings/dispatch/dispatch.hpp"
 #include "bindings/foundation/file_manager.hpp"
 #include "bindings/foundation/log.hpp"
 #include "library/common/buttons.hpp"
@@ -14,6 +13,7 @@
 #include "library/toolbox/download/download_rules.hpp"
 #include "library/toolbox/download/kept_file.hpp"
 #include "library/toolbox/download/link_choice.hpp"
+#include "library/toolbox/main_thread.hpp"
 
 #include <utility>
 
@@ -26,20 +26,6 @@ std::u16string fileNameOf(ns::UrlResponse response) {
     return std::u16string(fileNameIn(response.suggestedFilename().utf16()));
 }
 
-/// Runs `body` with the controller on the main thread, where the controller also ends if nobody
-/// else keeps it.
-template <class Body>
-void onMainThread(objc::Strong<FloatingViewController> controller, Body body) {
-    dispatch::async(dispatch::mainQueue(),
-                    [controller = std::move(controller), body = std::move(body)] {
-                        body(FloatingViewController(controller));
-                    });
-}
-
-ns::Url urlIn(ns::String address) {
-    return address && isWebAddress(address.utf16()) ? ns::Url::withString(address) : ns::Url();
-}
-
 ns::String temporaryPath(std::u16string_view name) {
     std::u16string path = ns::FileManager::defaultManager().temporaryDirectory().path().utf16();
     return ns::String::from(path.append(u"/").append(name));
@@ -49,17 +35,15 @@ ns::String temporaryPath(std::u16string_view name) {
 
 void Download::start() {
     const ns::String address = selection_.pickedOrCopied();
-    const bool parses = preferences::Preferences::read().on(preferences::keys.parseLinks);
-    const ns::Url page = parses ? urlIn(address) : ns::Url();
-    if (page) {
-        offerLinks(self(), page);
+    const ns::Url url = isWebAddress(address.utf16()) ? ns::Url::withString(address) : ns::Url();
+    if (url && preferences::Preferences::read().on(preferences::keys.parseLinks)) {
+        offerLinks(self(), url);
     } else {
-        load(address, nullptr);
+        load(url, nullptr);
     }
 }
 
-void Download::load(ns::String address, ns::OperationQueue queue) {
-    const ns::Url url = urlIn(address);
+void Download::load(ns::Url url, ns::OperationQueue queue) {
     if (!url) {
         ns::log("无效链接");
         return;
@@ -167,22 +151,23 @@ void Download::tellOfFailure() const {
 }
 
 void Download::loadAndShare(objc::Object address, objc::Object session) const {
-    const ns::Url url = urlIn(address.as<ns::String>());
+    const auto text = address.as<ns::String>();
+    const ns::Url url = text ? ns::Url::withString(text) : ns::Url();
     if (!url) {
         return;
     }
     const auto completion = ns::UrlSession::DownloadHandler::from(
         [controller = objc::Strong(self())](ns::Url file, ns::UrlResponse response,
                                             ns::Error error) mutable {
-            if (error) {
-                dispatch::async(dispatch::mainQueue(), [kept = std::move(controller)] {});
-                return;
+            const auto path = error ? nullptr : temporaryPath(fileNameOf(response));
+            if (path) {
+                static_cast<void>(keepFile(file, path));
             }
-            const ns::String path = temporaryPath(fileNameOf(response));
-            static_cast<void>(keepFile(file, path));
             onMainThread(std::move(controller),
                          [path = objc::Strong(path)](FloatingViewController presenter) {
-                             shareFile(path, presenter);
+                             if (path) {
+                                 shareFile(path, presenter);
+                             }
                          });
         });
     session.as<ns::UrlSession>().downloadTask(url, completion).resume();

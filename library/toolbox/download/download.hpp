@@ -35,8 +35,8 @@ public:
     }
 
     /// Loads the file into the application's documents, with bar and button; a nil queue stands for
-    /// one in the background. An address that is none is only logged.
-    void load(ns::String address, ns::OperationQueue queue);
+    /// one in the background. A nil URL is only logged.
+    void load(ns::Url url, ns::OperationQueue queue);
     /// Says that nothing came of a download.
     void tellOfFailure() const;
 

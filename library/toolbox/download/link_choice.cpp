@@ -1,13 +1,13 @@
 // Loading the page, and its sheet.
 #include "library/toolbox/download/link_choice.hpp"
 
-#include "bindings/dispatch/dispatch.hpp"
 #include "bindings/foundation/url_session.hpp"
 #include "bindings/uikit/pasteboard.hpp"
 #include "library/common/alert.hpp"
 #include "library/preferences/preferences.hpp"
 #include "library/toolbox/download/download.hpp"
 #include "library/toolbox/download/download_rules.hpp"
+#include "library/toolbox/main_thread.hpp"
 
 #include <utility>
 
@@ -28,7 +28,8 @@ void offer(FloatingViewController controller, ns::Array links) {
         }
         sheet.action(link, [controller = objc::Strong(controller), link = objc::Strong(link)] {
             ui::Pasteboard::generalPasteboard().setString(link);
-            Download::of(controller).load(link, ns::OperationQueue::mainQueue());
+            Download::of(controller)
+                .load(ns::Url::withString(link), ns::OperationQueue::mainQueue());
         });
     }
     sheet.presentFrom(controller);
@@ -42,19 +43,18 @@ ns::String textOf(ns::Data page) {
 } // namespace
 
 void offerLinks(FloatingViewController controller, ns::Url page) {
-    const auto completion = ns::UrlSession::Handler::from(
-        // The controller must not end on another thread than the main one: it is moved there.
-        [controller = objc::Strong(controller)](ns::Data data, ns::UrlResponse,
-                                                ns::Error error) mutable {
+    const auto completion =
+        ns::UrlSession::Handler::from([controller = objc::Strong(controller)](
+                                          ns::Data data, ns::UrlResponse, ns::Error error) mutable {
             const ns::Array links = error ? nullptr : controller.linksInString(textOf(data));
-            dispatch::async(dispatch::mainQueue(),
-                            [controller = std::move(controller), links = objc::Strong(links)] {
-                                if (links) {
-                                    offer(controller, links);
-                                } else {
-                                    Download::of(controller).tellOfFailure();
-                                }
-                            });
+            onMainThread(std::move(controller),
+                         [links = objc::Strong(links)](FloatingViewController chooser) {
+                             if (links) {
+                                 offer(chooser, links);
+                             } else {
+                                 Download::of(chooser).tellOfFailure();
+                             }
+                         });
         });
     ns::UrlSession::sharedSession().dataTask(page, completion).resume();
 }

@@ -1,10 +1,10 @@
 // The request, and the sheet of what it brought.
 #include "library/toolbox/text_tools/video_links.hpp"
 
-#include "bindings/dispatch/dispatch.hpp"
 #include "bindings/foundation/json_serialization.hpp"
 #include "bindings/foundation/url_session.hpp"
 #include "library/common/alert.hpp"
+#include "library/toolbox/main_thread.hpp"
 
 namespace wentra::toolbox {
 namespace {
@@ -57,16 +57,15 @@ void offerVideo(FloatingViewController controller, ns::String address) {
         return;
     }
     const auto completion = ns::UrlSession::Handler::from(
-        // The controller must not end on another thread than the main one: it is moved there.
         [controller = objc::Strong(controller)](ns::Data answer, ns::UrlResponse,
                                                 ns::Error error) mutable {
-            dispatch::async(dispatch::mainQueue(),
-                            [controller = std::move(controller), answer = objc::Strong(answer),
-                             failed = static_cast<bool>(error)] {
-                                if (!failed) {
-                                    offerParts(controller, partsIn(answer));
-                                }
-                            });
+            onMainThread(std::move(controller),
+                         [answer = objc::Strong(answer),
+                          failed = static_cast<bool>(error)](FloatingViewController chooser) {
+                             if (!failed) {
+                                 offerParts(chooser, partsIn(answer));
+                             }
+                         });
         });
     ns::UrlSession::sharedSession().dataTask(url, completion).resume();
 }

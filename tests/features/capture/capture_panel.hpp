@@ -15,8 +15,10 @@ struct Root {
 /// The folder is there before the phone and is left after it.
 class CapturePanel : private Root, public ToolboxPanel {
 public:
-    explicit CapturePanel(const std::string& app = "chat", const Json& preferences = Json::object())
-        : ToolboxPanel(preferences, {"--app", app, "--root", folder.path()}) {}
+    /// `options` are the host's, beside those for the application and the device's folder.
+    explicit CapturePanel(const std::string& app = "chat", const Json& preferences = Json::object(),
+                          std::vector<std::string> options = {})
+        : ToolboxPanel(preferences, with(app, std::move(options))) {}
 
     /// A file of the device where it really lies.
     [[nodiscard]] std::filesystem::path real(const std::string& file) const {
@@ -29,6 +31,13 @@ public:
         Phone::tap(found[0]);
     }
     Json container() { return panel("container"); }
+
+private:
+    [[nodiscard]] std::vector<std::string> with(const std::string& app,
+                                                std::vector<std::string> options) const {
+        options.insert(options.end(), {"--app", app, "--root", folder.path()});
+        return options;
+    }
 };
 
 } // namespace tests

@@ -86,6 +86,16 @@ TEST_F(Dictation, BeginningTwiceInstallsOneTap) {
     EXPECT_TRUE(phone.swallowed().empty());
 }
 
+TEST(DictationWithoutAWord, OfWhatItIsForIsNotPrepared) {
+    CapturePanel phone("plain", Json::object(), {"--bundle", "com.apple.Preferences"});
+    phone.advance(1);
+    EXPECT_EQ(phone.result({{"do", "alert"}}), nullptr);
+    EXPECT_EQ(phone.panel("audioEngine"), nullptr) << "the system would end the application";
+    phone.panel("handleLongGesturePressRecord:", {nullptr});
+    phone.panel("initiateVoiceRecognition");
+    EXPECT_TRUE(phone.swallowed().empty());
+}
+
 TEST(DictationElsewhere, IsNotPrepared) {
     CapturePanel phone("chat");
     phone.advance(1);

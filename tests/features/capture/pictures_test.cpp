@@ -87,6 +87,18 @@ TEST_F(Pictures, NothingToStitchGivesNothing) {
     EXPECT_EQ(events, Json::array());
 }
 
+TEST(PicturesWithoutAWord, OfWhatTheyAreForAreNotSaved) {
+    CapturePanel phone("plain");
+    phone.message(phone.window(), "setRootViewController:",
+                  {phone.message({{"class", "UIViewController"}}, "new")});
+    phone.panel("takeScreenshot");
+    phone.advance(1);
+    const Json alert = phone.result({{"do", "alert"}});
+    EXPECT_EQ(alert["title"], "错误");
+    EXPECT_EQ(alert["message"], "这个应用没有声明相册用途，系统不允许它存储图片");
+    EXPECT_TRUE(phone.events("photo").empty());
+}
+
 TEST_F(Pictures, WhatCannotBeSavedIsTold) {
     const auto folder = phone.real("/var/mobile/Media");
     std::filesystem::create_directories(folder.parent_path());

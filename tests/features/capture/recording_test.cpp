@@ -73,6 +73,7 @@ TEST_F(Recording, ARefusedStartIsOnlyLoggedAtTheStop) {
     phone.tap("应用录屏");
     EXPECT_EQ(states(), std::vector<std::string>{"refused"});
     EXPECT_EQ(phone.result({{"do", "alert"}}), nullptr);
+    EXPECT_FALSE(isControlShown()) << "there is nothing to stop";
     stop();
     EXPECT_EQ(complaints().size(), 1U);
     EXPECT_NE(phone.result({{"do", "screens"}}).back(), "RPPreviewViewController");
@@ -101,6 +102,30 @@ TEST_F(Recording, OneThatEndedByItselfMakesRoomForTheNext) {
     EXPECT_EQ(phone.message(former, "superview"), nullptr);
     EXPECT_TRUE(isControlShown());
     EXPECT_EQ(states(), (std::vector<std::string>{"started", "stopped", "started"}));
+}
+
+TEST_F(Recording, TheControlOfOneThatEndedByItselfGoesAtTheStop) {
+    phone.tap("应用录屏");
+    phone.result({{"do", "recorder"}, {"interrupt", true}});
+    stop();
+    EXPECT_EQ(complaints().size(), 1U);
+    EXPECT_FALSE(isControlShown());
+}
+
+TEST_F(Recording, ASecondStartKeepsTheControlOfTheFirst) {
+    phone.tap("应用录屏");
+    phone.tap("应用录屏");
+    EXPECT_EQ(states(), (std::vector<std::string>{"started", "refused"}));
+    EXPECT_TRUE(isControlShown()) << "the first goes on";
+    stop();
+    EXPECT_EQ(phone.result({{"do", "screens"}}).back(), "RPPreviewViewController");
+}
+
+TEST(RecordingWithoutAWord, OfWhatTheMicrophoneIsForIsSilent) {
+    CapturePanel phone("plain");
+    phone.tap("应用录屏");
+    EXPECT_EQ(phone.message(phone.panel("screenRecorder"), "isMicrophoneEnabled"), false);
+    EXPECT_EQ(phone.message(phone.panel("screenRecorder"), "isRecording"), true);
 }
 
 TEST_F(Recording, TheEndOfTheHostIsTheEndOfTheFilm) {

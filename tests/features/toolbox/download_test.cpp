@@ -197,6 +197,16 @@ TEST_F(Downloads, OfferTheLinksOfAPage) {
     EXPECT_EQ(shared(), documents + "report.pdf");
 }
 
+TEST_F(Downloads, OfALinkThatIsNoPageFail) {
+    phone.set({{"解析", true}});
+    phone.result({{"do", "serve"}, {"service", "files"}, {"body", "write to a@example.com"}});
+    download(files);
+    waitFor({{"text", "选择下载链接文件"}});
+    phone.result({{"do", "alert"}, {"choose", "mailto:a@example.com"}});
+    EXPECT_EQ(phone.pasteboard(), "mailto:a@example.com");
+    expectFailure();
+}
+
 TEST_F(Downloads, LeaveOutLinksByTheFilter) {
     phone.set({{"解析", true}, {"解析过滤", true}});
     download(files);
@@ -224,6 +234,8 @@ TEST_F(Downloads, OfAGivenAddressComeWithoutABar) {
         const std::string file = shared();
         EXPECT_TRUE(file.ends_with("/tmp/a.txt")) << file;
     }
+    phone.panel("downloadWithUrl:session:", {"HTTPS://files.example/b.txt?text=b", session});
+    EXPECT_TRUE(shared().ends_with("/tmp/b.txt")) << "whatever loads is loaded";
     const Json nobody = "https://nobody.example/a";
     for (const auto& [address, with] : std::vector<std::pair<Json, Json>>{{nullptr, session},
                                                                           {7, session},
