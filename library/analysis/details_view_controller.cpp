@@ -2,8 +2,6 @@
 #include "library/analysis/details_view_controller.hpp"
 
 #include "bindings/objc/peer.hpp"
-#include "bindings/uikit/application.hpp"
-#include "bindings/uikit/keyboard.hpp"
 #include "bindings/uikit/navigation_controller.hpp"
 #include "bindings/uikit/navigation_item.hpp"
 #include "bindings/uikit/pasteboard.hpp"
@@ -11,6 +9,7 @@
 #include "bindings/uikit/text_view.hpp"
 #include "library/common/case_insensitive_search.hpp"
 #include "library/common/keyboard_insets.hpp"
+#include "library/common/screens.hpp"
 #include "library/common/text_parts.hpp"
 
 #include <array>
@@ -42,9 +41,9 @@ public:
             objc::method<"searchBar:textDidChange:", &Peer::search>(),
             objc::method<"jumpToErrorClicked:", &Peer::jumpToAddOns>(),
             objc::method<"upDownButtonClicked:", &Peer::jump>(),
-            objc::method<"keyboardWillShow:", &Peer::keyboardWillShow>(),
-            objc::method<"keyboardWillHide:", &Peer::keyboardWillHide>(),
-            objc::method<"keyWindow", &Peer::firstWindow>(),
+            objc::method<"keyboardWillShow:", &Peer::keyboardMoves>(),
+            objc::method<"keyboardWillHide:", &Peer::keyboardMoves>(),
+            objc::method<"keyWindow", &ScreenLookups::first>(),
         };
     }
 
@@ -65,15 +64,8 @@ private:
     void jumpToAddOns(objc::Object);
     void jump(ui::BarButtonItem button);
 
-    void keyboardWillShow(ns::Notification notification) {
-        leaveRoom(ui::keyboard::frameEnd(notification).size.height);
-    }
-    void keyboardWillHide(ns::Notification) { leaveRoom(0); }
-    void leaveRoom(double keyboardHeight) const {
-        keepClear(textView_, firstWindow(), self(), keyboardHeight);
-    }
-    [[nodiscard]] ui::Window firstWindow() const {
-        return ui::Application::sharedApplication().windows().first();
+    void keyboardMoves(ns::Notification notification) const {
+        keepClear(textView_, firstWindow(), self(), notification);
     }
 
     objc::Strong<ns::String> systemMessage_;

@@ -26,11 +26,13 @@ void setInsets(ui::ScrollView view, const UIEdgeInsets& insets) {
 }
 
 void keepClear(ui::ScrollView view, ui::Window window, ui::ViewController controller,
-               double keyboardHeight) {
+               ns::Notification keyboard) {
+    const bool goes = keyboard.name().isEqual(ui::keyboard::willHide());
+    const double height = goes ? 0 : ui::keyboard::frameEnd(keyboard).size.height;
     // These insets have the safe area in them already.
     view.setContentInsetAdjustmentBehavior(ui::ContentInsetAdjustmentBehavior::never);
     const double bar = controller.navigationController().navigationBar().frame().size.height;
-    setInsets(view, {window.safeAreaInsets().top + bar, 0, keyboardHeight, 0});
+    setInsets(view, {window.safeAreaInsets().top + bar, 0, height, 0});
 }
 
 } // namespace wentra

@@ -1,6 +1,7 @@
 // Room for the keyboard in what scrolls.
 #pragma once
 
+#include "bindings/foundation/notification.hpp"
 #include "bindings/uikit/scroll_view.hpp"
 #include "bindings/uikit/view_controller.hpp"
 #include "bindings/uikit/window.hpp"
@@ -16,8 +17,8 @@ void stopWatchingKeyboard(objc::Object observer);
 void setInsets(ui::ScrollView view, const UIEdgeInsets& insets);
 
 /// Insets that keep clear of the window's safe area and the controller's navigation bar above, and
-/// of a keyboard of that height in points below.
+/// below of the keyboard that comes by the notification; of none when it goes.
 void keepClear(ui::ScrollView view, ui::Window window, ui::ViewController controller,
-               double keyboardHeight);
+               ns::Notification keyboard);
 
 } // namespace wentra

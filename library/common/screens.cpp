@@ -6,6 +6,8 @@
 
 namespace wentra {
 
+ui::Window firstWindow() { return ui::Application::sharedApplication().windows().first(); }
+
 ui::Window keyWindow() {
     for (const ui::Window window : ui::Application::sharedApplication().windows()) {
         if (window.isKeyWindow()) {

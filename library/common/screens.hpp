@@ -6,6 +6,9 @@
 
 namespace wentra {
 
+/// The application's first window, or nil.
+[[nodiscard]] ui::Window firstWindow();
+
 /// The first of the application's windows that is the key window, or nil.
 [[nodiscard]] ui::Window keyWindow();
 
@@ -26,6 +29,7 @@ public:
     static ScreenLookups& of(objc::Object controller);
 
     [[nodiscard]] ui::Window window() const { return activeWindow(); }
+    [[nodiscard]] ui::Window first() const { return firstWindow(); }
     [[nodiscard]] ui::ViewController controller() const { return topViewController(); }
 };
 

@@ -2,8 +2,6 @@
 #include "library/files/viewers/file_content_view_controller.hpp"
 
 #include "bindings/objc/peer.hpp"
-#include "bindings/uikit/application.hpp"
-#include "bindings/uikit/keyboard.hpp"
 #include "bindings/uikit/pasteboard.hpp"
 #include "library/common/alert.hpp"
 #include "library/common/buttons.hpp"
@@ -11,6 +9,7 @@
 #include "library/common/keyboard_insets.hpp"
 #include "library/common/light_background.hpp"
 #include "library/common/outline.hpp"
+#include "library/common/screens.hpp"
 #include "library/files/viewers/report_analysis.hpp"
 #include "library/files/viewers/text_colouring.hpp"
 #include "library/files/viewers/text_paging.hpp"
@@ -39,9 +38,9 @@ public:
                 objc::method<"copyContent", &Peer::copyContent>(),
                 objc::method<"longPressCopyButton:", &Peer::copyLongPressed>(),
                 objc::method<"showCopyMenu", &Peer::showCopyMenu>(),
-                objc::method<"keyboardWillShow:", &Peer::keyboardWillShow>(),
-                objc::method<"keyboardWillHide:", &Peer::keyboardWillHide>(),
-                objc::method<"keyWindow", &Peer::firstWindow>(),
+                objc::method<"keyboardWillShow:", &Peer::keyboardMoves>(),
+                objc::method<"keyboardWillHide:", &Peer::keyboardMoves>(),
+                objc::method<"keyWindow", &ScreenLookups::first>(),
             },
             TextPaging::methods(), TextSearch::methods(), TextColouring::methods(),
             TextSaving::methods(), ReportAnalysis::methods());
@@ -67,15 +66,8 @@ private:
     void copyLongPressed(ui::LongPressGestureRecognizer press);
     void showCopyMenu();
 
-    void keyboardWillShow(ns::Notification notification) {
-        leaveRoom(ui::keyboard::frameEnd(notification).size.height);
-    }
-    void keyboardWillHide(ns::Notification) { leaveRoom(0); }
-    void leaveRoom(double keyboardHeight) const {
-        keepClear(textView_, firstWindow(), self(), keyboardHeight);
-    }
-    [[nodiscard]] ui::Window firstWindow() const {
-        return ui::Application::sharedApplication().windows().first();
+    void keyboardMoves(ns::Notification notification) const {
+        keepClear(textView_, firstWindow(), self(), notification);
     }
 
     objc::Copied<ns::String> fileContent_;

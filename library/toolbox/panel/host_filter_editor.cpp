@@ -99,7 +99,7 @@ void HostFilterEditor::close(objc::Object) {
 }
 
 void HostFilterEditor::keyboardAppears(ns::Notification notification) {
-    keepClear(text_, keyWindow(), self(), ui::keyboard::frameEnd(notification).size.height);
+    keepClear(text_, keyWindow(), self(), notification);
 }
 
 void HostFilterEditor::keyboardDisappears(ns::Notification) {

@@ -21,14 +21,13 @@ public:
         return std::array{
             objc::method<"getWindow", &ScreenLookups::window>(),
             objc::method<"getCurrentViewController", &ScreenLookups::controller>(),
-            objc::method<"keyWindow", &HostScreens::first>(),
+            objc::method<"keyWindow", &ScreenLookups::first>(),
             objc::method<"adaptivePresentationStyleForPresentationController:",
                          &HostScreens::adapted>(),
         };
     }
 
 private:
-    [[nodiscard]] ui::Window first() const;
     /// Popovers stay popovers on a phone.
     [[nodiscard]] ui::ModalPresentation adapted(objc::Object) const {
         return ui::ModalPresentation::none;

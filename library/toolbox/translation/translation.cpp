@@ -2,7 +2,6 @@
 #include "library/toolbox/translation/translation.hpp"
 
 #include "bindings/safariservices/safari_view_controller.hpp"
-#include "bindings/uikit/application.hpp"
 #include "bindings/uikit/button.hpp"
 #include "bindings/uikit/pasteboard.hpp"
 #include "library/common/screens.hpp"
@@ -91,8 +90,7 @@ void Translation::showResult(ns::String title, ns::String message, ns::String or
                              ns::String translated) {
     const TranslationResult result{title, message, original, translated};
     if (preferences::Preferences::read().on(keys.bilingualStyle)) {
-        const auto window = ui::Application::sharedApplication().windows().first();
-        window.addSubview(BilingualView::with(result));
+        firstWindow().addSubview(BilingualView::with(result));
     } else {
         presentResultAlert(result, synthesizer());
     }
