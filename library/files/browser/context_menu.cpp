@@ -5,8 +5,8 @@
 #include "bindings/uikit/pasteboard.hpp"
 #include "library/files/browser/file_reading.hpp"
 #include "library/files/browser/menus.hpp"
-#include "library/files/browser/viewers.hpp"
 #include "library/files/conversion/xml_copy.hpp"
+#include "library/files/viewers/hex_editor_view_controller.hpp"
 
 namespace wentra::files {
 namespace {
@@ -50,8 +50,9 @@ constexpr auto copyPath = [](Operations& all, const Row& row) {
 
 constexpr auto showBytes = [](Operations& all, const Row& row) {
     const auto path = all.panes.entry(row.table, row.path);
-    if (const auto viewer = path ? hexViewer(textOf(*path)) : ui::ViewController(); viewer) {
-        row.controller.navigationController().push(viewer, animated);
+    if (path) {
+        row.controller.navigationController().push(HexEditorViewController::withFile(textOf(*path)),
+                                                   animated);
     }
 };
 

@@ -3,8 +3,9 @@
 
 #include "bindings/uikit/navigation_controller.hpp"
 #include "library/files/browser/file_reading.hpp"
-#include "library/files/browser/viewers.hpp"
 #include "library/files/file_kind.hpp"
+#include "library/files/viewers/file_content_view_controller.hpp"
+#include "library/files/viewers/image_content_view_controller.hpp"
 
 namespace wentra::files {
 
@@ -26,7 +27,7 @@ void Opening::select(ui::TableView table, ns::IndexPath row) {
 
 void Opening::showText(const std::string& path) const {
     const ns::Url url = urlOf(path);
-    push(textViewer(textOfFile(url), url));
+    push(FileContentViewController::with(textOfFile(url), url));
 }
 
 void Opening::showImage(ui::TableView table, const std::string& path) const {
@@ -38,14 +39,12 @@ void Opening::showImage(ui::TableView table, const std::string& path) const {
             urls.add(url);
         }
     }
-    push(imageViewer(urls, index));
+    push(ImageContentViewController::with(urls.assume<ns::ArrayOf<ns::Url>>(), index));
 }
 
 void Opening::push(ui::ViewController viewer) const {
     constexpr bool animated = true;
-    if (viewer) {
-        self().navigationController().push(viewer, animated);
-    }
+    self().navigationController().push(viewer, animated);
 }
 
 bool Opening::isImagePath(ns::String path) const { return isImage(pathOf(path)); }
