@@ -1,6 +1,8 @@
 // Reads folders by the system's own calls, which take all names.
 #include "library/files/folder.hpp"
 
+#include "library/files/operations/passing_name.hpp"
+
 #include <fcntl.h>
 #include <string_view>
 #include <unistd.h>
@@ -16,7 +18,7 @@ DIR* streamOf(int descriptor) {
     return stream;
 }
 
-bool isEntry(std::string_view name) { return name != "." && name != ".."; }
+bool isEntry(std::string_view name) { return name != "." && name != ".." && !isPassing(name); }
 
 } // namespace
 

@@ -9,7 +9,8 @@
 
 namespace wentra::files {
 
-/// Walks the entries of a folder, without those that stand for it and for its parent.
+/// Walks the entries of a folder, without those that stand for it and for its parent, and without
+/// what a change makes in it for itself.
 class Folder {
 public:
     /// Links are not followed at the path's end when `follows` is false.

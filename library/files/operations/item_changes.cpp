@@ -6,10 +6,10 @@
 #include "bindings/darwin/removefile.hpp"
 #include "bindings/darwin/renamex_np.hpp"
 #include "library/files/file_path.hpp"
+#include "library/files/operations/passing_name.hpp"
 
 #include <array>
 #include <cerrno>
-#include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <optional>
@@ -75,15 +75,6 @@ Relation relation(const std::string& source, const std::string& destination) {
     return liesIn(*to, *from) || liesIn(*from, *to) ? Relation::nested : Relation::apart;
 }
 
-/// A path beside the entry that nobody else uses.
-std::string freshPathBeside(const std::string& entry) {
-    constexpr unsigned numbers = 1U << 31U;
-    std::array<char, 32> name{};
-    std::snprintf(name.data(), name.size(), ".wentra-%08x%08x", arc4random_uniform(numbers),
-                  arc4random_uniform(numbers));
-    return joined(parentOf(entry), name.data());
-}
-
 /// Renames where nothing is yet.
 Failure settle(const std::string& from, const std::string& to) {
     if (renamex_np(from.c_str(), to.c_str(), darwin::renameExclusive) == 0) {
@@ -97,7 +88,8 @@ Failure settle(const std::string& from, const std::string& to) {
 
 /// Exchanges two entries, of which one is a folder, on file systems that cannot.
 Failure exchangeBySteps(const std::string& from, const std::string& to) {
-    const std::string aside = freshPathBeside(to);
+    const PassingName name;
+    const std::string aside = name.beside(to);
     if (const Failure failure = settle(to, aside); failure != 0) {
         return failure;
     }
@@ -144,7 +136,8 @@ Failure copyTo(const std::string& source, const std::string& fresh) {
 using Put = Failure (*)(const std::string& from, const std::string& to);
 
 Failure copyThen(Put put, const std::string& source, const std::string& destination) {
-    const std::string copy = freshPathBeside(destination);
+    const PassingName name;
+    const std::string copy = name.beside(destination);
     Failure failure = copyTo(source, copy);
     if (failure == 0) {
         failure = put(copy, destination);

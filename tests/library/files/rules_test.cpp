@@ -5,6 +5,7 @@
 #include "library/files/file_texts.hpp"
 #include "library/files/listing.hpp"
 #include "library/files/operations/numbered_path.hpp"
+#include "library/files/operations/passing_name.hpp"
 #include "tests/support/temporary_folder.hpp"
 
 #include <gtest/gtest.h>
@@ -98,6 +99,19 @@ TEST_F(Listing, PutsTheNewestFirst) {
     EXPECT_EQ(listing(at("gone")), Names{});
     EXPECT_EQ(listing(at("a")), Names{});
     EXPECT_EQ(listing(""), Names{});
+}
+
+TEST_F(Listing, LeavesOutWhatAChangeIsMaking) {
+    const std::string copied = folder.write("copied", "1");
+    std::string passing;
+    {
+        const PassingName name;
+        passing = std::string(lastComponent(name.beside(copied)));
+        folder.write(passing, "1");
+        EXPECT_EQ(listing(folder.path()), Names{"copied"});
+        EXPECT_EQ(groupedBySize(folder.path()).at(0).paths, Names{copied});
+    }
+    EXPECT_EQ(listing(folder.path()).size(), 2U) << "what is left over can be seen and removed";
 }
 
 TEST_F(Listing, SortsNamesAndKeepsTheUnknown) {
