@@ -1,6 +1,8 @@
 // Copies what the build has made, with the times.
 #include "desktop/host/device_files.hpp"
 
+#include "desktop/host/apps/file_tree.hpp"
+
 namespace desktop::host {
 namespace {
 
@@ -20,6 +22,7 @@ void addDeviceFiles(const fs::path& root) {
     if (fs::exists(root / "var/mobile/Library/Logs/CrashReporter")) {
         return; // what a person has deleted stays deleted
     }
+    makeFileTree(root); // before the folders get other files
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(made)) {
         if (entry.is_regular_file()) {
             copyFile(entry, root / fs::relative(entry, made));

@@ -6,7 +6,6 @@
 
 #include <array>
 #include <fcntl.h>
-#include <filesystem>
 #include <fstream>
 #include <string>
 #include <sys/stat.h>
@@ -96,13 +95,15 @@ void writeMedia(const path& folder) {
 
 } // namespace
 
-void makeFileTree() {
-    if (!std::filesystem::exists(documentsFolder)) {
-        writeDocuments(documentsFolder);
-    }
-    if (!std::filesystem::exists(mediaFolder)) {
-        writeMedia(mediaFolder);
-    }
+void makeFileTree(const path& root) {
+    const auto makeMissing = [&](const char* folder, void (*write)(const path&)) {
+        const path place = root / path(folder).relative_path();
+        if (!std::filesystem::exists(place)) {
+            write(place);
+        }
+    };
+    makeMissing(documentsFolder, &writeDocuments);
+    makeMissing(mediaFolder, &writeMedia);
 }
 
 } // namespace desktop::host

@@ -74,7 +74,7 @@ private:
 };
 
 void launch() {
-    makeFileTree();
+    makeFileTree("/");
     const auto controller = FilesControllerKind::make();
     showInWindow(controller);
     controller.send<"openBrowser">();

@@ -155,6 +155,13 @@ TEST_F(Browser, TellsKindsByTheExtension) {
     EXPECT_EQ(send("sizeFormatted:", {1023}), "1023.00 B");
 }
 
+TEST(UsedPhone, ShowsTheFilesOfAFreshOneToo) {
+    tests::Phone phone{{"--app", "files", "--device-files"}};
+    phone.advance(1);
+    EXPECT_EQ(phone.find({{"text", "笔记"}}).size(), 1U);
+    EXPECT_EQ(phone.find({{"text", "壁纸.png"}}).size(), 1U);
+}
+
 TEST_F(Browser, ClosesAndLeavesTheApplication) {
     start();
     pressToolbar("关闭");
