@@ -6,16 +6,21 @@
 
 namespace wentra::files {
 
-/// A copy of the view's text in the view's font and, unless it is nil, that colour; nothing else of
-/// its look is left.
-[[nodiscard]] inline ns::MutableAttributedString plainText(ui::TextView view,
-                                                           ui::Color color = nullptr) {
+/// The attributes of text in the view's font and, unless it is nil, that colour.
+[[nodiscard]] inline ns::Dictionary plainAttributes(ui::TextView view, ui::Color color) {
     const auto attributes = ns::MutableDictionary::make();
     attributes.set(view.font(), ui::attributes::font());
     if (color) {
         attributes.set(color, ui::attributes::foregroundColor());
     }
-    return ns::MutableAttributedString::make<"initWithString:attributes:">(view.text(), attributes);
+    return attributes;
+}
+
+/// A copy of the view's text with these attributes; nothing else of its look is left.
+[[nodiscard]] inline ns::MutableAttributedString plainText(ui::TextView view,
+                                                           ui::Color color = nullptr) {
+    return ns::MutableAttributedString::make<"initWithString:attributes:">(
+        view.text(), plainAttributes(view, color));
 }
 
 } // namespace wentra::files

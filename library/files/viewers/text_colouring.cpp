@@ -15,14 +15,15 @@ namespace {
 using namespace ns::literals;
 
 /// In the order of `Syntax`.
-std::array<ui::Color, 7> syntaxColors() {
-    return {nullptr,
-            ui::Color::red(),
-            ui::Color::purple(),
-            ui::Color::blue(),
-            ui::Color::withRed(0, 0.5, 0.4, 1),
-            ui::Color::orange(),
-            ui::Color::systemPurple()};
+std::array<ns::Dictionary, 7> syntaxAttributes(ui::TextView view) {
+    const auto in = [view](ui::Color color) { return plainAttributes(view, color); };
+    return {in(nullptr),
+            in(ui::Color::red()),
+            in(ui::Color::purple()),
+            in(ui::Color::blue()),
+            in(ui::Color::withRed(0, 0.5, 0.4, 1)),
+            in(ui::Color::orange()),
+            in(ui::Color::systemPurple())};
 }
 
 } // namespace
@@ -42,11 +43,11 @@ void TextColouring::askForSize() {
 
 void TextColouring::colour() {
     const ui::TextView view = self().textView();
-    const std::array colors = syntaxColors();
+    const std::array attributes = syntaxAttributes(view);
     const auto text = plainText(view);
+    // All attributes at once, in the text's order: adding one looks up and copies those before.
     for (const auto& [range, syntax] : syntaxOf(view.text().utf16(), PlatformWordRoles())) {
-        text.addAttribute(ui::attributes::foregroundColor(),
-                          colors.at(static_cast<std::size_t>(syntax)), range);
+        text.setAttributes(attributes.at(static_cast<std::size_t>(syntax)), range);
     }
     view.setAttributedText(text);
 }
