@@ -1,10 +1,9 @@
 // What the rows of lists offer.
 #include "desktop/host/arguments.hpp"
 #include "desktop/host/commands.hpp"
+#include "desktop/host/view_argument.hpp"
 
-#include "desktop/uikit/events/touch_dispatcher.hpp"
 #include "desktop/uikit/lists/table_view.hpp"
-#include "desktop/uikit/uikit.hpp"
 
 #include <algorithm>
 
@@ -28,14 +27,6 @@ Row rowAround(ui::View view) {
     throw RequestError("there is no table's row");
 }
 
-Row rowArgument(Session& session, const Json& request) {
-    uikit::layoutWindows();
-    if (const Json* on = argument(request, "on"); on != nullptr) {
-        return rowAround(session.values.toKind<ui::View>(*on));
-    }
-    return rowAround(TouchDispatcher::viewAt(pointArgument(request, "at")));
-}
-
 Json titlesOf(const RowActions& actions) {
     Json titles = Json::array();
     for (const RowAction& action : actions.list) {
@@ -47,7 +38,7 @@ Json titlesOf(const RowActions& actions) {
 } // namespace
 
 Json swipe(Session& session, const Json& request) {
-    const Row row = rowArgument(session, request);
+    const Row row = rowAround(viewArgument(session, request));
     TableView& table = TableView::of(row.table);
     Json offered = titlesOf(table.actionsOf(row.index));
     if (argument(request, "choose") == nullptr) {

@@ -2,11 +2,11 @@
 #include "desktop/foundation/text.hpp"
 #include "desktop/host/arguments.hpp"
 #include "desktop/host/commands.hpp"
+#include "desktop/host/view_argument.hpp"
 
 #include "bindings/uikit/context_menu_interaction.hpp"
 #include "desktop/uikit/contextmenus/context_menu_interaction.hpp"
 #include "desktop/uikit/contextmenus/context_menu_view.hpp"
-#include "desktop/uikit/uikit.hpp"
 #include "desktop/uikit/values/image.hpp"
 
 namespace desktop::host {
@@ -25,7 +25,6 @@ ui::ContextMenuInteraction interactionOf(ui::View view) {
 }
 
 void open(ui::View view) {
-    uikit::layoutWindows();
     const auto interaction = interactionOf(view);
     if (!interaction) {
         throw RequestError("the view has no context menu");
@@ -59,8 +58,8 @@ ui::MenuElement elementTitled(ui::Menu menu, const std::string& title) {
 } // namespace
 
 Json context(Session& session, const Json& request) {
-    if (const Json* on = argument(request, "on"); on != nullptr) {
-        open(session.values.toKind<ui::View>(*on));
+    if (argument(request, "on") != nullptr || argument(request, "at") != nullptr) {
+        open(viewArgument(session, request));
     }
     const objc::Strong<ui::Menu> menu = ContextMenuView::shown();
     const Json* choice = argument(request, "choose");

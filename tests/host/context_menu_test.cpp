@@ -39,6 +39,14 @@ TEST_F(ContextMenu, StaysUntilItIsChosenFromOrPutAway) {
     EXPECT_TRUE(context(Json::object()).is_null());
 }
 
+TEST_F(ContextMenu, BelongsToTheViewUnderAPoint) {
+    const Json rect = host.result({{"do", "tree"}, {"of", cell}})["rect"];
+    const Json place{rect[0].get<double>() + 50, rect[1].get<double>() + 20};
+    EXPECT_EQ(context({{"at", place}, {"choose", nullptr}})["items"].size(), 12U);
+    EXPECT_NE(host.error({{"do", "context"}, {"at", {380, 60}}}), "");
+    EXPECT_NE(host.error({{"do", "context"}, {"at", "here"}}), "");
+}
+
 TEST_F(ContextMenu, ComesUpByAPressAndGoesByATapBesideIt) {
     host.result({{"do", "press"}, {"on", cell}, {"seconds", 0.6}});
     EXPECT_EQ(context(Json::object())["items"].size(), 12U);
