@@ -1,7 +1,7 @@
 // NSInputStream: bytes, one part after the other.
 #pragma once
 
-#include "bindings/foundation/string.hpp"
+#include "bindings/foundation/data.hpp"
 
 namespace ns {
 
@@ -11,6 +11,9 @@ struct InputStream : objc::Kind<InputStream, "NSInputStream"> {
     /// Opening it fails when there is no such file, which shows in there being nothing to read.
     static InputStream withFileAtPath(String path) {
         return sendClass<"inputStreamWithFileAtPath:", InputStream>(path);
+    }
+    static InputStream withData(Data data) {
+        return sendClass<"inputStreamWithData:", InputStream>(data);
     }
     void open() const { send<"open">(); }
     void close() const { send<"close">(); }

@@ -1,9 +1,9 @@
 // Reads texts of unknown encoding.
 #include "library/files/browser/file_reading.hpp"
 
-#include "bindings/foundation/data.hpp"
 #include "bindings/foundation/log.hpp"
 #include "library/common/text_encoding.hpp"
+#include "library/files/regular_file.hpp"
 
 #include <array>
 #include <sys/stat.h>
@@ -31,11 +31,6 @@ bool isFolder(const std::string& path) {
     return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
-bool isPlainFile(const std::string& path) {
-    struct stat status {};
-    return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
-}
-
 ns::Url urlOf(const std::string& path) {
     constexpr bool isDirectory = false;
     return isUtf8(path) ? ns::Url::fileUrlWithPath(ns::String::fromUtf8(path), isDirectory)
@@ -43,8 +38,7 @@ ns::Url urlOf(const std::string& path) {
 }
 
 ns::String textOfFile(ns::Url url) {
-    const auto bytes =
-        isPlainFile(url.path().utf8()) ? ns::Data::withContentsOfFile(url.path()) : ns::Data();
+    const ns::Data bytes = bytesOfFile(url.path().utf8());
     if (!bytes) {
         ns::log("无法从中读取数据 " + ns::description(url).utf8());
         return u""_ns;

@@ -11,10 +11,6 @@ namespace wentra::files {
 /// Whether there is a folder, or a link that leads to one.
 [[nodiscard]] bool isFolder(const std::string& path);
 
-/// Whether there is a plain file, or a link that leads to one. Anything else might never end, or
-/// wait for others, when it is read.
-[[nodiscard]] bool isPlainFile(const std::string& path);
-
 /// The file's URL; nil for a path that is no UTF-8, which no URL has.
 [[nodiscard]] ns::Url urlOf(const std::string& path);
 

@@ -5,6 +5,7 @@
 #include "library/common/alert.hpp"
 #include "library/common/text_encoding.hpp"
 #include "library/files/file_path.hpp"
+#include "library/files/regular_file.hpp"
 
 namespace wentra::files {
 namespace {
@@ -37,7 +38,7 @@ void ImageConversion::convert(ns::IndexPath row, ui::TableView table, ns::String
         tell(u"错误"_ns, u"转换格式错误"_ns);
         return;
     }
-    const auto image = ui::Image::withContentsOfFile(textOf(*source));
+    const ui::Image image = imageOfFile(*source);
     const ns::Data data =
         toPng ? ui::pngRepresentation(image) : ui::jpegRepresentation(image, best);
     const std::string name = std::string(baseOf(*source)) + (toPng ? ".png" : ".jpg");

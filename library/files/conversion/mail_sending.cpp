@@ -3,6 +3,7 @@
 
 #include "library/common/alert.hpp"
 #include "library/files/file_path.hpp"
+#include "library/files/regular_file.hpp"
 
 namespace wentra::files {
 namespace {
@@ -30,7 +31,7 @@ ns::String messageOf(Result result, ns::Error error) {
 
 void MailSending::compose(ui::TableView table, ns::IndexPath row) {
     const auto path = panes_.entry(table, row);
-    const auto data = path ? ns::Data::withContentsOfFile(textOf(*path)) : ns::Data();
+    const auto data = path ? bytesOfFile(*path) : ns::Data();
     if (!data || !mf::MailComposeViewController::canSendMail()) {
         return;
     }

@@ -4,6 +4,7 @@
 #include "bindings/foundation/log.hpp"
 #include "bindings/foundation/property_list_serialization.hpp"
 #include "library/files/file_path.hpp"
+#include "library/files/regular_file.hpp"
 
 namespace wentra::files {
 namespace {
@@ -11,8 +12,8 @@ namespace {
 void logFailure(ns::Error error) { ns::log(ns::description(error).utf8()); }
 
 /// Nil when the file is no property list, when it is an XML one, and when XML cannot hold it.
-ns::Data xmlOf(ns::String path) {
-    const ns::Data data = ns::Data::withContentsOfFile(path);
+ns::Data xmlOf(const std::string& path) {
+    const ns::Data data = bytesOfFile(path);
     if (!data) {
         return nullptr;
     }
@@ -41,7 +42,7 @@ void copyAsXml(Panes& panes, ui::TableView table, ns::IndexPath row) {
     if (!source) {
         return;
     }
-    if (const ns::Data xml = xmlOf(textOf(*source)); xml) {
+    if (const ns::Data xml = xmlOf(*source); xml) {
         const std::string name = std::string(baseOf(*source)) + "-XML明文.plist";
         const ns::Error error = xml.writeToFile(textOf(joined(panes.folder(table), name)),
                                                 ns::DataWritingOptions::atomic);

@@ -7,9 +7,11 @@
 #include "bindings/objc/pool.hpp"
 #include "bindings/uikit/collection_view_flow_layout.hpp"
 #include "library/common/light_background.hpp"
+#include "library/common/text_encoding.hpp"
+#include "library/files/file_path.hpp"
+#include "library/files/regular_file.hpp"
 #include "library/files/viewers/hex_cell.hpp"
 #include "library/files/viewers/hex_digits.hpp"
-#include "library/files/viewers/regular_file.hpp"
 
 #include <algorithm>
 #include <vector>
@@ -18,6 +20,15 @@ namespace wentra::files {
 namespace {
 
 using namespace ns::literals;
+
+/// Nil for what need not have an end.
+ns::InputStream streamOf(const std::string& path) {
+    if (!regularFileSize(path)) {
+        return nullptr;
+    }
+    return isUtf8(path) ? ns::InputStream::withFileAtPath(ns::String::fromUtf8(path))
+                        : ns::InputStream::withData(bytesOfFile(path));
+}
 
 class HexEditorViewControllerPeer
     : public objc::Peer<HexEditorViewControllerPeer, HexEditorViewController> {
@@ -81,10 +92,7 @@ void HexEditorViewControllerPeer::viewDidLoad() {
 void HexEditorViewControllerPeer::readFile() {
     constexpr std::size_t partSize = 1U << 16U;
     blocks_ = ns::MutableArray::make();
-    if (!regularFileSize(path_)) {
-        return; // a pipe or a device need not have an end
-    }
-    stream_ = ns::InputStream::withFileAtPath(path_);
+    stream_ = streamOf(pathOfText(path_.utf16()));
     stream_.open();
     std::vector<char> buffer(partSize);
     while (stream_.hasBytesAvailable() && readPart(buffer)) {
@@ -133,6 +141,8 @@ void HexEditorViewControllerPeer::addGrid(CGRect frame) {
     grid_.registerClass(HexCell::classObject(), u"HexCell"_ns);
     setLightBackground(grid_, ui::Color::white());
     grid_.setDataSource(self());
+    // Few bytes do not scroll, and would begin under the bar.
+    grid_.setContentInsetAdjustmentBehavior(ui::ContentInsetAdjustmentBehavior::always);
     self().view().addSubview(grid_);
 }
 

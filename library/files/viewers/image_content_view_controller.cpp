@@ -13,8 +13,8 @@
 #include "bindings/uikit/toolbar.hpp"
 #include "library/common/light_background.hpp"
 #include "library/common/sharing.hpp"
+#include "library/files/regular_file.hpp"
 #include "library/files/viewers/image_info.hpp"
-#include "library/files/viewers/regular_file.hpp"
 
 #include <cmath>
 #include <vector>
@@ -28,7 +28,7 @@ constexpr double toolbarHeight = 50;
 
 /// Whatever number of pixels the file's name says that a point has.
 CGSize pixelsOf(ns::Url url) {
-    const auto image = ui::Image::withContentsOfFile(url.path());
+    const ui::Image image = imageOfFile(url.path().utf8());
     const CGSize size = image.size();
     return {size.width * image.scale(), size.height * image.scale()};
 }
@@ -165,7 +165,7 @@ void ImageContentViewControllerPeer::addPage(ns::Url url, CGRect frame) {
     page.setBouncesZoom(true);
     page.setClipsToBounds(false);
     page.setDelegate(self());
-    const auto picture = ui::ImageView::withImage(ui::Image::withContentsOfFile(url.path()));
+    const auto picture = ui::ImageView::withImage(imageOfFile(url.path().utf8()));
     picture.setFrame(
         {{margin, margin}, {frame.size.width - 2 * margin, frame.size.height - 2 * margin}});
     picture.setContentMode(ui::ContentMode::scaleAspectFit);
@@ -187,7 +187,7 @@ void ImageContentViewControllerPeer::updateInfo(long index) {
     }
     const ns::Url url = urls_.at(static_cast<unsigned long>(index));
     const auto size = ns::ByteCountFormatter::stringFromByteCount(
-        regularFileSize(url.path()).value_or(0), ns::ByteCountFormatterCountStyle::file);
+        regularFileSize(url.path().utf8()).value_or(0), ns::ByteCountFormatterCountStyle::file);
     infoLabel_.setText(
         ns::String::from(imageInfo(url.lastPathComponent().utf16(), pixelsOf(url), size.utf16())));
     describedIndex_ = index;

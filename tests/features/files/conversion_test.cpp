@@ -1,6 +1,8 @@
 // Conversions of the browser's rows: images, property lists, mails and packages.
 #include "tests/features/files/viewer_phone.hpp"
 
+#include <sys/stat.h>
+
 namespace {
 
 using tests::Json;
@@ -101,6 +103,22 @@ TEST_F(Conversion, CopiesPropertyListsAsXmlUnlessTheyAre) {
     const std::string xml = read("work/a-XML明文.plist");
     EXPECT_EQ(xml.substr(0, 5), "<?xml");
     EXPECT_NE(xml.find("<string>名</string>"), xml.npos);
+}
+
+TEST_F(Conversion, NeverWaitsForAPipe) {
+    std::filesystem::create_directories(onDisk("work"));
+    ASSERT_EQ(mkfifo(onDisk("work/a.png").c_str(), 0600), 0);
+    browse();
+    convert("a.png", "jpg");
+    EXPECT_EQ(outcome(), "错误: 图片转换失败");
+    ViewerTest::choose("OK");
+    choose("转换为XML明文", "a.png");
+    choose("直接发邮件附件", "a.png");
+    EXPECT_EQ(phone.result({{"do", "mail"}}), nullptr);
+    phone.message(browser, "tableView:didSelectRowAtIndexPath:", {table, row("a.png")});
+    phone.advance(1);
+    EXPECT_EQ(phone.result({{"do", "screens"}}).back(), "ImageContentViewController");
+    EXPECT_EQ(phone.message(browser, "content1"), Json{"a.png"});
 }
 
 TEST_F(Conversion, LogsWhatIsNoPropertyList) {

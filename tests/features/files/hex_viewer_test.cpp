@@ -9,7 +9,7 @@ using tests::Json;
 
 class HexViewer : public tests::ViewerTest {
 protected:
-    void open(const std::string& file) {
+    void open(const Json& file) {
         viewer = phone.result({{"do", "make"},
                                {"class", "HexEditorViewController"},
                                {"selector", "initWithSrcPath:"},
@@ -40,6 +40,30 @@ TEST_F(HexViewer, ShowsEachByteAsTwoDigits) {
     EXPECT_EQ(shown(), (std::vector<std::string>{"0a", "00", "ff", "61", "7f"}));
     EXPECT_EQ(phone.message(viewer, "inputStream"), nullptr);
     EXPECT_TRUE(phone.swallowed().empty());
+}
+
+TEST_F(HexViewer, ReadsFilesWhateverTheirNames) {
+    write("\xFF", "ab");
+    Json units = Json::array();
+    for (const char unit : path("")) {
+        units.push_back(int{unit});
+    }
+    units.push_back(0xDCFF); // the byte in a text
+    open({{"units", units}});
+    EXPECT_EQ(shown(), (std::vector<std::string>{"61", "62"}));
+}
+
+TEST_F(HexViewer, BeginsBelowTheBar) {
+    for (const std::size_t size : {3U, 100'000U}) {
+        openFile(std::string(size, 'a'));
+        const Json bar = phone.node(
+            phone.message(phone.message(viewer, "navigationController"), "navigationBar"))["rect"];
+        const Json first =
+            phone.message({{"class", "NSIndexPath"}}, "indexPathForItem:inSection:", {0, 0});
+        const Json cell =
+            phone.node(phone.message(grid, "cellForItemAtIndexPath:", {first}))["rect"];
+        EXPECT_EQ(cell[1].get<double>(), bar[1].get<double>() + bar[3].get<double>()) << size;
+    }
 }
 
 TEST_F(HexViewer, HasASectionForEachBlock) {

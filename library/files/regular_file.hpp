@@ -1,0 +1,24 @@
+// What can be read to its end: files, not pipes or devices.
+#pragma once
+
+#include "bindings/foundation/data.hpp"
+#include "bindings/uikit/image.hpp"
+
+#include <optional>
+#include <string>
+
+namespace wentra::files {
+
+// A regular file, or a link that leads to one. Reading anything else might wait for others, or
+// never end.
+
+/// The file's size in bytes; nothing for folders, pipes and devices, and where there is none.
+[[nodiscard]] std::optional<long long> regularFileSize(const std::string& path);
+
+/// What is in the file, whatever its name; nil for what is none, and when it cannot be read.
+[[nodiscard]] ns::Data bytesOfFile(const std::string& path);
+
+/// The image in the file; nil for what holds none.
+[[nodiscard]] ui::Image imageOfFile(const std::string& path);
+
+} // namespace wentra::files
