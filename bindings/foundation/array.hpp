@@ -65,6 +65,9 @@ struct ArrayOf : Array {
 struct MutableArray : objc::Kind<MutableArray, "NSMutableArray", Array> {
     using Kind::Kind;
 
+    static MutableArray withArray(Array other) {
+        return sendClass<"arrayWithArray:", MutableArray>(other);
+    }
     void add(objc::Object element) const { send<"addObject:">(element); }
     void insert(objc::Object element, unsigned long index) const {
         send<"insertObject:atIndex:">(element, index);

@@ -25,6 +25,12 @@ inline String posixPermissions() { return u"NSFilePosixPermissions"_ns; }
 /// NSFileCreationDate, NSFileModificationDate: dates.
 inline String creationDate() { return u"NSFileCreationDate"_ns; }
 inline String modificationDate() { return u"NSFileModificationDate"_ns; }
+/// NSFileProtectionKey: a string.
+inline String protection() { return u"NSFileProtectionKey"_ns; }
+/// Whether they are those of a folder; false for nil.
+inline bool isDirectory(Dictionary attributes) {
+    return attributes.get(u"NSFileType"_ns).isEqual(u"NSFileTypeDirectory"_ns);
+}
 
 } // namespace file_attributes
 
@@ -32,6 +38,12 @@ struct FileManager : objc::Kind<FileManager, "NSFileManager"> {
     using Kind::Kind;
 
     static FileManager defaultManager() { return sendClass<"defaultManager", FileManager>(); }
+    /// The names of what the folder holds, in no particular order.
+    [[nodiscard]] Result<ArrayOf<String>> contentsOfDirectory(String path) const {
+        const ErrorPointer error;
+        return error.result(
+            send<"contentsOfDirectoryAtPath:error:", ArrayOf<String>>(path, error.out()));
+    }
     /// Files and folders alike; links are followed.
     [[nodiscard]] bool fileExists(String path) const {
         return send<"fileExistsAtPath:", bool>(path);

@@ -37,7 +37,6 @@ enum class StringEncoding : unsigned long {
 };
 
 struct Data;
-
 struct Error;
 
 struct String : objc::Kind<String, "NSString"> {
@@ -61,6 +60,10 @@ struct String : objc::Kind<String, "NSString"> {
     [[nodiscard]] unsigned long length() const { return send<"length", unsigned long>(); }
     /// Of the number that the text begins with; 0 without one.
     [[nodiscard]] long integerValue() const { return send<"integerValue", long>(); }
+    /// The path of a name in the folder that this is the path of.
+    [[nodiscard]] String appendingPathComponent(String name) const {
+        return send<"stringByAppendingPathComponent:", String>(name);
+    }
     [[nodiscard]] float floatValue() const { return send<"floatValue", float>(); }
     [[nodiscard]] bool isEqualToString(String other) const {
         return send<"isEqualToString:", bool>(other);

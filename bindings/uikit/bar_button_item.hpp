@@ -2,7 +2,7 @@
 #pragma once
 
 #include "bindings/uikit/image.hpp"
-#include "bindings/uikit/view.hpp"
+#include "bindings/uikit/view_controller.hpp"
 
 namespace ui {
 
@@ -58,5 +58,9 @@ struct BarButtonItem : objc::Kind<BarButtonItem, "UIBarButtonItem"> {
     void setTitle(ns::String title) const { send<"setTitle:">(title); }
     void setEnabled(bool enabled) const { send<"setEnabled:">(enabled); }
 };
+
+inline BarButtonItem ViewController::editButtonItem() const {
+    return send<"editButtonItem", BarButtonItem>();
+}
 
 } // namespace ui

@@ -9,7 +9,8 @@ namespace ui {
 
 /// The platform's numbers.
 enum class TableViewStyle : long { plain = 0, grouped = 1, insetGrouped = 2 };
-enum class TableViewRowAnimation : long { automatic = 100 };
+enum class TableViewRowAnimation : long { fade = 0, automatic = 100 };
+enum class TableViewScrollPosition : long { none = 0, top = 1, middle = 2, bottom = 3 };
 enum class TableViewCellSeparatorStyle : long { none = 0, singleLine = 1 };
 
 struct TableView : objc::Kind<TableView, "UITableView", ScrollView> {
@@ -55,6 +56,18 @@ struct TableView : objc::Kind<TableView, "UITableView", ScrollView> {
     [[nodiscard]] ns::IndexPath indexPathFor(TableViewCell cell) const {
         return send<"indexPathForCell:", ns::IndexPath>(cell);
     }
+    void selectRow(ns::IndexPath path, bool animated, TableViewScrollPosition position) const {
+        send<"selectRowAtIndexPath:animated:scrollPosition:">(path, animated, position);
+    }
+    /// Nil when none is.
+    [[nodiscard]] ns::ArrayOf<ns::IndexPath> indexPathsForSelectedRows() const {
+        return send<"indexPathsForSelectedRows", ns::ArrayOf<ns::IndexPath>>();
+    }
+    void setAllowsMultipleSelectionDuringEditing(bool allows) const {
+        send<"setAllowsMultipleSelectionDuringEditing:">(allows);
+    }
+    /// Above the rows, as tall as it is.
+    void setTableHeaderView(View view) const { send<"setTableHeaderView:">(view); }
     void deselectRow(ns::IndexPath path, bool animated) const {
         send<"deselectRowAtIndexPath:animated:">(path, animated);
     }

@@ -6,6 +6,7 @@
 
 namespace ui {
 
+struct BarButtonItem;
 struct NavigationController;
 struct NavigationItem;
 struct PopoverPresentationController;
@@ -76,6 +77,18 @@ struct ViewController : objc::Kind<ViewController, "UIViewController", Responder
     void setPreferredContentSize(CGSize size) const { send<"setPreferredContentSize:">(size); }
     /// Nil unless the style is that of a popover. Defined in popover_presentation_controller.hpp.
     [[nodiscard]] PopoverPresentationController popoverPresentationController() const;
+
+    /// Whether what is presented over its context stays with the controller's view, and goes with
+    /// it.
+    void setDefinesPresentationContext(bool defines) const {
+        send<"setDefinesPresentationContext:">(defines);
+    }
+
+    [[nodiscard]] bool isEditing() const { return send<"isEditing", bool>(); }
+    /// A button that begins and ends editing. Defined in bar_button_item.hpp.
+    [[nodiscard]] BarButtonItem editButtonItem() const;
+    /// Bar button items, for a navigation controller's toolbar.
+    void setToolbarItems(ns::Array items) const { send<"setToolbarItems:">(items); }
 
     [[nodiscard]] ViewController parent() const {
         return send<"parentViewController", ViewController>();

@@ -1,6 +1,7 @@
 // Dates that are kept for files, by what identifies them.
 #include "desktop/foundation/file_dates.hpp"
 
+#include <algorithm>
 #include <fcntl.h>
 #include <map>
 #include <mutex>
@@ -51,7 +52,9 @@ double creationDate(const std::string& path) {
     if (set != kept().dates.end()) {
         return set->second;
     }
-    return seconds((status->stx_mask & STATX_BTIME) != 0 ? status->stx_btime : status->stx_mtime);
+    const double changed = seconds(status->stx_mtime);
+    return (status->stx_mask & STATX_BTIME) != 0 ? std::min(seconds(status->stx_btime), changed)
+                                                 : changed;
 }
 
 bool setCreationDate(const std::string& path, double secondsSince1970) {

@@ -8,7 +8,8 @@
 namespace desktop::foundation {
 
 /// Seconds since 1970 at which the entry was made, itself where it is a link: what was set, else
-/// what the file system knows, else its last change. Any thread.
+/// what the file system knows. The phone's own sets this date back with that of the last change, so
+/// nothing was made after that. Any thread.
 [[nodiscard]] double creationDate(const std::string& path);
 
 /// Linux lets nobody set the date: this process keeps it, as long as the entry is there. False

@@ -19,6 +19,7 @@
 #include "desktop/foundation/property_list_serialization.hpp"
 #include "desktop/foundation/regular_expression.hpp"
 #include "desktop/foundation/string.hpp"
+#include "desktop/foundation/string_search.hpp"
 #include "desktop/foundation/string_transform.hpp"
 #include "desktop/foundation/suggested_filename.hpp"
 #include "desktop/foundation/timer.hpp"
@@ -33,6 +34,7 @@ namespace desktop::foundation {
 void install(const std::string& bundleIdentifier) {
     const objc::Pool pool;
     installStrings();
+    installStringSearch();
     installStringTransforms();
     installPercentEncoding();
     installByteCountFormatter();

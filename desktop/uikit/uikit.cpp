@@ -27,6 +27,7 @@
 #include "desktop/uikit/controls/picker_view.hpp"
 #include "desktop/uikit/controls/progress_view.hpp"
 #include "desktop/uikit/controls/search_bar.hpp"
+#include "desktop/uikit/controls/search_controller.hpp"
 #include "desktop/uikit/events/event.hpp"
 #include "desktop/uikit/events/responder.hpp"
 #include "desktop/uikit/events/touch.hpp"
@@ -112,7 +113,7 @@ void registerClasses() {
                 MenuItem, MenuController, Responder, Application, ViewController, View, Window,
                 TextEffectsWindow, KeyboardView, CalloutBar, TextSelectionView, Label, ImageView,
                 ScrollView, StackView, NavigationBar, Control, Button, ClearButton, PageControl,
-                TextField, SearchBar, TextView, Touch, Event, GestureRecognizer,
+                TextField, SearchBar, SearchController, TextView, Touch, Event, GestureRecognizer,
                 TapGestureRecognizer, LongPressGestureRecognizer, PanGestureRecognizer,
                 PinchGestureRecognizer, SwipeGestureRecognizer, ScrollPan,
                 CollectionViewLayoutAttributes, CollectionViewLayout, CollectionViewFlowLayout,

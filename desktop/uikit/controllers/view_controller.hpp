@@ -64,6 +64,15 @@ private:
     void setTitle(ns::String title);
     [[nodiscard]] ns::String title() const { return title_; }
 
+    void toolbarItemsChanged();
+
+    // Editing (view_controller_editing.cpp)
+    [[nodiscard]] bool isEditing() const { return editing_; }
+    void setEditing(bool editing);
+    void setEditingAnimated(bool editing, bool animated);
+    [[nodiscard]] ui::BarButtonItem editButtonItem();
+    void editButtonPressed();
+
     // Traits (view_controller_traits.cpp)
     [[nodiscard]] ui::TraitCollection traitCollection() const;
     [[nodiscard]] ui::InterfaceStyle overrideStyle() const { return overrideStyle_; }
@@ -103,6 +112,8 @@ private:
     objc::Copied<ns::String> title_;
     objc::Strong<ui::NavigationItem> navigationItem_;
     objc::Strong<ns::Array> toolbarItems_;
+    objc::Strong<ui::BarButtonItem> editButton_;
+    bool editing_ = false;
     std::vector<objc::Strong<ui::ViewController>> children_;
     ui::ViewController parent_;
     objc::Strong<ui::ViewController> presented_;

@@ -1,5 +1,6 @@
 // View controllers inside of others.
 #include "bindings/uikit/navigation_controller.hpp"
+#include "bindings/uikit/toolbar.hpp"
 #include "desktop/uikit/controllers/view_controller.hpp"
 
 #include <algorithm>
@@ -51,6 +52,14 @@ ui::NavigationController ViewController::navigationController() const {
         }
     }
     return nullptr;
+}
+
+/// They may come when the controller is on the screen already.
+void ViewController::toolbarItemsChanged() {
+    const ui::NavigationController navigation = navigationController();
+    if (navigation.topViewController() == self()) {
+        navigation.send<"toolbar", ui::Toolbar>().setItems(toolbarItems_);
+    }
 }
 
 } // namespace desktop

@@ -21,6 +21,11 @@ void TableViewController::loadView() {
     table.send<"setDataSource:">(self());
 }
 
+void TableViewController::setEditing(bool editing, bool animated) {
+    super<"setEditing:animated:">(objc::Boolean(editing), objc::Boolean(animated));
+    tableView().send<"setEditing:animated:">(objc::Boolean(editing), objc::Boolean(animated));
+}
+
 ui::CollectionViewController
 CollectionViewController::initWithLayout(ui::CollectionViewLayout layout) {
     super<"init", objc::Object>();

@@ -22,6 +22,7 @@ public:
             objc::method<"loadView", &Self::loadView>(),
             objc::property<"tableView", &Self::tableView, &Self::setTableView>(),
             objc::method<"tableView:numberOfRowsInSection:", &Self::numberOfRows>(),
+            objc::method<"setEditing:animated:", &Self::setEditing>(),
         };
     }
 
@@ -32,6 +33,7 @@ private:
     /// None, until a subclass says otherwise.
     [[nodiscard]] long numberOfRows(ui::TableView, long) const { return 0; }
     void setTableView(ui::TableView table) { self().send<"setView:">(table); }
+    void setEditing(bool editing, bool animated);
 
     long style_ = 0;
 };

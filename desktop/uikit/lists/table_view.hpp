@@ -121,6 +121,15 @@ private:
     void closeSwipe();
     void chooseButton(ui::Button button);
 
+    // Editing, in table_view_editing.cpp.
+    void setEditing(bool editing);
+    void setEditingAnimated(bool editing, bool animated);
+    void editingChanged();
+    void showEditing(ui::TableViewCell cell) const;
+    [[nodiscard]] bool isEditing() const { return editing_; }
+    [[nodiscard]] bool picksSeveral() const;
+    [[nodiscard]] bool takesTaps() const;
+
     template <objc::Literal Name>
     [[nodiscard]] bool answers(objc::Object receiver) const {
         return receiver && receiver.respondsToSelector(objc::selector<Name>());
@@ -156,6 +165,9 @@ private:
     std::unique_ptr<RowSwipe> swipe_; // the open row
     bool allowsSelection_ = true;
     bool allowsMultipleSelection_ = false;
+    bool editing_ = false;
+    bool allowsMultipleDuringEditing_ = false;
+    bool allowsSelectionDuringEditing_ = false;
 };
 
 } // namespace desktop

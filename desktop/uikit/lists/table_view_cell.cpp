@@ -16,6 +16,7 @@ constexpr double titleSize = 17;
 constexpr double detailSize = 15;
 constexpr double subtitleSize = 12;
 constexpr double accessoryWidth = 14;
+constexpr double pickingWidth = 38;
 
 /// Of the content, for image and texts.
 CGRect textRoom(CGSize content) {
@@ -48,6 +49,9 @@ std::vector<objc::MethodRow> TableViewCell::methods() {
         objc::method<"isHighlighted", &Self::isHighlighted>(),
         objc::method<"setHighlighted:", &Self::setHighlighted>(),
         objc::method<"setHighlighted:animated:", &Self::setHighlightedAnimated>(),
+        objc::method<"isEditing", &Self::isEditing>(),
+        objc::method<"setEditing:", &Self::setEditing>(),
+        objc::method<"setEditing:animated:", &Self::setEditingAnimated>(),
         objc::method<"layoutSubviews", &Self::layoutSubviews>(),
     };
 }
@@ -160,6 +164,26 @@ void TableViewCell::stateChanged() {
         self().setNeedsLayout();
     }
     selectedBackground_.setHidden(!marked);
+    showMark();
+}
+
+void TableViewCell::setEditing(bool editing) { editing_ = editing; }
+
+void TableViewCell::setPicking(bool picks) {
+    if (picks == static_cast<bool>(mark_)) {
+        return;
+    }
+    mark_.removeFromSuperview();
+    mark_ = picks ? ui::ImageView::make<"initWithFrame:">(CGRect()) : ui::ImageView();
+    mark_.setContentMode(ui::ContentMode::center);
+    self().addSubview(mark_);
+    showMark();
+    self().setNeedsLayout();
+}
+
+void TableViewCell::showMark() const {
+    mark_.setImage(ui::Image::systemNamed(selected_ ? u"checkmark.circle.fill"_ns : u"circle"_ns));
+    mark_.setTintColor(selected_ ? ui::Color::systemBlue() : ui::Color::named("systemGray3Color"));
 }
 
 void TableViewCell::layoutSubviews() {
@@ -178,7 +202,11 @@ void TableViewCell::layoutSubviews() {
         right -= wide + margin;
         accessoryMark_.setFrame({{right, 0}, {wide, size.height}});
     }
-    content_.setFrame({{}, {std::max(0.0, right), size.height}});
+    const double left = mark_ ? pickingWidth : 0;
+    mark_.setFrame({{margin, 0}, {pickingWidth - margin / 2, size.height}});
+    right -= left;
+    content_.setFrame({{left, 0}, {std::max(0.0, right), size.height}});
+    addTexts();
     placeTexts(textRoom(content_.bounds().size));
     const double line = 1 / ScreenGeometry::current().scale;
     separator_.setFrame(
@@ -209,6 +237,15 @@ double TableViewCell::textHeight(CGSize room) const {
             style_ == ui::TableViewCellStyle::subtitle ? height + below : std::max(height, below);
     }
     return height + 2 * verticalMargin;
+}
+
+/// Whoever clears the content may use the cell's own texts again.
+void TableViewCell::addTexts() const {
+    for (const ui::Label text : {text_, detail_}) {
+        if (text.text().length() > 0 && !text.superview()) {
+            content_.insertSubview(text, 0);
+        }
+    }
 }
 
 void TableViewCell::placeTexts(CGRect room) const {

@@ -23,6 +23,8 @@ public:
     /// How tall the cell has to be in that width for its texts, and for what is held in its content
     /// by constraints. The cell has that width afterwards.
     [[nodiscard]] double fittingHeight(double width) const;
+    /// Whether a circle before the row tells if it is picked.
+    void setPicking(bool picks);
 
 private:
     ui::TableViewCell initWithStyle(ui::TableViewCellStyle style, ns::String identifier);
@@ -51,6 +53,11 @@ private:
     void layoutSubviews();
     void placeTexts(CGRect room) const;
     [[nodiscard]] double textHeight(CGSize room) const;
+    [[nodiscard]] bool isEditing() const { return editing_; }
+    void setEditing(bool editing);
+    void setEditingAnimated(bool editing, bool) { setEditing(editing); }
+    void showMark() const;
+    void addTexts() const;
 
     ui::TableViewCellStyle style_ = ui::TableViewCellStyle::default_;
     CellAccessory accessory_ = CellAccessory::none;
@@ -69,6 +76,8 @@ private:
     objc::Strong<ui::View> background_;
     objc::Strong<ui::View> selectedBackground_;
     objc::Strong<ui::View> separator_;
+    objc::Strong<ui::ImageView> mark_; ///< while rows are picked
+    bool editing_ = false;
 };
 
 } // namespace desktop

@@ -88,6 +88,7 @@ bool TableView::showWantedCells() {
             }
             cells_.show(index, cell);
             mark(index, selection_.contains(index));
+            showEditing(cell);
             self().insertSubview(cell, 0);
             tell<"tableView:willDisplayCell:forRowAtIndexPath:">(cell, index.path());
             differs = fit(index, cell) || differs;

@@ -27,7 +27,7 @@ void TableView::mark(ItemIndex index, bool selected) {
 }
 
 void TableView::selectRow(ns::IndexPath path, bool animated, long position) {
-    const bool keepsOthers = allowsMultipleSelection_ && path;
+    const bool keepsOthers = picksSeveral() && path;
     if (!keepsOthers) {
         for (const ItemIndex former : std::set(selection_.items())) {
             selection_.remove(former);
@@ -60,7 +60,7 @@ void TableView::touchesBegan(ns::SetOf<ui::Touch> touches, ui::Event event) {
     const auto touch = touches.allObjects().first();
     const auto index = cells_.itemOf(touch.view(), self());
     const objc::Object asked = delegate();
-    if (!pressed_.items().empty() || !index || !allowsSelection_ ||
+    if (!pressed_.items().empty() || !index || !takesTaps() ||
         (answers<"tableView:shouldHighlightRowAtIndexPath:">(asked) &&
          !asked.send<"tableView:shouldHighlightRowAtIndexPath:", bool>(self(), index->path()))) {
         return;
@@ -103,7 +103,7 @@ void TableView::deselectByTouch(ItemIndex index) {
 }
 
 void TableView::selectByTouch(ItemIndex index) {
-    if (allowsMultipleSelection_ && selection_.contains(index)) {
+    if (picksSeveral() && selection_.contains(index)) {
         deselectByTouch(index);
         return;
     }
@@ -117,7 +117,7 @@ void TableView::selectByTouch(ItemIndex index) {
     }
     const ItemIndex chosen = ItemIndex::of(path); // the delegate may have chosen another row
     for (const ItemIndex former : std::set(selection_.items())) {
-        if (!allowsMultipleSelection_ && former != chosen) {
+        if (!picksSeveral() && former != chosen) {
             deselectByTouch(former);
         }
     }

@@ -31,6 +31,7 @@ struct stat {
 
 extern "C" {
 int stat(const char* path, struct stat* status);
+int chmod(const char* path, mode_t mode);
 int fstat(int descriptor, struct stat* status);
 int lstat(const char* path, struct stat* status);
 int fstatat(int folder, const char* path, struct stat* status, int flags);
