@@ -6,6 +6,7 @@
 #include "library/blocking/request_hooks.hpp"
 #include "library/clipboard/clipboard.hpp"
 #include "library/common/draggable_view.hpp"
+#include "library/crashlogs/crashlogs.hpp"
 #include "library/editing/editing.hpp"
 #include "library/files/files.hpp"
 #include "library/labels/labels.hpp"
@@ -26,8 +27,9 @@ Face commonFace() {
     return {classes, categories};
 }
 
-constexpr std::array rooms{&commonFace,     &labels::face, &clipboard::face, &utilities::face,
-                           &analysis::face, &files::face,  &toolbox::face,   &editing::face};
+constexpr std::array rooms{&commonFace,      &labels::face,   &clipboard::face,
+                           &utilities::face, &analysis::face, &files::face,
+                           &crashlogs::face, &toolbox::face,  &editing::face};
 
 void install(std::span<const Table> tables) {
     for (const Table table : tables) {

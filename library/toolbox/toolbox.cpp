@@ -3,7 +3,6 @@
 
 #include "library/toolbox/floating_view_controller.hpp"
 #include "library/toolbox/list_openers.hpp"
-#include "library/toolbox/screens_to_come.hpp"
 #include "library/toolbox/translation/bilingual_view.hpp"
 #include "library/toolbox/view_model.hpp"
 
@@ -14,7 +13,7 @@ namespace wentra::toolbox {
 Face face() {
     static constexpr std::array<Face::Declaration, 3> classes{
         &registerFloatingViewController, &registerBilingualView, &registerViewModel};
-    static constexpr std::array<Table, 2> categories{&listOpeners, &screensToCome};
+    static constexpr std::array<Table, 1> categories{&listOpeners};
     return {classes, categories};
 }
 

@@ -11,8 +11,6 @@
 namespace wentra::files {
 namespace {
 
-using namespace ns::literals;
-
 ns::String decoded(ns::Data bytes) {
     using enum ns::StringEncoding;
     for (const ns::StringEncoding encoding : {utf8, ascii, japaneseEuc}) {
@@ -21,7 +19,7 @@ ns::String decoded(ns::Data bytes) {
         }
     }
     ns::log("无法确定数据的编码");
-    return u""_ns;
+    return nullptr;
 }
 
 } // namespace
@@ -41,7 +39,7 @@ ns::String textOfFile(ns::Url url) {
     const ns::Data bytes = bytesOfFile(url.path().utf8());
     if (!bytes) {
         ns::log("无法从中读取数据 " + ns::description(url).utf8());
-        return u""_ns;
+        return nullptr;
     }
     return decoded(bytes);
 }

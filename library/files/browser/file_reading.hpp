@@ -14,7 +14,7 @@ namespace wentra::files {
 /// The file's URL; nil for a path that is no UTF-8, which no URL has.
 [[nodiscard]] ns::Url urlOf(const std::string& path);
 
-/// The text of a file in UTF-8, ASCII or Japanese EUC, whichever fits first. Empty, with a line in
+/// The text of a file in UTF-8, ASCII or Japanese EUC, whichever fits first. Nil, with a line in
 /// the system log, where none does and where the file cannot be read.
 [[nodiscard]] ns::String textOfFile(ns::Url url);
 

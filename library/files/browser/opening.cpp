@@ -27,7 +27,7 @@ void Opening::select(ui::TableView table, ns::IndexPath row) {
 
 void Opening::showText(const std::string& path) const {
     const ns::Url url = urlOf(path);
-    push(FileContentViewController::with(textOfFile(url), url));
+    push(FileContentViewController::with(content(url), url));
 }
 
 void Opening::showImage(ui::TableView table, const std::string& path) const {
@@ -50,6 +50,10 @@ void Opening::push(ui::ViewController viewer) const {
 bool Opening::isImagePath(ns::String path) const { return isImage(pathOf(path)); }
 bool Opening::isTextFile(ns::String path) const { return isText(pathOf(path)); }
 bool Opening::isDirectory(ns::String path) const { return isFolder(pathOf(path)); }
-ns::String Opening::content(ns::Url url) const { return textOfFile(url); }
+
+ns::String Opening::content(ns::Url url) const {
+    const ns::String text = textOfFile(url);
+    return text ? text : ns::String::from(u"");
+}
 
 } // namespace wentra::files

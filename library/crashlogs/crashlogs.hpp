@@ -1,0 +1,11 @@
+// The face of the room of crash reports.
+#pragma once
+
+#include "library/common/face.hpp"
+
+namespace wentra::crashlogs {
+
+/// The list.
+Face face();
+
+} // namespace wentra::crashlogs
