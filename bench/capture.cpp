@@ -110,6 +110,9 @@ void recordedDrag(benchmark::State& state) {
         run_loop::runUntilIdle();
         benchmark::DoNotOptimize(screen.refresh());
     }
+    if (!ScreenRecorder::shared().isRecording()) {
+        state.SkipWithError("nothing was recorded");
+    }
     ScreenRecorder::shared().close();
     state.counters["frames"] =
         benchmark::Counter(static_cast<double>(step), benchmark::Counter::kIsRate);
