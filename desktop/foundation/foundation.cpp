@@ -16,6 +16,7 @@
 #include "desktop/foundation/main_operation_queue.hpp"
 #include "desktop/foundation/observers.hpp"
 #include "desktop/foundation/percent_encoding.hpp"
+#include "desktop/foundation/predicate.hpp"
 #include "desktop/foundation/property_list_serialization.hpp"
 #include "desktop/foundation/regular_expression.hpp"
 #include "desktop/foundation/string.hpp"
@@ -39,6 +40,7 @@ void install(const std::string& bundleIdentifier) {
     installPercentEncoding();
     installByteCountFormatter();
     installRegularExpressions();
+    installPredicates();
     installBase64();
     registerDataDetector();
     const auto identifier = ns::String::fromUtf8(bundleIdentifier);
