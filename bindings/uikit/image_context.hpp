@@ -1,12 +1,15 @@
 // The image contexts of UIKit: what is drawn while one is open becomes a picture.
 #pragma once
 
+#include "bindings/coregraphics/context.hpp"
 #include "bindings/uikit/image.hpp"
 
 extern "C" {
 /// Opens a context of that size in points and makes it the current one; `scale` is pixels a point,
 /// that of the screen when 0.
 void UIGraphicsBeginImageContextWithOptions(CGSize size, bool opaque, double scale);
+/// What is drawn on at the moment, by this thread; null outside of drawing.
+CGContextRef UIGraphicsGetCurrentContext(void);
 /// What is drawn so far (autoreleased); nil without an open context.
 id UIGraphicsGetImageFromCurrentImageContext(void);
 void UIGraphicsEndImageContext(void);

@@ -1,6 +1,7 @@
 // The canvas that drawing methods draw on at the moment.
 #pragma once
 
+#include "bindings/coregraphics/context.hpp"
 #include "bindings/coregraphics/geometry.hpp"
 #include "desktop/drawing/canvas.hpp"
 
@@ -20,6 +21,10 @@ public:
 private:
     Canvas* outer_;
 };
+
+/// A canvas as applications know it.
+inline CGContextRef contextRef(Canvas* canvas) { return reinterpret_cast<CGContextRef>(canvas); }
+inline Canvas* canvasOf(CGContextRef context) { return reinterpret_cast<Canvas*>(context); }
 
 /// The same rectangle in the drawing core's type.
 inline Rectangle rectangle(CGRect rect) {

@@ -73,6 +73,12 @@ void Layer::setMasksToBounds(bool masks) {
     changed();
 }
 
+void Layer::renderInContext(CGContextRef context) const {
+    if (Canvas* canvas = canvasOf(context); canvas != nullptr && renderer_) {
+        renderer_(*canvas);
+    }
+}
+
 void Layer::setNeedsDisplay() {
     contentStamp_ = nextStamp();
     changed();

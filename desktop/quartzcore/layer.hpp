@@ -5,10 +5,13 @@
 
 #include "bindings/uikit/color.hpp"
 #include "desktop/class.hpp"
+#include "desktop/coregraphics/graphics_context.hpp"
 #include "desktop/quartzcore/animation/animation.hpp"
 #include "desktop/quartzcore/layer_values.hpp"
 #include "desktop/quartzcore/screen_changes.hpp"
 
+#include <functional>
+#include <utility>
 #include <vector>
 
 namespace desktop {
@@ -33,6 +36,7 @@ public:
             objc::property<"masksToBounds", &Layer::masksToBounds_, &Layer::changed>(),
             objc::property<"contents", &Layer::contents_, &Layer::setNeedsDisplay>(),
             objc::method<"setNeedsDisplay", &Layer::setNeedsDisplay>(),
+            objc::method<"renderInContext:", &Layer::renderInContext>(),
             objc::method<"presentationLayer", &Layer::presentationLayer>(),
             objc::method<"removeAllAnimations", &Layer::removeAllAnimations>(),
         };
@@ -77,6 +81,9 @@ public:
     /// Stamps up to here are never given to a layer.
     static constexpr std::uint64_t reservedStamps = 15;
 
+    /// Who draws the layer with all that is in it, in the layer's coordinates; nobody when empty.
+    void setRenderer(std::function<void(Canvas&)> renderer) { renderer_ = std::move(renderer); }
+
     /// What is shown now.
     [[nodiscard]] LayerValues presented() const;
     /// Whether it moves, in an animation that touches must not disturb.
@@ -113,6 +120,8 @@ private:
     void move(Movement::Blend blend, std::shared_ptr<Animation> animation);
     [[nodiscard]] ca::Layer presentationLayer() const;
 
+    void renderInContext(CGContextRef context) const;
+
     static std::uint64_t nextStamp();
     void changed();
 
@@ -121,6 +130,7 @@ private:
     double borderWidth_ = 0;
     bool masksToBounds_ = false;
     std::uint64_t contentStamp_ = nextStamp();
+    std::function<void(Canvas&)> renderer_;
     std::vector<Movement> movements_;
     objc::Strong<ui::Color> backgroundColor_;
     objc::Strong<ui::Color> borderColor_;

@@ -77,6 +77,10 @@ void UIGraphicsBeginImageContextWithOptions(CGSize size, bool opaque, double sca
     desktop::contexts().push_back(desktop::contextOf(size, opaque, scale));
 }
 
+CGContextRef UIGraphicsGetCurrentContext(void) {
+    return desktop::contextRef(desktop::currentCanvas());
+}
+
 id UIGraphicsGetImageFromCurrentImageContext(void) {
     auto& open = desktop::contexts();
     return open.empty() || !open.back() ? nullptr : open.back()->image().raw();

@@ -89,9 +89,12 @@ std::vector<objc::MethodRow> View::methods() {
     return rows;
 }
 
-View::View() : layer_(ca::Layer::make()) {}
+View::View() : layer_(ca::Layer::make()) {
+    layer().setRenderer([this](Canvas& canvas) { draw(canvas, bounds()); });
+}
 
 View::~View() {
+    layer().setRenderer(nullptr);
     for (const auto& child : subviews_) {
         of(child).superview_ = nullptr;
     }

@@ -109,6 +109,8 @@ private:
     void setNeedsDisplay() { layer().setNeedsDisplay(); }
     void drawRect(CGRect) {}
     bool drawHierarchy(CGRect rect, bool afterUpdates);
+    /// With all that is in it. False when there is nothing to be seen.
+    bool draw(Canvas& canvas, CGRect rect) const;
     [[nodiscard]] CGSize sizeThatFits(CGSize) const { return bounds().size; }
     void sizeToFit();
     [[nodiscard]] CGSize intrinsicContentSize() const;

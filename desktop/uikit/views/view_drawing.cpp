@@ -35,16 +35,19 @@ Image pictureOf(ui::View view, const Canvas& picture) {
 /// Whether there was anything to draw on.
 bool View::drawHierarchy(CGRect rect, bool afterUpdates) {
     Canvas* canvas = currentCanvas();
-    const CGSize size = bounds().size;
-    if (canvas == nullptr || !(size.width > 0 && size.height > 0) ||
-        !(rect.size.width > 0 && rect.size.height > 0)) {
-        return false;
-    }
-    if (afterUpdates) {
+    if (canvas != nullptr && afterUpdates) {
         self().layoutIfNeeded();
     }
-    const Canvas picture({rect.size.width, rect.size.height}, scaleOf(*canvas));
-    canvas->draw(pictureOf(self(), picture), rectangle(rect));
+    return canvas != nullptr && draw(*canvas, rect);
+}
+
+bool View::draw(Canvas& canvas, CGRect rect) const {
+    const CGSize size = bounds().size;
+    if (!(size.width > 0 && size.height > 0 && rect.size.width > 0 && rect.size.height > 0)) {
+        return false;
+    }
+    const Canvas picture({rect.size.width, rect.size.height}, scaleOf(canvas));
+    canvas.draw(pictureOf(self(), picture), rectangle(rect));
     return true;
 }
 
