@@ -1,8 +1,8 @@
 // Predicates over texts, written as formats.
 #include "desktop/foundation/predicate.hpp"
 
-#include "bindings/foundation/array.hpp"
 #include "bindings/foundation/dictionary.hpp"
+#include "bindings/foundation/predicate.hpp"
 #include "bindings/objc/pool.hpp"
 #include "desktop/foundation/string.hpp"
 #include "desktop/foundation/text_comparison.hpp"
@@ -14,22 +14,17 @@ namespace {
 using namespace ns::literals;
 using objc::Object;
 
-struct PredicateKind : objc::Kind<PredicateKind, "NSPredicate"> {
-    using Kind::Kind;
-};
-
 class Predicate : public testing::Test {
 protected:
     static void SetUpTestSuite() {
         desktop::foundation::installStrings();
         desktop::foundation::installPredicates();
     }
-    static PredicateKind made(std::u16string_view format) {
-        return PredicateKind::sendClass<"predicateWithFormat:argumentArray:", PredicateKind>(
-            ns::String::from(format), ns::MutableArray::make());
+    static ns::Predicate made(std::u16string_view format) {
+        return ns::Predicate::withFormat(ns::String::from(format), ns::MutableArray::make());
     }
     static bool holds(std::u16string_view format, Object object) {
-        return made(format).send<"evaluateWithObject:", bool>(object);
+        return made(format).evaluate(object);
     }
     static bool holds(std::u16string_view format, std::u16string_view text) {
         return holds(format, ns::String::from(text));
