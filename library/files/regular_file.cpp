@@ -3,11 +3,25 @@
 
 #include "library/common/text_encoding.hpp"
 
-#include <fstream>
-#include <iterator>
+#include <fcntl.h>
+#include <memory>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace wentra::files {
+namespace {
+
+/// The platform's own reading takes texts only.
+ns::Data bytesOfAnyName(const std::string& path, long long size) {
+    const auto room = static_cast<std::size_t>(size);
+    const auto bytes = std::make_unique_for_overwrite<char[]>(room);
+    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    const ssize_t count = pread(file, bytes.get(), room, 0);
+    close(file);
+    return count < 0 ? ns::Data() : ns::Data::from({bytes.get(), static_cast<std::size_t>(count)});
+}
+
+} // namespace
 
 std::optional<long long> regularFileSize(const std::string& path) {
     struct stat status {};
@@ -17,14 +31,12 @@ std::optional<long long> regularFileSize(const std::string& path) {
 }
 
 ns::Data bytesOfFile(const std::string& path) {
-    if (!regularFileSize(path)) {
+    const auto size = regularFileSize(path);
+    if (!size) {
         return nullptr;
     }
-    if (isUtf8(path)) {
-        return ns::Data::withContentsOfFile(ns::String::fromUtf8(path));
-    }
-    std::ifstream file(path, std::ios::binary); // the platform takes texts only
-    return file ? ns::Data::from(std::string(std::istreambuf_iterator<char>(file), {})) : nullptr;
+    return isUtf8(path) ? ns::Data::withContentsOfFile(ns::String::fromUtf8(path))
+                        : bytesOfAnyName(path, *size);
 }
 
 ui::Image imageOfFile(const std::string& path) {
