@@ -124,10 +124,10 @@ void PopoverContentViewControllerPeer::addSwitch(ui::View content, unsigned long
     const auto button = makeButton({.title = titles_.at(index).as<ns::String>(),
                                     .frame = {{7.5, 10}, {width, 30}},
                                     .textSize = 13.8,
+                                    .titleColor = ui::Color::black(),
                                     .background = ui::Color::white()},
                                    self(), objc::selector<"buttonClicked:">());
     button.setAccessibilityLabel(key);
-    button.setTitleColor(ui::Color::black(), ui::ControlState::normal);
     drawOutline(button, {5, 1, ui::Color::gray()});
     addStatus(button, isOn(key));
     content.addSubview(button);

@@ -13,6 +13,9 @@ ui::Button makeButton(const ButtonLook& look, objc::Object target, SEL action) {
     if (look.textSize > 0) {
         button.titleLabel().setFont(ui::Font::system(look.textSize));
     }
+    if (look.titleColor) {
+        button.setTitleColor(look.titleColor, ui::ControlState::normal);
+    }
     button.setBackgroundColor(look.background);
     button.layer().setCornerRadius(look.cornerRadius);
     if (action != nullptr) {

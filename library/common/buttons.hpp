@@ -13,6 +13,7 @@ struct ButtonLook {
     CGRect frame{};
     /// Of the title, in points.
     double textSize = 0;
+    ui::Color titleColor = nullptr;
     ui::Color background = nullptr;
     double cornerRadius = 0;
 };

@@ -90,6 +90,7 @@ void ToolScreens::addCloseButton(ns::String title, double lift) {
     const CGSize size = view.bounds().size;
     const ButtonLook look{.title = title,
                           .frame = {{size.width / 2 - 45, size.height - 20 - lift}, {90, 40}},
+                          .titleColor = ui::Color::black(), // the tint is hard to read on grey
                           .background = ui::Color::lightGray(),
                           .cornerRadius = 6};
     closeButton_ = makeButton(look, self(), objc::selector<"closeButtonPressed:">());

@@ -97,10 +97,10 @@ void FileContentViewControllerPeer::addText(ns::String text) {
 
 ui::Button FileContentViewControllerPeer::addButton(ns::String title, SEL action) {
     const ButtonLook look{.title = title,
+                          .titleColor = ui::Color::black(),
                           .background = ui::Color::lightGray().withAlphaComponent(0.7),
                           .cornerRadius = 6};
     const auto button = makeButton(look, self(), action);
-    button.setTitleColor(ui::Color::black(), ui::ControlState::normal);
     self().view().addSubview(button);
     return button;
 }

@@ -46,6 +46,7 @@ void WebPreview::addCloseButton() const {
     const CGSize size = screen_.view().bounds().size;
     const ButtonLook look{.title = u"关闭预览"_ns,
                           .frame = {{size.width * 0.5 - 45, size.height - 40 - 20}, {90, 40}},
+                          .titleColor = ui::Color::black(), // the tint is hard to read on grey
                           .background = ui::Color::lightGray(),
                           .cornerRadius = 6};
     const auto button = makeButton(look, self(), objc::selector<"closeButtonPressed:">());

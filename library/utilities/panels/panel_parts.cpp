@@ -37,11 +37,12 @@ ui::TextView addPanelText(ui::View panel, CGSize size, double below) {
 
 void addPanelButton(ui::View panel, ns::String title, CGPoint offset, objc::Object target,
                     SEL action) {
-    const ButtonLook look{
-        .title = title, .frame = {{}, {100, 30}}, .background = ui::Color::blue()};
+    const ButtonLook look{.title = title,
+                          .frame = {{}, {100, 30}},
+                          .titleColor = ui::Color::white(),
+                          .background = ui::Color::blue()};
     const auto button = makeButton(look, target, action);
     button.setCenter(fromMiddle(offset.x, offset.y));
-    button.setTitleColor(ui::Color::white(), ui::ControlState::normal);
     panel.addSubview(button);
 }
 
