@@ -164,3 +164,52 @@ test("a copied text is found in the history and taken from there", async () => {
     await phone.gone({ class: "UITableViewCell" });
     assert.equal(await phone.do("pasteboard"), "hello");
 });
+
+/** The front one: what lies below a screen is found too. */
+const front = async (where) =>
+    (await phone.do("wait", { for: { visible: true, ...where } })).at(-1);
+
+/** Screens take no taps while they move. */
+async function tapUntil(where, done) {
+    do {
+        await phone.tap(middle((await front(where)).rect));
+        await phone.page.waitForTimeout(50);
+    } while (!await done());
+}
+
+async function search(text) {
+    const bar = { class: "UISearchBar" };
+    await tapUntil(bar, async () => {
+        const field = await phone.do("send", { to: await front(bar), selector: "searchTextField" });
+        return phone.do("send", { to: field, selector: "isFirstResponder" });
+    });
+    await phone.page.keyboard.insertText(text);
+}
+
+test("a crash report is found in the list, and the add-ons in the report", async () => {
+    const newest = "SpringBoard-2024-03-18-213000.ips";
+    await phone.do("preferences", { set: { 开启文字复制: true, kqwzfc: true } });
+    await phone.page.click("#tab-applications");
+    await phone.page.getByRole("button", { name: "重新启动" }).first().click();
+    await phone.page.waitForTimeout(1000);
+    await phone.press(middle((await phone.showing("hello")).rect), 600);
+    await phone.tap([358, 222]); // the ball
+    await phone.press(middle((await first({ title: "日志检索" })).rect), 300);
+    await phone.showing(newest);
+    await search("wechat-2024-03-17");
+    await phone.gone({ text: newest });
+    const copied = async () => (await phone.do("pasteboard")).includes("MobileSubstrate");
+    await phone.tap(middle((await front({ text: "WeChat-2024-03-17-210500.ips" })).rect));
+    await tapUntil({ title: "复制全文" }, copied);
+
+    await tapUntil({ title: "日志检索" },
+        async () => (await phone.do("find", { where: { title: "复制异常" } })).length > 0);
+    await search("mobilesubstrate");
+    const found = async () => (await front({ class: "UITextView" })).text.trim().split(/\n+/);
+    while ((await found()).length > 2) {
+        await phone.picture(1);
+    }
+    for (const line of await found()) {
+        assert.match(line, /路径 : ".+\/MobileSubstrate\/DynamicLibraries\/\w+\.dylib",/);
+    }
+});
