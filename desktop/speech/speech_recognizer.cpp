@@ -1,7 +1,6 @@
 // Being allowed to listen, being available, and beginning tasks.
 #include "desktop/speech/speech_recognizer.hpp"
 
-#include "bindings/foundation/exception.hpp"
 #include "desktop/foundation/bundle.hpp"
 #include "desktop/runtime/main_queue.hpp"
 #include "desktop/speech/recognition_settings.hpp"

@@ -2,9 +2,9 @@
 #include "library/blocking/block_rules.hpp"
 
 #include "library/blocking/user_words.hpp"
+#include "library/common/latest.hpp"
 
 #include <array>
-#include <mutex>
 #include <span>
 #include <utility>
 
@@ -61,23 +61,6 @@ WordList listOf(EntryPoint point, std::u16string_view users) {
     return {std::move(words), ours.rule};
 }
 
-constinit std::mutex mutex;
-
-std::shared_ptr<const BlockRules>& kept() {
-    static auto* rules = new std::shared_ptr<const BlockRules>; // outlives the last hooked call
-    return *rules;
-}
-
-std::shared_ptr<const BlockRules> lastRules() {
-    const std::scoped_lock lock(mutex);
-    return kept();
-}
-
-void setLastRules(std::shared_ptr<const BlockRules> rules) {
-    const std::scoped_lock lock(mutex);
-    kept().swap(rules); // what was kept is given up after the lock
-}
-
 } // namespace
 
 BlockRules::BlockRules(const Preferences& preferences) : preferences_(preferences) {
@@ -89,12 +72,12 @@ BlockRules::BlockRules(const Preferences& preferences) : preferences_(preference
 }
 
 std::shared_ptr<const BlockRules> blockRules(const Preferences& preferences) {
-    std::shared_ptr<const BlockRules> last = lastRules();
+    std::shared_ptr<const BlockRules> last = Latest<BlockRules>::get();
     if (last && last->fit(preferences)) {
         return last;
     }
     auto rules = std::make_shared<const BlockRules>(preferences);
-    setLastRules(rules);
+    Latest<BlockRules>::set(rules);
     return rules;
 }
 

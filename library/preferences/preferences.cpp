@@ -1,8 +1,8 @@
 // Reads the preference file, and parses it when it says something new.
 #include "library/preferences/preferences.hpp"
 
+#include "library/common/latest.hpp"
 #include "library/paths/root_path.hpp"
-#include "library/preferences/last_reading.hpp"
 #include "library/preferences/property_list/file_reading.hpp"
 
 namespace wentra::preferences {
@@ -13,7 +13,8 @@ std::shared_ptr<const ParsedFile> contents(const OpenFile& file) {
     if (!file.isOpen()) {
         return nullptr;
     }
-    std::shared_ptr<const ParsedFile> last = lastReading();
+    // One for all threads, since they read the same file.
+    std::shared_ptr<const ParsedFile> last = Latest<ParsedFile>::get();
     if (last && file.holds(last->bytes())) {
         return last;
     }
@@ -22,7 +23,7 @@ std::shared_ptr<const ParsedFile> contents(const OpenFile& file) {
         return nullptr;
     }
     auto parsed = std::make_shared<const ParsedFile>(std::move(*bytes));
-    setLastReading(parsed);
+    Latest<ParsedFile>::set(parsed);
     return parsed;
 }
 
