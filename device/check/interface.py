@@ -69,13 +69,19 @@ def check_class(classes, found, name, superclass):
     return problems
 
 
+def check_all(classes, found):
+    if found.ambiguous:  # what handle is meant anywhere cannot be told then
+        return [f"handle {name}: more than one has this name" for name in sorted(found.ambiguous)]
+    return [*(problem for name, superclass in found.classes.items()
+              for problem in check_class(classes, found, name, superclass)),
+            *(problem for use in found.uses for problem in check_use(classes, found, use))]
+
+
 def main():
     root = Path(sys.argv[1] if len(sys.argv) > 1 else Path(__file__).parents[2])
     classes = read_table(root / "device/interface.txt")
     found = Reader(root, ["bindings", "library"]).read()
-    problems = [problem for name, superclass in found.classes.items()
-                for problem in check_class(classes, found, name, superclass)]
-    problems += [problem for use in found.uses for problem in check_use(classes, found, use)]
+    problems = check_all(classes, found)
     for problem in problems:
         print(problem, file=sys.stderr)
     print(f"interface: {len(found.classes)} classes, {len(found.uses)} messages and hooks, "

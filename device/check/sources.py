@@ -21,6 +21,7 @@ class Sources:
     own_classes: set[str] = field(default_factory=set)
     own_methods: set[tuple[str, str]] = field(default_factory=set)  # side, selector
     uses: list[Use] = field(default_factory=list)
+    ambiguous: set[str] = field(default_factory=set)  # names of more than one handle
 
 
 def balanced(text, start, brackets):
@@ -72,7 +73,8 @@ class Reader:
 
     def read_types(self, text):
         for kind, cls in re.findall(r'struct (\w+)\s+: objc::Kind<\s*\w+,\s*"([^"]+)"', text):
-            self.kinds[kind] = cls
+            if self.kinds.setdefault(kind, cls) != cls:
+                self.found.ambiguous.add(kind)
             self.encodings[kind] = "@"
         for name, code in re.findall(r'WENTRA_ENCODES\(([^,]+), "([^"]+)"\)', text):
             self.encodings[name] = code

@@ -62,3 +62,11 @@ fault bindings/uikit/label.hpp 's/"UILabel"/"UILable"/' 'class UILable: not in t
 fault library/labels/label_text_hooks.cpp 's/&withholdOneText/\&somethingElsewhere/' \
     "-[? setText:]: the replacement's types cannot be read"
 refuse
+
+# Two handles of one name cannot be told apart; the second one would be its own superclass.
+fault library/common/draggable_view.hpp \
+    's/^struct TrashButton/struct Button : objc::Kind<Button, "OwnButton", ui::Button> {};\n&/' \
+    'handle Button: more than one'
+fault library/common/draggable_view.cpp \
+    's/^void moveAlong/class ButtonPeer : public objc::Peer<ButtonPeer, Button> {};\n\&/' 'handle Button'
+refuse
