@@ -138,12 +138,18 @@ private:
     }
 
     bool data() {
-        std::size_t digits = 0;
-        for (skipSpace(); at_ < end_ && isHexadecimal(*at_); skipSpace()) {
-            ++at_;
-            ++digits;
+        skipSpace();
+        while (skipByte()) {
+            skipSpace();
         }
-        return digits % 2 == 0 && skip('>');
+        return skip('>');
+    }
+
+    // Two digits that stand together.
+    bool skipByte() {
+        const bool found = isHexadecimal(at_[0]) && isHexadecimal(at_[1]);
+        at_ += found ? 2 : 0;
+        return found;
     }
 
     // Leaves the text in content_, without its quotation marks.
