@@ -4,6 +4,7 @@
 #include "bindings/objc/runtime.hpp"
 
 #include <cstdlib>
+#include <memory>
 #include <vector>
 
 struct objc_property;
@@ -30,26 +31,32 @@ namespace objc {
     return classes;
 }
 
+namespace detail {
+
+/// Calls `body` with each of the class's items, which `copyList` gives in memory to be freed.
+template <class Item, class Body>
+void forEachCopied(Class cls, Item* (*copyList)(Class, unsigned int*), Body body) {
+    unsigned int count = 0;
+    const std::unique_ptr<Item[], decltype(&std::free)> items(copyList(cls, &count), &std::free);
+    for (unsigned int index = 0; index < count; ++index) {
+        body(items[index]);
+    }
+}
+
+} // namespace detail
+
 /// Calls `body` with the name of each property that the class itself declares.
 template <class Body>
 void forEachProperty(Class cls, Body body) {
-    unsigned int count = 0;
-    objc_property_t* const properties = class_copyPropertyList(cls, &count);
-    for (unsigned int index = 0; index < count; ++index) {
-        body(property_getName(properties[index]));
-    }
-    std::free(properties);
+    detail::forEachCopied(cls, &class_copyPropertyList,
+                          [&body](objc_property_t property) { body(property_getName(property)); });
 }
 
 /// Calls `body` with the selector of each instance method of the class itself.
 template <class Body>
 void forEachMethod(Class cls, Body body) {
-    unsigned int count = 0;
-    Method* const methods = class_copyMethodList(cls, &count);
-    for (unsigned int index = 0; index < count; ++index) {
-        body(method_getName(methods[index]));
-    }
-    std::free(methods);
+    detail::forEachCopied(cls, &class_copyMethodList,
+                          [&body](Method method) { body(method_getName(method)); });
 }
 
 } // namespace objc
