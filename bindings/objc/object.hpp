@@ -23,6 +23,8 @@ public:
     }
 
     [[nodiscard]] bool isEqual(Object other) const { return send<"isEqual:", bool>(other); }
+    /// As the object says itself; null for nil.
+    [[nodiscard]] Class class_() const { return send<"class", Class>(); }
     [[nodiscard]] bool isKindOfClass(Class cls) const { return send<"isKindOfClass:", bool>(cls); }
     [[nodiscard]] bool respondsToSelector(SEL name) const {
         return send<"respondsToSelector:", bool>(name);

@@ -31,7 +31,7 @@ bool hasAncestor(ui::View view, std::predicate<ui::View> auto isOfThatSort) {
 }
 
 std::u16string className(ui::View view) {
-    return ns::String::fromUtf8(class_getName(view.send<"class", Class>())).utf16();
+    return ns::String::fromUtf8(class_getName(view.class_())).utf16();
 }
 
 bool isNeverCopiedLabel(ui::View view) {
