@@ -1,21 +1,15 @@
 // Puts the line together.
 #include "library/files/viewers/image_info.hpp"
 
+#include "library/common/fixed_point.hpp"
 #include "library/common/text_encoding.hpp"
 
-#include <array>
 #include <cmath>
-#include <cstdio>
 
 namespace wentra::files {
 namespace {
 
-std::u16string digits(double value, int places) {
-    constexpr std::size_t longest = 32;
-    std::array<char, longest> text{};
-    std::snprintf(text.data(), text.size(), "%.*f", places, value);
-    return utf16FromUtf8(text.data());
-}
+std::u16string digits(double value, int places) { return utf16FromUtf8(fixedPoint(value, places)); }
 
 /// "nan" without the sign that C writes before it on some machines.
 std::u16string ratio(CGSize size) {

@@ -1,20 +1,11 @@
 // Takes lines apart and puts them together.
 #include "library/utilities/databases/replacement_line.hpp"
 
-#include <array>
-#include <cstdio>
+#include "library/common/fixed_point.hpp"
+
 #include <cstdlib>
 
 namespace wentra::utilities {
-namespace {
-
-std::string formatted(double number) {
-    std::array<char, 512> text{}; // the largest number takes 317
-    std::snprintf(text.data(), text.size(), "%f", number);
-    return text.data();
-}
-
-} // namespace
 
 std::optional<TextReplacement> replacementIn(std::string_view line) {
     const std::size_t blank = line.find(' ');
@@ -33,8 +24,10 @@ std::string lineOf(std::string_view phrase, std::string_view shortcut) {
 std::string timeStamp(double moment) {
     // Not the reference date's 978307200: the stamps lie 3200 seconds ahead of it on purpose.
     constexpr double offset = 978304000;
+    constexpr int places = 6;
     // Through text and back, which leaves whole microseconds.
-    return formatted(std::strtod(formatted(moment).c_str(), nullptr) - offset);
+    const double whole = std::strtod(fixedPoint(moment, places).c_str(), nullptr);
+    return fixedPoint(whole - offset, places);
 }
 
 } // namespace wentra::utilities

@@ -3,9 +3,7 @@
 
 #include "bindings/dyld/images.hpp"
 #include "bindings/objc/class_list.hpp"
-
-#include <array>
-#include <cstdio>
+#include "library/common/fixed_point.hpp"
 
 namespace wentra::utilities {
 namespace {
@@ -20,12 +18,6 @@ void appendClass(Class cls, std::string& text) {
     if (const Class superclass = class_getSuperclass(cls); superclass != nullptr) {
         text.append("\t@superclass ").append(class_getName(superclass)).append("\n");
     }
-}
-
-std::string formatted(double seconds) {
-    std::array<char, 512> text{}; // the largest number takes 313
-    std::snprintf(text.data(), text.size(), "%.3f", seconds);
-    return text.data();
 }
 
 } // namespace
@@ -47,7 +39,8 @@ std::string imageText() {
 
 std::string uptimeText(double seconds) {
     std::string text;
-    const std::string duration = "\n启动存活时长: " + formatted(seconds) + " 秒\n\n";
+    constexpr int places = 3;
+    const std::string duration = "\n启动存活时长: " + fixedPoint(seconds, places) + " 秒\n\n";
     dyld::forEachImage([&](const char* path) { text.append(path).append(duration); });
     return text;
 }
