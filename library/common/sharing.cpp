@@ -2,31 +2,29 @@
 #include "library/common/sharing.hpp"
 
 #include "bindings/foundation/url.hpp"
-#include "bindings/uikit/activity_view_controller.hpp"
 #include "library/common/screens.hpp"
 
 namespace wentra {
-
 namespace {
 
 constexpr bool animated = true;
 
-ui::ActivityViewController sheetOf(objc::Object item) {
+} // namespace
+
+ui::ActivityViewController shareSheet(objc::Object item) {
     const auto items = ns::MutableArray::make();
     items.add(item);
     return ui::ActivityViewController::sharing(items);
 }
 
-} // namespace
-
 void shareText(ns::String text) {
-    const auto sheet = sheetOf(text);
+    const auto sheet = shareSheet(text);
     sheet.setModalPresentationStyle(ui::ModalPresentation::overCurrentContext);
     topViewController().present(sheet, animated);
 }
 
 void share(objc::Object item, ui::ViewController controller) {
-    controller.present(sheetOf(item), animated);
+    controller.present(shareSheet(item), animated);
 }
 
 void shareFile(ns::String path, ui::ViewController controller) {

@@ -1,9 +1,12 @@
 // The system's share sheet.
 #pragma once
 
-#include "bindings/uikit/view_controller.hpp"
+#include "bindings/uikit/activity_view_controller.hpp"
 
 namespace wentra {
+
+/// Offers one object, a text or a URL for instance, to the system's activities; not presented yet.
+[[nodiscard]] ui::ActivityViewController shareSheet(objc::Object item);
 
 /// Offers the text to the system's activities, over the top controller's context. Main thread.
 void shareText(ns::String text);

@@ -1,8 +1,8 @@
 // The table of paths, and the sheet.
 #include "library/utilities/common_paths.hpp"
 
-#include "bindings/uikit/application.hpp"
 #include "library/common/alert.hpp"
+#include "library/common/links.hpp"
 
 #include <array>
 
@@ -30,17 +30,14 @@ constexpr std::array commonPaths{
     CommonPath{u"PreferenceBundles-无根路径", u"filza:///var/jb/Library/PreferenceBundles/"},
 };
 
-void open(std::u16string_view url) {
-    ui::Application::sharedApplication().openUrl(ns::Url::withString(ns::String::from(url)));
-}
-
 } // namespace
 
 void showCommonPaths(ToolScreens& screens) {
     const auto sheet =
         ui::AlertController::with(u"常用路径"_ns, u"选择一个路径"_ns, ui::AlertStyle::actionSheet);
     for (const CommonPath& path : commonPaths) {
-        Alert(sheet).action(ns::String::from(path.title), [&path] { open(path.url); });
+        Alert(sheet).action(ns::String::from(path.title),
+                            [&path] { openLink(ns::String::from(path.url)); });
     }
     Alert(sheet).action(u"取消"_ns, ui::AlertActionStyle::cancel);
     screens.show(sheet);

@@ -2,12 +2,12 @@
 #include "library/utilities/tool_screens.hpp"
 
 #include "bindings/objc/associated.hpp"
-#include "bindings/uikit/activity_view_controller.hpp"
 #include "bindings/uikit/screen.hpp"
 #include "bindings/webkit/web_view.hpp"
 #include "library/common/alert.hpp"
 #include "library/common/buttons.hpp"
 #include "library/common/screens.hpp"
+#include "library/common/sharing.hpp"
 
 namespace wentra::utilities {
 namespace {
@@ -36,11 +36,7 @@ void ToolScreens::show(ui::ViewController screen) {
     (top ? top : ui::ViewController(self())).present(screen, animated);
 }
 
-void ToolScreens::share(objc::Object item) {
-    const auto items = ns::MutableArray::make();
-    items.add(item);
-    show(ui::ActivityViewController::sharing(items));
-}
+void ToolScreens::share(objc::Object item) { show(shareSheet(item)); }
 
 void ToolScreens::showError(std::u16string_view message) {
     self().send<"showErrorAlertWithMessage:">(ns::String::from(message));

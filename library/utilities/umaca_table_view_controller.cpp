@@ -4,6 +4,7 @@
 #include "bindings/objc/peer.hpp"
 #include "bindings/safariservices/safari_view_controller.hpp"
 #include "library/common/screens.hpp"
+#include "library/common/string_array.hpp"
 #include "library/utilities/common_paths.hpp"
 #include "library/utilities/databases/text_databases.hpp"
 #include "library/utilities/dumps/runtime_dump.hpp"
@@ -14,6 +15,7 @@
 #include "library/utilities/tool_screens.hpp"
 
 #include <algorithm>
+#include <span>
 
 namespace wentra::utilities {
 namespace {
@@ -118,11 +120,7 @@ void UmacaTableViewControllerPeer::viewDidLoad() {
     constexpr double rowHeight = 44;
     super<"viewDidLoad">();
     self().setTitle(u"功能列表-QF"_ns);
-    const auto titles = ns::MutableArray::make();
-    for (std::size_t row = 0; row < shownRows; ++row) {
-        titles.add(ns::String::from(rows[row].title));
-    }
-    titles_ = titles;
+    titles_ = stringArray(std::span(rows).first<shownRows>(), &Row::title);
     self().tableView().registerClass(ui::TableViewCell::classObject(), reuseIdentifier());
     self().setPreferredContentSize({width, rowHeight * shownRows});
 }

@@ -5,6 +5,7 @@
 #include "bindings/uikit/popover_presentation_controller.hpp"
 #include "library/clipboard/clipboard_table_view_controller.hpp"
 #include "library/clipboard/popover_content_view_controller.hpp"
+#include "library/common/string_array.hpp"
 #include "library/toolbox/panel/host_screens.hpp"
 
 #include <array>
@@ -39,13 +40,7 @@ constexpr std::array<QuickSwitch, 15> quickSwitches{{
     {u"下载进阶解析", u"解析"},
 }};
 
-ns::Array texts(std::u16string_view QuickSwitch::*part) {
-    const auto list = ns::MutableArray::make();
-    for (const QuickSwitch& quick : quickSwitches) {
-        list.add(ns::String::from(quick.*part));
-    }
-    return list;
-}
+ns::Array texts(std::u16string_view QuickSwitch::*part) { return stringArray(quickSwitches, part); }
 
 /// Points at the view.
 void makePopover(PopoverContentViewController screen, ui::View view) {
