@@ -30,11 +30,6 @@ inline dispatch_queue_t mainQueue() { return &_dispatch_main_q; }
 /// The global queue of default priority: any background thread.
 inline dispatch_queue_t globalQueue() { return dispatch_get_global_queue(0, 0); }
 
-/// As `after` counts time.
-constexpr std::int64_t nanoseconds(double seconds) {
-    return static_cast<std::int64_t>(seconds * 1e9);
-}
-
 namespace detail {
 
 /// The body on its way to a queue, which calls and destroys it exactly once.
@@ -57,11 +52,13 @@ void async(dispatch_queue_t queue, Body body) {
     dispatch_async_f(queue, context, work);
 }
 
-/// Runs `body` on `queue` after that many nanoseconds.
+/// Runs `body` on `queue` after that many seconds.
 template <class Body>
-void after(std::int64_t nanoseconds, dispatch_queue_t queue, Body body) {
+void after(double seconds, dispatch_queue_t queue, Body body) {
+    constexpr double nanosecondsPerSecond = 1e9;
+    const auto delta = static_cast<std::int64_t>(seconds * nanosecondsPerSecond);
     const auto [context, work] = detail::parcel(std::move(body));
-    dispatch_after_f(dispatch_time(0, nanoseconds), queue, context, work);
+    dispatch_after_f(dispatch_time(0, delta), queue, context, work);
 }
 
 // NOLINTEND(clang-analyzer-cplusplus.NewDeleteLeaks)

@@ -45,8 +45,7 @@ void Alert::presentFrom(ui::ViewController controller) const {
 void Alert::presentFor(double seconds, ui::ViewController controller) const {
     constexpr bool animated = true;
     const auto goAfterwards = [seconds, alert = controller_] {
-        dispatch::after(dispatch::nanoseconds(seconds), dispatch::mainQueue(),
-                        [alert] { alert.dismiss(animated); });
+        dispatch::after(seconds, dispatch::mainQueue(), [alert] { alert.dismiss(animated); });
     };
     controller.present(controller_, animated, ui::ViewController::Completion::from(goAfterwards));
 }

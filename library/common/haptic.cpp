@@ -9,7 +9,7 @@ namespace {
 
 /// The platform's number of its short "pop".
 constexpr SystemSoundID tapSound = 1520;
-constexpr std::int64_t pauseInNanoseconds = 100'000'000;
+constexpr double pause = 0.1; // seconds
 
 } // namespace
 
@@ -17,7 +17,7 @@ void hapticTap() { AudioServicesPlaySystemSound(tapSound); }
 
 void doubleHapticTap() {
     hapticTap();
-    dispatch::after(pauseInNanoseconds, dispatch::mainQueue(), &hapticTap);
+    dispatch::after(pause, dispatch::mainQueue(), &hapticTap);
 }
 
 } // namespace wentra

@@ -19,7 +19,7 @@ void showNotice(ui::View view, ns::String text, const NoticePlace& place, double
     label.setTextAlignment(ui::TextAlignment::center);
     setLightBackground(label, ui::Color::lightGray());
     view.window().addSubview(label);
-    dispatch::after(dispatch::nanoseconds(seconds), dispatch::mainQueue(),
+    dispatch::after(seconds, dispatch::mainQueue(),
                     [label = objc::Strong(label)] { label.removeFromSuperview(); });
 }
 

@@ -13,6 +13,7 @@
 #include "bindings/uikit/screen.hpp"
 #include "library/common/draggable_view.hpp"
 #include "library/common/screens.hpp"
+#include "library/common/string_array.hpp"
 #include "library/labels/color_from_string.hpp"
 #include "library/toolbox/floating_view_controller.hpp"
 #include "library/toolbox/panel_layout.hpp"
@@ -29,19 +30,12 @@ using namespace ns::literals;
 using preferences::keys;
 using preferences::Preferences;
 
-constexpr std::int64_t startUpDelay = 300'000'000; // ns
-constexpr std::int64_t panelDelay = 300'000'000;   // ns
+// Seconds.
+constexpr double startUpDelay = 0.3;
+constexpr double panelDelay = 0.3;
 constexpr double timedBallSeconds = 5;
 
 CGSize screenSize() { return ui::Screen::mainScreen().bounds().size; }
-
-ns::Array wordsOf(std::u16string_view text) {
-    const auto words = ns::MutableArray::make();
-    for (const std::u16string_view token : cutTokens(text)) {
-        words.add(ns::String::from(token));
-    }
-    return words;
-}
 
 class ViewModelPeer : public objc::Peer<ViewModelPeer, ViewModel> {
 public:
@@ -230,7 +224,8 @@ void ViewModelPeer::take(ns::String copied, bool opens) {
     if (opens) {
         showPanelSoon();
     }
-    body_.updateWordsArray(wordsOf(copied.utf16()));
+    const std::u16string text = copied.utf16();
+    body_.updateWordsArray(stringArray(cutTokens(text)));
 }
 
 void ViewModelPeer::showPanelSoon() {

@@ -155,7 +155,7 @@ void Recording::showCollected(std::size_t count) const {
 }
 
 void Recording::showSaved() const {
-    constexpr std::int64_t shown = 1'000'000'000; // nanoseconds
+    constexpr double shown = 1; // seconds
     cameraButton_.setImage(ui::Image::systemNamed(u"checkmark.circle.fill"_ns),
                            ui::ControlState::normal);
     dispatch::after(shown, dispatch::mainQueue(), [button = objc::Strong(cameraButton_)] {

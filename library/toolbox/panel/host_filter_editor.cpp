@@ -47,7 +47,7 @@ void addButton(ui::View view, double half, ButtonLook look, objc::Object target,
 void notify(ui::View view) {
     constexpr double textSize = 22;
     constexpr CGSize size{120, 50};
-    constexpr std::int64_t shown = 3'000'000'000; // nanoseconds
+    constexpr double shown = 3; // seconds
     constexpr double secondsToFade = 0.3;
     const auto notice = ui::Label::withFrame({{}, size});
     notice.setText(u"已保存"_ns);

@@ -40,12 +40,12 @@ TEST_F(Dispatch, MainWorkRunsLaterInItsOrderNotInTheCall) {
 }
 
 TEST_F(Dispatch, DelayedWorkRunsAtItsMomentInOrderOfMoments) {
-    dispatch::after(3 * second, dispatch::mainQueue(), mark("three"));
-    dispatch::after(second, dispatch::mainQueue(), [this] {
+    dispatch::after(3, dispatch::mainQueue(), mark("three"));
+    dispatch::after(1, dispatch::mainQueue(), [this] {
         ran.emplace_back("one");
-        dispatch::after(second, dispatch::mainQueue(), mark("one and one"));
+        dispatch::after(1, dispatch::mainQueue(), mark("one and one"));
     });
-    dispatch::after(2 * second, dispatch::mainQueue(), mark("two"));
+    dispatch::after(2, dispatch::mainQueue(), mark("two"));
     desktop::run_loop::advance(0.999);
     EXPECT_TRUE(ran.empty());
     desktop::run_loop::advance(1.5);
