@@ -19,9 +19,6 @@ struct AttributedString : objc::Kind<AttributedString, "NSAttributedString"> {
     Dictionary attributesAt(unsigned long unit, Range* effective = nullptr) const {
         return send<"attributesAtIndex:effectiveRange:", Dictionary>(unit, effective);
     }
-    [[nodiscard]] AttributedString part(Range range) const {
-        return send<"attributedSubstringFromRange:", AttributedString>(range);
-    }
 };
 
 struct MutableAttributedString

@@ -22,7 +22,6 @@ struct Dictionary : objc::Kind<Dictionary, "NSDictionary"> {
         return send<"objectForKey:", objc::Object>(key);
     }
     [[nodiscard]] Array allKeys() const;
-    [[nodiscard]] Array allValues() const;
 };
 
 struct MutableDictionary : objc::Kind<MutableDictionary, "NSMutableDictionary", Dictionary> {
@@ -41,4 +40,3 @@ struct MutableDictionary : objc::Kind<MutableDictionary, "NSMutableDictionary", 
 #include "bindings/foundation/array.hpp"
 
 inline ns::Array ns::Dictionary::allKeys() const { return send<"allKeys", Array>(); }
-inline ns::Array ns::Dictionary::allValues() const { return send<"allValues", Array>(); }

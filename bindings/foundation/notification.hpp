@@ -10,7 +10,6 @@ struct Notification : objc::Kind<Notification, "NSNotification"> {
     using Kind::Kind;
 
     [[nodiscard]] String name() const { return send<"name", String>(); }
-    [[nodiscard]] objc::Object object() const { return send<"object", objc::Object>(); }
     [[nodiscard]] Dictionary userInfo() const { return send<"userInfo", Dictionary>(); }
 };
 

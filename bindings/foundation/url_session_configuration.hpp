@@ -12,10 +12,6 @@ struct UrlSessionConfiguration : objc::Kind<UrlSessionConfiguration, "NSURLSessi
     static UrlSessionConfiguration defaultSessionConfiguration() {
         return sendClass<"defaultSessionConfiguration", UrlSessionConfiguration>();
     }
-    /// Seconds.
-    void setTimeoutIntervalForRequest(double seconds) const {
-        send<"setTimeoutIntervalForRequest:">(seconds);
-    }
 };
 
 } // namespace ns

@@ -20,15 +20,10 @@ struct AlertController : objc::Kind<AlertController, "UIAlertController", ViewCo
             title, message, style);
     }
     [[nodiscard]] ns::String message() const { return send<"message", ns::String>(); }
-    void setMessage(ns::String message) const { send<"setMessage:">(message); }
     [[nodiscard]] AlertStyle preferredStyle() const { return send<"preferredStyle", AlertStyle>(); }
     void addAction(AlertAction action) const { send<"addAction:">(action); }
     [[nodiscard]] ns::ArrayOf<AlertAction> actions() const {
         return send<"actions", ns::ArrayOf<AlertAction>>();
-    }
-    void setPreferredAction(AlertAction action) const { send<"setPreferredAction:">(action); }
-    [[nodiscard]] AlertAction preferredAction() const {
-        return send<"preferredAction", AlertAction>();
     }
     /// Calls the block, which may be nil, with the new field at once.
     void addTextField(Configuration configuration) const {

@@ -15,10 +15,6 @@ struct CollectionViewController
     [[nodiscard]] CollectionView collectionView() const {
         return send<"collectionView", CollectionView>();
     }
-
-    static CollectionViewController withLayout(CollectionViewLayout layout) {
-        return make<"initWithCollectionViewLayout:">(layout);
-    }
 };
 
 } // namespace ui

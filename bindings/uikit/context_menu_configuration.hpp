@@ -20,7 +20,6 @@ struct ContextMenuConfiguration
         return sendClass<"configurationWithIdentifier:previewProvider:actionProvider:",
                          ContextMenuConfiguration>(identifier, preview, actions);
     }
-    [[nodiscard]] objc::Object identifier() const { return send<"identifier", objc::Object>(); }
 };
 
 } // namespace ui

@@ -10,10 +10,6 @@ struct Touch;
 
 struct Event : objc::Kind<Event, "UIEvent"> {
     using Kind::Kind;
-
-    [[nodiscard]] ns::SetOf<Touch> allTouches() const {
-        return send<"allTouches", ns::SetOf<Touch>>();
-    }
 };
 
 inline View View::hitTest(CGPoint point, Event event) const {

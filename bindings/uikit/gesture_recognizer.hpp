@@ -26,17 +26,10 @@ struct GestureRecognizer : objc::Kind<GestureRecognizer, "UIGestureRecognizer"> 
 
     [[nodiscard]] GestureState state() const { return send<"state", GestureState>(); }
     [[nodiscard]] View view() const { return send<"view", View>(); }
-    [[nodiscard]] bool isEnabled() const { return send<"isEnabled", bool>(); }
     void setEnabled(bool enabled) const { send<"setEnabled:">(enabled); }
-    [[nodiscard]] bool cancelsTouchesInView() const { return send<"cancelsTouchesInView", bool>(); }
     void setCancelsTouchesInView(bool cancels) const { send<"setCancelsTouchesInView:">(cancels); }
     /// Not retained.
-    [[nodiscard]] objc::Object delegate() const { return send<"delegate", objc::Object>(); }
     void setDelegate(objc::Object delegate) const { send<"setDelegate:">(delegate); }
-    /// The target is not retained; the action takes the recognizer, or nothing.
-    void addTarget(objc::Object target, SEL action) const {
-        send<"addTarget:action:">(target, action);
-    }
     void requireToFail(GestureRecognizer other) const {
         send<"requireGestureRecognizerToFail:">(other);
     }

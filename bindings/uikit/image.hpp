@@ -39,9 +39,6 @@ struct Image : objc::Kind<Image, "UIImage"> {
     [[nodiscard]] CGSize size() const { return send<"size", CGSize>(); }
     /// Pixels a point.
     [[nodiscard]] double scale() const { return send<"scale", double>(); }
-    [[nodiscard]] Image withRenderingMode(RenderingMode mode) const {
-        return send<"imageWithRenderingMode:", Image>(mode);
-    }
 };
 
 } // namespace ui

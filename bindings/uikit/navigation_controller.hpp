@@ -30,7 +30,6 @@ struct NavigationController
     [[nodiscard]] NavigationBar navigationBar() const {
         return send<"navigationBar", NavigationBar>();
     }
-    void setNavigationBarHidden(bool hidden) const { send<"setNavigationBarHidden:">(hidden); }
     void setToolbarHidden(bool hidden, bool animated) const {
         send<"setToolbarHidden:animated:">(hidden, animated);
     }

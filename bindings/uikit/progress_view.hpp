@@ -16,7 +16,6 @@ struct ProgressView : objc::Kind<ProgressView, "UIProgressView", View> {
     }
     /// From 0 to 1; what lies beyond counts as the nearer of the two.
     void setProgress(float progress) const { send<"setProgress:">(progress); }
-    [[nodiscard]] float progress() const { return send<"progress", float>(); }
 };
 
 } // namespace ui

@@ -10,7 +10,6 @@ struct SearchBar : objc::Kind<SearchBar, "UISearchBar", View> {
 
     [[nodiscard]] ns::String text() const { return send<"text", ns::String>(); }
     void setText(ns::String text) const { send<"setText:">(text); }
-    [[nodiscard]] ns::String placeholder() const { return send<"placeholder", ns::String>(); }
     void setPlaceholder(ns::String text) const { send<"setPlaceholder:">(text); }
     /// Told of each change by `searchBar:textDidChange:`. Not retained.
     void setDelegate(objc::Object delegate) const { send<"setDelegate:">(delegate); }

@@ -15,12 +15,6 @@ struct TapGestureRecognizer
     void setNumberOfTapsRequired(unsigned long taps) const {
         send<"setNumberOfTapsRequired:">(taps);
     }
-    [[nodiscard]] unsigned long numberOfTouchesRequired() const {
-        return send<"numberOfTouchesRequired", unsigned long>();
-    }
-    void setNumberOfTouchesRequired(unsigned long touches) const {
-        send<"setNumberOfTouchesRequired:">(touches);
-    }
 };
 
 } // namespace ui

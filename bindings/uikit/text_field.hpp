@@ -7,7 +7,6 @@
 namespace ui {
 
 /// The platform's numbers.
-enum class TextBorderStyle : long { none = 0, line = 1, bezel = 2, roundedRect = 3 };
 enum class TextFieldViewMode : long { never = 0, whileEditing = 1, unlessEditing = 2, always = 3 };
 
 enum class KeyboardType : long {
@@ -27,10 +26,7 @@ struct TextField : objc::Kind<TextField, "UITextField", Control> {
     void setText(ns::String text) const { send<"setText:">(text); }
     [[nodiscard]] ns::String placeholder() const { return send<"placeholder", ns::String>(); }
     void setPlaceholder(ns::String text) const { send<"setPlaceholder:">(text); }
-    [[nodiscard]] Font font() const { return send<"font", Font>(); }
     void setFont(Font font) const { send<"setFont:">(font); }
-    void setTextColor(Color color) const { send<"setTextColor:">(color); }
-    void setBorderStyle(TextBorderStyle style) const { send<"setBorderStyle:">(style); }
     void setClearButtonMode(TextFieldViewMode mode) const { send<"setClearButtonMode:">(mode); }
     void setSecureTextEntry(bool secure) const { send<"setSecureTextEntry:">(secure); }
     void setKeyboardType(KeyboardType type) const { send<"setKeyboardType:">(type); }

@@ -10,7 +10,6 @@ struct TextRange : objc::Kind<TextRange, "UITextRange"> {
 
     [[nodiscard]] TextPosition start() const { return send<"start", TextPosition>(); }
     [[nodiscard]] TextPosition end() const { return send<"end", TextPosition>(); }
-    [[nodiscard]] bool isEmpty() const { return send<"isEmpty", bool>(); }
 };
 
 } // namespace ui

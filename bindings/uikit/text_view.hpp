@@ -37,7 +37,6 @@ struct TextView : objc::Kind<TextView, "UITextView", ScrollView> {
     [[nodiscard]] LayoutManager layoutManager() const {
         return send<"layoutManager", LayoutManager>();
     }
-    [[nodiscard]] bool isEditable() const { return send<"isEditable", bool>(); }
     void setEditable(bool editable) const { send<"setEditable:">(editable); }
     void setSelectable(bool selectable) const { send<"setSelectable:">(selectable); }
     void setTextAlignment(TextAlignment alignment) const { send<"setTextAlignment:">(alignment); }

@@ -36,13 +36,9 @@ struct TraitCollection : objc::Kind<TraitCollection, "UITraitCollection"> {
     [[nodiscard]] InterfaceLevel userInterfaceLevel() const {
         return send<"userInterfaceLevel", InterfaceLevel>();
     }
-    [[nodiscard]] SizeClass horizontalSizeClass() const {
-        return send<"horizontalSizeClass", SizeClass>();
-    }
     [[nodiscard]] SizeClass verticalSizeClass() const {
         return send<"verticalSizeClass", SizeClass>();
     }
-    [[nodiscard]] double displayScale() const { return send<"displayScale", double>(); }
 };
 
 } // namespace ui

@@ -72,7 +72,6 @@ struct View : objc::Kind<View, "UIView", Responder> {
     [[nodiscard]] Color tintColor() const { return send<"tintColor", Color>(); }
     void setTintColor(Color color) const { send<"setTintColor:">(color); }
     void setClipsToBounds(bool clips) const { send<"setClipsToBounds:">(clips); }
-    [[nodiscard]] bool clipsToBounds() const { return send<"clipsToBounds", bool>(); }
     [[nodiscard]] TraitCollection traitCollection() const {
         return send<"traitCollection", TraitCollection>();
     }
@@ -110,6 +109,10 @@ struct View : objc::Kind<View, "UIView", Responder> {
         send<"insertSubview:belowSubview:">(view, sibling);
     }
     void removeFromSuperview() const { send<"removeFromSuperview">(); }
+    /// Also of itself.
+    [[nodiscard]] bool isDescendantOf(View view) const {
+        return send<"isDescendantOfView:", bool>(view);
+    }
     [[nodiscard]] View viewWithTag(long tag) const { return send<"viewWithTag:", View>(tag); }
     [[nodiscard]] ns::ArrayOf<GestureRecognizer> gestureRecognizers() const {
         return send<"gestureRecognizers", ns::ArrayOf<GestureRecognizer>>();
@@ -118,8 +121,15 @@ struct View : objc::Kind<View, "UIView", Responder> {
     /// with the recognizers, in gesture_recognizer.hpp.
     void addGestureRecognizer(GestureRecognizer recognizer) const;
     void removeGestureRecognizer(GestureRecognizer recognizer) const;
-    /// A context menu's, or another; the view keeps it.
+    /// Context menus' and others; a snapshot.
+    [[nodiscard]] ns::Array interactions() const {
+        return send<"interactions", ns::Array>().copied();
+    }
+    /// The view keeps it.
     void addInteraction(objc::Object interaction) const { send<"addInteraction:">(interaction); }
+    void removeInteraction(objc::Object interaction) const {
+        send<"removeInteraction:">(interaction);
+    }
     /// The front-most view inside this one that takes touches at the point (in this view's
     /// coordinates), or nil. The event may be nil. Defined with the events, in event.hpp.
     [[nodiscard]] View hitTest(CGPoint point, Event event) const;

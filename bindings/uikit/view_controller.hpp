@@ -93,9 +93,6 @@ struct ViewController : objc::Kind<ViewController, "UIViewController", Responder
     [[nodiscard]] ViewController parent() const {
         return send<"parentViewController", ViewController>();
     }
-    [[nodiscard]] ns::ArrayOf<ViewController> children() const {
-        return send<"childViewControllers", ns::ArrayOf<ViewController>>();
-    }
     void addChild(ViewController child) const { send<"addChildViewController:">(child); }
     void removeFromParent() const { send<"removeFromParentViewController">(); }
     /// Defined in navigation_controller.hpp.

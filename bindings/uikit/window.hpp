@@ -6,7 +6,6 @@
 namespace ui {
 
 struct ViewController;
-struct WindowScene;
 
 struct Window : objc::Kind<Window, "UIWindow", View> {
     using Kind::Kind;
@@ -16,8 +15,6 @@ struct Window : objc::Kind<Window, "UIWindow", View> {
     /// Defined with the view controllers, in view_controller.hpp.
     [[nodiscard]] ViewController rootViewController() const;
     void setRootViewController(ViewController controller) const;
-    /// Defined with the scenes, in window_scene.hpp.
-    [[nodiscard]] WindowScene windowScene() const;
     [[nodiscard]] bool isKeyWindow() const { return send<"isKeyWindow", bool>(); }
     void makeKeyAndVisible() const { send<"makeKeyAndVisible">(); }
 };

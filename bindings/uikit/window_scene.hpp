@@ -33,11 +33,6 @@ struct WindowScene : objc::Kind<WindowScene, "UIWindowScene"> {
     [[nodiscard]] ns::ArrayOf<Window> windows() const {
         return send<"windows", ns::ArrayOf<Window>>();
     }
-    [[nodiscard]] InterfaceOrientation interfaceOrientation() const {
-        return send<"interfaceOrientation", InterfaceOrientation>();
-    }
 };
-
-inline WindowScene Window::windowScene() const { return send<"windowScene", WindowScene>(); }
 
 } // namespace ui

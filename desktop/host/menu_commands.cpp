@@ -15,7 +15,7 @@ namespace {
 /// The interaction of the view, or of the nearest one that it lies in; nil without one.
 ui::ContextMenuInteraction interactionOf(ui::View view) {
     for (; view; view = view.superview()) {
-        for (const objc::Object each : ui::ContextMenuInteraction::interactionsOf(view)) {
+        for (const objc::Object each : view.interactions()) {
             if (const auto found = each.as<ui::ContextMenuInteraction>(); found) {
                 return found;
             }

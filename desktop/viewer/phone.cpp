@@ -83,7 +83,7 @@ host::Json screenSize() {
 bool isInFront(ui::View view, const CGRect& frame) {
     const CGPoint middle{frame.origin.x + frame.size.width / 2,
                          frame.origin.y + frame.size.height / 2};
-    return view.window().hitTest(middle, nullptr).send<"isDescendantOfView:", bool>(view);
+    return view.window().hitTest(middle, nullptr).isDescendantOf(view);
 }
 
 host::Json listOf(const CGRect& frame) {

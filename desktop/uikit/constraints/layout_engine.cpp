@@ -214,8 +214,7 @@ private:
                 return boxes_[view.raw()].inset(ViewConstraints::of(view).margins());
             }
             const ui::View from = other ? viewOf(other) : ui::View();
-            const bool fromInside =
-                from && from != view && from.send<"isDescendantOfView:", bool>(view);
+            const bool fromInside = from && from != view && from.isDescendantOf(view);
             return fromInside && view.as<ui::ScrollView>() && isEdge(attribute)
                        ? contentBox(view)
                        : boxes_[view.raw()];

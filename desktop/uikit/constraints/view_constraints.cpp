@@ -89,7 +89,7 @@ bool ViewConstraints::areThereAny() { return activeCount > 0; }
 
 ui::View ViewConstraints::commonAncestor(ui::View one, ui::View other) {
     for (ui::View view = one; view && other; view = view.superview()) {
-        if (other.send<"isDescendantOfView:", bool>(view)) {
+        if (other.isDescendantOf(view)) {
             return view;
         }
     }
@@ -102,7 +102,7 @@ void ViewConstraints::dropAcross(ui::View leaving) {
     }
     const auto leaves = [leaving](objc::Object item) {
         const ui::View view = item ? viewOf(item) : ui::View();
-        return view && view.send<"isDescendantOfView:", bool>(leaving);
+        return view && view.isDescendantOf(leaving);
     };
     for (ui::View around = leaving.superview(); around; around = around.superview()) {
         ViewConstraints& keeper = of(around);

@@ -9,8 +9,7 @@ template <class Work>
 void ViewController::forVisibleChildren(Work work) const {
     const auto children = children_; // a copy: what is told may change them
     for (const auto& child : children) {
-        if (view_ && of(child).view_ &&
-            of(child).view_.send<"isDescendantOfView:", bool>(static_cast<ui::View>(view_))) {
+        if (view_ && of(child).view_ && of(child).view_.isDescendantOf(view_)) {
             work(child);
         }
     }

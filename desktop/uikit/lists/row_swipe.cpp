@@ -63,11 +63,4 @@ void RowSwipe::layOut(CGRect rowFrame) const {
     }
 }
 
-bool RowSwipe::has(ui::View view) const {
-    while (view && view != panel_) {
-        view = view.superview();
-    }
-    return static_cast<bool>(view);
-}
-
 } // namespace desktop

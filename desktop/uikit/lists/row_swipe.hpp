@@ -31,7 +31,8 @@ public:
     [[nodiscard]] bool staysOpen(double velocity) const;
     /// Lays the buttons out in what the row leaves free of its frame.
     void layOut(CGRect rowFrame) const;
-    [[nodiscard]] bool has(ui::View view) const;
+    /// Whether the view is one of the buttons, or lies in one.
+    [[nodiscard]] bool has(ui::View view) const { return view.isDescendantOf(panel_); }
 
 private:
     ItemIndex row_;

@@ -72,9 +72,9 @@ ui::TableViewCell Cells::cell(ui::TableView table, ns::IndexPath row) {
 
 /// A new one each time; a cell that is used again gives the former one up.
 void Cells::offerMenu(ui::TableViewCell cell) const {
-    for (const objc::Object former : ui::ContextMenuInteraction::interactionsOf(cell)) {
+    for (const objc::Object former : cell.interactions()) {
         if (former.as<ui::ContextMenuInteraction>()) {
-            ui::ContextMenuInteraction::remove(former, cell);
+            cell.removeInteraction(former);
         }
     }
     cell.addInteraction(ui::ContextMenuInteraction::with(self()));
