@@ -104,9 +104,7 @@ std::string dateObject(ns::Date date) {
 }
 
 std::string dataObject(ns::Data data) {
-    const std::size_t size = data.length();
-    return head(Marker::data, size)
-        .append(static_cast<const char*>(data.send<"bytes", const void*>()), size);
+    return head(Marker::data, data.length()).append(data.bytes());
 }
 
 std::string textObject(std::u16string_view text) {

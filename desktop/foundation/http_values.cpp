@@ -29,10 +29,7 @@ void addHeaders(ns::Dictionary fields, Headers& headers) {
 /// In UTF-8 or else, as of old, in Latin-1.
 ns::String textOf(const std::string& value) {
     const auto text = ns::String::fromUtf8(value);
-    return text ? text
-                : ns::String::make<"initWithBytes:length:encoding:">(
-                      static_cast<const void*>(value.data()),
-                      static_cast<unsigned long>(value.size()), ns::StringEncoding::isoLatin1);
+    return text ? text : ns::String::from(ns::Data::from(value), ns::StringEncoding::isoLatin1);
 }
 
 ns::Dictionary joined(const Headers& headers) {
@@ -65,8 +62,7 @@ network::HttpRequest httpRequest(ns::UrlRequest request, ns::Dictionary addition
     }
     addHeaders(fields, plain.headers);
     if (const ns::Data body = request.httpBody()) {
-        plain.body.assign(static_cast<const char*>(body.send<"bytes", const void*>()),
-                          body.length());
+        plain.body = body.bytes();
     }
     const double own = request.timeoutInterval();
     plain.quietTime = own > 0 && own != defaultTimeout ? own : quietTime;

@@ -38,8 +38,7 @@ private:
 using Reader = objc::Next<objc::Object(ns::Data, unsigned long, id*)>;
 objc::Object read(Reader next, objc::Object, ns::Data data, unsigned long options, id* error) {
     constexpr long corrupt = 3840; // NSPropertyListReadCorruptError, for JSON, too
-    if (!isNestedTooDeeplyInJson(
-            {static_cast<const char*>(data.send<"bytes", const void*>()), data.length()})) {
+    if (!isNestedTooDeeplyInJson(data.bytes())) {
         return next(data, options, error);
     }
     if (error != nullptr) {

@@ -58,8 +58,7 @@ objc::Object readOld(std::string_view text, ns::PropertyListFormat* format, id* 
 /// GNUstep overflows the stack where lists are nested deeply.
 objc::Object read(Reader next, objc::Object, ns::Data data, unsigned long options,
                   ns::PropertyListFormat* format, id* error) {
-    const std::string_view bytes(static_cast<const char*>(data.send<"bytes", const void*>()),
-                                 data.length());
+    const std::string_view bytes = data.bytes();
     const bool isText = !bytes.starts_with("bplist");
     const std::string text = isText ? inUtf8(bytes) : std::string();
     if (isNestedTooDeeply(isText ? text : bytes)) {

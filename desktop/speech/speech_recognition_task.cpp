@@ -20,9 +20,8 @@ void recordRecognition(ns::String text, bool isFinal) {
 
 ns::Error errorOf(const std::string& why) {
     constexpr long noSpeech = 1110;
-    return ns::Error::with(
-        u"kAFAssistantErrorDomain"_ns, noSpeech,
-        ns::Dictionary::withObject(ns::String::fromUtf8(why), u"NSLocalizedDescription"_ns));
+    return ns::Error::withDescription(u"kAFAssistantErrorDomain"_ns, noSpeech,
+                                      ns::String::fromUtf8(why));
 }
 
 } // namespace

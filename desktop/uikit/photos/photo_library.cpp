@@ -53,9 +53,8 @@ ns::Error save(ui::Image image) {
         return nullptr;
     }
     constexpr long dataUnavailable = -3310;
-    return ns::Error::with(
-        u"ALAssetsLibraryErrorDomain"_ns, dataUnavailable,
-        ns::Dictionary::withObject(u"无法存储到相册。"_ns, u"NSLocalizedDescription"_ns));
+    return ns::Error::withDescription(u"ALAssetsLibraryErrorDomain"_ns, dataUnavailable,
+                                      u"无法存储到相册。"_ns);
 }
 
 } // namespace

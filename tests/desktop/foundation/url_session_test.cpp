@@ -40,9 +40,7 @@ struct Outcome {
 
 ns::Url urlFrom(const std::string& text) { return ns::Url::withString(ns::String::fromUtf8(text)); }
 
-std::string bytesOf(ns::Data data) {
-    return {static_cast<const char*>(data.send<"bytes", const void*>()), data.length()};
-}
+std::string bytesOf(ns::Data data) { return std::string(data.bytes()); }
 
 /// Starts a data task and gives what will become of it.
 std::future<Outcome> load(ns::UrlRequest request,

@@ -35,9 +35,7 @@ void PrintTo(const Outcome& outcome, std::ostream* stream) {
             << outcome.error;
 }
 
-std::string bytesOf(ns::Data data) {
-    return {static_cast<const char*>(data.send<"bytes", const void*>()), data.length()};
-}
+std::string bytesOf(ns::Data data) { return std::string(data.bytes()); }
 
 long statusOf(ns::UrlResponse response) {
     const auto http = response.as<ns::HttpUrlResponse>();
