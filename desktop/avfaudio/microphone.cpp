@@ -2,22 +2,18 @@
 #include "desktop/avfaudio/microphone.hpp"
 
 #include "desktop/avfaudio/speech_voices.hpp"
+#include "desktop/foundation/text.hpp"
 
 #include <algorithm>
 #include <cmath>
 
 namespace desktop {
-namespace {
-
-bool beginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
-
-} // namespace
 
 std::string firstPart(const std::string& text, double share) {
-    const auto characters = std::ranges::count_if(text, &beginsCharacter);
+    const auto characters = std::ranges::count(text, false, &continuesCharacter);
     auto wanted = std::lround(std::floor(static_cast<double>(characters) * share));
     const auto end = std::ranges::find_if(
-        text, [&wanted](char byte) { return beginsCharacter(byte) && wanted-- <= 0; });
+        text, [&wanted](char byte) { return !continuesCharacter(byte) && wanted-- <= 0; });
     return {text.begin(), end};
 }
 

@@ -3,16 +3,20 @@
 
 #include "bindings/foundation/http_url_response.hpp"
 #include "bindings/objc/hook.hpp"
+#include "desktop/foundation/text.hpp"
+#include "desktop/network/header_text.hpp"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <optional>
-#include <strings.h>
 #include <utility>
 
 namespace desktop::foundation {
 namespace {
+
+using network::isSameName;
+using network::trimmed;
 
 /// Of a file system.
 constexpr std::size_t longestName = 255;
@@ -43,13 +47,6 @@ std::string decoded(std::string_view text) {
         }
     }
     return bytes;
-}
-
-std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view space = " \t";
-    const std::size_t first = text.find_first_not_of(space);
-    return first == text.npos ? std::string_view()
-                              : text.substr(first, text.find_last_not_of(space) - first + 1);
 }
 
 bool isUtf8(std::string_view text) { return static_cast<bool>(ns::String::fromUtf8(text)); }
@@ -88,16 +85,11 @@ std::string unquoted(std::string_view value) {
 std::optional<std::string> extendedValue(std::string_view value) {
     const std::size_t language = value.find('\'');
     const std::size_t text = value.find('\'', language + 1);
-    if (text == value.npos ||
-        strncasecmp(value.data(), "utf-8", std::max<std::size_t>(language, 1)) != 0) {
+    if (text == value.npos || !isSameName(value.substr(0, language), "utf-8")) {
         return std::nullopt;
     }
     std::string bytes = decoded(value.substr(text + 1));
     return isUtf8(bytes) ? std::optional(std::move(bytes)) : std::nullopt;
-}
-
-bool isName(std::string_view text, std::string_view name) {
-    return text.size() == name.size() && strncasecmp(text.data(), name.data(), name.size()) == 0;
 }
 
 std::string nameInHeader(std::string_view header) {
@@ -111,11 +103,11 @@ std::string nameInHeader(std::string_view header) {
         }
         const std::string_view name = trimmed(parameter.substr(0, sign));
         const std::string_view value = trimmed(parameter.substr(sign + 1));
-        if (isName(name, "filename*")) {
+        if (isSameName(name, "filename*")) {
             if (auto extended = extendedValue(value)) {
                 return std::move(*extended); // it comes first, wherever it stands
             }
-        } else if (isName(name, "filename") && !plain) {
+        } else if (isSameName(name, "filename") && !plain) {
             plain = unquoted(value);
         }
     }
@@ -163,7 +155,7 @@ std::string_view extensionOf(std::string_view name) {
 
 std::string_view extensionFor(std::string_view mimeType) {
     const auto* const found = std::ranges::find_if(
-        extensions, [mimeType](const auto& known) { return isName(mimeType, known.first); });
+        extensions, [mimeType](const auto& known) { return isSameName(mimeType, known.first); });
     return found == extensions.end() ? std::string_view() : found->second;
 }
 
@@ -175,10 +167,7 @@ std::string fitting(const std::string& name) {
     std::string_view extension = extensionOf(name);
     extension = extension.size() < longestName / 2 ? extension : std::string_view();
     std::size_t length = longestName - extension.size();
-    const auto isWithin = [](char c) {
-        return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; // of a character
-    };
-    while (length > 0 && isWithin(name[length])) {
+    while (length > 0 && continuesCharacter(name[length])) {
         --length;
     }
     return name.substr(0, length) + std::string(extension);
@@ -187,7 +176,7 @@ std::string fitting(const std::string& name) {
 ns::String headerOf(ns::UrlResponse response, std::string_view name) {
     const ns::Dictionary fields = response.as<ns::HttpUrlResponse>().allHeaderFields();
     for (const objc::Object key : fields.allKeys()) {
-        if (isName(key.as<ns::String>().utf8(), name)) {
+        if (isSameName(key.as<ns::String>().utf8(), name)) {
             return fields.get(key).as<ns::String>();
         }
     }

@@ -15,6 +15,11 @@ namespace desktop {
     return unit >= 0xDC00 && unit < 0xE000;
 }
 
+/// Whether a byte of UTF-8 is not the first of its character.
+[[nodiscard]] constexpr bool continuesCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
 /// How many units there are before the first lone surrogate.
 [[nodiscard]] std::size_t wellFormedLength(std::u16string_view text);
 /// Whether no surrogate of the text stands alone.

@@ -4,15 +4,15 @@
 #include "bindings/foundation/error.hpp"
 #include "bindings/foundation/number.hpp"
 #include "bindings/uikit/alert_controller.hpp"
+#include "desktop/foundation/numbered_file.hpp"
 #include "desktop/messageui/mail_form.hpp"
 #include "desktop/messageui/mail_message.hpp"
+#include "desktop/runtime/clock.hpp"
 #include "desktop/runtime/event_log.hpp"
 #include "desktop/uikit/delegate_messages.hpp"
 
 #include <array>
-#include <chrono>
 #include <ctime>
-#include <filesystem>
 #include <fstream>
 
 namespace desktop {
@@ -22,24 +22,13 @@ using namespace ns::literals;
 using Result = mf::MailComposeResult;
 
 std::string dateHeader() {
-    const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+    const auto now = static_cast<std::time_t>(Clock::shared().date());
     std::tm utc{};
     gmtime_r(&now, &utc);
     std::array<char, 64> text{};
     const std::size_t length =
         std::strftime(text.data(), text.size(), "%a, %d %b %Y %H:%M:%S +0000", &utc);
     return {text.data(), length};
-}
-
-/// The first name that is free in the folder on the device.
-std::filesystem::path freeFile(const std::filesystem::path& folder) {
-    std::error_code error;
-    std::filesystem::create_directories(folder, error);
-    int number = 1;
-    while (std::filesystem::exists(folder / (std::to_string(number) + ".eml"), error)) {
-        ++number;
-    }
-    return folder / (std::to_string(number) + ".eml");
 }
 
 ns::Array arrayOf(const std::vector<std::string>& texts) {
@@ -59,9 +48,8 @@ ns::Array namesOf(const std::vector<mail::Attachment>& attachments) {
 }
 
 ns::Error failure() {
-    const auto info = ns::MutableDictionary::make();
-    info.set(u"The mail could not be sent."_ns, u"NSLocalizedDescription"_ns);
-    return ns::Error::with(u"MFMailComposeErrorDomain"_ns, 1, info);
+    return ns::Error::withDescription(u"MFMailComposeErrorDomain"_ns, 1,
+                                      u"The mail could not be sent."_ns);
 }
 
 } // namespace
@@ -117,8 +105,8 @@ void MailComposeViewController::cancelPressed() {
 
 void MailComposeViewController::keep(Result result) const {
     const bool isSent = result == Result::sent;
-    const auto file =
-        freeFile(isSent ? "/var/mobile/Library/Mail/Sent" : "/var/mobile/Library/Mail/Drafts");
+    const auto file = foundation::numberedFile(
+        isSent ? "/var/mobile/Library/Mail/Sent" : "/var/mobile/Library/Mail/Drafts", "", ".eml");
     std::ofstream(file, std::ios::binary) << mail::fileOf(message_, dateHeader());
     const auto fields = ns::MutableDictionary::make();
     fields.set(arrayOf(message_.to), u"to"_ns);

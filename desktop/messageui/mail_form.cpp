@@ -55,7 +55,7 @@ private:
     void addLine(double width) const {
         const auto line = ui::View::withFrame({{margin, top_ + rowHeight}, {width - margin, 0.5}});
         line.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth);
-        line.setBackgroundColor(ui::Color::sendClass<"separatorColor", ui::Color>());
+        line.setBackgroundColor(ui::Color::named("separatorColor"));
         view_.addSubview(line);
     }
 

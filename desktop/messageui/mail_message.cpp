@@ -1,6 +1,8 @@
 // Every text and content goes in as Base64, which needs no quoting.
 #include "desktop/messageui/mail_message.hpp"
 
+#include "desktop/foundation/text.hpp"
+
 #include <openssl/evp.h>
 
 #include <algorithm>
@@ -29,8 +31,6 @@ std::string encoded(std::string_view bytes) {
     }
     return lines;
 }
-
-bool continuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 
 /// A header's text in encoded words, none of which cuts a character in two.
 std::string words(std::string_view text) {

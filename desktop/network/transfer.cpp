@@ -1,11 +1,11 @@
 // Setting libcurl up for a request, and taking what it hands back.
 #include "desktop/network/transfer.hpp"
 
+#include "desktop/network/header_text.hpp"
 #include "desktop/services/loopback_names.hpp"
 
 #include <algorithm>
 #include <charconv>
-#include <strings.h>
 #include <utility>
 
 namespace desktop::network {
@@ -14,21 +14,9 @@ namespace {
 /// The number at which the platform gives up too.
 constexpr int mostRedirections = 20;
 
-std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view space = " \t\r\n";
-    const auto first = text.find_first_not_of(space);
-    return first == std::string_view::npos
-               ? std::string_view()
-               : text.substr(first, text.find_last_not_of(space) - first + 1);
-}
-
-bool sameName(const std::string& one, const char* other) {
-    return strcasecmp(one.c_str(), other) == 0;
-}
-
 const std::string* valueOf(const Headers& headers, const char* name) {
     const auto found = std::ranges::find_if(
-        headers, [name](const auto& header) { return sameName(header.first, name); });
+        headers, [name](const auto& header) { return isSameName(header.first, name); });
     return found == headers.end() ? nullptr : &found->second;
 }
 
@@ -238,7 +226,7 @@ CURLcode Transfer::redirect() {
     }
     // What was said to one host is not for another to hear.
     std::erase_if(request_.headers,
-                  [](const auto& header) { return sameName(header.first, "Authorization"); });
+                  [](const auto& header) { return isSameName(header.first, "Authorization"); });
     return CURLE_OK;
 }
 

@@ -2,13 +2,12 @@
 #include "desktop/replaykit/screen_recorder.hpp"
 
 #include "desktop/deviceroot/deviceroot.hpp"
+#include "desktop/foundation/numbered_file.hpp"
 #include "desktop/replaykit/film_view.hpp"
 #include "desktop/replaykit/preview_view_controller.hpp"
 #include "desktop/runtime/event_log.hpp"
 #include "desktop/runtime/main_queue.hpp"
 #include "desktop/uikit/delegate_messages.hpp"
-
-#include <filesystem>
 
 namespace desktop {
 namespace {
@@ -26,9 +25,8 @@ enum class RecordingError : long {
 };
 
 ns::Error errorOf(RecordingError code, ns::String text) {
-    return ns::Error::with(u"com.apple.ReplayKit.RPRecordingErrorDomain"_ns,
-                           static_cast<long>(code),
-                           ns::Dictionary::withObject(text, u"NSLocalizedDescription"_ns));
+    return ns::Error::withDescription(u"com.apple.ReplayKit.RPRecordingErrorDomain"_ns,
+                                      static_cast<long>(code), text);
 }
 
 /// One that no film has yet; empty without a device.
@@ -36,15 +34,7 @@ std::string freeFile() {
     if (*deviceroot_get() == '\0') {
         return {};
     }
-    const std::filesystem::path folder = "/var/mobile/Library/ReplayKit";
-    std::error_code ignored;
-    std::filesystem::create_directories(folder, ignored);
-    int number = 1;
-    const auto file = [&] { return folder / ("recording-" + std::to_string(number) + ".webm"); };
-    while (std::filesystem::exists(file(), ignored)) {
-        ++number;
-    }
-    return file();
+    return foundation::numberedFile("/var/mobile/Library/ReplayKit", "recording-", ".webm");
 }
 
 /// `file` and `error` may be empty.
@@ -106,17 +96,13 @@ rp::PreviewViewController ScreenRecorder::end() {
 }
 
 void ScreenRecorder::stop(rp::ScreenRecorder::Stopped handler) {
-    const bool wasRecording = isRecording();
     objc::Strong<rp::PreviewViewController> preview;
-    objc::Strong<ns::Error> error;
-    if (wasRecording) {
-        preview = end();
-    }
-    if (!wasRecording) {
-        error = errorOf(RecordingError::notRecording, u"没有正在进行的录屏。"_ns);
-    } else if (fails_ || !preview) {
-        preview = nullptr;
-        error = errorOf(RecordingError::failed, u"录屏失败。"_ns);
+    objc::Strong<ns::Error> error =
+        errorOf(RecordingError::notRecording, u"没有正在进行的录屏。"_ns);
+    if (isRecording()) {
+        const auto film = end();
+        preview = fails_ ? rp::PreviewViewController() : film;
+        error = preview ? ns::Error() : errorOf(RecordingError::failed, u"录屏失败。"_ns);
     }
     if (handler) {
         MainQueue::shared().add(

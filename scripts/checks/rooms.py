@@ -46,10 +46,10 @@ DESKTOP = {
     "uikit": [*PLAIN, "coregraphics", "quartzcore", "foundation"],
     "avfaudio": [*PLAIN, "foundation"],
     "speech": ["runtime", "foundation", "avfaudio", "uikit"],
-    "replaykit": [*PLAIN, "coregraphics", "uikit"],
+    "replaykit": [*PLAIN, "coregraphics", "foundation", "uikit"],
     "webkit": [*PLAIN, "coregraphics", "uikit"],
     "safariservices": [*PLAIN, "uikit"],
-    "messageui": [*PLAIN, "uikit"],
+    "messageui": [*PLAIN, "foundation", "uikit"],
     "platform": ["foundation", "uikit", "avfaudio", "speech", "replaykit", "webkit", "safariservices", "messageui"],
 }
 DESKTOP["host"] = list(DESKTOP)
