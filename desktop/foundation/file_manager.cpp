@@ -21,12 +21,7 @@ using namespace ns::literals;
 
 /// Cocoa's numbers of what went wrong.
 long cocoaCode(int failure) {
-    enum Code : long {
-        noSuchFile = 4,
-        noReadPermission = 257,
-        noSuchFileToRead = 260,
-        unknown = 256
-    };
+    enum Code : long { unknown = 256, noReadPermission = 257, noSuchFileToRead = 260 };
     return failure == ENOENT ? noSuchFileToRead : failure == EACCES ? noReadPermission : unknown;
 }
 

@@ -76,28 +76,35 @@ void ContextMenuView::build(ui::Menu menu, ui::ViewController preview) {
     preview_ = preview;
     list_ = ui::ScrollView::withFrame({});
     list_.setBackgroundColor(plain());
-    list_.layer().setCornerRadius(corner);
-    list_.setClipsToBounds(true);
-    double top = 0;
-    if (menu.title().length() > 0) {
-        const auto title = labelWith({{margin, 0}, {listWidth - 2 * margin, titleHeight}},
-                                     menu.title(), 12, ui::Color::secondaryLabel());
-        title.setTextAlignment(ui::TextAlignment::center);
-        list_.addSubview(title);
-        top = titleHeight;
-    }
+    addRounded(list_);
+    double top = addTitle();
     for (const ui::MenuElement element : menu.children()) {
         rows_.push_back({element, rowFor(element, top)});
         list_.addSubview(rows_.back().view);
         top += rowHeight;
     }
     list_.setContentSize({listWidth, top});
-    self().addSubview(list_);
     if (preview) {
-        preview.view().setClipsToBounds(true);
-        preview.view().layer().setCornerRadius(corner);
-        self().addSubview(preview.view());
+        addRounded(preview.view());
     }
+}
+
+void ContextMenuView::addRounded(ui::View part) const {
+    part.setClipsToBounds(true);
+    part.layer().setCornerRadius(corner);
+    self().addSubview(part);
+}
+
+/// Where what is below the title begins.
+double ContextMenuView::addTitle() const {
+    if (menu_.title().length() == 0) {
+        return 0;
+    }
+    const auto title = labelWith({{margin, 0}, {listWidth - 2 * margin, titleHeight}},
+                                 menu_.title(), 12, ui::Color::secondaryLabel());
+    title.setTextAlignment(ui::TextAlignment::center);
+    list_.addSubview(title);
+    return titleHeight;
 }
 
 ui::View ContextMenuView::rowFor(ui::MenuElement element, double top) const {
@@ -131,13 +138,16 @@ void ContextMenuView::layoutSubviews() {
     const double right = room.size.width - safe.right - gap - listWidth;
     const double x = std::max(safe.left + gap, std::min(beside_.origin.x, right));
     list_.setFrame({{x, y}, {listWidth, height}});
-    if (preview_) {
-        const CGSize wanted = preview_.preferredContentSize();
-        const double width = wanted.width > 0 ? wanted.width : listWidth;
-        const double tall =
-            std::min(wanted.height > 0 ? wanted.height : listWidth, y - gap - least);
-        preview_.view().setFrame({{x, y - gap - tall}, {width, std::max(0.0, tall)}});
-    }
+    placePreview({x, y}, least);
+}
+
+/// Above the list, as far as there is room below `top`.
+void ContextMenuView::placePreview(CGPoint list, double top) const {
+    const CGSize wanted = preview_.preferredContentSize();
+    const double width = wanted.width > 0 ? wanted.width : listWidth;
+    const double room = list.y - gap - top;
+    const double height = std::min(wanted.height > 0 ? wanted.height : listWidth, room);
+    preview_.view().setFrame({{list.x, list.y - gap - height}, {width, std::max(0.0, height)}});
 }
 
 std::optional<std::size_t> ContextMenuView::rowAt(ns::SetOf<ui::Touch> touches) const {

@@ -52,10 +52,13 @@ private:
     };
 
     void build(ui::Menu menu, ui::ViewController preview);
+    void addRounded(ui::View part) const;
+    [[nodiscard]] double addTitle() const;
     [[nodiscard]] ui::View rowFor(ui::MenuElement element, double top) const;
     [[nodiscard]] std::optional<std::size_t> rowAt(ns::SetOf<ui::Touch> touches) const;
     void highlight(std::optional<std::size_t> row) const;
     void layoutSubviews();
+    void placePreview(CGPoint list, double top) const;
     void touchesBegan(ns::SetOf<ui::Touch> touches, ui::Event event);
     void touchesEnded(ns::SetOf<ui::Touch> touches, ui::Event event);
     void touchesCancelled(ns::SetOf<ui::Touch>, ui::Event) { highlight(std::nullopt); }

@@ -26,8 +26,7 @@ std::vector<objc::MethodRow> PickerColumn::methods() {
 
 ui::ScrollView PickerColumn::initWithFrame(CGRect frame) {
     super<"initWithFrame:", ui::ScrollView>(frame);
-    constexpr long never = 2;
-    self().send<"setContentInsetAdjustmentBehavior:">(never);
+    self().setContentInsetAdjustmentBehavior(ui::ContentInsetAdjustmentBehavior::never);
     self().send<"setShowsVerticalScrollIndicator:">(objc::Boolean(false));
     self().setAlwaysBounceVertical(true);
     self().send<"setDelegate:">(self());

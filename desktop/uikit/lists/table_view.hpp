@@ -86,6 +86,8 @@ private:
     [[nodiscard]] ns::Array visiblePaths() const { return cells_.paths(); }
     void scrollTo(ns::IndexPath path, long position, bool animated);
     [[nodiscard]] bool showWantedCells();
+    [[nodiscard]] bool showNewCell(ItemIndex index);
+    void placeCell(ItemIndex index);
     void measureAnew(std::optional<ItemIndex> anchor, double formerTop);
     [[nodiscard]] double declaredHeight(ItemIndex index) const;
     [[nodiscard]] double heightOf(ItemIndex index) const;

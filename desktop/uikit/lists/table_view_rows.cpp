@@ -79,29 +79,37 @@ bool TableView::showWantedCells() {
     }
     bool differs = false;
     for (const ItemIndex index : wanted) {
-        ui::TableViewCell cell = cells_.at(index);
-        if (!cell) {
-            cell = dataSource().send<"tableView:cellForRowAtIndexPath:", ui::TableViewCell>(
-                self(), index.path());
-            if (!cell || !placement_.contains(index)) {
-                continue; // the source knows of fewer rows by now
-            }
-            cells_.show(index, cell);
-            mark(index, selection_.contains(index));
-            showEditing(cell);
-            self().insertSubview(cell, 0);
-            tell<"tableView:willDisplayCell:forRowAtIndexPath:">(cell, index.path());
-            differs = fit(index, cell) || differs;
-        }
-        if (!placement_.contains(index)) {
-            continue; // the delegate has changed the rows
-        }
-        cell.setFrame(frameOf(index));
-        TableViewCell::of(cell).setSeparator(
-            separatorStyle_ == 0 ? ui::Color::clear() : static_cast<ui::Color>(separatorColor_),
-            separatorInset_.left);
+        differs = (!cells_.at(index) && showNewCell(index)) || differs;
+        placeCell(index);
     }
     return differs;
+}
+
+/// Asks the data source for the row's cell; whether that is of another height than was thought.
+bool TableView::showNewCell(ItemIndex index) {
+    const auto cell = dataSource().send<"tableView:cellForRowAtIndexPath:", ui::TableViewCell>(
+        self(), index.path());
+    if (!cell || !placement_.contains(index)) {
+        return false; // the source knows of fewer rows by now
+    }
+    cells_.show(index, cell);
+    mark(index, selection_.contains(index));
+    showEditing(cell);
+    self().insertSubview(cell, 0);
+    tell<"tableView:willDisplayCell:forRowAtIndexPath:">(cell, index.path());
+    return fit(index, cell);
+}
+
+/// Nothing for a row without a cell, and for one that the delegate has taken away.
+void TableView::placeCell(ItemIndex index) {
+    const ui::TableViewCell cell = cells_.at(index);
+    if (!cell || !placement_.contains(index)) {
+        return;
+    }
+    cell.setFrame(frameOf(index));
+    TableViewCell::of(cell).setSeparator(
+        separatorStyle_ == 0 ? ui::Color::clear() : static_cast<ui::Color>(separatorColor_),
+        separatorInset_.left);
 }
 
 } // namespace desktop

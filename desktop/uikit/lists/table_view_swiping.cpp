@@ -13,8 +13,7 @@ namespace {
 
 using namespace ns::literals;
 
-/// The platform's number.
-constexpr long deleteStyle = 1;
+using EditingStyle = ui::TableViewCellEditingStyle;
 
 } // namespace
 
@@ -35,8 +34,8 @@ bool TableView::deletes(ItemIndex index) const {
     const objc::Object asked = delegate();
     return answers<"tableView:commitEditingStyle:forRowAtIndexPath:">(dataSource_) &&
            (!answers<"tableView:editingStyleForRowAtIndexPath:">(asked) ||
-            asked.send<"tableView:editingStyleForRowAtIndexPath:", long>(self(), index.path()) ==
-                deleteStyle);
+            asked.send<"tableView:editingStyleForRowAtIndexPath:", EditingStyle>(
+                self(), index.path()) == EditingStyle::delete_);
 }
 
 RowActions TableView::actionsOf(ItemIndex index) {
@@ -85,7 +84,7 @@ RowAction TableView::deletion(ItemIndex index) {
     return {title, ui::Color::named("systemRedColor"), [this, index](ui::View) {
                 const objc::Strong<ui::TableView> kept = self();
                 dataSource().send<"tableView:commitEditingStyle:forRowAtIndexPath:">(
-                    self(), deleteStyle, index.path());
+                    self(), EditingStyle::delete_, index.path());
                 closeSwipe();
             }};
 }
