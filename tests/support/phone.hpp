@@ -55,6 +55,17 @@ public:
 
     void set(const Json& preferences) { result({{"do", "preferences"}, {"set", preferences}}); }
     void advance(double seconds) { result({{"do", "advance"}, {"seconds", seconds}}); }
+    /// Lets what runs on other threads come back until the condition holds; whether it does.
+    template <class Condition>
+    bool until(Condition condition) {
+        constexpr int mostTurns = 3000;
+        constexpr double turn = 0.01;
+        for (int turns = 0; turns < mostTurns && !condition(); ++turns) {
+            error({{"do", "wait"}, {"for", {{"event", "none"}}}, {"seconds", turn}});
+            advance(turn);
+        }
+        return condition();
+    }
     Json node(const Json& view) { return result({{"do", "tree"}, {"of", view}}); }
     Json window() { return result({{"do", "tree"}})[0]; }
     Json find(const Json& where) { return result({{"do", "find"}, {"where", where}}); }

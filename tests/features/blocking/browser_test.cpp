@@ -12,9 +12,7 @@ using Rows = std::map<std::string, std::string>;
 
 /// What stands in the three columns of each row, such as "通过屏蔽通过".
 Rows rows(tests::Phone& phone) {
-    for (int look = 0; look < 1000 && !phone.find({{"text", "…"}}).empty(); ++look) {
-        phone.error({{"do", "wait"}, {"for", {{"event", "none"}}}, {"seconds", 0.01}});
-    }
+    EXPECT_TRUE(phone.until([&phone] { return phone.find({{"text", "…"}}).empty(); }));
     Rows found;
     const Json labels = phone.find({{"class", "UILabel"}});
     for (std::size_t i = 0; i + 3 < labels.size(); ++i) {

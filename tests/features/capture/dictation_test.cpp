@@ -8,11 +8,6 @@ using tests::Json;
 
 class Dictation : public testing::Test {
 protected:
-    Json alert() { return phone.result({{"do", "alert"}}); }
-    void choose(const std::string& title) {
-        phone.result({{"do", "alert"}, {"choose", title}});
-        phone.advance(1);
-    }
     void recognize(Json settings) {
         settings["do"] = "recognizer";
         phone.result(settings);
@@ -21,9 +16,9 @@ protected:
     Json dictated(double seconds) {
         phone.press("应用录屏", seconds);
         phone.advance(1);
-        const Json shown = alert();
+        const Json shown = phone.alert();
         EXPECT_EQ(shown["title"], "语音识别结果");
-        choose("确认");
+        phone.choose("确认");
         return shown["message"];
     }
 
@@ -32,16 +27,16 @@ protected:
 
 TEST_F(Dictation, APersonIsAskedOnce) {
     phone.advance(1);
-    EXPECT_EQ(alert()["title"], "语音识别授权成功");
-    choose("OK");
+    EXPECT_EQ(phone.alert()["title"], "语音识别授权成功");
+    phone.choose("OK");
     EXPECT_EQ(phone.result({{"do", "defaults"}, {"key", "wasPromptedForSpeechRecognition"}}), true);
     phone.panel("viewDidAppear:", {false});
     phone.advance(1);
-    EXPECT_EQ(alert(), nullptr);
+    EXPECT_EQ(phone.alert(), nullptr);
 }
 
 TEST_F(Dictation, WhatIsSaidIsShown) {
-    choose("OK");
+    phone.choose("OK");
     recognize({{"hears", "今天天气很好"}});
     EXPECT_EQ(dictated(6), "今天天气很好");
     const auto heard = phone.events("recognition");
@@ -54,13 +49,13 @@ TEST_F(Dictation, WhatIsSaidIsShown) {
 }
 
 TEST_F(Dictation, SilenceGivesNoText) {
-    choose("OK");
+    phone.choose("OK");
     EXPECT_EQ(dictated(1), nullptr);
     EXPECT_EQ(phone.panel("recognitionRequest"), nullptr);
 }
 
 TEST_F(Dictation, WhatFailsLeavesNothingRunning) {
-    choose("OK");
+    phone.choose("OK");
     for (const Json& settings :
          {Json{{"authorized", false}}, Json{{"available", false}},
           Json{{"authorized", true}, {"available", true}, {"error", "no"}}}) {
@@ -76,20 +71,20 @@ TEST_F(Dictation, WhatFailsLeavesNothingRunning) {
 }
 
 TEST_F(Dictation, BeginningTwiceInstallsOneTap) {
-    choose("OK");
+    phone.choose("OK");
     recognize({{"hears", "你好"}});
     phone.panel("initiateVoiceRecognition");
     phone.panel("initiateVoiceRecognition");
     phone.advance(3);
     phone.panel("terminateVoiceRecognition");
-    EXPECT_EQ(alert()["message"], "你好");
+    EXPECT_EQ(phone.alert()["message"], "你好");
     EXPECT_TRUE(phone.swallowed().empty());
 }
 
 TEST(DictationWithoutAWord, OfWhatItIsForIsNotPrepared) {
     CapturePanel phone("plain", Json::object(), {"--bundle", "com.apple.Preferences"});
     phone.advance(1);
-    EXPECT_EQ(phone.result({{"do", "alert"}}), nullptr);
+    EXPECT_EQ(phone.alert(), nullptr);
     EXPECT_EQ(phone.panel("audioEngine"), nullptr) << "the system would end the application";
     phone.panel("handleLongGesturePressRecord:", {nullptr});
     phone.panel("initiateVoiceRecognition");
@@ -99,7 +94,7 @@ TEST(DictationWithoutAWord, OfWhatItIsForIsNotPrepared) {
 TEST(DictationElsewhere, IsNotPrepared) {
     CapturePanel phone("chat");
     phone.advance(1);
-    EXPECT_EQ(phone.result({{"do", "alert"}}), nullptr);
+    EXPECT_EQ(phone.alert(), nullptr);
     EXPECT_EQ(phone.panel("audioEngine"), nullptr);
     phone.panel("initiateVoiceRecognition");
     EXPECT_TRUE(phone.swallowed().empty());

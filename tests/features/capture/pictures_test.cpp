@@ -93,7 +93,7 @@ TEST(PicturesWithoutAWord, OfWhatTheyAreForAreNotSaved) {
                   {phone.message({{"class", "UIViewController"}}, "new")});
     phone.panel("takeScreenshot");
     phone.advance(1);
-    const Json alert = phone.result({{"do", "alert"}});
+    const Json alert = phone.alert();
     EXPECT_EQ(alert["title"], "错误");
     EXPECT_EQ(alert["message"], "这个应用没有声明相册用途，系统不允许它存储图片");
     EXPECT_TRUE(phone.events("photo").empty());
@@ -105,7 +105,7 @@ TEST_F(Pictures, WhatCannotBeSavedIsTold) {
     std::ofstream(folder) << "in the way";
     phone.panel("takeScreenshot");
     phone.advance(1);
-    EXPECT_EQ(phone.result({{"do", "alert"}})["title"], "错误");
+    EXPECT_EQ(phone.alert()["title"], "错误");
     EXPECT_TRUE(phone.events("photo").empty());
     EXPECT_EQ(support::readFile(folder), "in the way");
 }

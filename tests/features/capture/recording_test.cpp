@@ -72,7 +72,7 @@ TEST_F(Recording, ARefusedStartIsOnlyLoggedAtTheStop) {
     phone.result({{"do", "recorder"}, {"fails", true}});
     phone.tap("应用录屏");
     EXPECT_EQ(states(), std::vector<std::string>{"refused"});
-    EXPECT_EQ(phone.result({{"do", "alert"}}), nullptr);
+    EXPECT_EQ(phone.alert(), nullptr);
     EXPECT_FALSE(isControlShown()) << "there is nothing to stop";
     stop();
     EXPECT_EQ(complaints().size(), 1U);

@@ -188,18 +188,17 @@ TEST_F(HistoryList, LetsTheUserChooseAmongSeveral) {
     const auto buttons = buttonsOf("/etc/hosts /tmp https://a.example https://b.example");
     phone.tap(buttons.at(0));
     phone.advance(1);
-    const Json sheet = phone.result({{"do", "alert"}});
+    const Json sheet = phone.alert();
     EXPECT_EQ(sheet["style"], "actionSheet");
     EXPECT_EQ(sheet["title"], "选择路径");
     EXPECT_EQ(sheet["message"], nullptr);
     EXPECT_EQ(sheet["actions"], (Json::parse(R"([{"title":"filza:///etc/hosts","style":"default"},
         {"title":"filza:///tmp","style":"default"},{"title":"取消","style":"cancel"}])")));
-    phone.result({{"do", "alert"}, {"choose", "filza:///tmp"}});
-    phone.advance(1);
+    phone.choose("filza:///tmp");
     EXPECT_EQ(phone.events("openURL").at(0)["url"], "filza:///tmp");
     phone.tap(buttons.at(1));
     phone.advance(1);
-    EXPECT_EQ(phone.result({{"do", "alert"}})["title"], "选择链接");
+    EXPECT_EQ(phone.alert()["title"], "选择链接");
     phone.result({{"do", "alert"}, {"choose", "取消"}});
     EXPECT_TRUE(phone.events("openURL").empty());
 }

@@ -209,7 +209,7 @@ TEST_F(CrashList, SaysWhyAFileStays) {
     open();
     fs::remove(reports / "a.ips"); // by somebody else
     commitDeletion(0);
-    const Json alert = phone.result({{"do", "alert"}});
+    const Json alert = phone.alert();
     EXPECT_EQ(alert["title"], "错误");
     EXPECT_TRUE(alert["message"].get<std::string>().starts_with("删除文件时出错： "));
     EXPECT_EQ(names(), Names{"a.ips"});

@@ -77,20 +77,12 @@ protected:
     /// Holds a finger in the pane where there is no row, and chooses from its menu.
     void paneMenu(const Json& pane, const std::string& title) {
         holdBelowRows(pane);
-        choose(title);
+        phone->choose(title);
     }
     void holdBelowRows(const Json& pane) {
         const Json rect = phone->node(pane)["rect"];
         phone->press(Json{rect[0].get<double>() + 60, rect[1].get<double>() + 480}, 0.4);
         phone->advance(0.5);
-    }
-    void choose(const std::string& title, const std::vector<std::string>& fields = {}) {
-        Json request{{"do", "alert"}, {"choose", title}};
-        if (!fields.empty()) {
-            request["fields"] = fields;
-        }
-        phone->result(request);
-        phone->advance(1);
     }
     void contextMenu(const Json& pane, long row, const std::string& title) {
         phone->result({{"do", "context"}, {"on", cell(pane, row)}, {"choose", title}});
@@ -102,7 +94,6 @@ protected:
         phone->tap(Json{rect[0].get<double>() + 15, rect[1].get<double>() - 20});
         phone->advance(1);
     }
-    Json alert() { return phone->result({{"do", "alert"}}); }
     /// Until that text is seen: what runs in the background has come back.
     void await(const std::string& text) {
         phone->result({{"do", "wait"}, {"for", {{"text", text}}}});

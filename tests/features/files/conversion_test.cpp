@@ -36,7 +36,7 @@ protected:
         phone.advance(1);
     }
     std::string outcome() {
-        const Json shown = alert();
+        const Json shown = phone.alert();
         return shown["title"].get<std::string>() + ": " + shown["message"].get<std::string>();
     }
     /// A picture of two pixels.
@@ -53,11 +53,11 @@ TEST_F(Conversion, MakesPngAndJpgBesideTheImage) {
     browse();
     convert("a.b.JPG", "png");
     EXPECT_EQ(outcome(), "成功: 图片转换成功");
-    ViewerTest::choose("OK");
+    phone.choose("OK");
     EXPECT_EQ(read("work/a.b.png").substr(0, 8), "\x89PNG\r\n\x1A\n");
     EXPECT_EQ(phone.message(browser, "content1").size(), 2U);
     convert("a.b.png", "jpg");
-    ViewerTest::choose("OK");
+    phone.choose("OK");
     EXPECT_EQ(read("work/a.b.jpg").substr(0, 2), "\xFF\xD8");
     const Json image =
         phone.message({{"class", "UIImage"}}, "imageWithContentsOfFile:", {path("work/a.b.jpg")});
@@ -69,10 +69,10 @@ TEST_F(Conversion, RewritesAPngAndGivesAJpegItsOtherName) {
     paint("b.jpeg");
     browse();
     convert("a.png", "png");
-    ViewerTest::choose("OK");
+    phone.choose("OK");
     EXPECT_EQ(read("work/a.png").substr(1, 3), "PNG");
     convert("b.jpeg", "jpg");
-    ViewerTest::choose("OK");
+    phone.choose("OK");
     EXPECT_EQ(phone.message(browser, "content1").size(), 3U);
 }
 
@@ -82,10 +82,10 @@ TEST_F(Conversion, RefusesOtherFilesFormatsAndBrokenImages) {
     browse();
     convert("a.bmp", "png");
     EXPECT_EQ(outcome(), "错误: 图片格式错误");
-    ViewerTest::choose("OK");
+    phone.choose("OK");
     convert("b.png", "gif");
     EXPECT_EQ(outcome(), "错误: 转换格式错误");
-    ViewerTest::choose("OK");
+    phone.choose("OK");
     convert("b.png", "jpg");
     EXPECT_EQ(outcome(), "错误: 图片转换失败");
     EXPECT_EQ(read("work/b.png"), "no picture");
@@ -111,7 +111,7 @@ TEST_F(Conversion, NeverWaitsForAPipe) {
     browse();
     convert("a.png", "jpg");
     EXPECT_EQ(outcome(), "错误: 图片转换失败");
-    ViewerTest::choose("OK");
+    phone.choose("OK");
     choose("转换为XML明文", "a.png");
     choose("直接发邮件附件", "a.png");
     EXPECT_EQ(phone.result({{"do", "mail"}}), nullptr);
@@ -178,9 +178,9 @@ TEST_F(Mail, TellsHowItEndedAndStaysOpenUnlessItIsOver) {
             compose();
         }
         mail(end.choice);
-        EXPECT_EQ(alert()["title"], "邮件发送结果");
-        EXPECT_EQ(alert()["message"].get<std::string>().find(end.message), 0U) << end.choice;
-        ViewerTest::choose("好的");
+        EXPECT_EQ(phone.alert()["title"], "邮件发送结果");
+        EXPECT_EQ(phone.alert()["message"].get<std::string>().find(end.message), 0U) << end.choice;
+        phone.choose("好的");
         EXPECT_EQ(!mail().is_null(), end.staysOpen) << end.choice;
     }
 }
@@ -201,7 +201,7 @@ TEST_F(Mail, IsNotOfferedWithoutAnAccount) {
     phone.result({{"do", "mail"}, {"available", false}});
     compose();
     EXPECT_EQ(mail(), nullptr);
-    EXPECT_TRUE(alert().is_null());
+    EXPECT_TRUE(phone.alert().is_null());
     EXPECT_NE(phone.error({{"do", "mail"}, {"choose", "send"}}), "");
     EXPECT_NE(phone.error({{"do", "mail"}, {"choose", "burn"}}), "");
 }
@@ -258,7 +258,7 @@ TEST_F(Package, IsSilentAboutWhatIsNone) {
     write("work/a.deb", "no package");
     extract();
     EXPECT_EQ(entries("out"), (std::vector<std::string>{"in"}));
-    EXPECT_TRUE(alert().is_null());
+    EXPECT_TRUE(phone.alert().is_null());
     EXPECT_TRUE(phone.swallowed().empty());
 }
 

@@ -13,37 +13,22 @@ protected:
     fs::path rightFile(const std::string& name) { return files.media / name; }
     /// Until the list is empty: each copy takes itself off when it is done.
     void awaitCopies() {
-        constexpr int longest = 5000;
-        for (int turn = 0; turn < longest && !send("copiedPaths").empty(); ++turn) {
-            phone->advance(0.1);
-        }
+        EXPECT_TRUE(phone->until([this] { return send("copiedPaths").empty(); }));
     }
     /// The last of several copies shows the pane without what the others are still writing.
     void awaitList(const Json& pane, const Json& names) {
-        constexpr int longest = 5000;
-        for (int turn = 0; turn < longest && list(pane) != names; ++turn) {
-            phone->advance(0.1);
-        }
-        EXPECT_EQ(list(pane), names);
-    }
-    std::vector<std::string> actions() {
-        std::vector<std::string> titles;
-        const Json front = alert();
-        for (const Json& action : front["actions"]) {
-            titles.push_back(action["title"]);
-        }
-        return titles;
+        EXPECT_TRUE(phone->until([&] { return list(pane) == names; })) << list(pane);
     }
 };
 
 TEST_F(Operations, AreOfferedForThePane) {
     start();
     holdBelowRows(left);
-    EXPECT_EQ(actions(),
+    EXPECT_EQ(phone->alertActions(),
               (std::vector<std::string>{"新建文件", "新建文件夹", "粘贴内容", "文件查重",
                                         "全选并复制", "全选并删除", "返回上一页", "取消"}));
-    EXPECT_EQ(alert()["style"], "actionSheet");
-    choose("返回上一页");
+    EXPECT_EQ(phone->alert()["style"], "actionSheet");
+    phone->choose("返回上一页");
     EXPECT_EQ(send("path1"), "/var/mobile");
 }
 
@@ -51,7 +36,7 @@ TEST_F(Operations, BelongToTheRightPaneFromTheMiddleOn) {
     start();
     phone->press(Json{195, 600}, 0.4);
     phone->advance(1);
-    choose("返回上一页");
+    phone->choose("返回上一页");
     EXPECT_EQ(send("path1"), "/var/mobile/Documents");
     EXPECT_EQ(send("path2"), "/var/mobile");
 }
@@ -74,7 +59,7 @@ TEST_F(Operations, AreOfferedForAnEntry) {
     EXPECT_EQ(phone->pasteboard(), "/var/mobile/Documents/a.txt");
     phone->press(cell(left, 0), 0.7); // the cell's menu comes before the pane's
     EXPECT_EQ(phone->result({{"do", "context"}})["items"].size(), 12U);
-    EXPECT_TRUE(alert().is_null());
+    EXPECT_TRUE(phone->alert().is_null());
 }
 
 TEST_F(Operations, CopyAllAndEmptyTheList) {
@@ -86,7 +71,7 @@ TEST_F(Operations, CopyAllAndEmptyTheList) {
     EXPECT_EQ(send("copiedPaths").size(), 4U);
     phone->copy(nullptr);
     paneMenu(right, "粘贴内容");
-    EXPECT_TRUE(alert().is_null());
+    EXPECT_TRUE(phone->alert().is_null());
     awaitCopies();
     awaitList(right, {"a.txt", "b"}); // with the dates of the originals
     EXPECT_EQ(read(rightFile("a.txt")), "a");
@@ -101,15 +86,16 @@ TEST_F(Operations, AskBeforeTheyReplaceAndCount) {
     phone->copy(nullptr);
     for (const char* copy : {"a-1.", "a-2."}) {
         paneMenu(right, "粘贴内容");
-        EXPECT_EQ(actions(), (std::vector<std::string>{"覆盖文件", "重命名粘贴", "取消"}));
-        choose("重命名粘贴");
+        EXPECT_EQ(phone->alertActions(),
+                  (std::vector<std::string>{"覆盖文件", "重命名粘贴", "取消"}));
+        phone->choose("重命名粘贴");
         EXPECT_EQ(read(rightFile(copy)), "new");
     }
     EXPECT_EQ(read(rightFile("a")), "old");
     EXPECT_EQ(send("copiedPaths").size(), 1U);
     write(rightFile("a"), "longer than before");
     paneMenu(right, "粘贴内容");
-    choose("覆盖文件");
+    phone->choose("覆盖文件");
     awaitCopies();
     EXPECT_EQ(read(rightFile("a")), "new");
 }
@@ -120,7 +106,7 @@ TEST_F(Operations, LeaveAFileAloneThatIsPastedOverItself) {
     paneMenu(left, "全选并复制");
     phone->copy(nullptr);
     paneMenu(left, "粘贴内容");
-    choose("覆盖文件");
+    phone->choose("覆盖文件");
     awaitCopies();
     EXPECT_EQ(read(leftFile("a")), "whole");
     EXPECT_EQ(list(left), Json{"a"});
@@ -134,10 +120,10 @@ TEST_F(Operations, TellWhatCannotBeCopied) {
     fs::remove(leftFile("a"));
     phone->copy(nullptr);
     paneMenu(right, "粘贴内容");
-    choose("覆盖文件");
+    phone->choose("覆盖文件");
     await("错误");
-    EXPECT_EQ(alert()["message"], "文件复制出错: 未能完成操作。No such file or directory");
-    choose("确定");
+    EXPECT_EQ(phone->alert()["message"], "文件复制出错: 未能完成操作。No such file or directory");
+    phone->choose("确定");
     EXPECT_EQ(read(rightFile("a")), "kept");
     EXPECT_EQ(send("copiedPaths").size(), 1U);
 }
@@ -162,22 +148,22 @@ TEST_F(Operations, CopyAndMoveToTheOppositePane) {
     file("a", "a");
     start();
     contextMenu(left, 0, "复制");
-    EXPECT_EQ(alert()["title"], "复制完成"); // it is said before it is done
+    EXPECT_EQ(phone->alert()["title"], "复制完成"); // it is said before it is done
     EXPECT_FALSE(fs::exists(rightFile("a")));
-    choose("复制到对面");
+    phone->choose("复制到对面");
     EXPECT_EQ(list(right), Json{"a"});
     contextMenu(left, 0, "复制");
-    choose("常规复制");
+    phone->choose("常规复制");
     EXPECT_EQ(phone->pasteboard(), "/var/mobile/Documents/a");
     write(leftFile("a"), "newer");
     contextMenu(left, 0, "移动");
-    EXPECT_EQ(alert()["message"], "对面已存在同名文件，是否覆盖？");
-    choose("确定覆盖");
+    EXPECT_EQ(phone->alert()["message"], "对面已存在同名文件，是否覆盖？");
+    phone->choose("确定覆盖");
     EXPECT_EQ(read(rightFile("a")), "newer");
     EXPECT_EQ(list(left).size(), 0U);
     contextMenu(right, 0, "移动");
-    EXPECT_EQ(alert()["title"], "移动完成");
-    choose("移动到对面");
+    EXPECT_EQ(phone->alert()["title"], "移动完成");
+    phone->choose("移动到对面");
     EXPECT_EQ(read(leftFile("a")), "newer");
 }
 
@@ -187,7 +173,7 @@ TEST_F(Operations, LoseNothingWhenBothPanesShowOneFolder) {
     send("setPath2:", {"/var/mobile/Documents"});
     reload();
     contextMenu(left, 0, "移动");
-    choose("确定覆盖");
+    phone->choose("确定覆盖");
     EXPECT_EQ(read(leftFile("a")), "a");
 }
 
@@ -197,12 +183,12 @@ TEST_F(Operations, RenameAndKeepWhatIsThere) {
     start();
     for (const char* taken : {"b", "", ".", ".."}) {
         contextMenu(left, 0, "重命名");
-        EXPECT_EQ(alert()["fields"][0]["text"], "a");
-        choose("确认", {taken});
+        EXPECT_EQ(phone->alert()["fields"][0]["text"], "a");
+        phone->choose("确认", {taken});
     }
     EXPECT_EQ(list(left), (Json{"a", "b"}));
     contextMenu(left, 0, "重命名");
-    choose("确认", {"新.txt"});
+    phone->choose("确认", {"新.txt"});
     EXPECT_EQ(list(left), (Json{"新.txt", "b"}));
     EXPECT_EQ(read(leftFile("b")), "b");
 }
@@ -214,8 +200,8 @@ TEST_F(Operations, DeleteOneEntryAfterAsking) {
     setDate(leftFile("keep"), 1);
     start();
     contextMenu(left, 0, "删除");
-    EXPECT_EQ(alert()["message"], "确定删除文件：/var/mobile/Documents/link");
-    choose("确定删除");
+    EXPECT_EQ(phone->alert()["message"], "确定删除文件：/var/mobile/Documents/link");
+    phone->choose("确定删除");
     EXPECT_EQ(list(left), Json{"keep"});
     EXPECT_EQ(phone->message(left, "numberOfRowsInSection:", {0}), 1);
     EXPECT_EQ(read(leftFile("keep/in.txt")), "in");
@@ -228,7 +214,7 @@ TEST_F(Operations, SurviveAListingThatChangedBeforeTheAnswer) {
     contextMenu(left, 1, "删除");
     fs::remove(leftFile("a"));
     reload();
-    choose("确定删除");
+    phone->choose("确定删除");
     EXPECT_EQ(list(left).size(), 0U);
     EXPECT_EQ(phone->swallowed().size(), 0U);
 }
@@ -238,11 +224,11 @@ TEST_F(Operations, DeleteAllAfterAsking) {
     file("d/e");
     start();
     paneMenu(left, "全选并删除");
-    EXPECT_EQ(alert()["message"], "\"确定删除\" /var/mobile/Documents \"路径下所有内容？\"");
-    choose("取消操作");
+    EXPECT_EQ(phone->alert()["message"], "\"确定删除\" /var/mobile/Documents \"路径下所有内容？\"");
+    phone->choose("取消操作");
     EXPECT_EQ(list(left).size(), 2U);
     paneMenu(left, "全选并删除");
-    choose("确定删除");
+    phone->choose("确定删除");
     EXPECT_TRUE(fs::is_empty(files.documents));
     EXPECT_EQ(list(left).size(), 0U);
 }
@@ -270,13 +256,13 @@ TEST_F(Operations, CreateInThePane) {
     file("a.txt", "kept");
     start();
     paneMenu(left, "新建文件");
-    EXPECT_EQ(alert()["message"], "请输入名称:");
-    choose("确认", {"a.txt"});
+    EXPECT_EQ(phone->alert()["message"], "请输入名称:");
+    phone->choose("确认", {"a.txt"});
     EXPECT_EQ(read(leftFile("a.txt")), "kept");
     paneMenu(left, "新建文件");
-    choose("确认", {"b"});
+    phone->choose("确认", {"b"});
     paneMenu(left, "新建文件夹");
-    choose("确认", {"c/d"});
+    phone->choose("确认", {"c/d"});
     EXPECT_TRUE(fs::is_regular_file(leftFile("b")));
     EXPECT_TRUE(fs::is_directory(leftFile("c/d")));
     EXPECT_EQ(list(left).size(), 3U);
@@ -287,9 +273,9 @@ TEST_F(Operations, CreateBeneathTheLastTap) {
     start();
     const auto create = [&](const char* action) {
         pressToolbar("新建");
-        EXPECT_EQ(actions(),
+        EXPECT_EQ(phone->alertActions(),
                   (std::vector<std::string>{".png", ".jpg", ".txt", "文件", "文件夹", "取消"}));
-        choose(action, {"x"});
+        phone->choose(action, {"x"});
     };
     create("文件"); // nothing was tapped yet
     EXPECT_EQ(list(left), Json{"inner"});
@@ -308,10 +294,10 @@ TEST_F(Operations, FindFilesOfEqualSize) {
     start();
     paneMenu(left, "文件查重");
     await("查重结果");
-    const std::string message = alert()["message"];
+    const std::string message = phone->alert()["message"];
     EXPECT_EQ(message.find("找到2个重复文件。\n\n文件组1 (大小：10 字节):\n"), 0U);
     EXPECT_NE(message.find("/var/mobile/Documents/deep/.abc.txt\n"), message.npos);
-    choose("保留文件名最长");
+    phone->choose("保留文件名最长");
     EXPECT_FALSE(fs::exists(leftFile("ab.txt")));
     EXPECT_TRUE(fs::exists(leftFile("deep/.abc.txt")));
     paneMenu(left, "文件查重");

@@ -20,7 +20,7 @@ protected:
     }
     void search(const std::string& term) {
         press("搜索内容");
-        choose("搜索", Json::array({term}));
+        phone.choose("搜索", {term});
     }
     Json saveButton() {
         return phone.message(phone.message(viewer, "navigationItem"), "rightBarButtonItem");
@@ -48,11 +48,7 @@ protected:
     }
     /// Until the text is so long: another thread puts it together.
     void waitFor(std::size_t length) {
-        for (int turn = 0; turn < 2000 && text().size() != length; ++turn) {
-            phone.result({{"do", "wait"}, {"for", {{"class", "UITextView"}}}, {"seconds", 0.01}});
-            phone.advance(0.01);
-        }
-        EXPECT_EQ(text().size(), length);
+        EXPECT_TRUE(phone.until([&] { return text().size() == length; })) << text().size();
     }
 
     static constexpr std::size_t page = 268000;
@@ -166,17 +162,12 @@ TEST_F(TextViewer, OffersTermsOnALongPress) {
     open("Primary state\nspinlock");
     phone.press(phone.find({{"title", "搜索内容"}}).at(0), 0.15);
     phone.advance(1);
-    ASSERT_EQ(alert()["style"], "actionSheet");
-    std::vector<std::string> titles;
-    const Json sheet = alert();
-    for (const Json& action : sheet["actions"]) {
-        titles.push_back(action["title"]);
-    }
-    EXPECT_EQ(titles,
+    ASSERT_EQ(phone.alert()["style"], "actionSheet");
+    EXPECT_EQ(phone.alertActions(),
               (std::vector<std::string>{"spinlock", "queue", "CCSupport", "Snapper3", "kayoko",
                                         "Copylog", "procname", "SpringBoard", "UIApplication",
                                         "Primary state", "Snowboard", "split-view-pro", "取消"}));
-    choose("Primary state");
+    phone.choose("Primary state");
     EXPECT_EQ(counter(), "1个匹配 (当前第1个)");
 }
 
@@ -184,7 +175,7 @@ TEST_F(TextViewer, ColoursItsSyntaxUntilAMatchIsShown) {
     open("name: <key>1-0</key> (x)");
     phone.press(phone.find({{"title", "复制全文"}}).at(0), 0.3);
     phone.advance(1);
-    choose("字符高亮");
+    phone.choose("字符高亮");
     EXPECT_EQ(colour(0), named("redColor"));
     EXPECT_EQ(colour(4), named("orangeColor"));
     EXPECT_EQ(colour(7), named("systemPurpleColor"));
@@ -215,10 +206,10 @@ TEST_F(TextViewer, ChangesTheFontsSize) {
     const auto ask = [this](const std::string& answer) {
         phone.press(phone.find({{"title", "复制全文"}}).at(0), 0.3);
         phone.advance(1);
-        choose("文字大小");
-        EXPECT_EQ(alert()["title"], "设置字体大小");
-        EXPECT_EQ(alert()["fields"][0]["placeholder"], "请输入字体大小(数字)");
-        choose("确认", Json::array({answer}));
+        phone.choose("文字大小");
+        EXPECT_EQ(phone.alert()["title"], "设置字体大小");
+        EXPECT_EQ(phone.alert()["fields"][0]["placeholder"], "请输入字体大小(数字)");
+        phone.choose("确认", {answer});
         return phone.message(phone.message(view, "font"), "pointSize");
     };
     EXPECT_EQ(ask("21"), 21);
@@ -244,11 +235,11 @@ TEST_F(TextViewer, SavesWhatItShows) {
     EXPECT_EQ(read("a.txt"), "文 text!");
     EXPECT_FALSE(canSave());
     phone.advance(0.5);
-    EXPECT_EQ(alert()["title"], "Success");
-    EXPECT_EQ(alert()["message"], "文件保存成功");
-    EXPECT_TRUE(alert()["actions"].empty());
+    EXPECT_EQ(phone.alert()["title"], "Success");
+    EXPECT_EQ(phone.alert()["message"], "文件保存成功");
+    EXPECT_TRUE(phone.alert()["actions"].empty());
     phone.advance(1.5);
-    EXPECT_TRUE(alert().is_null());
+    EXPECT_TRUE(phone.alert().is_null());
 }
 
 TEST_F(TextViewer, ShortensAFileThatWasNotShownToItsEnd) {
@@ -263,8 +254,8 @@ TEST_F(TextViewer, LeavesTheFileAloneWhenItCannotBeWritten) {
     type("!");
     phone.message(viewer, "saveFile");
     phone.advance(0.5);
-    EXPECT_EQ(alert()["title"], "Fail");
-    EXPECT_EQ(alert()["message"].get<std::string>().find("文件保存失败: "), 0U);
+    EXPECT_EQ(phone.alert()["title"], "Fail");
+    EXPECT_EQ(phone.alert()["message"].get<std::string>().find("文件保存失败: "), 0U);
     EXPECT_TRUE(canSave());
     EXPECT_EQ(read("folder/kept"), "former");
 }
@@ -275,7 +266,7 @@ TEST_F(TextViewer, SavesNothingOfATextThatIsNoUnicode) {
     phone.message(view, "setText:", {{{"units", {97, 0xD83D}}}});
     phone.message(viewer, "saveFile");
     phone.advance(0.5);
-    EXPECT_EQ(alert()["title"], "Fail");
+    EXPECT_EQ(phone.alert()["title"], "Fail");
     EXPECT_EQ(read("a.txt"), "former");
 }
 

@@ -44,15 +44,6 @@ protected:
         phone.tap(phone.find({{"title", title}, {"visible", true}}).at(0));
         phone.advance(0.5);
     }
-    Json alert() { return phone.result({{"do", "alert"}}); }
-    void choose(const std::string& title, const Json& fields = nullptr) {
-        Json request{{"do", "alert"}, {"choose", title}};
-        if (!fields.is_null()) {
-            request["fields"] = fields;
-        }
-        phone.result(request);
-        phone.advance(1);
-    }
 
     support::TemporaryFolder folder;
     Phone phone{{"--app", "notes", "--root", folder.path().string()}};

@@ -42,14 +42,6 @@ protected:
     double progress() {
         return phone.message(phone.panel("progressView"), "progress").get<double>();
     }
-    std::vector<std::string> titles() {
-        std::vector<std::string> all;
-        const Json shown = phone.result({{"do", "alert"}});
-        for (const Json& action : shown["actions"]) {
-            all.push_back(action["title"]);
-        }
-        return all;
-    }
 
     const std::string files = "https://files.example/";
     const std::string documents =
@@ -186,13 +178,12 @@ TEST_F(Downloads, OfferTheLinksOfAPage) {
     phone.set({{"解析", true}});
     download(files);
     waitFor({{"text", "选择下载链接文件"}});
-    const std::vector<std::string> all = titles();
+    const std::vector<std::string> all = phone.alertActions();
     EXPECT_EQ(all.front(), "取消");
     EXPECT_EQ(all.size(), 7U);
     EXPECT_NE(std::ranges::find(all, files + "page.css"), all.end());
     const std::string chosen = files + "report.pdf?size=200000";
-    phone.result({{"do", "alert"}, {"choose", chosen}});
-    phone.advance(1);
+    phone.choose(chosen);
     EXPECT_EQ(phone.pasteboard(), chosen);
     EXPECT_EQ(shared(), documents + "report.pdf");
 }
@@ -211,7 +202,7 @@ TEST_F(Downloads, LeaveOutLinksByTheFilter) {
     phone.set({{"解析", true}, {"解析过滤", true}});
     download(files);
     waitFor({{"text", "选择下载链接文件"}});
-    const std::vector<std::string> all = titles();
+    const std::vector<std::string> all = phone.alertActions();
     EXPECT_EQ(all.size(), 4U);
     for (const char* left : {"https://files.example/page.css", "https://files.example/page.js",
                              "https://www.example.com"}) {
@@ -223,7 +214,7 @@ TEST_F(Downloads, OfAPageThatDoesNotComeSaySo) {
     phone.set({{"解析", true}});
     download("https://nobody.example/");
     expectFailure();
-    EXPECT_EQ(phone.result({{"do", "alert"}}), nullptr);
+    EXPECT_EQ(phone.alert(), nullptr);
 }
 
 TEST_F(Downloads, OfAGivenAddressComeWithoutABar) {
@@ -254,11 +245,9 @@ TEST_F(Downloads, APartOfAVideoIsDownloaded) {
     phone.copy("打开抖音 https://v.douyin.com/whole/ 看");
     phone.tap("链接跳转");
     phone.advance(0.6);
-    phone.result({{"do", "alert"}, {"choose", "https://v.douyin.com/whole/"}});
-    phone.advance(1);
+    phone.choose("https://v.douyin.com/whole/");
     waitFor({{"text", "请选择下载内容"}});
-    phone.result({{"do", "alert"}, {"choose", "下载音频"}});
-    phone.advance(1);
+    phone.choose("下载音频");
     const std::string file = shared();
     EXPECT_TRUE(file.ends_with("/tmp/whole.mp3")) << file;
 }

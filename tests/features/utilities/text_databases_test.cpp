@@ -3,6 +3,7 @@
 
 #include <cstdio>
 #include <fstream>
+#include <sys/stat.h>
 
 namespace {
 
@@ -17,13 +18,12 @@ protected:
     }
     /// Another process that keeps the database to itself until the test ends.
     void lock(const std::filesystem::path& file) {
+        const std::string told = folder.path() / "locked";
+        ASSERT_EQ(mkfifo(told.c_str(), 0600), 0);
         other = popen(("sqlite3 '" + file.string() + "'").c_str(), "w");
-        std::fputs("BEGIN EXCLUSIVE;\n", other);
-        const auto locked = file.string() + ".locked";
-        std::fprintf(other, ".shell touch '%s'\n", locked.c_str());
+        std::fprintf(other, "BEGIN EXCLUSIVE;\n.shell echo >'%s'\n", told.c_str());
         std::fflush(other);
-        while (!std::filesystem::exists(locked)) {
-        }
+        std::ifstream(told).get(); // which waits for somebody who writes
     }
     ~TextDatabases() override {
         if (other != nullptr) {

@@ -65,13 +65,12 @@ protected:
     std::string output(const std::string& name) { return support::readFile(documents / name); }
     /// What the one alert says, which is closed.
     std::string complaint() {
-        const Json alert = phone.result({{"do", "alert"}});
+        const Json alert = phone.alert();
         if (alert.is_null()) {
             return "";
         }
         EXPECT_EQ(alert["title"], "错误");
-        phone.result({{"do", "alert"}, {"choose", "好的"}});
-        phone.advance(1);
+        phone.choose("好的");
         return alert["message"];
     }
 

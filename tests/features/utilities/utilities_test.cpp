@@ -98,13 +98,12 @@ TEST_F(UtilitiesList, LetsItsScreensGo) {
 
 TEST_F(UtilitiesList, OffersPathsOfTheFileManager) {
     choose("Filza常用路径");
-    const Json sheet = phone.result({{"do", "alert"}});
+    const Json sheet = phone.alert();
     EXPECT_EQ(sheet["title"], "常用路径");
     EXPECT_EQ(sheet["message"], "选择一个路径");
     ASSERT_EQ(sheet["actions"].size(), 10U);
     EXPECT_EQ(sheet["actions"].back(), (Json{{"title", "取消"}, {"style", "cancel"}}));
-    phone.result({{"do", "alert"}, {"choose", "dpkg-无根路径"}});
-    phone.advance(1);
+    phone.choose("dpkg-无根路径");
     EXPECT_EQ(phone.events("openURL").at(0)["url"], "filza:///var/jb/Library/dpkg/");
     EXPECT_TRUE(isListGone());
 }
