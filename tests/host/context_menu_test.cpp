@@ -1,4 +1,4 @@
-// The commands "context" and "file".
+// The command "context".
 #include "tests/host/host.hpp"
 
 #include <gtest/gtest.h>
@@ -74,50 +74,6 @@ TEST_F(ContextMenu, RefusesWhatIsNotThere) {
     EXPECT_NE(host.error({{"do", "context"}, {"on", window}}), "");
     EXPECT_NE(host.error({{"do", "context"}, {"choose", "删除"}}), "");
     EXPECT_NE(host.error({{"do", "context"}, {"on", cell}, {"choose", "飞"}}), "");
-}
-
-TEST_F(ContextMenu, DatesFiles) {
-    const std::string path = "/var/mobile/Documents/readme";
-    EXPECT_EQ(host.result({{"do", "file"}, {"path", path}, {"created", 1000.5}})["created"],
-              1000.5);
-    EXPECT_EQ(host.result({{"do", "file"}, {"path", path}})["created"], 1000.5);
-    EXPECT_NE(host.error({{"do", "file"}, {"path", "/gone"}, {"created", 1}}), "");
-    EXPECT_NE(host.error({{"do", "file"}, {"path", path}, {"created", "today"}}), "");
-    EXPECT_NE(host.error({{"do", "file"}}), "");
-}
-
-TEST_F(ContextMenu, TellsAndSetsAttributesOfFiles) {
-    const Json manager = host.message({{"class", "NSFileManager"}}, "defaultManager");
-    const std::string path = "/var/mobile/Documents/readme";
-    const Json attributes{{"NSFilePosixPermissions", 0600},
-                          {"NSFileModificationDate", {{"date", 1000}}},
-                          {"NSFileCreationDate", {{"date", 500}}}};
-    EXPECT_EQ(
-        host.message(manager, "setAttributes:ofItemAtPath:error:", {attributes, path, nullptr}),
-        true);
-    const Json known = host.message(manager, "attributesOfItemAtPath:error:", {path, nullptr});
-    EXPECT_EQ(known["NSFilePosixPermissions"], 0600);
-    EXPECT_EQ(known["NSFileModificationDate"]["date"], 1000);
-    EXPECT_EQ(known["NSFileCreationDate"]["date"], 500);
-    EXPECT_EQ(known["NSFileType"], "NSFileTypeRegular");
-    EXPECT_EQ(
-        host.message(manager, "setAttributes:ofItemAtPath:error:", {attributes, "/gone", nullptr}),
-        false);
-    EXPECT_TRUE(
-        host.message(manager, "attributesOfItemAtPath:error:", {"/gone", nullptr}).is_null());
-}
-
-TEST_F(ContextMenu, MovesLinksThatLeadNowhere) {
-    const Json manager = host.message({{"class", "NSFileManager"}}, "defaultManager");
-    const std::string folder = "/var/mobile/Documents/";
-    host.message(manager, "createSymbolicLinkAtPath:withDestinationPath:error:",
-                 {folder + "link", "/gone", nullptr});
-    EXPECT_EQ(host.message(manager, "moveItemAtPath:toPath:error:",
-                           {folder + "link", folder + "moved", nullptr}),
-              true);
-    EXPECT_EQ(host.message(manager, "moveItemAtPath:toPath:error:",
-                           {folder + "readme", folder + "moved", nullptr}),
-              false);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// What the device keeps: preferences, user defaults, the pasteboard.
+// What the device keeps: preferences, user defaults, the pasteboard, dates of files.
 #include "tests/host/host.hpp"
 
 #include <gtest/gtest.h>
@@ -191,6 +191,22 @@ TEST_F(Device, GivesEachApplicationItsDocuments) {
     constexpr int caches = 13;
     EXPECT_EQ(notes.message(manager, "URLsForDirectory:inDomains:", {caches, 1}), json::array());
     EXPECT_EQ(notes.message(manager, "URLsForDirectory:inDomains:", {9, 8}), json::array());
+}
+
+TEST_F(Device, DatesFiles) {
+    root.write("var/mobile/a", "");
+    HostProcess host = start();
+    const json file{{"do", "file"}, {"path", "/var/mobile/a"}};
+    const auto dated = [&](const json& date) {
+        json request = file;
+        request["created"] = date;
+        return request;
+    };
+    EXPECT_EQ(host.result(dated(1000.5))["created"], 1000.5);
+    EXPECT_EQ(host.result(file)["created"], 1000.5);
+    EXPECT_NE(host.error(dated("today")), "");
+    EXPECT_NE(host.error({{"do", "file"}, {"path", "/gone"}, {"created", 1}}), "");
+    EXPECT_NE(host.error({{"do", "file"}}), "");
 }
 
 } // namespace
