@@ -14,6 +14,7 @@
 #include "library/files/viewers/file_content_view_controller.hpp"
 #include "library/files/viewers/hex_editor_view_controller.hpp"
 #include "library/files/viewers/text_pages.hpp"
+#include "tests/library/files/viewers/syntax_expressions.hpp"
 
 #include <benchmark/benchmark.h>
 #include <unicode/regex.h>
@@ -28,48 +29,6 @@
 namespace {
 
 using namespace wentra::files;
-
-constexpr std::array<std::u16string_view, 41> patterns{u"\\bsymbol\\b",
-                                                       u"\\bimageIndex\\b",
-                                                       u"\\bimageOffset\\b",
-                                                       u"\\bsymbolLocation\\b",
-                                                       u"\\btimestamp\\b",
-                                                       u"\\bstartTimestamp\\b",
-                                                       u"\\bPower Source\\b",
-                                                       u"\\bPrimary state\\b",
-                                                       u"\\bAdvisory levels\\b",
-                                                       u"\\bWakeups\\b",
-                                                       u"\\bvmSummary\\b",
-                                                       u"\\bparentProc\\b",
-                                                       u"\\bexception\\b",
-                                                       u"\\bcoalitionName\\b",
-                                                       u"\\bprocName\\b",
-                                                       u"\\bvalue\\b",
-                                                       u"\\bktriageinfo\\b",
-                                                       u"\\bname\\b",
-                                                       u"\\bpanicString\\b",
-                                                       u"\\bcontinuation\\b",
-                                                       u"\\bUser Activity\\b",
-                                                       u"\\bsystemTime\\b",
-                                                       u"\\bnamespace\\b",
-                                                       u"\\bIdentifier\\b",
-                                                       u"\\b1.0\\b",
-                                                       u"\\bPath\\b",
-                                                       u"\\btrue\\b",
-                                                       u"\\bfalse\\b",
-                                                       u"\\bsubtype\\b",
-                                                       u"\\bpath\\b",
-                                                       u"\\(|\\)",
-                                                       u"\\[|\\]",
-                                                       u"<|>",
-                                                       u"\\+|-|×|÷|:|;",
-                                                       u"\\barray\\b",
-                                                       u"\\bplist\\b",
-                                                       u"\\bdict\\b",
-                                                       u"\\bstring\\b",
-                                                       u"\\bkey\\b",
-                                                       u"\\binteger\\b",
-                                                       u"\\btext\\b"};
 
 /// A page of frames and images, as reports have them.
 std::u16string report() {
@@ -90,7 +49,7 @@ void matchSyntax(benchmark::State& state) {
     const icu::UnicodeString searched(false, text.data(), static_cast<std::int32_t>(text.size()));
     for (auto _ : state) {
         int found = 0;
-        for (const std::u16string_view pattern : patterns) {
+        for (const auto& [pattern, syntax] : syntaxExpressions) {
             UErrorCode status = U_ZERO_ERROR;
             icu::RegexMatcher matcher({pattern.data(), static_cast<std::int32_t>(pattern.size())},
                                       0, status);

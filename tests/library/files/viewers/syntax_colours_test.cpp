@@ -5,62 +5,18 @@
 #include "desktop/foundation/regular_expression.hpp"
 #include "desktop/foundation/string.hpp"
 #include "library/files/viewers/platform_word_roles.hpp"
+#include "tests/library/files/viewers/syntax_expressions.hpp"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <random>
-#include <utility>
 
 namespace {
 
 using namespace wentra::files;
 
 using Stretches = std::vector<SyntaxStretch>;
-
-const std::pair<std::u16string, Syntax> expressions[]{
-    {u"\\bsymbol\\b", Syntax::reportWord},
-    {u"\\bimageIndex\\b", Syntax::reportWord},
-    {u"\\bimageOffset\\b", Syntax::reportWord},
-    {u"\\bsymbolLocation\\b", Syntax::reportWord},
-    {u"\\btimestamp\\b", Syntax::reportWord},
-    {u"\\bstartTimestamp\\b", Syntax::reportWord},
-    {u"\\bPower Source\\b", Syntax::reportWord},
-    {u"\\bPrimary state\\b", Syntax::reportWord},
-    {u"\\bAdvisory levels\\b", Syntax::reportWord},
-    {u"\\bWakeups\\b", Syntax::reportWord},
-    {u"\\bvmSummary\\b", Syntax::reportWord},
-    {u"\\bparentProc\\b", Syntax::reportWord},
-    {u"\\bexception\\b", Syntax::reportWord},
-    {u"\\bcoalitionName\\b", Syntax::reportWord},
-    {u"\\bprocName\\b", Syntax::reportWord},
-    {u"\\bvalue\\b", Syntax::reportWord},
-    {u"\\bktriageinfo\\b", Syntax::reportWord},
-    {u"\\bname\\b", Syntax::reportWord},
-    {u"\\bpanicString\\b", Syntax::reportWord},
-    {u"\\bcontinuation\\b", Syntax::reportWord},
-    {u"\\bUser Activity\\b", Syntax::reportWord},
-    {u"\\bsystemTime\\b", Syntax::reportWord},
-    {u"\\bnamespace\\b", Syntax::reportWord},
-    {u"\\bIdentifier\\b", Syntax::reportWord},
-    {u"\\b1.0\\b", Syntax::reportWord},
-    {u"\\bPath\\b", Syntax::reportWord},
-    {u"\\btrue\\b", Syntax::reportWord},
-    {u"\\bfalse\\b", Syntax::reportWord},
-    {u"\\bsubtype\\b", Syntax::reportWord},
-    {u"\\bpath\\b", Syntax::reportWord},
-    {u"\\(|\\)", Syntax::parenthesis},
-    {u"\\[|\\]", Syntax::squareBracket},
-    {u"<|>", Syntax::angleBracket},
-    {u"\\+|-|×|÷|:|;", Syntax::sign},
-    {u"\\barray\\b", Syntax::listWord},
-    {u"\\bplist\\b", Syntax::listWord},
-    {u"\\bdict\\b", Syntax::listWord},
-    {u"\\bstring\\b", Syntax::listWord},
-    {u"\\bkey\\b", Syntax::listWord},
-    {u"\\binteger\\b", Syntax::listWord},
-    {u"\\btext\\b", Syntax::listWord},
-};
 
 class SyntaxColours : public testing::Test {
 protected:
@@ -72,7 +28,7 @@ protected:
     static std::vector<Syntax> matched(const std::u16string& text) {
         std::vector<Syntax> colours(text.size(), Syntax::none);
         const auto string = ns::String::from(text);
-        for (const auto& [pattern, syntax] : expressions) {
+        for (const auto& [pattern, syntax] : syntaxExpressions) {
             const auto expression =
                 ns::RegularExpression::withPattern(ns::String::from(pattern)).value;
             for (const ns::TextCheckingResult match :
