@@ -10,10 +10,10 @@
 namespace desktop::host {
 namespace {
 
-int statusArgument(const Json& request) {
+int statusArgument(const Json& request, const char* name) {
     constexpr std::uint64_t least = 100;
     constexpr std::uint64_t most = 599;
-    const Json& value = anyArgument(request, "status");
+    const Json& value = anyArgument(request, name);
     const auto status = value.is_number_unsigned() ? value.get<std::uint64_t>() : 0;
     if (status < least || status > most) {
         throw RequestError("\"status\" must be a whole number from 100 to 599");
@@ -21,17 +21,17 @@ int statusArgument(const Json& request) {
     return static_cast<int>(status);
 }
 
-services::Headers headersArgument(const Json& request) {
+services::Headers headersArgument(const Json& request, const char* name) {
     services::Headers headers;
-    const Json& values = anyArgument(request, "headers");
+    const Json& values = anyArgument(request, name);
     if (!values.is_object()) {
         throw RequestError("\"headers\" must be an object");
     }
-    for (const auto& [name, value] : values.items()) {
+    for (const auto& [field, value] : values.items()) {
         if (!value.is_string()) {
             throw RequestError("\"headers\" must have strings as values");
         }
-        headers.emplace_back(name, value.get<std::string>());
+        headers.emplace_back(field, value.get<std::string>());
     }
     return headers;
 }
@@ -44,39 +44,40 @@ std::uint64_t bytesArgument(const Json& request, const char* name) {
     return value.get<std::uint64_t>();
 }
 
-services::AnswerChange changeArgument(const Json& request) {
-    services::AnswerChange change;
-    if (argument(request, "status") != nullptr) {
-        change.status = statusArgument(request);
-    }
-    if (argument(request, "body") != nullptr) {
-        change.body = stringArgument(request, "body");
-    }
-    if (argument(request, "drop") != nullptr) {
-        change.dropped = flagArgument(request, "drop");
-    }
-    if (argument(request, "delay") != nullptr) {
-        change.delay = secondsArgument(request, "delay");
-    }
-    if (argument(request, "headers") != nullptr) {
-        change.headers = headersArgument(request);
-    }
-    if (argument(request, "length") != nullptr) {
-        change.length = bytesArgument(request, "length");
-    }
-    if (argument(request, "cut") != nullptr) {
-        change.cut = bytesArgument(request, "cut");
-    }
-    if (argument(request, "rate") != nullptr) {
-        change.rate = static_cast<double>(bytesArgument(request, "rate"));
+using Change = services::AnswerChange;
+
+/// What may be different in an answer, by its name in a request.
+struct Part {
+    const char* name;
+    void (*take)(Change& change, const Json& request, const char* name);
+};
+
+constexpr std::array parts{
+    Part{"status",
+         [](Change& c, const Json& r, const char* n) { c.status = statusArgument(r, n); }},
+    Part{"body", [](Change& c, const Json& r, const char* n) { c.body = stringArgument(r, n); }},
+    Part{"drop", [](Change& c, const Json& r, const char* n) { c.dropped = flagArgument(r, n); }},
+    Part{"delay", [](Change& c, const Json& r, const char* n) { c.delay = secondsArgument(r, n); }},
+    Part{"headers",
+         [](Change& c, const Json& r, const char* n) { c.headers = headersArgument(r, n); }},
+    Part{"length", [](Change& c, const Json& r, const char* n) { c.length = bytesArgument(r, n); }},
+    Part{"cut", [](Change& c, const Json& r, const char* n) { c.cut = bytesArgument(r, n); }},
+    Part{"rate", [](Change& c, const Json& r,
+                    const char* n) { c.rate = static_cast<double>(bytesArgument(r, n)); }},
+};
+
+Change changeArgument(const Json& request) {
+    Change change;
+    for (const Part& part : parts) {
+        if (argument(request, part.name) != nullptr) {
+            part.take(change, request, part.name);
+        }
     }
     return change;
 }
 
 void refuseChanges(const Json& request) {
-    constexpr std::array changes{"status",  "body",   "drop", "delay",
-                                 "headers", "length", "cut",  "rate"};
-    if (std::ranges::any_of(changes, [&](const char* name) { return request.contains(name); })) {
+    if (std::ranges::any_of(parts, [&](const Part& part) { return request.contains(part.name); })) {
         throw RequestError("\"reset\" leaves nothing to be changed");
     }
 }

@@ -4,7 +4,7 @@
 #include "bindings/foundation/number.hpp"
 #include "desktop/runtime/event_log.hpp"
 #include "desktop/runtime/main_queue.hpp"
-#include "desktop/speech/recognition_values.hpp"
+#include "desktop/speech/speech_recognition_result.hpp"
 
 namespace desktop {
 namespace {

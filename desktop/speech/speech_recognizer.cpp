@@ -4,8 +4,8 @@
 #include "desktop/foundation/bundle.hpp"
 #include "desktop/runtime/main_queue.hpp"
 #include "desktop/speech/recognition_settings.hpp"
-#include "desktop/speech/recognition_values.hpp"
 #include "desktop/speech/speech_audio_buffer_recognition_request.hpp"
+#include "desktop/speech/speech_recognition_result.hpp"
 #include "desktop/speech/speech_recognition_task.hpp"
 #include "desktop/uikit/delegate_messages.hpp"
 

@@ -4,6 +4,7 @@
 #include "bindings/uikit/alert_controller.hpp"
 
 #include "desktop/class.hpp"
+#include "desktop/new_object.hpp"
 #include "desktop/uikit/values/immutable.hpp"
 
 #include <functional>
@@ -34,11 +35,11 @@ public:
 private:
     static ui::AlertAction with(Class cls, ns::String title, ui::AlertActionStyle style,
                                 ui::AlertAction::Handler handler) {
-        const auto action = objc::send<"new", ui::AlertAction>(objc::object(cls));
+        const auto action = newObject<ui::AlertAction>(cls);
         of(action).title_ = title;
         of(action).style_ = style;
         of(action).handler_ = handler;
-        return action.send<"autorelease", ui::AlertAction>();
+        return action;
     }
     void enabledChanged() {
         if (changed) {

@@ -2,6 +2,7 @@
 #include "desktop/uikit/alerts/alert_controller.hpp"
 
 #include "bindings/foundation/exception.hpp"
+#include "desktop/new_object.hpp"
 #include "desktop/runtime/main_queue.hpp"
 #include "desktop/uikit/alerts/alert_action.hpp"
 #include "desktop/uikit/alerts/alert_view.hpp"
@@ -44,11 +45,11 @@ std::vector<objc::MethodRow> AlertController::methods() {
 
 ui::AlertController AlertController::with(Class cls, ns::String title, ns::String message,
                                           ui::AlertStyle style) {
-    const auto alert = objc::send<"new", ui::AlertController>(objc::object(cls));
+    const auto alert = newObject<ui::AlertController>(cls);
     alert.setTitle(title);
     of(alert).message_ = message;
     of(alert).style_ = style;
-    return alert.send<"autorelease", ui::AlertController>();
+    return alert;
 }
 
 AlertController::~AlertController() {

@@ -1,28 +1,10 @@
 // Asking delegates for menus.
 #include "desktop/uikit/contextmenus/context_menu_interaction.hpp"
 
+#include "desktop/uikit/contextmenus/context_menu_configuration.hpp"
 #include "desktop/uikit/contextmenus/context_menu_view.hpp"
 
 namespace desktop {
-
-ui::ContextMenuConfiguration
-ContextMenuConfiguration::with(Class cls, objc::Object identifier,
-                               ui::ContextMenuConfiguration::PreviewProvider preview,
-                               ui::ContextMenuConfiguration::ActionProvider actions) {
-    const auto made = objc::send<"new", ui::ContextMenuConfiguration>(objc::object(cls));
-    of(made).identifier_ = identifier;
-    of(made).preview_ = preview;
-    of(made).actions_ = actions;
-    return made.send<"autorelease", ui::ContextMenuConfiguration>();
-}
-
-ui::Menu ContextMenuConfiguration::menu() const {
-    return actions_ ? actions_(ns::MutableArray::make()) : ui::Menu();
-}
-
-ui::ViewController ContextMenuConfiguration::preview() const {
-    return preview_ ? preview_() : ui::ViewController();
-}
 
 std::vector<objc::MethodRow> ContextMenuInteraction::methods() {
     using Self = ContextMenuInteraction;

@@ -1,43 +1,15 @@
-// UIContextMenuInteraction and its configuration: a menu that a long press on a view brings up.
+// UIContextMenuInteraction: a menu that a long press on a view brings up.
 #pragma once
 
 #include "bindings/objc/weak.hpp"
-#include "bindings/uikit/context_menu_configuration.hpp"
 #include "bindings/uikit/context_menu_interaction.hpp"
 #include "bindings/uikit/long_press_gesture_recognizer.hpp"
 
 #include "desktop/class.hpp"
 
-#include <array>
 #include <vector>
 
 namespace desktop {
-
-class ContextMenuConfiguration
-    : public PlatformClass<ContextMenuConfiguration, ui::ContextMenuConfiguration> {
-public:
-    static constexpr auto methods() {
-        using Self = ContextMenuConfiguration;
-        return std::array{
-            objc::classMethod<"configurationWithIdentifier:previewProvider:actionProvider:",
-                              &Self::with>(),
-            objc::method<"identifier", &Self::identifier>(),
-        };
-    }
-    /// What the providers give; nil without one.
-    [[nodiscard]] ui::Menu menu() const;
-    [[nodiscard]] ui::ViewController preview() const;
-
-private:
-    static ui::ContextMenuConfiguration with(Class cls, objc::Object identifier,
-                                             ui::ContextMenuConfiguration::PreviewProvider preview,
-                                             ui::ContextMenuConfiguration::ActionProvider actions);
-    [[nodiscard]] objc::Object identifier() const { return identifier_; }
-
-    objc::Copied<objc::Object> identifier_;
-    objc::Copied<ui::ContextMenuConfiguration::PreviewProvider> preview_;
-    objc::Copied<ui::ContextMenuConfiguration::ActionProvider> actions_;
-};
 
 class ContextMenuInteraction
     : public PlatformClass<ContextMenuInteraction, ui::ContextMenuInteraction> {

@@ -3,7 +3,7 @@
 
 #include "bindings/uikit/image_view.hpp"
 #include "bindings/uikit/window.hpp"
-#include "desktop/uikit/contextmenus/menu_elements.hpp"
+#include "desktop/uikit/contextmenus/action.hpp"
 
 #include <algorithm>
 

@@ -1,6 +1,8 @@
 // Buttons: titles, images and colours by state.
 #include "desktop/uikit/controls/button.hpp"
 
+#include "desktop/new_object.hpp"
+
 #include <algorithm>
 
 namespace desktop {
@@ -51,10 +53,10 @@ std::vector<objc::MethodRow> Button::methods() {
 }
 
 ui::Button Button::ofType(Class cls, ui::ButtonType type) {
-    const auto button = objc::send<"new", ui::Button>(objc::object(cls));
+    const auto button = newObject<ui::Button>(cls);
     of(button).type_ = type;
     of(button).showState();
-    return button.send<"autorelease", ui::Button>();
+    return button;
 }
 
 ui::Button Button::initWithFrame(CGRect frame) {

@@ -1,6 +1,8 @@
 // Flow layouts: asking for sizes, and answering where items are.
 #include "desktop/uikit/lists/collection_view_layout.hpp"
 
+#include "desktop/new_object.hpp"
+
 #include <algorithm>
 
 namespace desktop {
@@ -16,8 +18,7 @@ ui::CollectionViewLayoutAttributes placed(ns::IndexPath path, CGRect frame) {
 
 ui::CollectionViewLayoutAttributes CollectionViewLayoutAttributes::forCell(Class cls,
                                                                            ns::IndexPath path) {
-    const auto attributes = objc::send<"new", ui::CollectionViewLayoutAttributes>(objc::object(cls))
-                                .send<"autorelease", ui::CollectionViewLayoutAttributes>();
+    const auto attributes = newObject<ui::CollectionViewLayoutAttributes>(cls);
     of(attributes).indexPath_ = path;
     return attributes;
 }

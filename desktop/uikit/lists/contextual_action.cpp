@@ -1,6 +1,8 @@
 // Actions as the application made them.
 #include "desktop/uikit/lists/contextual_action.hpp"
 
+#include "desktop/new_object.hpp"
+
 namespace desktop {
 
 std::vector<objc::MethodRow> ContextualAction::methods() {
@@ -18,8 +20,7 @@ std::vector<objc::MethodRow> ContextualAction::methods() {
 ui::ContextualAction ContextualAction::with(Class cls, ui::ContextualActionStyle style,
                                             ns::String title,
                                             ui::ContextualAction::Handler handler) {
-    const auto action = objc::send<"new", objc::Object>(objc::object(cls))
-                            .send<"autorelease", ui::ContextualAction>();
+    const auto action = newObject<ui::ContextualAction>(cls);
     ContextualAction& peer = of(action);
     peer.style_ = style;
     peer.title_ = title;
@@ -41,22 +42,6 @@ void ContextualAction::perform(ui::View source, ui::ContextualAction::Completion
     } else {
         done(false);
     }
-}
-
-std::vector<objc::MethodRow> SwipeActionsConfiguration::methods() {
-    using Self = SwipeActionsConfiguration;
-    return {
-        objc::classMethod<"configurationWithActions:", &Self::with>(),
-        objc::method<"actions", &Self::actions>(),
-        objc::property<"performsFirstActionWithFullSwipe", &Self::performsFirst_>(),
-    };
-}
-
-ui::SwipeActionsConfiguration SwipeActionsConfiguration::with(Class cls, ns::Array actions) {
-    const auto configuration = objc::send<"new", objc::Object>(objc::object(cls))
-                                   .send<"autorelease", ui::SwipeActionsConfiguration>();
-    of(configuration).actions_ = actions;
-    return configuration;
 }
 
 } // namespace desktop

@@ -1,9 +1,8 @@
-// UIContextualAction and UISwipeActionsConfiguration: what an application offers on a swiped row.
+// UIContextualAction: something that an application offers on a swiped row.
 #pragma once
 
 #include "bindings/uikit/contextual_action.hpp"
 #include "bindings/uikit/image.hpp"
-#include "bindings/uikit/swipe_actions_configuration.hpp"
 
 #include "desktop/class.hpp"
 
@@ -33,25 +32,6 @@ private:
     objc::Strong<ui::Color> color_;
     objc::Strong<ui::Image> image_;
     objc::Copied<ui::ContextualAction::Handler> handler_;
-};
-
-class SwipeActionsConfiguration
-    : public PlatformClass<SwipeActionsConfiguration, ui::SwipeActionsConfiguration> {
-public:
-    static std::vector<objc::MethodRow> methods();
-
-    /// From the edge inwards.
-    [[nodiscard]] ns::ArrayOf<ui::ContextualAction> actions() const {
-        return actions_.assume<ns::ArrayOf<ui::ContextualAction>>();
-    }
-    /// Whether a swipe all across the row stands for the first action.
-    [[nodiscard]] bool performsFirst() const { return performsFirst_; }
-
-private:
-    static ui::SwipeActionsConfiguration with(Class cls, ns::Array actions);
-
-    objc::Copied<ns::Array> actions_;
-    bool performsFirst_ = true;
 };
 
 } // namespace desktop

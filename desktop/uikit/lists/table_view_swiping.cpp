@@ -4,6 +4,7 @@
 #include "bindings/uikit/pan_gesture_recognizer.hpp"
 #include "desktop/uikit/gestures/gesture_recognizer.hpp"
 #include "desktop/uikit/lists/contextual_action.hpp"
+#include "desktop/uikit/lists/swipe_actions_configuration.hpp"
 
 #include <cmath>
 #include <utility>

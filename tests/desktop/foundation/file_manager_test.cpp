@@ -22,8 +22,7 @@ protected:
         return ns::String::fromUtf8((folder.path() / name).string());
     }
     [[nodiscard]] bool set(ns::Dictionary attributes, ns::String path) const {
-        return manager.send<"setAttributes:ofItemAtPath:error:", bool>(attributes, path,
-                                                                       noError);
+        return manager.send<"setAttributes:ofItemAtPath:error:", bool>(attributes, path, noError);
     }
     [[nodiscard]] bool move(const char* from, const char* to) const {
         return manager.send<"moveItemAtPath:toPath:error:", bool>(at(from), at(to), noError);

@@ -1,26 +1,11 @@
-// SFTranscription and SFSpeechRecognitionResult: what was understood.
+// SFSpeechRecognitionResult: what was understood until now, or at last.
 #pragma once
 
 #include "bindings/speech/speech_recognition_result.hpp"
 #include "desktop/class.hpp"
+#include "desktop/speech/transcription.hpp"
 
 namespace desktop {
-
-class Transcription : public PlatformClass<Transcription, sf::Transcription> {
-public:
-    static constexpr auto methods() {
-        return std::array{objc::method<"formattedString", &Transcription::text_>()};
-    }
-
-    static sf::Transcription with(ns::String text) {
-        const auto transcription = Kind::make();
-        of(transcription).text_ = text;
-        return transcription;
-    }
-
-private:
-    objc::Copied<ns::String> text_;
-};
 
 class SpeechRecognitionResult
     : public PlatformClass<SpeechRecognitionResult, sf::SpeechRecognitionResult> {
