@@ -157,15 +157,22 @@ std::u16string_view unitsOf(UnicodeText text) {
 }
 
 using Comparison = objc::Next<bool(objc::Object)>;
+bool isEqualText(Comparison next, ns::String self, objc::Object other) {
+    return next(other) && self.utf16() == other.as<ns::String>().utf16();
+}
+
 bool isEqual(Comparison next, UnicodeText self, objc::Object other) {
     const auto text = other.as<UnicodeText>();
-    return text ? unitsOf(self) == unitsOf(text) : next(other);
+    return text ? unitsOf(self) == unitsOf(text) : isEqualText(next, self, other);
 }
 
 } // namespace
 
 void installStrings() {
     objc::install(objc::hook<"GSUnicodeString", "isEqual:", &isEqual>());
+    objc::install(objc::hook<"GSUnicodeString", "isEqualToString:", &isEqual>());
+    objc::install(objc::hook<"GSCString", "isEqualToString:", &isEqualText>());
+    objc::install(objc::hook<"GSMutableString", "isEqualToString:", &isEqualText>());
     objc::install(objc::hook<"NSString", "initWithCharacters:length:", &make>());
     objc::install(objc::hook<"GSPlaceholderString", "initWithBytes:length:encoding:", &decode>());
     objc::install(objc::hook<"GSMutableString", "initWithBytes:length:encoding:", &decode>());

@@ -105,6 +105,16 @@ TEST_F(StringUnits, AreWhatEqualityIsAbout) {
     EXPECT_FALSE(ns::String::from(text).isEqual(ns::String::from(text.substr(0, 101) + u"x")));
     EXPECT_FALSE(ns::String::from(u"广e\u0301").isEqual(ns::String::from(u"广\u00E9")));
     EXPECT_FALSE(ns::String::from(text).isEqual(nullptr));
+    const auto composed = ns::String::from(u"\u00E9");
+    const auto parts = ns::String::from(u"e\u0301");
+    const auto mutableParts = ns::MutableString::make<"initWithString:">(parts);
+    EXPECT_TRUE(parts.isEqualToString(parts) && composed.isEqualToString(composed));
+    EXPECT_TRUE(mutableParts.isEqualToString(parts) && parts.isEqualToString(mutableParts));
+    EXPECT_FALSE(parts.isEqual(composed));
+    EXPECT_FALSE(parts.isEqualToString(composed));
+    EXPECT_FALSE(composed.isEqualToString(parts));
+    EXPECT_FALSE(composed.isEqualToString(mutableParts));
+    EXPECT_FALSE(mutableParts.isEqualToString(composed));
     EXPECT_FALSE(ns::String::from(text).isEqual(ns::String::from(u"abc")));
 }
 

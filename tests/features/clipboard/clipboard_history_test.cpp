@@ -24,6 +24,14 @@ TEST_F(HistoryList, RecordsWhatIsCopiedWhileItIsOpenNewestLast) {
     EXPECT_EQ(shown(), (Texts{"before", "B", "A"}));
 }
 
+TEST_F(HistoryList, TextsAreTheSameUnitByUnit) {
+    open();
+    for (const char* text : {"é", "e\u0301", "É", "é"}) {
+        phone.copy(text);
+    }
+    EXPECT_EQ(stored("content"), (Texts{"e\u0301", "É", "é"}));
+}
+
 TEST_F(HistoryList, RecordsNothingOnceItIsGone) {
     press();
     phone.copy("seen");
