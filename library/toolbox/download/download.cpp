@@ -7,6 +7,7 @@
 #include "library/common/light_background.hpp"
 #include "library/common/notice.hpp"
 #include "library/common/outline.hpp"
+#include "library/common/screens.hpp"
 #include "library/common/sharing.hpp"
 #include "library/paths/documents_folder.hpp"
 #include "library/preferences/preferences.hpp"
@@ -29,6 +30,12 @@ std::u16string fileNameOf(ns::UrlResponse response) {
 ns::String temporaryPath(std::u16string_view name) {
     std::u16string path = ns::FileManager::defaultManager().temporaryDirectory().path().utf16();
     return ns::String::from(path.append(u"/").append(name));
+}
+
+/// From the host's screen when the panel has been put away meanwhile.
+void offerFile(ns::String path, FloatingViewController controller) {
+    const bool isShown = static_cast<bool>(controller.view().window());
+    shareFile(path, isShown ? ui::ViewController(controller) : topViewController());
 }
 
 } // namespace
@@ -126,7 +133,7 @@ void Download::arrived(objc::Object, ns::UrlSessionTask task, ns::Url file) cons
         if (failed) {
             of(controller).tellOfFailure();
         } else {
-            shareFile(path, controller);
+            offerFile(path, controller);
         }
     });
 }
@@ -147,7 +154,9 @@ void Download::ended(objc::Object, ns::UrlSessionTask task, ns::Error error) con
 
 void Download::tellOfFailure() const {
     constexpr double shown = 1.3; // seconds
-    showNotice(self().view(), u"下载失败❗️"_ns, {.height = 0.25}, shown);
+    const ui::View panel = self().view();
+    showNotice(panel.window() ? panel : ui::View(activeWindow()), u"下载失败❗️"_ns,
+               {.height = 0.25}, shown);
 }
 
 void Download::loadAndShare(objc::Object address, objc::Object session) const {
@@ -166,7 +175,7 @@ void Download::loadAndShare(objc::Object address, objc::Object session) const {
             onMainThread(std::move(controller),
                          [path = objc::Strong(path)](FloatingViewController presenter) {
                              if (path) {
-                                 shareFile(path, presenter);
+                                 offerFile(path, presenter);
                              }
                          });
         });

@@ -174,6 +174,14 @@ TEST_F(Downloads, ALaterOneHasTheBar) {
     EXPECT_EQ(phone.find({{"class", "UIProgressView"}}).size(), 0U);
 }
 
+TEST_F(Downloads, AreSharedWhenThePanelHasGoneMeanwhile) {
+    download(files + "a.bin?size=40000&rate=40000");
+    phone.message(phone.view(), "removeFromSuperview");
+    EXPECT_EQ(shared(), documents + "a.bin");
+    download("https://nobody.example/a.txt");
+    expectFailure();
+}
+
 TEST_F(Downloads, OfferTheLinksOfAPage) {
     phone.set({{"解析", true}});
     download(files);
