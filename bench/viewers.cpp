@@ -107,23 +107,35 @@ void searchMemory(benchmark::State& state) {
     }
 }
 
-/// 64 MB that are not all alike.
-const std::filesystem::path& largeFile() {
-    static const std::filesystem::path file = [] {
+/// 64 MB that are not all alike, gone at the end.
+class LargeFile {
+public:
+    LargeFile() {
         constexpr std::size_t size = 64U << 20U;
         std::string bytes(size, '\0');
         for (std::size_t index = 0; index < size; ++index) {
             bytes[index] = static_cast<char>(index * 2654435761U >> 16U);
         }
-        std::string pattern = std::filesystem::temp_directory_path() / "wentra-bench-XXXXXX";
-        close(mkstemp(pattern.data()));
-        std::ofstream(pattern, std::ios::binary) << bytes;
-        return pattern;
-    }();
-    return file;
-}
+        close(mkstemp(path_.data()));
+        std::ofstream(path_, std::ios::binary) << bytes;
+    }
+    LargeFile(const LargeFile&) = delete;
+    LargeFile& operator=(const LargeFile&) = delete;
+    ~LargeFile() {
+        std::error_code ignored;
+        std::filesystem::remove(path_, ignored);
+    }
 
-ns::String largePath() { return ns::String::fromUtf8(largeFile().string()); }
+    [[nodiscard]] const std::string& path() const { return path_; }
+
+private:
+    std::string path_ = std::filesystem::temp_directory_path() / "wentra-bench-XXXXXX";
+};
+
+ns::String largePath() {
+    static const LargeFile file;
+    return ns::String::fromUtf8(file.path());
+}
 
 /// Reading the file in blocks that are kept, and nothing else.
 void readBlocks(benchmark::State& state) {
@@ -162,8 +174,6 @@ void showBytes(benchmark::State& state) {
         state.ResumeTiming();
     }
     window.setHidden(true);
-    std::error_code ignored;
-    std::filesystem::remove(largeFile(), ignored);
 }
 
 } // namespace
