@@ -2,6 +2,7 @@
 #include "library/files/regular_file.hpp"
 
 #include "library/common/text_encoding.hpp"
+#include "library/files/image_header.hpp"
 
 #include <fcntl.h>
 #include <memory>
@@ -19,6 +20,18 @@ ns::Data bytesOfAnyName(const std::string& path, long long size) {
     const ssize_t count = pread(file, bytes.get(), room, 0);
     close(file);
     return count < 0 ? ns::Data() : ns::Data::from({bytes.get(), static_cast<std::size_t>(count)});
+}
+
+std::uint64_t pixelsByHeader(const std::string& path) {
+    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    const std::uint64_t pixels = announcedPixels([file](std::size_t place, std::size_t count) {
+        std::string bytes(count, '\0');
+        const ssize_t got = pread(file, bytes.data(), count, static_cast<off_t>(place));
+        bytes.resize(got < 0 ? 0 : static_cast<std::size_t>(got));
+        return bytes;
+    });
+    close(file);
+    return pixels;
 }
 
 } // namespace
@@ -40,8 +53,12 @@ ns::Data bytesOfFile(const std::string& path) {
 }
 
 ui::Image imageOfFile(const std::string& path) {
-    return regularFileSize(path) ? ui::Image::withContentsOfFile(ns::String::fromUtf8(path))
-                                 : ui::Image();
+    if (!regularFileSize(path)) {
+        return nullptr;
+    }
+    return pixelsByHeader(path) > mostPixels
+               ? ui::Image()
+               : ui::Image::withContentsOfFile(ns::String::fromUtf8(path));
 }
 
 } // namespace wentra::files

@@ -18,7 +18,7 @@ namespace wentra::files {
 /// What is in the file, whatever its name; nil for what is none, and when it cannot be read.
 [[nodiscard]] ns::Data bytesOfFile(const std::string& path);
 
-/// The image in the file; nil for what holds none.
+/// The image in the file; nil for what holds none, and for one that memory would not hold.
 [[nodiscard]] ui::Image imageOfFile(const std::string& path);
 
 } // namespace wentra::files

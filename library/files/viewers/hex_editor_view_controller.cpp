@@ -21,11 +21,7 @@ namespace {
 
 using namespace ns::literals;
 
-/// Nil for what need not have an end.
 ns::InputStream streamOf(const std::string& path) {
-    if (!regularFileSize(path)) {
-        return nullptr;
-    }
     return isUtf8(path) ? ns::InputStream::withFileAtPath(ns::String::fromUtf8(path))
                         : ns::InputStream::withData(bytesOfFile(path));
 }
@@ -53,7 +49,8 @@ private:
     HexEditorViewController initWithPath(ns::String path);
     void viewDidLoad();
     void readFile();
-    bool readPart(std::vector<char>& buffer);
+    void readBytes(long long size);
+    std::size_t fill(std::vector<char>& buffer);
     void cut(std::string_view bytes);
     void viewDidLayoutSubviews();
     void addGrid(CGRect frame);
@@ -90,27 +87,42 @@ void HexEditorViewControllerPeer::viewDidLoad() {
 }
 
 void HexEditorViewControllerPeer::readFile() {
-    constexpr std::size_t partSize = 1U << 16U;
     blocks_ = ns::MutableArray::make();
-    stream_ = streamOf(pathOfText(path_.utf16()));
-    stream_.open();
-    std::vector<char> buffer(partSize);
-    while (stream_.hasBytesAvailable() && readPart(buffer)) {
+    const std::string path = pathOfText(path_.utf16());
+    const auto size = regularFileSize(path);
+    if (!size) {
+        return; // a pipe or a device need not have an end
     }
+    stream_ = streamOf(path);
+    stream_.open();
+    readBytes(*size);
     stream_.close();
     stream_ = nullptr;
 }
 
-/// Many blocks at a time: asking for each would take most of the time. Whether there may be more.
-bool HexEditorViewControllerPeer::readPart(std::vector<char>& buffer) {
-    std::size_t filled = 0;
-    long count = 1;
-    while (count > 0 && filled < buffer.size()) {
-        count = stream_.read(buffer.data() + filled, buffer.size() - filled);
-        filled += static_cast<std::size_t>(std::max(count, 0L));
+/// Many blocks at a time: asking for each would take most of the time. A file may grow as fast as
+/// it is read: not much more is read than it had at first.
+void HexEditorViewControllerPeer::readBytes(long long size) {
+    constexpr long long partSize = 1LL << 16;
+    std::vector<char> buffer(partSize);
+    std::size_t count = buffer.size();
+    for (long long read = 0; read <= size && count == buffer.size(); read += partSize) {
+        count = fill(buffer);
+        cut({buffer.data(), count});
     }
-    cut({buffer.data(), filled});
-    return count > 0;
+}
+
+/// How many bytes there were, fewer than would fit at the end only.
+std::size_t HexEditorViewControllerPeer::fill(std::vector<char>& buffer) {
+    std::size_t filled = 0;
+    while (stream_.hasBytesAvailable() && filled < buffer.size()) {
+        const long count = stream_.read(buffer.data() + filled, buffer.size() - filled);
+        if (count < 1) {
+            break;
+        }
+        filled += static_cast<std::size_t>(count);
+    }
+    return filled;
 }
 
 void HexEditorViewControllerPeer::cut(std::string_view bytes) {
