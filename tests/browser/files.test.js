@@ -1,0 +1,86 @@
+// A way through the file browser, with mouse and keyboard: into a folder, a file across, a new name, an edit.
+import assert from "node:assert/strict";
+import { existsSync, readFileSync } from "node:fs";
+import { join } from "node:path";
+import { after, before, test } from "node:test";
+import { Host, openBrowser, Phone } from "./phone.js";
+
+/** @type {import("playwright-core").Browser} */
+let browser;
+/** @type {Host} */
+let host;
+/** @type {Phone} */
+let phone;
+
+before(async () => {
+    browser = await openBrowser();
+    host = await Host.start("--app", "files");
+    phone = await Phone.open(browser, host.address, { locale: "zh-CN" });
+});
+
+after(async () => {
+    assert.deepEqual(phone.complaints, []);
+    await phone.close();
+    assert.equal(await host.stop(), 0);
+    await browser.close();
+});
+
+const middle = ([x, y, width, height]) => [x + width / 2, y + height / 2];
+
+const onDisk = (name) => join(host.root, "var/mobile", name);
+
+/** Taps the view when it has come to rest. */
+async function tapOn(where) {
+    for (let former; ;) {
+        const [{ rect }] = await phone.do("wait", { for: { visible: true, ...where } });
+        if (String(rect) === former) {
+            return phone.tap(middle(rect));
+        }
+        former = String(rect);
+        await phone.page.waitForTimeout(100);
+    }
+}
+
+/** The label that has the name in the pane that begins there. */
+async function row(name, left) {
+    for (;;) {
+        const labels = await phone.do("wait", { for: { text: name, visible: true } });
+        const label = labels.find(({ rect }) => rect[0] >= left);
+        if (label) {
+            return label;
+        }
+        await phone.page.waitForTimeout(50);
+    }
+}
+
+async function chooseFor(label, title) {
+    await phone.press(middle(label.rect), 800);
+    await tapOn({ text: title });
+}
+
+test("a file is copied across, renamed and edited, which the disk shows", async () => {
+    const rightPane = 195;
+    await tapOn({ text: "笔记" });
+    await chooseFor(await row("周一.txt", 0), "复制");
+    await tapOn({ text: "复制到对面" });
+    const copy = await row("周一.txt", rightPane);
+    assert.equal(readFileSync(onDisk("Media/周一.txt"), "utf8"), "爬山\n");
+
+    await chooseFor(copy, "重命名");
+    await phone.do("wait", { for: { class: "UITextField", visible: true } });
+    for (let letters = 0; letters < "周一.txt".length; ++letters) {
+        await phone.page.keyboard.press("Backspace");
+    }
+    await phone.page.keyboard.insertText("周末.txt");
+    await tapOn({ text: "确认" });
+    const renamed = await row("周末.txt", rightPane);
+    assert.ok(!existsSync(onDisk("Media/周一.txt")));
+
+    await phone.tap(middle(renamed.rect));
+    await tapOn({ class: "UITextView" });
+    await phone.page.keyboard.insertText("下雨");
+    await tapOn({ title: "存储" });
+    await phone.showing("文件保存成功");
+    assert.match(readFileSync(onDisk("Media/周末.txt"), "utf8"), /下雨/u);
+    assert.equal(readFileSync(onDisk("Documents/笔记/周一.txt"), "utf8"), "爬山\n");
+});
