@@ -6,6 +6,9 @@
 #include "bindings/uikit/navigation_controller.hpp"
 #include "library/common/alert.hpp"
 
+#include <cstdlib>
+#include <memory>
+
 namespace wentra::files {
 namespace {
 
@@ -13,6 +16,13 @@ using namespace ns::literals;
 
 ns::String failure(ns::Error error) {
     return ns::String::from(u"文件保存失败: " + ns::description(error).utf16());
+}
+
+/// The file that a link leads to, so that the link stays one.
+ns::String written(ns::Url url) {
+    const std::string path = url.path().utf8();
+    const std::unique_ptr<char, void (*)(void*)> target(realpath(path.c_str(), nullptr), &free);
+    return target ? ns::String::fromUtf8(target.get()) : url.path();
 }
 
 } // namespace
@@ -33,7 +43,7 @@ void TextSaving::save() {
     constexpr double shownSeconds = 0.6;
     constexpr bool atomically = true;
     const ns::Error error = self().textView().text().writeToFile(
-        self().fileUrl().path(), atomically, ns::StringEncoding::utf8);
+        written(self().fileUrl()), atomically, ns::StringEncoding::utf8);
     if (!error) {
         button_.setEnabled(false);
     }

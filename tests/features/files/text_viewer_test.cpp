@@ -242,6 +242,15 @@ TEST_F(TextViewer, SavesWhatItShows) {
     EXPECT_TRUE(phone.alert().is_null());
 }
 
+TEST_F(TextViewer, SavesWhereALinkLeads) {
+    write("target", "former");
+    std::filesystem::create_symlink("target", onDisk("a.txt"));
+    open("text");
+    phone.message(viewer, "saveFile");
+    EXPECT_EQ(read("target"), "text");
+    EXPECT_TRUE(std::filesystem::is_symlink(onDisk("a.txt")));
+}
+
 TEST_F(TextViewer, ShortensAFileThatWasNotShownToItsEnd) {
     open(std::string(page, 'a') + "b");
     phone.message(viewer, "saveFile");
