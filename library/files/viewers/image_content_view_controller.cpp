@@ -148,7 +148,7 @@ void ImageContentViewControllerPeer::addPager() {
     // Pages lie beside a notch as they do without one.
     pager_.setContentInsetAdjustmentBehavior(ui::ContentInsetAdjustmentBehavior::never);
     pager_.setDelegate(self());
-    self().view().insertSubviewBelow(pager_, toolbar_);
+    self().view().insertSubviewBelow(pager_, infoLabel_); // where bars are low, it lies behind it
     double left = 0;
     for (const ns::Url url : static_cast<ns::ArrayOf<ns::Url>>(urls_)) {
         addPage(url, {{left, 0}, frame.size});

@@ -79,6 +79,18 @@ TEST_F(ImageViewer, LaysOutLabelPagesAndToolbar) {
               (Json{5, 5, 380, height - 10}));
 }
 
+TEST_F(ImageViewer, LaysItsLineOverThePagesAndTheToolbarOverBoth) {
+    openThree(0);
+    const Json views = phone.node(phone.message(viewer, "view"))["children"];
+    std::vector<Json> order;
+    for (const Json& view : views) {
+        order.push_back(view["object"]);
+    }
+    EXPECT_EQ(order,
+              (std::vector<Json>{pager["object"], phone.message(viewer, "imageInfoLabel")["object"],
+                                 phone.message(viewer, "toolbar")["object"]}));
+}
+
 TEST_F(ImageViewer, UpdatesTheLineWhilePagesTurnButBackToTheFirstOnlyAtRest) {
     openThree(0);
     phone.result({{"do", "slide"}, {"path", {{300, 500}, {60, 500}}}, {"stay", true}});
