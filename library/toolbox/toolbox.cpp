@@ -1,8 +1,7 @@
-// The classes and categories of the toolbox.
+// The classes of the toolbox.
 #include "library/toolbox/toolbox.hpp"
 
 #include "library/toolbox/floating_view_controller.hpp"
-#include "library/toolbox/list_openers.hpp"
 #include "library/toolbox/translation/bilingual_view.hpp"
 #include "library/toolbox/view_model.hpp"
 
@@ -13,8 +12,7 @@ namespace wentra::toolbox {
 Face face() {
     static constexpr std::array<Face::Declaration, 3> classes{
         &registerFloatingViewController, &registerBilingualView, &registerViewModel};
-    static constexpr std::array<Table, 1> categories{&listOpeners};
-    return {classes, categories};
+    return {classes, {}};
 }
 
 } // namespace wentra::toolbox

@@ -2,11 +2,14 @@
 #include "library/toolbox/panel/quick_screens.hpp"
 
 #include "bindings/objc/weak.hpp"
+#include "bindings/uikit/navigation_controller.hpp"
 #include "bindings/uikit/popover_presentation_controller.hpp"
 #include "library/clipboard/clipboard_table_view_controller.hpp"
 #include "library/clipboard/popover_content_view_controller.hpp"
 #include "library/common/string_array.hpp"
+#include "library/crashlogs/report_list_controller.hpp"
 #include "library/toolbox/panel/host_screens.hpp"
+#include "library/utilities/umaca_table_view_controller.hpp"
 
 #include <array>
 #include <string_view>
@@ -43,14 +46,14 @@ constexpr std::array<QuickSwitch, 15> quickSwitches{{
 ns::Array texts(std::u16string_view QuickSwitch::*part) { return stringArray(quickSwitches, part); }
 
 /// Points at the view.
-void makePopover(PopoverContentViewController screen, ui::View view) {
-    screen.setPreferredContentSize({280, 400});
+ui::PopoverPresentationController makePopover(ui::ViewController screen, ui::View view,
+                                              objc::Object delegate) {
     screen.setModalPresentationStyle(ui::ModalPresentation::popover);
     const auto popover = screen.popoverPresentationController();
-    popover.setPermittedArrowDirections(ui::PopoverArrowDirection::any);
     popover.setSourceView(view);
     popover.setSourceRect(view.bounds());
-    popover.setDelegate(screen);
+    popover.setDelegate(delegate);
+    return popover;
 }
 
 } // namespace
@@ -76,8 +79,30 @@ void QuickScreens::showSwitches(ui::LongPressGestureRecognizer press) const {
     const auto switches = PopoverContentViewController::make();
     switches.setTitles(texts(&QuickSwitch::title));
     switches.setKeys(texts(&QuickSwitch::key));
-    makePopover(switches, press.view());
+    switches.setPreferredContentSize({280, 400});
+    makePopover(switches, press.view(), switches)
+        .setPermittedArrowDirections(ui::PopoverArrowDirection::any);
     presentOverHost(self(), switches);
+}
+
+void QuickScreens::showUtilities(ui::LongPressGestureRecognizer press) const {
+    if (press.state() != ui::GestureState::began) {
+        return;
+    }
+    const auto list = utilities::UmacaTableViewController::plain();
+    const auto navigation = ui::NavigationController::withRoot(list);
+    makePopover(navigation, self().view(), list);
+    presentOverHost(self(), navigation);
+}
+
+void QuickScreens::showCrashReports(ui::LongPressGestureRecognizer press) const {
+    if (press.state() != ui::GestureState::began) {
+        return;
+    }
+    const auto navigation =
+        ui::NavigationController::withRoot(crashlogs::ReportListController::ofListedFiles());
+    navigation.setModalPresentationStyle(ui::ModalPresentation::pageSheet);
+    presentOverHost(self(), navigation);
 }
 
 } // namespace wentra::toolbox

@@ -1,4 +1,5 @@
-// The screens behind two of the panel's buttons: the copied texts and the quick switches.
+// The screens that long presses of the panel's buttons open: the copied texts, the quick switches,
+// the utilities and the crash reports.
 #pragma once
 
 #include "bindings/objc/part.hpp"
@@ -15,12 +16,16 @@ public:
         return std::array{
             objc::method<"showClipboard:", &QuickScreens::showClipboard>(),
             objc::method<"handlePasteButtonLongPress:", &QuickScreens::showSwitches>(),
+            objc::method<"longPress:", &QuickScreens::showUtilities>(),
+            objc::method<"handlerzLongPress:", &QuickScreens::showCrashReports>(),
         };
     }
 
 private:
     void showClipboard(ui::LongPressGestureRecognizer press) const;
     void showSwitches(ui::LongPressGestureRecognizer press) const;
+    void showUtilities(ui::LongPressGestureRecognizer press) const;
+    void showCrashReports(ui::LongPressGestureRecognizer press) const;
 };
 
 } // namespace wentra::toolbox
