@@ -101,6 +101,16 @@ export class Phone {
         return this.page.evaluate(() => window.wentra.screen.frames);
     }
 
+    /** Starts the application anew, and waits until it is there. */
+    async restart() {
+        const welcome = this.page.evaluate(() => new Promise((done) => {
+            window.wentra.connection.addEventListener("welcome", () => done(true), { once: true });
+        }));
+        await this.page.click("#tab-applications");
+        await this.page.getByRole("button", { name: "重新启动" }).first().click();
+        await welcome;
+    }
+
     /** Carries out a command of the automation protocol. */
     do(command, given = {}) {
         return this.page.evaluate(

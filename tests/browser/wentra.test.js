@@ -89,9 +89,7 @@ test("a copied sentence is translated and stays on the label", async () => {
     await phone.do("preferences", { set: {
         开启文字复制: true, kqwzfc: true, 中英对比样式: true, 百度id: "desktop", 百度key: "desktop-key",
     } });
-    await phone.page.click("#tab-applications");
-    await phone.page.getByRole("button", { name: "重新启动" }).first().click();
-    await phone.page.waitForTimeout(1000);
+    await phone.restart();
     const label = await phone.showing("hello");
     await phone.press(middle(label.rect), 600);
     assert.equal(await phone.do("pasteboard"), "hello");
@@ -148,9 +146,7 @@ test("a word picked by the mouse is translated from the edit menu", async () => 
 
 test("a copied text is found in the history and taken from there", async () => {
     await phone.do("preferences", { set: { 开启文字复制: true, kqwzfc: true } });
-    await phone.page.click("#tab-applications");
-    await phone.page.getByRole("button", { name: "重新启动" }).first().click();
-    await phone.page.waitForTimeout(1000);
+    await phone.restart();
     const label = await phone.showing("hello");
     await phone.press(middle(label.rect), 600);
     await phone.tap([358, 222]); // the ball
@@ -189,9 +185,7 @@ async function search(text) {
 test("a crash report is found in the list, and the add-ons in the report", async () => {
     const newest = "SpringBoard-2024-03-18-213000.ips";
     await phone.do("preferences", { set: { 开启文字复制: true, kqwzfc: true } });
-    await phone.page.click("#tab-applications");
-    await phone.page.getByRole("button", { name: "重新启动" }).first().click();
-    await phone.page.waitForTimeout(1000);
+    await phone.restart();
     await phone.press(middle((await phone.showing("hello")).rect), 600);
     await phone.tap([358, 222]); // the ball
     await phone.press(middle((await first({ title: "日志检索" })).rect), 300);
