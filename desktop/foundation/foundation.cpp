@@ -20,7 +20,6 @@
 #include "desktop/foundation/property_list_serialization.hpp"
 #include "desktop/foundation/regular_expression.hpp"
 #include "desktop/foundation/string.hpp"
-#include "desktop/foundation/string_search.hpp"
 #include "desktop/foundation/string_transform.hpp"
 #include "desktop/foundation/suggested_filename.hpp"
 #include "desktop/foundation/timer.hpp"
@@ -35,7 +34,6 @@ namespace desktop::foundation {
 void install(const std::string& bundleIdentifier) {
     const objc::Pool pool;
     installStrings();
-    installStringSearch();
     installStringTransforms();
     installPercentEncoding();
     installByteCountFormatter();

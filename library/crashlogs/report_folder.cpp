@@ -6,8 +6,8 @@
 #include "library/preferences/preference_keys.hpp"
 #include "library/preferences/preferences.hpp"
 
-#include <algorithm>
-#include <vector>
+#include <functional>
+#include <map>
 
 namespace wentra::crashlogs {
 namespace {
@@ -35,10 +35,8 @@ ns::Result<ns::ArrayOf<ns::String>> namesIn(ns::String folder) {
     return {names.assume<ns::ArrayOf<ns::String>>(), nullptr};
 }
 
-struct Dated {
-    double created; ///< seconds since 1970
-    objc::Strong<ns::Dictionary> entry;
-};
+/// By seconds since 1970, the newest first.
+using Dated = std::multimap<double, objc::Strong<ns::Dictionary>, std::greater<>>;
 
 class Listing {
 public:
@@ -47,20 +45,19 @@ public:
           withFolders_(Preferences::read().on(preferences::keys.browseFolders)) {}
 
     [[nodiscard]] ns::Array entries() const {
-        std::vector<Dated> found;
+        Dated found;
         for (const ns::String name : namesIn(folder_).value) {
             take(name, found);
         }
-        std::ranges::sort(found, std::ranges::greater(), &Dated::created);
         const auto entries = ns::MutableArray::make();
-        for (const Dated& each : found) {
-            entries.add(each.entry);
+        for (const auto& [date, entry] : found) {
+            entries.add(entry);
         }
         return entries;
     }
 
 private:
-    void take(ns::String name, std::vector<Dated>& found) const {
+    void take(ns::String name, Dated& found) const {
         const bool isListedFile = isListed(name.utf8(), shown_);
         if (!isListedFile && !withFolders_) {
             return; // whatever it is
@@ -74,7 +71,7 @@ private:
         const ns::Date created = attributes.get(ns::file_attributes::creationDate()).as<ns::Date>();
         const ReportEntry entry{ns::Url::fileUrlWithPath(path, isFolder), created,
                                 attributes.get(ns::file_attributes::protection())};
-        found.push_back({created ? created.timeIntervalSince1970() : 0, entry.dictionary()});
+        found.emplace(created ? created.timeIntervalSince1970() : 0, entry.dictionary());
     }
 
     Shown shown_;

@@ -2,22 +2,19 @@
 #include "library/crashlogs/report_lists.hpp"
 
 #include "bindings/foundation/log.hpp"
+#include "bindings/foundation/predicate.hpp"
 #include "library/crashlogs/report_folder.hpp"
-
-#include <algorithm>
-#include <functional>
 
 namespace wentra::crashlogs {
 namespace {
 
 using namespace ns::literals;
 
-bool isNamed(const ReportEntry& entry, ns::String sought) {
-    const ns::String name = entry.name();
-    return name && name.rangeOf(sought,
-                                ns::StringCompareOptions::caseInsensitive |
-                                    ns::StringCompareOptions::diacriticInsensitive,
-                                {0, name.length()});
+/// Whatever the letters' case and accents.
+ns::Predicate isNamed(ns::String sought) {
+    const auto arguments = ns::MutableArray::make();
+    arguments.add(sought);
+    return ns::Predicate::withFormat(u"fileURL.lastPathComponent CONTAINS[cd] %@"_ns, arguments);
 }
 
 ns::Array copyOf(ns::Array list) { return list ? list.copied() : ns::MutableArray::make(); }
@@ -31,18 +28,19 @@ void ReportLists::begin() {
 
 void ReportLists::search(ui::SearchController search) {
     const ns::String sought = search.searchBar().text();
-    if (sought.length() == 0) {
-        shown_ = copyOf(searched_);
-    } else {
-        const auto found = ns::MutableArray::make();
-        for (const objc::Object entry : static_cast<ns::Array>(searched_)) {
-            if (isNamed(ReportEntry::of(entry), sought)) {
-                found.add(entry);
-            }
-        }
-        shown_ = found;
-    }
+    shown_ = sought.length() == 0 ? copyOf(searched_) : found(sought);
     reload();
+}
+
+ns::Array ReportLists::found(ns::String sought) const {
+    const ns::Predicate isFound = isNamed(sought);
+    const auto found = ns::MutableArray::make();
+    for (const objc::Object entry : static_cast<ns::Array>(searched_)) {
+        if (isFound.evaluate(entry)) {
+            found.add(entry);
+        }
+    }
+    return found;
 }
 
 void ReportLists::walkInto(ns::Url folder) {
@@ -60,10 +58,15 @@ void ReportLists::readFolder() {
     reload();
 }
 
-void ReportLists::remove(std::vector<unsigned long> rows) {
-    std::ranges::sort(rows, std::ranges::greater());
+void ReportLists::remove(const std::vector<unsigned long>& rows) {
+    std::vector<bool> goes(all_.count());
     for (const unsigned long row : rows) {
-        if (row < all_.count()) {
+        if (row < goes.size()) {
+            goes[row] = true;
+        }
+    }
+    for (unsigned long row = goes.size(); row-- > 0;) {
+        if (goes[row]) {
             all_.removeAt(row);
         }
     }

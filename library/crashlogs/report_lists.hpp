@@ -37,11 +37,12 @@ public:
     }
     [[nodiscard]] ns::Array shown() const { return shown_; }
     /// Takes the entries at these rows of the whole list out and shows what is left of it.
-    void remove(std::vector<unsigned long> rows);
+    void remove(const std::vector<unsigned long>& rows);
     void walkInto(ns::Url folder);
 
 private:
     void search(ui::SearchController search);
+    [[nodiscard]] ns::Array found(ns::String sought) const;
     void readFolder();
     void reload() const { self().tableView().reloadData(); }
 

@@ -6,6 +6,7 @@
 #include <ctime>
 #include <fcntl.h>
 #include <fstream>
+#include <map>
 #include <sys/stat.h>
 
 namespace {
@@ -58,6 +59,17 @@ protected:
         const Json search = phone.message(list, "searchController");
         phone.message(phone.message(search, "searchBar"), "setText:", {text});
         phone.message(list, "updateSearchResultsForSearchController:", {search});
+    }
+    /// The screen that a tap on the row pushes.
+    Json tapped(const std::string& name) {
+        phone.tap(visible({{"text", name}}).at(0));
+        phone.advance(1);
+        return phone.message(navigation(), "topViewController");
+    }
+    Json navigation() { return phone.message(list, "navigationController"); }
+    void goBack() {
+        phone.message(navigation(), "popViewControllerAnimated:", {false});
+        phone.advance(1);
     }
     enum class Tool { selectAll, share, remove };
     /// On the toolbar, which the first picked row brings.
@@ -244,6 +256,43 @@ TEST_F(CrashList, WalksIntoFolders) {
     search("");
     EXPECT_EQ(names().size(), 2U);
     EXPECT_TRUE(phone.swallowed().empty());
+}
+
+TEST_F(CrashList, OpensReportsWhateverIsInThem) {
+    const std::string withNul("a\0b.dylib\n", 10);
+    report("nul.ips", 1, withNul);
+    report("euc.ips", 2, "\xC6\xFC\xCB\xDC");
+    report("none.ips", 3, "\xFF\xFE");
+    report("gone.ips", 4);
+    open();
+    fs::remove(reports / "gone.ips");
+    const std::map<std::string, Json> texts{
+        {"nul.ips", withNul}, {"euc.ips", "日本"}, {"none.ips", nullptr}, {"gone.ips", nullptr}};
+    for (const auto& [name, text] : texts) {
+        const Json viewer = tapped(name);
+        EXPECT_EQ(viewer["class"], "FileContentViewController");
+        EXPECT_EQ(phone.message(viewer, "fileContent"), text) << name;
+        EXPECT_EQ(phone.message(phone.message(viewer, "fileURL"), "lastPathComponent"), name);
+        goBack();
+    }
+    EXPECT_TRUE(phone.swallowed().empty());
+}
+
+TEST_F(CrashList, OpensAllPicturesOfTheListAtOnce) {
+    for (const char* name : {"a.png", "b.txt", "c.jpg", "d.jpeg"}) {
+        write(home / "Documents" / name, "", *name);
+    }
+    phone.turnOn({"查看本地文件"});
+    open();
+    phone.message(navigation(), "setToolbarHidden:animated:", {false, false});
+    const Json viewer = tapped("c.jpg");
+    Names pictures;
+    for (const Json& url : phone.message(viewer, "imageURLs")) {
+        pictures.push_back(phone.message(url, "lastPathComponent"));
+    }
+    EXPECT_EQ(pictures, (Names{"d.jpeg", "c.jpg", "a.png"}));
+    EXPECT_EQ(phone.message(viewer, "currentIndex"), 1);
+    EXPECT_EQ(phone.message(navigation(), "isToolbarHidden"), true);
 }
 
 TEST_F(CrashList, ClosesByItsButton) {
