@@ -13,8 +13,13 @@ using namespace ns::literals;
 
 using Describer = objc::Next<ns::String()>;
 ns::String describe(Describer next, ns::Error error) {
-    const bool isSystems = error.domain().isEqualToString(u"NSPOSIXErrorDomain"_ns);
-    if (!isSystems || error.userInfo().get(u"NSLocalizedDescription"_ns)) {
+    if (error.userInfo().get(u"NSLocalizedDescription"_ns)) {
+        return next();
+    }
+    if (const auto cause = error.userInfo().get(u"NSUnderlyingError"_ns).as<ns::Error>(); cause) {
+        return cause.localizedDescription();
+    }
+    if (!error.domain().isEqualToString(u"NSPOSIXErrorDomain"_ns)) {
         return next();
     }
     const std::string reason = std::generic_category().message(static_cast<int>(error.code()));

@@ -1,6 +1,7 @@
-// Attributes of files and moving, by the system's own calls.
+// Attributes of files, copying and moving, by the system's own calls.
 #include "desktop/foundation/file_manager.hpp"
 
+#include "bindings/darwin/copyfile.hpp"
 #include "bindings/darwin/file_status.hpp"
 #include "bindings/darwin/renamex_np.hpp"
 #include "bindings/foundation/file_manager.hpp"
@@ -8,11 +9,13 @@
 #include "desktop/foundation/error_encoding.hpp"
 #include "desktop/foundation/file_dates.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cmath>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <utility>
 
 namespace desktop::foundation {
 namespace {
@@ -21,8 +24,11 @@ using namespace ns::literals;
 
 /// Cocoa's numbers of what went wrong.
 long cocoaCode(int failure) {
-    enum Code : long { unknown = 256, noReadPermission = 257, noSuchFileToRead = 260 };
-    return failure == ENOENT ? noSuchFileToRead : failure == EACCES ? noReadPermission : unknown;
+    constexpr long unknown = 256;
+    constexpr std::array<std::pair<int, long>, 4> known{
+        {{EACCES, 257}, {ENOENT, 260}, {EEXIST, 516}, {ENOSPC, 640}}};
+    const auto* const found = std::ranges::find(known, failure, &std::pair<int, long>::first);
+    return found != known.end() ? found->second : unknown;
 }
 
 void report(id* error, int failure) {
@@ -111,6 +117,17 @@ bool set(ns::FileManager, ns::Dictionary attributes, ns::String path, id* error)
     return done;
 }
 
+bool copy(objc::Next<bool(ns::String, ns::String, id*)>, ns::FileManager, ns::String from,
+          ns::String to, id* error) {
+    constexpr copyfile_flags_t flags = darwin::copyfileAll | darwin::copyfileRecursive |
+                                       darwin::copyfileExclusive | darwin::copyfileNoFollow;
+    const bool done = copyfile(from.utf8().c_str(), to.utf8().c_str(), nullptr, flags) == 0;
+    if (!done) {
+        report(error, errno);
+    }
+    return done;
+}
+
 using Mover = objc::Next<bool(ns::String, ns::String, id*)>;
 bool move(Mover next, ns::FileManager, ns::String from, ns::String to, id* error) {
     const int result = renamex_np(from.utf8().c_str(), to.utf8().c_str(), darwin::renameExclusive);
@@ -128,6 +145,7 @@ bool move(Mover next, ns::FileManager, ns::String from, ns::String to, id* error
 
 void installFileManager() {
     objc::install(objc::hook<"attributesOfItemAtPath:error:", &attributes>());
+    objc::install(objc::hook<"copyItemAtPath:toPath:error:", &copy>());
     objc::install(objc::hook<"moveItemAtPath:toPath:error:", &move>());
     objc::install(objc::addition<"setAttributes:ofItemAtPath:error:", &set>());
 }

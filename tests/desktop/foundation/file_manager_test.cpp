@@ -1,4 +1,5 @@
-// The file manager's attributes and moves.
+// The file manager's attributes, copies and moves.
+#include "desktop/foundation/error_description.hpp"
 #include "desktop/foundation/file_manager.hpp"
 
 #include "bindings/foundation/file_manager.hpp"
@@ -16,7 +17,10 @@ constexpr id* noError = nullptr;
 
 class FileManager : public testing::Test {
 protected:
-    static void SetUpTestSuite() { desktop::foundation::installFileManager(); }
+    static void SetUpTestSuite() {
+        desktop::foundation::installFileManager();
+        desktop::foundation::installErrorDescriptions();
+    }
 
     [[nodiscard]] ns::String at(const char* name) const {
         return ns::String::fromUtf8((folder.path() / name).string());
@@ -54,6 +58,20 @@ TEST_F(FileManager, TellsOfWhatIsNotThere) {
     const auto [attributes, error] = manager.attributesOfItem(at("gone"));
     EXPECT_FALSE(attributes);
     EXPECT_EQ(error.code(), 260);
+}
+
+TEST_F(FileManager, CopiesAndSaysWhyNot) {
+    folder.write("a", "bytes");
+    EXPECT_FALSE(manager.copyItem(at("a"), at("b")));
+    EXPECT_EQ(std::filesystem::file_size(folder.path() / "b"), 5U);
+    EXPECT_EQ(manager.copyItem(at("gone"), at("c")).code(), 260);
+    const ns::Error exists = manager.copyItem(at("a"), at("b"));
+    EXPECT_EQ(exists.code(), 516);
+    EXPECT_EQ(exists.localizedDescription().utf8(), "未能完成操作。File exists");
+    std::filesystem::create_directory(folder.path() / "folder");
+    folder.write("folder/inner", "");
+    EXPECT_FALSE(manager.copyItem(at("folder"), at("another")));
+    EXPECT_TRUE(std::filesystem::exists(folder.path() / "another/inner"));
 }
 
 TEST_F(FileManager, MovesLinksThatLeadNowhere) {
