@@ -12,7 +12,6 @@ struct YYLabel : objc::Kind<YYLabel, "YYLabel", ui::View> {
 
     static YYLabel withFrame(CGRect frame) { return make<"initWithFrame:">(frame); }
 
-    [[nodiscard]] ns::String text() const { return send<"text", ns::String>(); }
     void setText(ns::String text) const { send<"setText:">(text); }
     [[nodiscard]] ui::Font font() const { return send<"font", ui::Font>(); }
     void setFont(ui::Font font) const { send<"setFont:">(font); }

@@ -368,7 +368,7 @@ private:
         }
     }
     void downloaded(Object, Object, ns::Url file) {
-        bytes = bytesOf(ns::Data::withContentsOfFile(file.send<"path", ns::String>()));
+        bytes = bytesOf(ns::Data::withContentsOfFile(file.path()));
         told += "downloaded, ";
     }
     void completed(Object, Object, ns::Error error) { told += error ? "failed, " : "completed, "; }
@@ -418,7 +418,7 @@ TEST_F(UrlSessionDelegate, AHandlersFileIsGoneAfterwards) {
             urlFrom(server.url("/")),
             ns::UrlSession::DownloadHandler::from(
                 [&promise](ns::Url file, ns::UrlResponse, ns::Error) {
-                    const auto path = file.send<"path", ns::String>();
+                    const auto path = file.path();
                     promise.set_value({path.utf8(), bytesOf(ns::Data::withContentsOfFile(path))});
                 }))
         .resume();
