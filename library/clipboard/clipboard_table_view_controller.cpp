@@ -9,6 +9,7 @@
 #include "library/clipboard/history.hpp"
 #include "library/clipboard/history_file.hpp"
 #include "library/clipboard/record_links.hpp"
+#include "library/common/bar_items.hpp"
 #include "library/common/light_background.hpp"
 
 #include <array>
@@ -95,20 +96,13 @@ void ClipboardTableViewControllerPeer::addToolbar() const {
     const auto toolbar = ui::Toolbar::withFrame({{0, room.height - footHeight}, {room.width, 44}});
     toolbar.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth |
                                 ui::ViewAutoresizing::flexibleTopMargin);
-    const auto items = ns::MutableArray::make();
-    for (const ui::BarButtonItem button :
-         {item(u"链接"_ns, objc::selector<"filterLinkButtonTapped:">()),
-          item(u"数字"_ns, objc::selector<"filterNumberButtonTapped:">()),
-          item(u"字母"_ns, objc::selector<"filterLetterButtonTapped:">()),
-          item(u"日期"_ns, objc::selector<"sortButtonTapped:">()),
-          item(u"关闭"_ns, objc::selector<"closeButtonTapped:">())}) {
-        if (items.count() > 0) {
-            items.add(ui::BarButtonItem::withSystemItem(ui::BarButtonSystemItem::flexibleSpace,
-                                                        nullptr, nullptr));
-        }
-        items.add(button);
-    }
-    toolbar.setItems(items);
+    toolbar.setItems(spread(std::array{
+        item(u"链接"_ns, objc::selector<"filterLinkButtonTapped:">()),
+        item(u"数字"_ns, objc::selector<"filterNumberButtonTapped:">()),
+        item(u"字母"_ns, objc::selector<"filterLetterButtonTapped:">()),
+        item(u"日期"_ns, objc::selector<"sortButtonTapped:">()),
+        item(u"关闭"_ns, objc::selector<"closeButtonTapped:">()),
+    }));
     self().view().addSubview(toolbar);
 }
 

@@ -5,6 +5,7 @@
 #include "bindings/uikit/activity_view_controller.hpp"
 #include "bindings/uikit/bar_button_item.hpp"
 #include "library/common/alert.hpp"
+#include "library/common/bar_items.hpp"
 #include "library/common/screens.hpp"
 
 #include <sys/stat.h>
@@ -28,21 +29,15 @@ ns::Error deleteFile(ns::Url url) {
 } // namespace
 
 void ReportEditing::addToolbar() const {
-    const auto items = ns::MutableArray::make();
-    const auto addButton = [&](ns::String symbol, SEL action) {
-        items.add(ui::BarButtonItem::withImage(ui::Image::systemNamed(symbol),
-                                               ui::BarButtonStyle::plain, self(), action));
+    const auto button = [this](ns::String symbol, SEL action) {
+        return ui::BarButtonItem::withImage(ui::Image::systemNamed(symbol),
+                                            ui::BarButtonStyle::plain, self(), action);
     };
-    const auto addSpace = [&items] {
-        items.add(ui::BarButtonItem::withSystemItem(ui::BarButtonSystemItem::flexibleSpace, nullptr,
-                                                    nullptr));
-    };
-    addButton(u"checkmark.circle.fill"_ns, objc::selector<"selectAllRows:">());
-    addSpace();
-    addButton(u"square.and.arrow.up"_ns, objc::selector<"shareFiles:">());
-    addSpace();
-    addButton(u"trash.fill"_ns, objc::selector<"deleteSelectedRows:">());
-    self().setToolbarItems(items);
+    self().setToolbarItems(spread(std::array{
+        button(u"checkmark.circle.fill"_ns, objc::selector<"selectAllRows:">()),
+        button(u"square.and.arrow.up"_ns, objc::selector<"shareFiles:">()),
+        button(u"trash.fill"_ns, objc::selector<"deleteSelectedRows:">()),
+    }));
     self().navigationController().setToolbarHidden(true, !animated);
 }
 

@@ -6,6 +6,7 @@
 #include "bindings/uikit/navigation_controller.hpp"
 #include "bindings/uikit/navigation_item.hpp"
 #include "bindings/uikit/screen.hpp"
+#include "library/common/bar_items.hpp"
 #include "library/common/gestures.hpp"
 #include "library/common/light_background.hpp"
 #include "library/paths/resources.hpp"
@@ -14,11 +15,6 @@ namespace wentra::files {
 namespace {
 
 using namespace ns::literals;
-
-struct ToolbarRow {
-    ns::String title;
-    SEL action;
-};
 
 ui::Label captionWith(ns::String title) {
     constexpr double size = 10;
@@ -87,23 +83,14 @@ ui::Toolbar Screen::addToolbar() const {
 
 ns::Array Screen::toolbarItems() const {
     // The actions of the two sorts are called as if they selected.
-    const std::array rows{
-        ToolbarRow{u"关闭"_ns, objc::selector<"closeButtonTapped">()},
-        ToolbarRow{u"日期"_ns, objc::selector<"selectAllLeftButtonTapped">()},
-        ToolbarRow{u"大小"_ns, objc::selector<"selectAllRightButtonTapped">()},
-        ToolbarRow{u"新建"_ns, objc::selector<"createNewFileOrFolder">()},
-        ToolbarRow{u"收藏"_ns, objc::selector<"favoriteFileButtonTapped">()},
-        ToolbarRow{u"切换"_ns, objc::selector<"switchWindowButtonTapped">()},
-    };
-    const auto items = ns::MutableArray::make();
-    for (const ToolbarRow& row : rows) {
-        if (items.count() > 0) {
-            items.add(ui::BarButtonItem::withSystemItem(ui::BarButtonSystemItem::flexibleSpace,
-                                                        nullptr, nullptr));
-        }
-        items.add(barItem(row.title, row.action));
-    }
-    return items;
+    return spread(std::array{
+        barItem(u"关闭"_ns, objc::selector<"closeButtonTapped">()),
+        barItem(u"日期"_ns, objc::selector<"selectAllLeftButtonTapped">()),
+        barItem(u"大小"_ns, objc::selector<"selectAllRightButtonTapped">()),
+        barItem(u"新建"_ns, objc::selector<"createNewFileOrFolder">()),
+        barItem(u"收藏"_ns, objc::selector<"favoriteFileButtonTapped">()),
+        barItem(u"切换"_ns, objc::selector<"switchWindowButtonTapped">()),
+    });
 }
 
 ui::BarButtonItem Screen::barItem(ns::String title, SEL action) const {

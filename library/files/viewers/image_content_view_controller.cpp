@@ -11,6 +11,7 @@
 #include "bindings/uikit/screen.hpp"
 #include "bindings/uikit/scroll_view.hpp"
 #include "bindings/uikit/toolbar.hpp"
+#include "library/common/bar_items.hpp"
 #include "library/common/light_background.hpp"
 #include "library/common/sharing.hpp"
 #include "library/files/regular_file.hpp"
@@ -63,6 +64,8 @@ public:
 private:
     void viewDidLoad();
     void addLabelAndToolbar();
+    void addLabel();
+    void addToolbar();
     void addPager();
     void addPage(ns::Url url, CGRect frame);
     [[nodiscard]] ui::BarButtonItem item(ns::String title, SEL action) const;
@@ -110,28 +113,29 @@ ui::BarButtonItem ImageContentViewControllerPeer::item(ns::String title, SEL act
 }
 
 void ImageContentViewControllerPeer::addLabelAndToolbar() {
+    setLightBackground(self().view(), ui::Color::white());
+    addLabel();
+    addToolbar();
+}
+
+void ImageContentViewControllerPeer::addLabel() {
     const ui::View view = self().view();
-    const CGSize screen = ui::Screen::mainScreen().bounds().size;
-    setLightBackground(view, ui::Color::white());
     infoLabel_ = ui::Label::withFrame({{70, 45}, {view.bounds().size.width - 70, 42}});
     infoLabel_.setNumberOfLines(0);
     infoLabel_.setTextAlignment(ui::TextAlignment::center);
     infoLabel_.setFont(ui::Font::system(13));
     view.addSubview(infoLabel_);
+}
 
-    const auto space = [] {
-        return ui::BarButtonItem::withSystemItem(ui::BarButtonSystemItem::flexibleSpace, nullptr,
-                                                 nullptr);
-    };
-    const auto items = ns::MutableArray::make();
-    items.add(item(u"浏览所有"_ns, objc::selector<"tapViewAll:">()));
-    items.add(space());
-    items.add(item(u"更改背景"_ns, objc::selector<"tapChangeBackground:">()));
-    items.add(space());
-    items.add(item(u"分享图片"_ns, objc::selector<"tapShare:">()));
+void ImageContentViewControllerPeer::addToolbar() {
+    const CGSize screen = ui::Screen::mainScreen().bounds().size;
     toolbar_ = ui::Toolbar::withFrame({{0, screen.height - 55}, {screen.width, toolbarHeight}});
-    toolbar_.setItems(items);
-    view.addSubview(toolbar_);
+    toolbar_.setItems(spread(std::array{
+        item(u"浏览所有"_ns, objc::selector<"tapViewAll:">()),
+        item(u"更改背景"_ns, objc::selector<"tapChangeBackground:">()),
+        item(u"分享图片"_ns, objc::selector<"tapShare:">()),
+    }));
+    self().view().addSubview(toolbar_);
 }
 
 CGRect ImageContentViewControllerPeer::pagerFrame() const {
