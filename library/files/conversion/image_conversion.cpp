@@ -3,7 +3,7 @@
 
 #include "bindings/uikit/image_representation.hpp"
 #include "library/common/alert.hpp"
-#include "library/common/text_encoding.hpp"
+#include "library/files/file_kind.hpp"
 #include "library/files/file_path.hpp"
 #include "library/files/regular_file.hpp"
 
@@ -12,9 +12,18 @@ namespace {
 
 using namespace ns::literals;
 
-bool isConvertible(std::string_view path) {
-    const std::string kind = kindOf(path);
-    return kind == "jpg" || kind == "jpeg" || kind == "png";
+constexpr double best = 1;
+
+ns::Data jpegOf(ui::Image image) { return ui::jpegRepresentation(image, best); }
+
+std::optional<ImageConversion::Target> targetOf(ns::String extension) {
+    if (extension.isEqual(u"png"_ns)) {
+        return ImageConversion::Target{".png", &ui::pngRepresentation};
+    }
+    if (extension.isEqual(u"jpg"_ns)) {
+        return ImageConversion::Target{".jpg", &jpegOf};
+    }
+    return std::nullopt;
 }
 
 } // namespace
@@ -24,28 +33,27 @@ void ImageConversion::tell(ns::String title, ns::String message) const {
 }
 
 void ImageConversion::convert(ns::IndexPath row, ui::TableView table, ns::String extension) {
-    constexpr double best = 1;
     const auto source = panes_.entry(table, row);
     if (!source) {
         return;
     }
-    if (!isConvertible(*source)) {
+    const auto target = targetOf(extension);
+    if (!isImage(*source)) {
         tell(u"错误"_ns, u"图片格式错误"_ns);
-        return;
-    }
-    const bool toPng = extension.isEqual(u"png"_ns);
-    if (!toPng && !extension.isEqual(u"jpg"_ns)) {
+    } else if (!target) {
         tell(u"错误"_ns, u"转换格式错误"_ns);
-        return;
+    } else {
+        write(*source, *target);
+        self().send<"reloadDataForTableView:">(table);
     }
-    const ui::Image image = imageOfFile(*source);
-    const ns::Data data =
-        toPng ? ui::pngRepresentation(image) : ui::jpegRepresentation(image, best);
-    const std::string name = std::string(baseOf(*source)) + (toPng ? ".png" : ".jpg");
-    const ns::Error error = data.writeToFile(textOf(joined(panes_.folder(table), name)),
-                                             ns::DataWritingOptions::atomic);
+}
+
+void ImageConversion::write(const std::string& source, const Target& target) const {
+    const std::string name = std::string(baseOf(source)).append(target.ending);
+    const ns::Error error =
+        target.encode(imageOfFile(source))
+            .writeToFile(textOf(joined(parentOf(source), name)), ns::DataWritingOptions::atomic);
     tell(error ? u"错误"_ns : u"成功"_ns, error ? u"图片转换失败"_ns : u"图片转换成功"_ns);
-    self().send<"reloadDataForTableView:">(table);
 }
 
 } // namespace wentra::files

@@ -1,6 +1,8 @@
 // Images in the other format.
 #pragma once
 
+#include "bindings/foundation/data.hpp"
+#include "bindings/uikit/image.hpp"
 #include "library/files/browser/panes.hpp"
 
 namespace wentra::files {
@@ -20,7 +22,14 @@ public:
     /// To "png" or "jpg".
     void convert(ns::IndexPath row, ui::TableView table, ns::String extension);
 
+    /// How images of a kind are named and made.
+    struct Target {
+        const char* ending;
+        ns::Data (*encode)(ui::Image image);
+    };
+
 private:
+    void write(const std::string& source, const Target& target) const;
     void tell(ns::String title, ns::String message) const;
 
     Panes& panes_;
