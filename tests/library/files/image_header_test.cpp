@@ -26,7 +26,8 @@ TEST(ImageHeader, OfAJpegLiesBehindOtherSegments) {
     for (const std::string& before :
          {""s, "\xFF\xE1\0\4ab"s, "\xFF\xC4\0\2\xFF\xFF\xFF"s, "\xFF\xD0\xFF\1"s, "stray"s,
           "\xFF\xE0\0\0"s, "\xFF\xE1\1\0"s + std::string(254, '\xFF')}) {
-        EXPECT_EQ(pixels("\xFF\xD8" + before + frame), 900'000'000U) << before;
+        EXPECT_EQ(pixels(std::string("\xFF\xD8").append(before).append(frame)), 900'000'000U)
+            << before;
     }
 }
 
