@@ -17,6 +17,7 @@ enum class ControlEvents : unsigned long {
     touchUpInside = 1U << 6U,
     touchUpOutside = 1U << 7U,
     touchCancel = 1U << 8U,
+    valueChanged = 1U << 12U,
     editingDidBegin = 1U << 16U,
     editingChanged = 1U << 17U,
     editingDidEnd = 1U << 18U,

@@ -69,20 +69,21 @@ Json file(Session&, const Json& request) {
 
 Json preferences(Session& session, const Json& request) {
     const auto format = formatArgument(request);
+    const auto file = PreferenceFile::ofLibrary();
     const auto entries = ns::MutableDictionary::make();
     if (argument(request, "replace") != nullptr) {
         session.values.fill(entries, objectArgument(request, "replace"));
-        preference_file::write(entries, format);
+        file.write(entries, format);
     } else if (argument(request, "set") != nullptr) {
-        if (const ns::Dictionary former = preference_file::read(); former) {
+        if (const ns::Dictionary former = file.read(); former) {
             entries.addEntries(former);
         }
         session.values.fill(entries, objectArgument(request, "set"));
-        preference_file::write(entries, format);
+        file.write(entries, format);
     } else if (flagArgument(request, "remove")) {
-        preference_file::remove();
+        file.remove();
     }
-    return session.values.toJson(preference_file::read());
+    return session.values.toJson(file.read());
 }
 
 Json defaults(Session& session, const Json& request) {

@@ -30,6 +30,8 @@
 #include "desktop/uikit/controls/progress_view.hpp"
 #include "desktop/uikit/controls/search_bar.hpp"
 #include "desktop/uikit/controls/search_controller.hpp"
+#include "desktop/uikit/controls/slider.hpp"
+#include "desktop/uikit/controls/switch.hpp"
 #include "desktop/uikit/events/event.hpp"
 #include "desktop/uikit/events/responder.hpp"
 #include "desktop/uikit/events/touch.hpp"
@@ -122,8 +124,8 @@ void registerClasses() {
                 CollectionViewLayoutAttributes, CollectionViewLayout, CollectionViewFlowLayout,
                 CollectionReusableView, CollectionViewCell, CollectionView, LayoutConstraint,
                 LayoutGuide, LayoutAnchor, XAnchor, YAnchor, Dimension, PickerColumn, PickerView,
-                ProgressView, ContextualAction, SwipeActionsConfiguration, TableViewCell, TableView,
-                TableViewController, CollectionViewController>();
+                ProgressView, Switch, Slider, ContextualAction, SwipeActionsConfiguration,
+                TableViewCell, TableView, TableViewController, CollectionViewController>();
     // Controllers, and what they are made of.
     registerAll<SymbolConfiguration, BarButtonItem, PresentationController,
                 PopoverPresentationController, AlertAction, NavigationController, AlertController,

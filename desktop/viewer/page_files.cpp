@@ -22,7 +22,7 @@ constexpr std::array files{
     PageFile{"", "index.html", "text/html; charset=utf-8"},
     PageFile{"page.css", "page.css", "text/css; charset=utf-8"},
     PageFile{"icon.svg", "icon.svg", "image/svg+xml"},
-    PageFile{"preferences.json", "preferences.json", "application/json"},
+    PageFile{"preferences.json", "../../../settings/preferences.json", "application/json"},
     PageFile{"main.js", "main.js", script},
     PageFile{"connection.js", "connection.js", script},
     PageFile{"element.js", "element.js", script},

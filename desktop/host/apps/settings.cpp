@@ -1,8 +1,12 @@
-// The settings application: grouped rows with icons, titles and values.
+// The settings application: grouped rows with icons, titles and values, and below them what leads
+// to the preference panes that packages have brought.
 #include "desktop/host/app.hpp"
+#include "desktop/host/apps/panes/preference_pane.hpp"
 #include "desktop/host/apps/screen_parts.hpp"
 
 #include "bindings/preferences/split_view_controller.hpp"
+#include "bindings/uikit/control.hpp"
+#include "bindings/uikit/image_view.hpp"
 #include "bindings/uikit/screen.hpp"
 #include "bindings/uikit/table_view_label.hpp"
 #include "desktop/class.hpp"
@@ -12,6 +16,8 @@
 
 namespace desktop::host {
 namespace {
+
+using namespace ns::literals;
 
 /// The label of a table's row.
 class UITableViewLabel : public PlatformClass<UITableViewLabel, ui::TableViewLabel> {
@@ -42,14 +48,18 @@ constexpr std::array device{Row{"通用", "", grey}, Row{"显示与亮度", "自
 constexpr double margin = 16;
 constexpr double rowHeight = 44;
 
-void addRow(ui::View card, double top, const Row& row) {
+ui::View tileOf(const std::array<double, 3>& color) {
+    const auto tile = ui::View::withFrame({});
+    tile.setBackgroundColor(ui::Color::withRed(color[0], color[1], color[2], 1));
+    tile.layer().setCornerRadius(7);
+    return tile;
+}
+
+void addRow(ui::View card, double top, const Row& row, ui::View icon) {
     constexpr double iconSize = 29;
     constexpr double textLeft = 60;
     const double width = card.bounds().size.width;
-    const auto icon =
-        ui::View::withFrame({{margin, top + (rowHeight - iconSize) / 2}, {iconSize, iconSize}});
-    icon.setBackgroundColor(ui::Color::withRed(row.color[0], row.color[1], row.color[2], 1));
-    icon.layer().setCornerRadius(7);
+    icon.setFrame({{margin, top + (rowHeight - iconSize) / 2}, {iconSize, iconSize}});
     card.addSubview(icon);
 
     card.addSubview(dressed(
@@ -79,7 +89,7 @@ double addGroup(ui::View page, double top, std::span<const Row> rows) {
     page.addSubview(card);
     double rowTop = 0;
     for (const Row& row : rows) {
-        addRow(card, rowTop, row);
+        addRow(card, rowTop, row, tileOf(row.color));
         rowTop += rowHeight;
     }
     constexpr double gap = 35;
@@ -92,6 +102,7 @@ public:
     static constexpr auto methods() {
         return std::array{
             objc::method<"viewDidLoad", &PSSplitViewController::viewDidLoad>(),
+            objc::method<"openPane:", &PSSplitViewController::openPane>(),
         };
     }
 
@@ -107,7 +118,36 @@ private:
               std::span<const Row>(device)}) {
             top = addGroup(page, top, group);
         }
+        addPanes(page, top);
     }
+
+    /// What packages have brought, in a group of its own.
+    void addPanes(ui::View page, double top) {
+        panes_ = paneEntries();
+        const double width = page.bounds().size.width - 2 * margin;
+        const auto count = static_cast<double>(panes_.size());
+        const auto card = cardWithFrame({{margin, top}, {width, count * rowHeight}});
+        page.addSubview(card);
+        for (std::size_t index = 0; index < panes_.size(); ++index) {
+            const auto& [row, file] = panes_[index];
+            const double rowTop = static_cast<double>(index) * rowHeight;
+            const std::string title = row.text(u"label"_ns).utf8();
+            addRow(card, rowTop, {title.c_str(), "", {}},
+                   ui::ImageView::withImage(rowPicture(row, file.parent_path())));
+            const auto touch =
+                ui::Control::make<"initWithFrame:">(CGRect{{0, rowTop}, {width, rowHeight}});
+            touch.setTag(static_cast<long>(index));
+            touch.addTarget(self(), objc::selector<"openPane:">(),
+                            ui::ControlEvents::touchUpInside);
+            card.addSubview(touch);
+        }
+    }
+
+    void openPane(ui::Control touched) {
+        presentPane(panes_.at(static_cast<std::size_t>(touched.tag())).file, self());
+    }
+
+    std::vector<PaneEntry> panes_;
 };
 
 } // namespace
@@ -116,6 +156,7 @@ const App settingsApp{"settings", "com.apple.Preferences",
                       [] {
                           UITableViewLabel::registerClass();
                           PSSplitViewController::registerClass();
+                          registerPreferencePane();
                       },
                       nullptr, [] { showInWindow(ps::SplitViewController::make()); }};
 

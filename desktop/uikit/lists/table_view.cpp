@@ -165,22 +165,11 @@ void TableView::deleteRows(ns::Array paths, long) {
     rowsChanged();
 }
 
-double TableView::headerHeight(long section) const {
-    const objc::Object asked = delegate();
-    if (answers<"tableView:heightForHeaderInSection:">(asked)) {
-        return std::max(0.0,
-                        asked.send<"tableView:heightForHeaderInSection:", double>(self(), section));
-    }
-    const bool hasTitle =
-        answers<"tableView:titleForHeaderInSection:">(dataSource_) &&
-        dataSource().send<"tableView:titleForHeaderInSection:", ns::String>(self(), section);
-    return hasTitle ? sectionHeaderHeight_ : 0;
-}
-
 FlowSection TableView::section(long index) {
     const double width = self().bounds().size.width;
     FlowSection section;
     section.inset.top = headerHeight(index);
+    section.inset.bottom = footerHeight(index);
     const long count = numberOfRows(index);
     for (long row = 0; row < count; ++row) {
         section.items.push_back({width, heightOf({index, row})});
@@ -200,10 +189,13 @@ void TableView::prepare() {
     }
     const objc::Pool pool;
     placement_ = FlowPlacement(width);
-    sectionTops_.clear();
+    sections_.clear();
     for (long index = 0; index < numberOfSections(); ++index) {
-        sectionTops_.push_back(heightBefore() + placement_.height());
-        placement_.add(section(index));
+        const double top = heightBefore() + placement_.height();
+        const FlowSection added = section(index);
+        placement_.add(added);
+        sections_.push_back(
+            {top, added.inset.top, heightBefore() + placement_.height(), added.inset.bottom});
     }
     self().setContentSize(
         {width, heightBefore() + placement_.height() + footer_.bounds().size.height});
@@ -252,52 +244,7 @@ void TableView::layoutSubviews() {
     footer_.setFrame(
         {{0, heightBefore() + placement_.height()}, {width, footer_.bounds().size.height}});
     showVisibleCells();
-    showHeaders();
-}
-
-/// A view of the delegate's, or the title on the platform's grey.
-ui::View TableView::makeHeader(long section) const {
-    if (const objc::Object asked = delegate();
-        answers<"tableView:viewForHeaderInSection:">(asked)) {
-        return asked.send<"tableView:viewForHeaderInSection:", ui::View>(self(), section);
-    }
-    if (!answers<"tableView:titleForHeaderInSection:">(dataSource_)) {
-        return nullptr;
-    }
-    const auto view = ui::View::withFrame({});
-    const auto label = ui::Label::withFrame({{16, 0}, {200, 0}});
-    const bool isPlain = style_ == 0;
-    constexpr double plainSize = 17;
-    constexpr double groupedSize = 13;
-    label.setText(
-        dataSource().send<"tableView:titleForHeaderInSection:", ns::String>(self(), section));
-    label.setFont(isPlain ? ui::Font::system(plainSize, ui::Font::semibold)
-                          : ui::Font::system(groupedSize));
-    label.setTextColor(isPlain ? ui::Color::label() : ui::Color::secondaryLabel());
-    label.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth |
-                              ui::ViewAutoresizing::flexibleHeight);
-    view.setBackgroundColor(isPlain ? ui::Color::named("secondarySystemBackgroundColor")
-                                    : ui::Color::clear());
-    view.setFrame({{}, {232, 0}});
-    view.addSubview(label);
-    return view;
-}
-
-void TableView::showHeaders() {
-    for (long index = 0; index < static_cast<long>(sectionTops_.size()); ++index) {
-        const CGRect frame{{0, sectionTops_[static_cast<std::size_t>(index)]},
-                           {self().bounds().size.width, headerHeight(index)}};
-        if (frame.size.height <= 0 || !intersects(frame, self().bounds())) {
-            headers_[index].removeFromSuperview();
-            headers_.erase(index);
-            continue;
-        }
-        if (!headers_.contains(index)) {
-            headers_[index] = makeHeader(index);
-            self().addSubview(headers_[index]);
-        }
-        headers_[index].setFrame(frame);
-    }
+    showMargins();
 }
 
 void TableView::putAway(ItemIndex index) {
@@ -311,7 +258,7 @@ void TableView::putAllAway() {
     for (const auto& [index, cell] : shown) {
         putAway(index);
     }
-    for (const auto& [index, view] : std::exchange(headers_, {})) {
+    for (const auto& [place, view] : std::exchange(margins_, {})) {
         view.removeFromSuperview();
     }
 }

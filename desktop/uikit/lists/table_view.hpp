@@ -43,6 +43,15 @@ public:
     void choose(std::size_t action);
 
 private:
+    enum class Margin { header, footer };
+    /// From the table's top.
+    struct SectionHeights {
+        double top;
+        double header;
+        double end;
+        double footer;
+    };
+
     ui::View initWithStyle(CGRect frame, long style);
     ui::View initWithFrame(CGRect frame);
     [[nodiscard]] objc::Object dataSource() const { return dataSource_; }
@@ -66,7 +75,6 @@ private:
     void endUpdates() { rowsChanged(); }
     void prepare();
     [[nodiscard]] FlowSection section(long index);
-    [[nodiscard]] double headerHeight(long section) const;
     [[nodiscard]] double heightBefore() const { return header_.bounds().size.height; }
     [[nodiscard]] CGRect frameOf(ItemIndex index) const;
 
@@ -76,8 +84,6 @@ private:
     [[nodiscard]] ui::TableViewCell dequeueFor(ns::String identifier, ns::IndexPath path);
     void layoutSubviews();
     void showVisibleCells();
-    void showHeaders();
-    [[nodiscard]] ui::View makeHeader(long section) const;
     [[nodiscard]] ui::TableViewCell cellAt(ns::IndexPath path) const;
     [[nodiscard]] ns::IndexPath pathForCell(ui::TableViewCell cell) const;
     [[nodiscard]] ns::IndexPath pathAt(CGPoint point);
@@ -95,6 +101,15 @@ private:
     void putAway(ItemIndex index);
     void putAllAway();
     void lookChanged() { rowsChanged(); }
+
+    // What stands above and below the rows of a section, in table_view_margins.cpp.
+    [[nodiscard]] double headerHeight(long section) const;
+    [[nodiscard]] double footerHeight(long section) const;
+    [[nodiscard]] ns::String footerTitle(long section) const;
+    void showMargins();
+    void showMargin(std::pair<long, Margin> place, CGRect frame);
+    [[nodiscard]] ui::View makeHeader(long section) const;
+    [[nodiscard]] ui::View makeFooter(long section) const;
 
     // Selection and touches, in table_view_selection.cpp.
     [[nodiscard]] ns::IndexPath selectedPath() const;
@@ -154,13 +169,13 @@ private:
     objc::Strong<ui::View> header_;
     objc::Strong<ui::View> footer_;
     std::optional<std::vector<long>> counts_; // of the sections' rows, until the next change
-    std::vector<double> sectionTops_;
+    std::vector<SectionHeights> sections_;
     FlowPlacement placement_; // a row fills a line
     bool isPrepared_ = false;
     double latestWidth_ = 0;
     RowHeights heights_; // of rows of automatic height that have been seen
     CellStore<ui::TableViewCell> cells_;
-    std::map<long, objc::Strong<ui::View>> headers_;
+    std::map<std::pair<long, Margin>, objc::Strong<ui::View>> margins_;
     ItemSelection selection_;
     ItemSelection pressed_; // one at most
     objc::Strong<ui::PanGestureRecognizer> swipePan_;

@@ -6,23 +6,33 @@
 #include "desktop/uikit/values/color.hpp"
 #include "desktop/uikit/values/symbol_configuration.hpp"
 
+#include <cmath>
+#include <filesystem>
+
 namespace desktop {
 namespace {
 
 /// Pixels a point, as the platform reads them off a file's name: "star@3x.png" has 3.
-double scaleOf(const std::string& path) {
-    for (const auto& [mark, scale] : {std::pair("@2x.", 2.0), std::pair("@3x.", 3.0)}) {
-        if (path.find(mark) != std::string::npos) {
-            return scale;
-        }
-    }
-    return 1;
+double scaleOf(const std::filesystem::path& file) {
+    const std::string name = file.stem();
+    return name.ends_with("@3x") ? 3 : name.ends_with("@2x") ? 2 : 1;
+}
+
+/// What the platform loads for the picture: the form for the screen's scale, which lies beside the
+/// plain one, where there is such.
+std::filesystem::path formForScreen(const std::filesystem::path& file) {
+    const long scale = std::lround(ScreenGeometry::current().scale);
+    const std::string mark = "@" + std::to_string(scale) + "x";
+    const auto form =
+        file.parent_path() / (file.stem().string() + mark + file.extension().string());
+    std::error_code unreadable;
+    return exists(form, unreadable) ? form : file;
 }
 
 } // namespace
 
 ui::Image UIImage::withContentsOfFile(Class, ns::String path) {
-    const std::string file = path.utf8();
+    const std::filesystem::path file = formForScreen(path.utf8());
     auto picture = Image::load(file, scaleOf(file));
     return picture ? from(std::move(*picture)) : nullptr;
 }

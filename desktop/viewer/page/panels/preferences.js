@@ -10,12 +10,14 @@ import { language, word } from "../words.js";
  * @property {"switch" | "number" | "text"} type
  * @property {string} zh
  * @property {string} en
- * @property {string} [placeholder] what holds when there is no value
+ * @property {string | number} [default] what holds when there is no value
  */
 /** @typedef {{zh: string, en: string, preferences: Preference[]}} Group */
 
 /** @type {Promise<Group[]>} */
-const description = fetch("preferences.json").then((response) => response.json());
+const description = fetch("preferences.json")
+    .then((response) => response.json())
+    .then((panes) => panes.flatMap((/** @type {{groups: Group[]}} */ { groups }) => groups));
 
 /** @param {Connection} connection */
 export function preferencesPanel(connection) {
@@ -40,7 +42,7 @@ export function preferencesPanel(connection) {
         values = (await connection.ask("preferences", { set: { [key]: value } })) ?? {};
     };
 
-    const control = (/** @type {Preference} */ { key, type, placeholder }, /** @type {string} */ id) => {
+    const control = (/** @type {Preference} */ { key, type, default: placeholder }, /** @type {string} */ id) => {
         if (type === "switch") {
             return element("input", {
                 id,
