@@ -8,6 +8,7 @@
 #include "bindings/uikit/control.hpp"
 #include "bindings/uikit/image_view.hpp"
 #include "bindings/uikit/screen.hpp"
+#include "bindings/uikit/scroll_view.hpp"
 #include "bindings/uikit/table_view_label.hpp"
 #include "desktop/class.hpp"
 
@@ -109,20 +110,27 @@ public:
 private:
     void viewDidLoad() {
         super<"viewDidLoad">();
-        const ui::View page = self().view();
-        page.setFrame(ui::Screen::mainScreen().bounds());
-        page.setBackgroundColor(pageColor());
-        double top = addNavigationBar(page, "设置") + margin / 2;
+        const ui::View view = self().view();
+        view.setFrame(ui::Screen::mainScreen().bounds());
+        view.setBackgroundColor(pageColor());
+        const double barEnd = addNavigationBar(view, "设置");
+        const CGSize size = view.bounds().size;
+        const auto page =
+            ui::ScrollView::withFrame({{0, barEnd}, {size.width, size.height - barEnd}});
+        page.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth |
+                                 ui::ViewAutoresizing::flexibleHeight);
+        view.addSubview(page);
+        double top = margin / 2;
         for (const std::span<const Row> group :
              {std::span<const Row>(network), std::span<const Row>(attention),
               std::span<const Row>(device)}) {
             top = addGroup(page, top, group);
         }
-        addPanes(page, top);
+        page.setContentSize({size.width, addPanes(page, top)});
     }
 
-    /// What packages have brought, in a group of its own.
-    void addPanes(ui::View page, double top) {
+    /// What packages have brought, in a group of its own; the result is where it ends.
+    double addPanes(ui::View page, double top) {
         panes_ = paneEntries();
         const double width = page.bounds().size.width - 2 * margin;
         const auto count = static_cast<double>(panes_.size());
@@ -141,6 +149,7 @@ private:
                             ui::ControlEvents::touchUpInside);
             card.addSubview(touch);
         }
+        return top + card.bounds().size.height + margin;
     }
 
     void openPane(ui::Control touched) {

@@ -148,6 +148,7 @@ ui::TableViewCell PreferencePane::cellForRow(ui::TableView, ns::IndexPath path) 
     const auto cell = ui::TableViewCell::withStyle(ui::TableViewCellStyle::default_, ns::String());
     cell.send<"setSelectionStyle:">(0L);
     if (shown.isCell(u"PSSliderCell"_ns)) {
+        cell.layoutIfNeeded();
         const CGSize size = cell.contentView().bounds().size;
         cell.contentView().addSubview(sliderFor(shown, {{16, 0}, {size.width - 32, size.height}}));
         return cell;
