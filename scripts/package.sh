@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds and checks the library and its packages for the phone: ./dev package [--reproduce] (also by a second build).
+# Builds and checks the library, and its packages and those of its settings, for the phone: ./dev package [--reproduce] (also by a second build).
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -11,20 +11,30 @@ case "${1:-}" in
     ;;
 esac
 
-# package FOLDER ARCHITECTURE FIRMWARE PREFIX: makes the package whose files begin with the prefix.
+umask 022
+
+# pack NAME CONTROL: makes the package of what lies in $content, with the control file's template.
+pack() {
+    mkdir -p "$content/DEBIAN"
+    sed "s/@version@/$version/; s/@architecture@/$architecture/; s/@firmware@/$firmware/" \
+        "$2" >"$content/DEBIAN/control"
+    dpkg-deb -Zxz --root-owner-group --build "$content" \
+        "$packages/$1_${version}_$architecture.deb" >/dev/null
+}
+
+# package FOLDER LAYOUT ARCHITECTURE FIRMWARE PREFIX: makes the layout's packages of the library and of
+# the settings; the paths of their files begin with the prefix.
 package() {
-    local version content="$1/packages/content-$2"
+    local version packages="$1/packages" architecture="$3" firmware="$4" content
     version="$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$1/CMakeCache.txt")"
-    local libraries="$content$4/Library/MobileSubstrate/DynamicLibraries"
-    rm -rf "$content"
-    (
-        umask 022
-        mkdir -p "$content/DEBIAN" "$libraries"
-        sed "s/@version@/$version/; s/@architecture@/$2/; s/@firmware@/$3/" \
-            device/package/control.in >"$content/DEBIAN/control"
-    )
+    content="$packages/library-$2"
+    local libraries="$content$5/Library/MobileSubstrate/DynamicLibraries"
+    mkdir -p "$libraries"
     install -m 0644 "$1/lib/Wentra.dylib" device/package/Wentra.plist "$libraries"
-    dpkg-deb -Zxz --root-owner-group --build "$content" "$1/packages/wentra_${version}_$2.deb" >/dev/null
+    pack wentra device/package/control.in
+    content="$packages/settings-$2"
+    settings/bundle.py "$2" "$version" "$content$5"
+    pack wentra-settings settings/control.in
 }
 
 # build FOLDER: makes the library and both packages in it.
@@ -32,8 +42,8 @@ build() {
     cmake --preset device -B "$1"
     cmake --build "$1" --parallel "$(nproc)"
     rm -rf "$1/packages"
-    package "$1" iphoneos-arm64 15.0 /var/jb
-    package "$1" iphoneos-arm 14.5 ''
+    package "$1" rootless iphoneos-arm64 15.0 /var/jb
+    package "$1" rootful iphoneos-arm 14.5 ''
 }
 
 scripts/install.sh build package

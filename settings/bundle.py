@@ -9,7 +9,7 @@ import subprocess
 import sys
 from pathlib import Path
 
-from table import preferences_of, read_table
+from table import read_table
 
 HERE = Path(__file__).parent
 BUNDLE = "Library/PreferenceBundles/hovtanprefs.bundle"

@@ -35,3 +35,16 @@ class DebianPackage:
     def infos(self):
         """What is told of all files, those that control the installation included."""
         return [info for info, _ in [*self.files.values(), *self.control_files.values()]]
+
+    def prefix(self):
+        """What the paths of its layout begin with."""
+        return "./var/jb/" if self.fields["Architecture"] == "iphoneos-arm64" else "./"
+
+    def depends(self):
+        return self.fields["Depends"].split(", ")
+
+    def file_names(self):
+        return {name for name, (info, _) in self.files.items() if not info.isdir()}
+
+    def folder_names(self):
+        return {name for name, (info, _) in self.files.items() if info.isdir()}

@@ -2,44 +2,27 @@
 """Checks packages against the conventions of package managers and loaders on jailbroken phones.
 
 Usage: package.py PACKAGE…"""
-import plistlib
 import re
 import sys
 from pathlib import Path
 
+import library_package
+import settings_package
 from debian_package import DebianPackage
 
-FOLDER = "Library/MobileSubstrate/DynamicLibraries"
-# By architecture: what every path begins with, and the firmware that the layout begins with.
-LAYOUTS = {"iphoneos-arm64": ("./var/jb/", "15.0"), "iphoneos-arm": ("./", "14.5")}
+# By architecture: the firmware that its layout begins with.
+FIRMWARES = {"iphoneos-arm64": "15.0", "iphoneos-arm": "14.5"}
+KINDS = {"dev.wentra.wentra": library_package.RULES, "dev.wentra.settings": settings_package.RULES}
 REQUIRED = ["Package", "Name", "Version", "Architecture", "Maintainer", "Author", "Section",
             "Depends", "Description"]
 
 
-def prefix(package):
-    return LAYOUTS[package.fields["Architecture"]][0]
-
-
-def expected_files(package):
-    return {f"{prefix(package)}{FOLDER}/Wentra.{kind}" for kind in ("dylib", "plist")}
-
-
-def files(package):
-    return {name for name, (info, _) in package.files.items() if not info.isdir()}
-
-
-def folders_hold(package):
-    """Every folder leads to the files: no other is made on the phone."""
-    paths = expected_files(package)
-    return all(any(path.startswith(name + "/") for path in paths)
-               for name, (info, _) in package.files.items() if info.isdir())
-
-
-def filter_holds(package):
-    path = f"{prefix(package)}{FOLDER}/Wentra.plist"
-    rules = plistlib.loads(package.files[path][1]).get("Filter") if path in package.files else {}
-    return rules and list(rules) == ["Bundles"] and rules["Bundles"] and all(
-        isinstance(bundle, str) and bundle for bundle in rules["Bundles"])
+def layout_holds(package):
+    """Nothing lies in the other layout's place, and every folder leads to a file: none is made besides."""
+    prefix = package.prefix()
+    inside = all(name.startswith(f"{prefix}Library/") for name in package.file_names())
+    return inside and all(any(name.startswith(folder + "/") for name in package.file_names())
+                          for folder in package.folder_names())
 
 
 def modes_hold(package):
@@ -47,46 +30,45 @@ def modes_hold(package):
                info.mode == (0o755 if info.isdir() else 0o644) for info in package.infos())
 
 
-def depends(package):
-    return package.fields["Depends"].split(", ")
+def needs_firmware(package):
+    firmware = FIRMWARES[package.fields["Architecture"]]
+    return f"firmware (>= {firmware})" in package.depends()
 
 
-# What has to hold, and the test for it.
+# What has to hold for every package, and the test for it.
 RULES = [
     ("it tells all the fields that managers show", lambda p: not set(REQUIRED) - p.fields.keys()),
     ("its identifier is a reverse domain name, and always the same",
-     lambda p: p.fields["Package"] == "dev.wentra.wentra"),
+     lambda p: p.fields["Package"] in KINDS),
     ("it stands under Tweaks", lambda p: p.fields["Section"] == "Tweaks"),
     ("its version sorts upwards",
      lambda p: re.fullmatch(r"\d+(\.\d+)*(~\w+(\.\w+)*)?", p.fields["Version"])),
-    ("it holds the library and its filter, in the folder where loaders look",
-     lambda p: files(p) == expected_files(p)),
-    ("it makes no folder of another layout", folders_hold),
-    ("its filter tells bundles, and nothing else", filter_holds),
+    ("it makes no folder of another layout", layout_holds),
     ("its files belong to root, are not executable, and none is set-id", modes_hold),
     ("its compression is read by old tools", lambda p: "data.tar.xz" in p.members),
-    ("it needs the firmware of its layout",
-     lambda p: f"firmware (>= {LAYOUTS[p.fields['Architecture']][1]})" in depends(p)),
-    ("it needs any injection framework, not a particular one",
-     lambda p: "mobilesubstrate" in depends(p) and not re.search("ellekit|substitute",
-                                                                  p.fields["Depends"])),
-    ("it has no settings pane, so it needs no loader of such",
-     lambda p: "preferenceloader" not in depends(p) and not any("Preference" in f for f in files(p))),
+    ("it needs the firmware of its layout", needs_firmware),
+    ("it needs no particular injection framework",
+     lambda p: not re.search("ellekit|substitute", p.fields["Depends"])),
     ("it runs no scripts", lambda p: set(p.control_files) - {"."} == {"./control"}),
     ("it holds no data of the user", lambda p: not any("var/mobile" in f for f in p.files)),
 ]
 
 
+def rules_of(package):
+    return RULES + KINDS.get(package.fields["Package"], [])
+
+
 def main():
-    problems = []
     packages = [(path, DebianPackage(Path(path))) for path in sys.argv[1:]]
-    for path, package in packages:
-        problems += [f"{path}: does not hold: {what}" for what, holds in RULES if not holds(package)]
-    if {p.fields["Architecture"] for _, p in packages} != LAYOUTS.keys():
-        problems.append("there is not one package for each layout")
+    problems = [f"{path}: does not hold: {what}" for path, package in packages
+                for what, holds in rules_of(package) if not holds(package)]
+    found = {(p.fields["Package"], p.fields["Architecture"]) for _, p in packages}
+    problems += [f"there is no {kind} for {architecture}" for kind in KINDS
+                 for architecture in FIRMWARES if (kind, architecture) not in found]
     for problem in problems:
         print(problem, file=sys.stderr)
-    print(f"package: {len(packages)} packages, {len(RULES)} rules, {len(problems)} problems")
+    rules = sum(len(rules_of(package)) for _, package in packages)
+    print(f"package: {len(packages)} packages, {rules} rules, {len(problems)} problems")
     return 1 if problems else 0
 
 
