@@ -12,12 +12,16 @@ PICTURES = TOP / "build/tour"
 
 
 class Phone:
-    """The notes application in the desktop host, driven by one JSON line for each request."""
+    """An application in the desktop host, driven by one JSON line for each request."""
 
-    def __init__(self, root):
-        self.log = (PICTURES / "host.log").open("a", encoding="utf-8")
-        arguments = [HOST, "--automation", "--app", "notes", "--root", root,
-                     "--settings-bundle", "--content", MATERIAL / "notes.json"]
+    pictures = PICTURES  # the folder where they go
+
+    def __init__(self, root, app="notes", host=HOST, options=()):
+        self.log = (self.pictures / "host.log").open("a", encoding="utf-8")
+        arguments = [host, "--automation", "--app", app, "--root", root, "--settings-bundle",
+                     *options]
+        if app == "notes":
+            arguments += ["--content", MATERIAL / "notes.json"]
         self.process = subprocess.Popen(arguments, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
                                         stderr=self.log, text=True)
 
@@ -34,7 +38,7 @@ class Phone:
         self.process.stdin.write(json.dumps({"do": do, **arguments}) + "\n")
         self.process.stdin.flush()
         response = json.loads(self.process.stdout.readline()
-                              or '{"ok":false,"error":"it ended, see build/tour/host.log"}')
+                              or '{"ok":false,"error":"it ended, see host.log"}')
         if not response["ok"]:
             sys.exit(f"tour: the host refused '{do}': {response['error']}")
         return response.get("result")
@@ -63,9 +67,9 @@ class Phone:
         self.ask("advance", seconds=seconds)
 
     def picture(self, name):
-        file = PICTURES / name
+        file = self.pictures / name
         self.ask("screenshot", file=str(file))
-        print(f"   picture: {file.relative_to(TOP)}")
+        print(f"   picture: {file.relative_to(TOP) if file.is_relative_to(TOP) else file}")
 
 
 def expect(what, found, wanted):

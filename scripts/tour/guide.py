@@ -1,0 +1,176 @@
+"""The pictures of the user's guide: what it tells, played by touch on the desktop phone.
+
+Usage: guide.py HOST FOLDER: the host's program, and where the pictures go."""
+
+import pathlib
+import sys
+import tempfile
+from contextlib import contextmanager
+
+import phone as stage
+
+ANIMATION = 1  # seconds, enough for whatever moves
+LOOK = ("--size", "390x844@2", "--date", "2026-01-15T09:41:00", "--device-files")
+SENTENCE = "good morning"
+SEARCHES = ["AppStore", "百度", "知乎", "淘宝", "哔哩哔哩", "iOS地图", "下载", "预览"]
+BALL = [358, 222]
+BESIDE_THE_PANEL = [195, 20]
+
+
+class Phone(stage.Phone):
+    """Waits for what moves, and finds things as the guide names them."""
+
+    def tap(self, place):
+        super().tap(place)
+        self.advance(ANIMATION)
+
+    def hold(self, place, seconds=0.6):
+        self.ask("press", on=place, seconds=seconds)
+        self.advance(ANIMATION)
+
+    def switch(self, title):
+        """Turns the switch in the row of that title."""
+        _, top, _, height = self.label(title)["rect"]
+        middle = top + height / 2
+        beside = [node for node in self.ask("find", where={"class": "UISwitch", "visible": True})
+                  if node["rect"][1] < middle < node["rect"][1] + node["rect"][3]]
+        self.tap(beside[0])
+
+
+class Guide:
+    """One phone, whose applications are opened one after the other."""
+
+    def __init__(self, host, root):
+        self.host = host
+        self.root = root
+
+    @contextmanager
+    def open(self, app):
+        with Phone(self.root, app, self.host, LOOK) as phone:
+            phone.advance(ANIMATION)
+            yield phone
+
+
+def switch_on(guide):
+    with guide.open("settings") as phone:
+        phone.picture("settings.png")
+        phone.tap(phone.label("Wentra"))
+        for title in ("显示悬浮球", "长按复制文字", "长按导航栏编辑规则"):
+            phone.switch(title)
+        phone.picture("pane.png")
+        phone.tap(phone.label("文字替换与复制"))
+        for title in ("文字颜色", "文字大小"):
+            phone.switch(title)
+        phone.picture("labels.png")
+
+
+def replace_a_text(guide):
+    with guide.open("notes") as phone:
+        phone.hold(phone.ask("find", where={"class": "UINavigationBar"})[0])
+        editor = phone.ask("find", where={"class": "UITextView", "visible": True})[0]
+        phone.hold(editor)
+        phone.ask("type", text="Shopping list===购物清单\nShopping list#=ff3b30\n")
+        phone.ask("key", name="hide")
+        phone.advance(ANIMATION)
+        phone.picture("editor.png")
+        phone.tap(phone.button("确定"))
+    with guide.open("notes") as phone:
+        phone.picture("replaced.png")
+
+
+def open_the_toolbox(phone):
+    phone.hold(phone.label(SENTENCE), 0.5)
+    phone.tap(BALL)
+
+
+def use_the_toolbox(guide):
+    with guide.open("notes") as phone:
+        phone.ask("preferences", set={"中英对比样式": True, "百度id": "desktop",
+                                      "百度key": "desktop-key"})
+        open_the_toolbox(phone)
+        phone.tap(phone.ask("find", where={"class": "UICollectionViewCell"})[0])
+        phone.picture("toolbox.png")
+        phone.tap(phone.button("文字翻译"))
+        phone.ask("wait", **{"for": {"class": "MovableAlertViewzerk"}, "seconds": 30})
+        phone.picture("translation.png")
+
+
+def look_it_up(guide):
+    with guide.open("notes") as phone:
+        phone.ask("preferences", set=dict.fromkeys(SEARCHES, True))
+        open_the_toolbox(phone)
+        phone.hold(phone.button("链接跳转"))
+        phone.picture("search.png")
+
+
+def keep_what_was_copied(guide):
+    with guide.open("notes") as phone:
+        for text in ("Seat: 12A, window", "https://www.example.com/travel", "13800138000", SENTENCE):
+            phone.ask("pasteboard", set=text)
+            open_the_toolbox(phone)
+            phone.hold(phone.button("全选文字"))
+            phone.ask("pasteboard", set=text)
+            phone.advance(60)
+            if text != SENTENCE:
+                phone.tap(phone.button("关闭"))
+                phone.tap(BESIDE_THE_PANEL)
+        phone.picture("history.png")
+
+
+def flip_quickly(guide):
+    with guide.open("notes") as phone:
+        open_the_toolbox(phone)
+        phone.hold(phone.button("写入粘板"))
+        phone.picture("switches.png")
+
+
+def use_a_tool(guide):
+    with guide.open("notes") as phone:
+        open_the_toolbox(phone)
+        phone.hold(phone.button("U码转换"))
+        phone.picture("utilities.png")
+
+
+def edit_a_text(guide):
+    with guide.open("plain") as phone:
+        phone.ask("preferences", set=dict.fromkeys(("注释代码", "翻译文本", "字转拼音", "跳转结尾"), True))
+    with guide.open("plain") as phone:
+        view = phone.ask("make", **{"class": "UITextView", "selector": "initWithFrame:",
+                                    "args": [{"rect": [16, 120, 358, 240]}]})
+        phone.send(phone.ask("tree")[0], "addSubview:", view)
+        phone.send(view, "setText:", "早上好，我们坐早班车去海边。")
+        phone.send(view, "becomeFirstResponder")
+        phone.ask("tap", on=view, taps=2)
+        phone.advance(ANIMATION)
+        phone.picture("menu.png")
+
+
+def block_requests(guide):
+    with guide.open("browser") as phone:
+        phone.ask("preferences", set={"开启广告屏蔽": True, "Host过滤屏蔽": "example.com,"})
+        phone.tap(phone.button("重新加载"))
+        phone.picture("blocking.png")
+
+
+def manage_files(guide):
+    with guide.open("files") as phone:
+        phone.picture("files.png")
+
+
+CHAPTERS = [switch_on, replace_a_text, use_the_toolbox, look_it_up, keep_what_was_copied,
+            flip_quickly, use_a_tool, edit_a_text, block_requests, manage_files]
+
+
+def main(host, folder):
+    Phone.pictures = pathlib.Path(folder)
+    Phone.pictures.mkdir(parents=True, exist_ok=True)
+    with tempfile.TemporaryDirectory(prefix="wentra-guide-") as root:
+        guide = Guide(host, root)
+        for chapter in CHAPTERS:
+            chapter(guide)
+
+
+if __name__ == "__main__":
+    if len(sys.argv) != 3:
+        sys.exit(__doc__)
+    main(*sys.argv[1:])
