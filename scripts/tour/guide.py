@@ -10,11 +10,10 @@ from contextlib import contextmanager
 import phone as stage
 
 ANIMATION = 1  # seconds, enough for whatever moves
-LOOK = ("--size", "390x844@2", "--date", "2026-01-15T09:41:00", "--device-files")
+LOOK = ("--size", "390x844@2", "--date", "2026-01-15T09:41:00")
 SENTENCE = "good morning"
 SEARCHES = ["AppStore", "百度", "知乎", "淘宝", "哔哩哔哩", "iOS地图", "下载", "预览"]
 BALL = [358, 222]
-BESIDE_THE_PANEL = [195, 20]
 
 
 class Phone(stage.Phone):
@@ -96,8 +95,9 @@ def use_the_toolbox(guide):
 
 
 def look_it_up(guide):
-    with guide.open("notes") as phone:
+    with guide.open("plain") as phone:
         phone.ask("preferences", set=dict.fromkeys(SEARCHES, True))
+    with guide.open("notes") as phone:
         open_the_toolbox(phone)
         phone.hold(phone.button("链接跳转"))
         phone.picture("search.png")
@@ -105,15 +105,13 @@ def look_it_up(guide):
 
 def keep_what_was_copied(guide):
     with guide.open("notes") as phone:
-        for text in ("Seat: 12A, window", "https://www.example.com/travel", "13800138000", SENTENCE):
-            phone.ask("pasteboard", set=text)
-            open_the_toolbox(phone)
-            phone.hold(phone.button("全选文字"))
-            phone.ask("pasteboard", set=text)
+        open_the_toolbox(phone)
+        phone.hold(phone.button("全选文字"))
+        for text in ("Seat: 12A, window", "https://www.example.com/travel", "13800138000"):
             phone.advance(60)
-            if text != SENTENCE:
-                phone.tap(phone.button("关闭"))
-                phone.tap(BESIDE_THE_PANEL)
+            phone.ask("pasteboard", set=text)
+        phone.tap(phone.button("关闭"))
+        phone.hold(phone.button("全选文字"))
         phone.picture("history.png")
 
 
@@ -133,7 +131,8 @@ def use_a_tool(guide):
 
 def edit_a_text(guide):
     with guide.open("plain") as phone:
-        phone.ask("preferences", set=dict.fromkeys(("注释代码", "翻译文本", "字转拼音", "跳转结尾"), True))
+        phone.ask("preferences", set={"注释代码": True, "翻译文本": True, "字转拼音": True,
+                                      "跳转结尾": True, "kqwzfc": False})
     with guide.open("plain") as phone:
         view = phone.ask("make", **{"class": "UITextView", "selector": "initWithFrame:",
                                     "args": [{"rect": [16, 120, 358, 240]}]})
@@ -157,8 +156,8 @@ def manage_files(guide):
         phone.picture("files.png")
 
 
-CHAPTERS = [switch_on, replace_a_text, use_the_toolbox, look_it_up, keep_what_was_copied,
-            flip_quickly, use_a_tool, edit_a_text, block_requests, manage_files]
+CHAPTERS = [manage_files, switch_on, replace_a_text, use_the_toolbox, look_it_up,
+            keep_what_was_copied, flip_quickly, use_a_tool, edit_a_text, block_requests]
 
 
 def main(host, folder):
