@@ -2,6 +2,7 @@
 
 Usage: guide.py HOST FOLDER: the host's program, and where the pictures go."""
 
+import os
 import pathlib
 import sys
 import tempfile
@@ -44,8 +45,8 @@ class Guide:
         self.root = root
 
     @contextmanager
-    def open(self, app):
-        with Phone(self.root, app, self.host, LOOK) as phone:
+    def open(self, app, *options):
+        with Phone(self.root, app, self.host, (*LOOK, *options)) as phone:
             phone.advance(ANIMATION)
             yield phone
 
@@ -129,6 +130,13 @@ def use_a_tool(guide):
         phone.picture("utilities.png")
 
 
+def look_at_crashes(guide):
+    with guide.open("notes", "--device-files") as phone:
+        open_the_toolbox(phone)
+        phone.hold(phone.button("日志检索"))
+        phone.picture("crashes.png")
+
+
 def edit_a_text(guide):
     with guide.open("plain") as phone:
         phone.ask("preferences", set={"注释代码": True, "翻译文本": True, "字转拼音": True,
@@ -157,10 +165,11 @@ def manage_files(guide):
 
 
 CHAPTERS = [manage_files, switch_on, replace_a_text, use_the_toolbox, look_it_up,
-            keep_what_was_copied, flip_quickly, use_a_tool, edit_a_text, block_requests]
+            keep_what_was_copied, flip_quickly, use_a_tool, look_at_crashes, edit_a_text, block_requests]
 
 
 def main(host, folder):
+    os.environ["TZ"] = "UTC"  # the dates in the pictures are the same everywhere
     Phone.pictures = pathlib.Path(folder)
     Phone.pictures.mkdir(parents=True, exist_ok=True)
     with tempfile.TemporaryDirectory(prefix="wentra-guide-") as root:
