@@ -122,7 +122,7 @@ ui::TextField PreferencePane::fieldFor(const PaneRow& row) const {
     const auto field = ui::TextField::withFrame({{}, {170, 34}});
     field.setText(shownText(row));
     field.setPlaceholder(row.text(u"placeholder"_ns));
-    field.setTextColor(ui::Color::secondaryLabel());
+    field.send<"setTextColor:">(ui::Color::secondaryLabel());
     field.send<"setTextAlignment:">(ui::TextAlignment::right);
     const ns::String keyboard = row.text(u"keyboard"_ns);
     if (keyboard && keyboard.isEqual(u"numbers"_ns)) {
