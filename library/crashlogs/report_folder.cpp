@@ -68,7 +68,7 @@ private:
         if (!(isFolder ? withFolders_ : isListedFile)) {
             return;
         }
-        const ns::Date created = attributes.get(ns::file_attributes::creationDate()).as<ns::Date>();
+        const auto created = attributes.get(ns::file_attributes::creationDate()).as<ns::Date>();
         const ReportEntry entry{ns::Url::fileUrlWithPath(path, isFolder), created,
                                 attributes.get(ns::file_attributes::protection())};
         found.emplace(created ? created.timeIntervalSince1970() : 0, entry.dictionary());

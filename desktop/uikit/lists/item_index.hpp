@@ -10,6 +10,7 @@ namespace desktop {
 struct ItemIndex {
     long section = 0;
     long item = 0;
+    // A comparison's zero is no pointer. NOLINTNEXTLINE(modernize-use-nullptr)
     friend auto operator<=>(const ItemIndex&, const ItemIndex&) = default;
 
     /// The path must not be nil.
