@@ -32,6 +32,7 @@ constexpr std::array files{
     PageFile{"holding.js", "holding.js", script},
     PageFile{"keyboard.js", "keyboard.js", script},
     PageFile{"opened_urls.js", "opened_urls.js", script},
+    PageFile{"over_screen.js", "over_screen.js", script},
     PageFile{"screen.js", "screen.js", script},
     PageFile{"web_pages.js", "web_pages.js", script},
     PageFile{"words.js", "words.js", script},

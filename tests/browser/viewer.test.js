@@ -238,6 +238,33 @@ test("a web page on the phone is shown with what is in it", async () => {
     site.close();
 });
 
+test("a web page from elsewhere is asked for only when a person says so", async () => {
+    const phone = await Phone.open(browser, host.address, { locale: "en-US" });
+    const asked = [];
+    await phone.page.context().route("http://elsewhere.example/**", (route) => {
+        asked.push(route.request().url());
+        return route.fulfill({ contentType: "text/html", body: "<p>from elsewhere</p>" });
+    });
+    const show = async (address, frame) => {
+        const view = await phone.addView("WKWebView", frame);
+        const request = await phone.do("send", {
+            to: { class: "NSURLRequest" }, selector: "requestWithURL:", args: [{ url: address }],
+        });
+        await phone.do("send", { to: view, selector: "loadRequest:", args: [request] });
+        return view;
+    };
+    const view = await show("http://elsewhere.example/one", [0, 200, 390, 300]);
+    await phone.page.locator(".offer code", { hasText: "http://elsewhere.example/one" }).waitFor();
+    assert.deepEqual(asked, []);
+    await phone.page.getByRole("button", { name: "Load from the network" }).click();
+    await phone.page.frameLocator(".web-page iframe").getByText("from elsewhere").waitFor();
+    await phone.do("send", { to: view, selector: "removeFromSuperview" });
+    await show("http://elsewhere.example/two", [0, 200, 390, 300]); // of a site that is wanted
+    await phone.page.frameLocator(".web-page iframe").getByText("from elsewhere").waitFor();
+    assert.deepEqual(asked, ["http://elsewhere.example/one", "http://elsewhere.example/two"]);
+    await phone.close();
+});
+
 test("pages from elsewhere and foreign names reach nothing", async () => {
     const { host: own } = new URL(host.address);
     const upgrade = {

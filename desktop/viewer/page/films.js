@@ -1,27 +1,20 @@
 // @ts-check
 // What is in the film views of the phone: the phone shows a picture of each, the browser plays it.
 import { element } from "./element.js";
+import { overScreen } from "./over_screen.js";
 import { word } from "./words.js";
 
 /**
  * A player in the film's place on the screen.
  * @param {{event: number, frame: number[]}} film
  */
-function player({ event, frame: [x, y, width, height] }) {
-    const made = element("video", {
-        class: "film", src: `file/${event}`, controls: true, playsinline: true, "aria-label": word("film"),
-    });
-    Object.assign(made.style, {
-        left: `calc(${x}px * var(--zoom))`,
-        top: `calc(${y}px * var(--zoom))`,
-        width: `${width}px`,
-        height: `${height}px`,
-    });
-    // The glass takes what is not for the player.
-    for (const kind of ["pointerdown", "pointerup", "pointermove"]) {
-        made.addEventListener(kind, (happened) => happened.stopPropagation());
-    }
-    return made;
+function player({ event, frame }) {
+    return overScreen(
+        element("video", {
+            class: "film", src: `file/${event}`, controls: true, playsinline: true, "aria-label": word("film"),
+        }),
+        frame,
+    );
 }
 
 /**

@@ -1,17 +1,28 @@
 // @ts-check
-// What is in the web views of the phone: the phone itself fetches no page, the browser does.
+// What is in the web views of the phone: the phone itself fetches no page, the browser does, and what is
+// not on this machine only when a person asks for it.
 import { element } from "./element.js";
+import { overScreen } from "./over_screen.js";
 import { word } from "./words.js";
 
-/**
- * A web page in its place on the screen. It runs locked in, as nobody's page; one that refuses to
- * be framed can be opened beside this one.
- * @param {{address: string, frame: number[]}} page
- */
-function framed({ address, frame: [x, y, width, height] }) {
-    const place = element(
-        "div",
-        { class: "web-page" },
+/** The sites that a person has asked for. @type {Set<string>} */
+const wanted = new Set();
+
+/** The site of an address; empty for what is none. */
+function siteOf(/** @type {string} */ address) {
+    return URL.canParse(address) ? new URL(address).origin : "";
+}
+
+/** Whether loading it asks nobody but this machine. */
+function isHere(/** @type {string} */ address) {
+    const names = ["localhost", "127.0.0.1", "[::1]"];
+    return !URL.canParse(address) || names.includes(new URL(address).hostname) ||
+        ["about:", "data:"].includes(new URL(address).protocol);
+}
+
+/** It runs locked in, as nobody's page; one that refuses to be framed can be opened beside this one. */
+function loaded(/** @type {string} */ address) {
+    return [
         element("iframe", {
             src: address, title: address, sandbox: "allow-scripts allow-forms", referrerpolicy: "no-referrer",
         }),
@@ -20,14 +31,33 @@ function framed({ address, frame: [x, y, width, height] }) {
             { class: "button", href: address, target: "_blank", rel: "noopener noreferrer" },
             word("openBeside"),
         ),
+    ];
+}
+
+/** Says where the page is, and offers to load it. */
+function offered(/** @type {string} */ address, /** @type {() => void} */ load) {
+    return element(
+        "div",
+        { class: "offer" },
+        element("p", {}, word("outside")),
+        element("code", {}, address),
+        element("button", { onclick: load }, word("loadOutside")),
     );
-    Object.assign(place.style, {
-        left: `calc(${x}px * var(--zoom))`,
-        top: `calc(${y}px * var(--zoom))`,
-        width: `${width}px`,
-        height: `${height}px`,
-    });
-    return place;
+}
+
+/**
+ * A web page in its place on the screen.
+ * @param {{address: string, frame: number[]}} page
+ */
+function framed({ address, frame }) {
+    const load = () => {
+        wanted.add(siteOf(address));
+        place.replaceChildren(...loaded(address));
+    };
+    const mayLoad = isHere(address) || wanted.has(siteOf(address));
+    const place = element(
+        "div", { class: "web-page" }, ...(mayLoad ? loaded(address) : [offered(address, load)]));
+    return overScreen(place, frame);
 }
 
 /**

@@ -8,6 +8,11 @@ const words = {
     phone: ["手机屏幕", "Phone screen"],
     typing: ["键盘输入", "Typing"],
     typingOn: ["正在向手机输入 · Esc 退出", "Typing goes to the phone · Esc leaves"],
+    outside: [
+        "这个网页不在本机上。载入时，你的浏览器会访问它：",
+        "This page is not on this machine. To load it, your browser asks for it at",
+    ],
+    loadOutside: ["从网络载入", "Load from the network"],
     openBeside: ["在新标签页中打开", "Open in a new tab"],
     typingOff: ["点按屏幕后即可输入", "Click the phone to type"],
     rotate: ["旋转", "Rotate"],
