@@ -14,13 +14,14 @@ using support::TemporaryFolder;
 using tests::Json;
 using tests::Phone;
 
-/// Settings on a screen so high that no pane needs to be scrolled.
+/// Settings with a pane open, on a screen so high that none needs to be scrolled.
 class PaneOnScreen {
 public:
-    explicit PaneOnScreen(const TemporaryFolder& root)
-        : phone({"--app", "settings", "--settings-bundle", "--size", "390x3000@1", "--root",
+    explicit PaneOnScreen(const TemporaryFolder& root, const std::string& title = "Wentra",
+                          const std::string& size = "390x3000@1")
+        : phone({"--app", "settings", "--settings-bundle", "--size", size, "--root",
                  root.path().string()}) {
-        open("Wentra");
+        open(title);
     }
 
     void open(const std::string& title) {
@@ -174,6 +175,55 @@ TEST_F(PreferencePaneFaults, ShowsWhatIsStoredWhenNothingCanBe) {
     pane.phone.tap(control);
     EXPECT_EQ(pane.phone.message(pane.controlOf("显示悬浮球", "UISwitch"), "isOn"), false);
     EXPECT_EQ(pane.phone.result({{"do", "preferences"}}), nullptr);
+}
+
+TEST_F(PreferencePaneFaults, StoresNothingForRowsWithoutKeyOrFile) {
+    root.write("Library/PreferenceLoader/Preferences/Odd.plist",
+               "{entry = {label = Odd;}; items = ({cell = PSSwitchCell; label = A; defaults = a;},"
+               "{cell = PSSwitchCell; label = B; key = b;}, {cell = PSSliderCell;});}");
+    PaneOnScreen pane(root, "Odd");
+    for (const char* title : {"A", "B"}) {
+        pane.phone.tap(pane.controlOf(title, "UISwitch"));
+        EXPECT_EQ(pane.phone.message(pane.controlOf(title, "UISwitch"), "isOn"), false);
+    }
+    const auto folder = root.path() / "var/mobile/Library/Preferences";
+    EXPECT_FALSE(exists(folder / "a.plist") || exists(folder / ".plist"));
+}
+
+TEST_F(PreferencePaneFaults, StoresAFieldThatIsScrolledAway) {
+    PaneOnScreen pane(root, "Wentra", "390x844@1");
+    pane.open("悬浮球与工具箱");
+    pane.phone.tap(pane.controlOf("悬浮球边长", "UITextField"));
+    pane.phone.result({{"do", "type"}, {"text", "50"}});
+    for (int slides = 0; slides < 3; ++slides) {
+        pane.phone.slide({{20, 400}, {20, 120}});
+        pane.phone.advance(2);
+    }
+    EXPECT_EQ(pane.phone.find({{"text", "悬浮球边长"}, {"visible", true}}).size(), 0U);
+    EXPECT_EQ(pane.stored({{"key", "悬浮球长宽比"}}), "50");
+}
+
+TEST_F(PreferencePaneFaults, StoresAFieldThatIsLeftByTheBackButton) {
+    PaneOnScreen pane(root);
+    pane.open("悬浮球与工具箱");
+    pane.phone.tap(pane.controlOf("悬浮球边长", "UITextField"));
+    pane.phone.result({{"do", "type"}, {"text", "50"}});
+    pane.goBack();
+    EXPECT_EQ(pane.stored({{"key", "悬浮球长宽比"}}), "50");
+}
+
+TEST_F(PreferencePaneFaults, OpensFromTheWholeRowOfATurnedPhone) {
+    Phone phone({"--app", "settings", "--settings-bundle", "--size", "390x1200@1", "--root",
+                 root.path().string()});
+    phone.result({{"do", "rotate"}, {"to", "landscapeLeft"}});
+    for (int slides = 0; slides < 4; ++slides) {
+        phone.slide({{400, 300}, {400, 180}});
+        phone.advance(2);
+    }
+    const double top = phone.find({{"text", "Wentra"}})[0].at("rect").at(1);
+    phone.tap(Json::array({1100, top + 20}));
+    phone.advance(1);
+    EXPECT_EQ(phone.result({{"do", "screens"}}).back(), "PreferencePaneController");
 }
 
 TEST_F(PreferencePaneFaults, PassesOverBrokenLists) {

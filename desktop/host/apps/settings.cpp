@@ -69,6 +69,7 @@ void addRow(ui::View card, double top, const Row& row, ui::View icon) {
     const auto arrow = dressed(ui::TableViewLabel::withFrame(
                                    {{width - margin - arrowWidth, top}, {arrowWidth, rowHeight}}),
                                "›", {.size = 20, .color = ui::Color::named("systemGray3Color")});
+    arrow.setAutoresizingMask(ui::ViewAutoresizing::flexibleLeftMargin);
     card.addSubview(arrow);
     const double valueLeft = textLeft + width / 2;
     const auto value =
@@ -76,6 +77,7 @@ void addRow(ui::View card, double top, const Row& row, ui::View icon) {
                     {{valueLeft, top}, {width - valueLeft - margin - arrowWidth - 8, rowHeight}}),
                 row.value, {.color = ui::Color::secondaryLabel()});
     value.setTextAlignment(ui::TextAlignment::right);
+    value.setAutoresizingMask(ui::ViewAutoresizing::flexibleLeftMargin);
     card.addSubview(value);
     if (top > 0) {
         card.addSubview(separatorWithFrame({{textLeft, top}, {width - textLeft, 0.5}}));
@@ -144,6 +146,7 @@ private:
                    ui::ImageView::withImage(rowPicture(row, file.parent_path())));
             const auto touch =
                 ui::Control::make<"initWithFrame:">(CGRect{{0, rowTop}, {width, rowHeight}});
+            touch.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth);
             touch.setTag(static_cast<long>(index));
             touch.addTarget(self(), objc::selector<"openPane:">(),
                             ui::ControlEvents::touchUpInside);

@@ -37,12 +37,16 @@ ns::String shownText(const PaneRow& row) {
 float shownNumber(const PaneRow& row) { return valueOf(row).send<"floatValue", float>(); }
 
 bool store(const PaneRow& row, objc::Object value) {
+    const ns::String key = row.text(u"key"_ns);
+    if (!key || !row.text(u"defaults"_ns)) {
+        return false;
+    }
     const PreferenceFile file = fileOf(row);
     const auto entries = ns::MutableDictionary::make();
     if (const ns::Dictionary former = file.read(); former) {
         entries.addEntries(former);
     }
-    entries.set(value, row.text(u"key"_ns));
+    entries.set(value, key);
     try {
         file.write(entries, ns::PropertyListFormat::binary);
         return true;

@@ -12,7 +12,7 @@ namespace desktop::host {
 [[nodiscard]] float shownNumber(const PaneRow& row);
 
 /// Puts the value into the row's preference file, whose other entries stay; false when that cannot
-/// be written.
+/// be written, or the row does not tell its key and its file.
 [[nodiscard]] bool store(const PaneRow& row, objc::Object value);
 
 } // namespace desktop::host

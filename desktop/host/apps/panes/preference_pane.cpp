@@ -2,6 +2,7 @@
 #include "desktop/host/apps/panes/preference_pane.hpp"
 
 #include "desktop/host/apps/panes/pane_values.hpp"
+#include "desktop/host/apps/screen_parts.hpp"
 #include "desktop/uikit/lists/table_view.hpp"
 
 #include "bindings/uikit/bar_button_item.hpp"
@@ -20,6 +21,21 @@ namespace {
 
 using namespace ns::literals;
 
+/// A control's tag tells its row: a field that scrolls away ends editing when it has left the
+/// table.
+constexpr long longestSection = 1L << 16U;
+
+long tagOf(ItemIndex index) { return index.section * longestSection + index.item; }
+
+/// Puts the control between the cell's margins.
+void spread(ui::Control control, ui::TableViewCell cell) {
+    constexpr double margin = 16;
+    cell.layoutIfNeeded();
+    const CGSize size = cell.contentView().bounds().size;
+    control.setFrame({{margin, 0}, {size.width - 2 * margin, size.height}});
+    cell.contentView().addSubview(control);
+}
+
 struct PreferencePaneKind
     : objc::Kind<PreferencePaneKind, "PreferencePaneController", ui::TableViewController> {
     using Kind::Kind;
@@ -31,6 +47,7 @@ public:
         using Self = PreferencePane;
         return std::array{
             objc::method<"viewDidLoad", &Self::viewDidLoad>(),
+            objc::method<"viewWillDisappear:", &Self::viewWillDisappear>(),
             objc::method<"numberOfSectionsInTableView:", &Self::numberOfSections>(),
             objc::method<"tableView:numberOfRowsInSection:", &Self::numberOfRows>(),
             objc::method<"tableView:cellForRowAtIndexPath:", &Self::cellForRow>(),
@@ -49,6 +66,7 @@ public:
 
 private:
     void viewDidLoad();
+    void viewWillDisappear(bool animated);
     [[nodiscard]] long numberOfSections(ui::TableView) const;
     [[nodiscard]] long numberOfRows(ui::TableView, long section) const;
     [[nodiscard]] ui::TableViewCell cellForRow(ui::TableView, ns::IndexPath path) const;
@@ -66,7 +84,8 @@ private:
     [[nodiscard]] const PaneRow& rowWith(ui::View control) const;
     [[nodiscard]] ui::Switch switchFor(const PaneRow& row) const;
     [[nodiscard]] ui::TextField fieldFor(const PaneRow& row) const;
-    [[nodiscard]] ui::Slider sliderFor(const PaneRow& row, CGRect frame) const;
+    [[nodiscard]] ui::Slider sliderFor(const PaneRow& row) const;
+    [[nodiscard]] ui::Control controlFor(const PaneRow& row) const;
     void keep(const PaneRow& row, objc::Object value) const;
 
     Pane pane_;
@@ -83,6 +102,12 @@ void PreferencePane::viewDidLoad() {
     self().setTitle(pane_.title);
 }
 
+/// What is being typed is stored while there is somebody to do so.
+void PreferencePane::viewWillDisappear(bool animated) {
+    super<"viewWillDisappear:">(animated);
+    self().view().send<"endEditing:", bool>(true);
+}
+
 const PaneSection& PreferencePane::section(long index) const {
     return pane_.sections.at(static_cast<std::size_t>(index));
 }
@@ -92,7 +117,7 @@ const PaneRow& PreferencePane::row(ItemIndex index) const {
 }
 
 const PaneRow& PreferencePane::rowWith(ui::View control) const {
-    return row(TableView::of(self().tableView()).rowOf(control).value());
+    return row({control.tag() / longestSection, control.tag() % longestSection});
 }
 
 long PreferencePane::numberOfSections(ui::TableView) const {
@@ -133,8 +158,8 @@ ui::TextField PreferencePane::fieldFor(const PaneRow& row) const {
     return field;
 }
 
-ui::Slider PreferencePane::sliderFor(const PaneRow& row, CGRect frame) const {
-    const auto slider = ui::Slider::withFrame(frame);
+ui::Slider PreferencePane::sliderFor(const PaneRow& row) const {
+    const auto slider = ui::Slider::withFrame({});
     slider.setMinimumValue(row.number(u"min"_ns).floatValue());
     slider.setMaximumValue(row.number(u"max"_ns).floatValue());
     slider.setValue(shownNumber(row));
@@ -143,22 +168,32 @@ ui::Slider PreferencePane::sliderFor(const PaneRow& row, CGRect frame) const {
     return slider;
 }
 
+/// What sets the row's value; nil where it has none.
+ui::Control PreferencePane::controlFor(const PaneRow& row) const {
+    if (row.isCell(u"PSSwitchCell"_ns)) {
+        return switchFor(row);
+    }
+    if (row.isCell(u"PSEditTextCell"_ns)) {
+        return fieldFor(row);
+    }
+    return row.isCell(u"PSSliderCell"_ns) ? ui::Control(sliderFor(row)) : ui::Control();
+}
+
 ui::TableViewCell PreferencePane::cellForRow(ui::TableView, ns::IndexPath path) const {
-    const PaneRow& shown = row(ItemIndex::of(path));
+    const ItemIndex index = ItemIndex::of(path);
+    const PaneRow& shown = row(index);
     const auto cell = ui::TableViewCell::withStyle(ui::TableViewCellStyle::default_, ns::String());
+    cell.setBackgroundColor(cardColor());
     cell.send<"setSelectionStyle:">(0L);
+    const ui::Control control = controlFor(shown);
+    control.setTag(tagOf(index));
     if (shown.isCell(u"PSSliderCell"_ns)) {
-        cell.layoutIfNeeded();
-        const CGSize size = cell.contentView().bounds().size;
-        cell.contentView().addSubview(sliderFor(shown, {{16, 0}, {size.width - 32, size.height}}));
+        spread(control, cell);
         return cell;
     }
     cell.textLabel().setText(shown.text(u"label"_ns));
-    if (shown.isCell(u"PSSwitchCell"_ns)) {
-        cell.send<"setAccessoryView:">(switchFor(shown));
-    } else if (shown.isCell(u"PSEditTextCell"_ns)) {
-        cell.send<"setAccessoryView:">(fieldFor(shown));
-    } else if (shown.isCell(u"PSLinkCell"_ns)) {
+    cell.send<"setAccessoryView:">(control);
+    if (shown.isCell(u"PSLinkCell"_ns)) {
         cell.send<"imageView", ui::ImageView>().setImage(rowPicture(shown, pane_.folder));
         cell.send<"setAccessoryType:">(CellAccessory::disclosure);
         cell.send<"setSelectionStyle:">(3L);
