@@ -155,14 +155,35 @@ void TableView::insertRows(ns::Array paths, long) {
     selection_.itemsWereInserted(indexesOf(paths));
     pressed_.itemsWereInserted(indexesOf(paths));
     heights_.rowsWereInserted(indexesOf(paths));
-    rowsChanged();
+    rowsChangedBy(1, indexesOf(paths));
 }
 
 void TableView::deleteRows(ns::Array paths, long) {
     selection_.itemsWereDeleted(indexesOf(paths));
     pressed_.itemsWereDeleted(indexesOf(paths));
     heights_.rowsWereDeleted(indexesOf(paths));
+    rowsChangedBy(-1, indexesOf(paths));
+}
+
+/// Between the beginning of updates and their end only their sum would have to be right.
+void TableView::rowsChangedBy(long change, const std::set<ItemIndex>& rows) {
+    std::optional<std::vector<long>> expected = counts_;
     rowsChanged();
+    if (!expected || updates_ > 0) {
+        return;
+    }
+    for (const ItemIndex row : rows) {
+        if (const auto section = static_cast<std::size_t>(row.section);
+            section < expected->size()) {
+            (*expected)[section] += change;
+        }
+    }
+    const auto sections = static_cast<std::size_t>(numberOfSections()); // asks for the counts
+    if (sections != expected->size() || counts_ != expected) {
+        ns::Exception::with(u"NSInternalInconsistencyException"_ns,
+                            u"the data source has not changed by the rows of the update"_ns)
+            .raise();
+    }
 }
 
 FlowSection TableView::section(long index) {

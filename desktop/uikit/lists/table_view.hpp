@@ -21,6 +21,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <vector>
 
 namespace desktop {
@@ -71,8 +72,13 @@ private:
     void insertRows(ns::Array paths, long animation);
     void deleteRows(ns::Array paths, long animation);
     void reloadSections(objc::Object, long) { rowsChanged(); }
-    void beginUpdates() {}
-    void endUpdates() { rowsChanged(); }
+    /// Asks the data source anew, which must have that many more rows in the section of each.
+    void rowsChangedBy(long change, const std::set<ItemIndex>& rows);
+    void beginUpdates() { ++updates_; }
+    void endUpdates() {
+        --updates_;
+        rowsChanged();
+    }
     void prepare();
     [[nodiscard]] FlowSection section(long index);
     [[nodiscard]] double heightBefore() const { return header_.bounds().size.height; }
@@ -169,6 +175,7 @@ private:
     objc::Strong<ui::View> header_;
     objc::Strong<ui::View> footer_;
     std::optional<std::vector<long>> counts_; // of the sections' rows, until the next change
+    long updates_ = 0;                        // that have begun and not ended
     std::vector<SectionHeights> sections_;
     FlowPlacement placement_; // a row fills a line
     bool isPrepared_ = false;

@@ -165,6 +165,19 @@ TEST_F(TableViewTest, ARowThatGoesUnderTheFingerIsNotChosen) {
     }
 }
 
+TEST_F(TableViewTest, RowsThatTheSourceHasNotLostAreNotDeleted) {
+    const auto paths = ns::MutableArray::make();
+    paths.add(path(0));
+    const auto deleteRow = [&] {
+        table_.send<"deleteRowsAtIndexPaths:withRowAnimation:">(paths, 0L);
+        table_.layoutIfNeeded();
+    };
+    table_.layoutIfNeeded();
+    EXPECT_ANY_THROW(deleteRow());
+    rows().rows -= 1;
+    EXPECT_NO_THROW(deleteRow());
+}
+
 TEST_F(TableViewTest, TheSourceMayChangeItsMindWhileItIsAsked) {
     rows().then = [this] {
         rows().rows = 1;
