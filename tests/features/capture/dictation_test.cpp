@@ -46,6 +46,8 @@ TEST_F(Dictation, WhatIsSaidIsShown) {
         << "it comes little by little";
     EXPECT_EQ(phone.panel("recognitionTask"), nullptr);
     EXPECT_TRUE(phone.swallowed().empty());
+    recognize({{"hears", ""}});
+    EXPECT_EQ(dictated(1), nullptr) << "nothing of what was said before";
 }
 
 TEST_F(Dictation, SilenceGivesNoText) {

@@ -9,9 +9,8 @@ namespace {
 using tests::CapturePanel;
 using tests::Json;
 
-/// Width and height of a PNG file in pixels.
-std::array<unsigned, 2> sizeOf(const std::filesystem::path& file) {
-    const std::string bytes = support::readFile(file);
+/// Width and height of a PNG in pixels.
+std::array<unsigned, 2> sizeOf(const std::string& bytes) {
     const auto number = [&](std::size_t at) {
         unsigned value = 0;
         for (std::size_t i = 0; i < 4; ++i) {
@@ -25,10 +24,11 @@ std::array<unsigned, 2> sizeOf(const std::filesystem::path& file) {
 
 class Pictures : public testing::Test {
 protected:
-    std::array<unsigned, 2> onlyPhoto() {
+    /// The bytes of the one photo that is new.
+    std::string photo() {
         const auto photos = phone.events("photo");
         EXPECT_EQ(photos.size(), 1U);
-        return photos.empty() ? std::array<unsigned, 2>{} : sizeOf(phone.real(photos[0]["file"]));
+        return photos.empty() ? "" : support::readFile(phone.real(photos[0]["file"]));
     }
 
     CapturePanel phone;
@@ -39,8 +39,12 @@ TEST_F(Pictures, ATapSavesTheScreenWithoutTheControl) {
     const auto collected = phone.panel("screenshot");
     phone.events("photo");
     phone.tapLabelled("截图");
-    EXPECT_EQ(onlyPhoto(), (std::array{1170U, 2532U}));
+    const std::string tapped = photo();
+    EXPECT_EQ(sizeOf(tapped), (std::array{1170U, 2532U}));
     EXPECT_EQ(phone.message(phone.container(), "isHidden"), false) << "it is back";
+    phone.message(phone.container(), "setAlpha:", {0});
+    phone.panel("takeScreenshot");
+    EXPECT_TRUE(photo() == tapped);
     EXPECT_EQ(phone.message(collected, "size"), Json::parse(R"({"size":[390,844]})"));
 }
 
@@ -62,7 +66,7 @@ TEST_F(Pictures, WhatIsCollectedIsStitched) {
         << "it tells how many";
     EXPECT_TRUE(phone.events("photo").empty());
     phone.tapLabelled("拼接长图");
-    EXPECT_EQ(onlyPhoto(), (std::array{1170U, 3U * (844 + 752)}));
+    EXPECT_EQ(sizeOf(photo()), (std::array{1170U, 3U * (844 + 752)}));
     EXPECT_EQ(phone.message(phone.panel("screenshotsArray"), "count"), 0);
 }
 
@@ -73,7 +77,7 @@ TEST_F(Pictures, StitchingIsNotLimitedByTheHeight) {
                     phone.message({{"class", "NSArray"}}, "arrayWithArray:", {Json(20, picture)}),
                     "mutableCopy")});
     phone.panel("stitchImages");
-    EXPECT_EQ(onlyPhoto(), (std::array{1170U, 3U * (844 + 19 * 752)}));
+    EXPECT_EQ(sizeOf(photo()), (std::array{1170U, 3U * (844 + 19 * 752)}));
 }
 
 TEST_F(Pictures, NothingToStitchGivesNothing) {

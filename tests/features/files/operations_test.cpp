@@ -252,6 +252,26 @@ TEST_F(Operations, RecycleOnlyWhatHasAFreeName) {
     EXPECT_EQ(list(left), Json{"a"});
 }
 
+TEST_F(Operations, SwipeARowAwayOnlyWithItsFile) {
+    file("a", "second", 2);
+    file("b", "", 1);
+    write(files.mobile / "huishou/a", "first");
+    start();
+    const auto swipe = [&](const char* action) {
+        phone->result({{"do", "swipe"}, {"on", cell(left, 0)}, {"choose", action}});
+    };
+    EXPECT_EQ(phone->result({{"do", "swipe"}, {"on", cell(left, 0)}}), (Json{"删除", "回收站"}));
+    swipe("回收站");
+    EXPECT_EQ(list(left), (Json{"a", "b"}));
+    EXPECT_EQ(read(files.mobile / "huishou/a"), "first");
+    swipe("删除");
+    EXPECT_EQ(list(left), Json{"b"});
+    EXPECT_FALSE(fs::exists(leftFile("a")));
+    swipe("回收站");
+    EXPECT_EQ(list(left), Json::array());
+    EXPECT_TRUE(fs::exists(files.mobile / "huishou/b"));
+}
+
 TEST_F(Operations, CreateInThePane) {
     file("a.txt", "kept");
     start();

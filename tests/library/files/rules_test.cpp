@@ -82,9 +82,9 @@ TEST(FileTexts, WriteSizesAndPermissions) {
 
 class Listing : public testing::Test {
 protected:
-    void file(const std::string& name, std::size_t size, long date) {
+    void file(const std::string& name, std::size_t size, timespec date) {
         const std::string path = folder.write(name, std::string(size, 'x'));
-        const timespec times[2]{{date, 0}, {date, 0}};
+        const timespec times[2]{date, date};
         utimensat(AT_FDCWD, path.c_str(), times, 0);
     }
     std::string at(const std::string& name) { return folder.path() / name; }
@@ -92,10 +92,11 @@ protected:
 };
 
 TEST_F(Listing, PutsTheNewestFirst) {
-    file("a", 1, 10);
-    file(".b", 1, 30);
-    file("c", 1, 20);
-    EXPECT_EQ(listing(folder.path()), (Names{".b", "c", "a"}));
+    file("a", 1, {10, 0});
+    file(".b", 1, {30, 0});
+    file("c", 1, {20, 0});
+    file("d", 1, {20, 1});
+    EXPECT_EQ(listing(folder.path()), (Names{".b", "d", "c", "a"}));
     EXPECT_EQ(listing(at("gone")), Names{});
     EXPECT_EQ(listing(at("a")), Names{});
     EXPECT_EQ(listing(""), Names{});
@@ -115,9 +116,9 @@ TEST_F(Listing, LeavesOutWhatAChangeIsMaking) {
 }
 
 TEST_F(Listing, SortsNamesAndKeepsTheUnknown) {
-    file("a", 5, 10);
-    file("b", 5, 30);
-    file("c", 1, 20);
+    file("a", 5, {10, 0});
+    file("b", 5, {30, 0});
+    file("c", 1, {20, 0});
     const Names names{"a", "b", "c", "gone"};
     EXPECT_EQ(sortedByDate(names, folder.path(), Order::ascending), (Names{"gone", "a", "c", "b"}));
     EXPECT_EQ(sortedByDate(names, folder.path(), Order::descending),
@@ -130,19 +131,19 @@ TEST_F(Listing, SortsNamesAndKeepsTheUnknown) {
 
 TEST_F(Listing, CountsCopiesUp) {
     EXPECT_EQ(numberedPath("/x/a.txt", at("a.txt")), at("a.txt"));
-    file("a.txt", 1, 1);
-    file("a-1.txt", 1, 1);
+    file("a.txt", 1, {1, 0});
+    file("a-1.txt", 1, {1, 0});
     EXPECT_EQ(numberedPath("/x/a.txt", at("a.txt")), at("a-2.txt"));
-    file("a", 1, 1);
+    file("a", 1, {1, 0});
     EXPECT_EQ(numberedPath("/x/a", at("a")), at("a-1."));
-    file("a-1.", 1, 1);
+    file("a-1.", 1, {1, 0});
     EXPECT_EQ(numberedPath("/x/a", at("a")), at("a-2."));
 }
 
 TEST_F(Listing, GroupsFilesBySize) {
-    file("one", 10, 1);
-    file("deep/er/.two", 10, 1);
-    file("three", 11, 1);
+    file("one", 10, {1, 0});
+    file("deep/er/.two", 10, {1, 0});
+    file("three", 11, {1, 0});
     std::filesystem::create_symlink("one", at("link"));
     std::filesystem::create_directory_symlink("deep", at("again"));
     std::filesystem::create_directory_symlink("..", at("deep/loop"));
