@@ -70,8 +70,20 @@ void useSwitch(PaneOnScreen& pane, const Json& preference) {
     }
 }
 
+/// An empty field shows the default.
+Json placeholderOf(const Json& preference) {
+    const Json value = preference.value("default", Json());
+    return value.is_number() ? Json(value.dump()) : value;
+}
+
 void useField(PaneOnScreen& pane, const Json& preference) {
-    pane.phone.tap(pane.controlOf(preference["zh"], "UITextField"));
+    constexpr int numbersAndPunctuation = 2;
+    const Json field = pane.controlOf(preference["zh"], "UITextField");
+    EXPECT_EQ(field["placeholder"], placeholderOf(preference)) << preference;
+    EXPECT_EQ(pane.phone.message(field, "keyboardType"),
+              preference["type"] == "number" ? numbersAndPunctuation : 0)
+        << preference;
+    pane.phone.tap(field);
     pane.phone.result({{"do", "type"}, {"text", "12.5"}});
     pane.phone.result({{"do", "key"}, {"name", "return"}});
     EXPECT_EQ(pane.stored(preference), "12.5") << preference;
@@ -137,6 +149,41 @@ TEST_P(PreferencePane, StoresEachRowWhereTheLibraryReads) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Layouts, PreferencePane, testing::Values("", "var/jb"));
+
+/// How high on the screen the entry of the pane stands.
+double topOf(Phone& phone, const std::string& title) {
+    return phone.find({{"text", title}}).at(0).at("rect").at(1);
+}
+
+TEST(PreferencePanes, StandInTheOrderOfTheirFiles) {
+    const TemporaryFolder root;
+    for (const char* name : {"B", "D", "A", "C"}) {
+        root.write(std::string("Library/PreferenceLoader/Preferences/") + name + ".plist",
+                   std::string("{entry = {label = Pane") + name + ";};}");
+    }
+    Phone phone({"--app", "settings", "--root", root.path().string()});
+    EXPECT_LT(topOf(phone, "PaneA"), topOf(phone, "PaneB"));
+    EXPECT_LT(topOf(phone, "PaneB"), topOf(phone, "PaneC"));
+    EXPECT_LT(topOf(phone, "PaneC"), topOf(phone, "PaneD"));
+}
+
+TEST(SettingsBundle, TakesTheirPlaceFromNoFiles) {
+    const TemporaryFolder root;
+    const std::string list =
+        root.write("Library/PreferenceLoader/Preferences/Wentra/Wentra.plist", "{}");
+    Phone phone({"--app", "settings", "--settings-bundle", "--root", root.path().string()});
+    phone.window(); // it has started
+    EXPECT_EQ(std::filesystem::file_size(list), 2U);
+    EXPECT_TRUE(exists(root.path() / "Library/PreferenceBundles/hovtanprefs.bundle/xfq.png"));
+}
+
+TEST(SettingsBundle, IsNotPutBesideAnother) {
+    const TemporaryFolder root;
+    root.write("Library/PreferenceBundles/hovtanprefs.bundle/colors.plist", "()");
+    Phone phone({"--app", "settings", "--settings-bundle", "--root", root.path().string()});
+    phone.window(); // it has started
+    EXPECT_FALSE(exists(root.path() / "Library/PreferenceBundles/hovtanprefs.bundle/xfq.png"));
+}
 
 class PreferencePaneFaults : public testing::Test {
 protected:
