@@ -72,4 +72,17 @@ TEST_F(TextViewController, ShowsAnotherTextOnceItsViewIsThere) {
     EXPECT_EQ(text(), "another");
 }
 
+TEST_F(TextViewController, KeepsItsTextClearOfTheKeyboard) {
+    const Json field = phone.message(editor, "textView");
+    const auto inset = [&](const char* message) {
+        phone.message(field, message);
+        phone.advance(1);
+        return phone.message(field, "contentInset")["insets"][2].get<double>();
+    };
+    EXPECT_GT(inset("becomeFirstResponder"), 50);
+    EXPECT_EQ(inset("resignFirstResponder"), 0);
+    phone.message(field, "setFrame:", {{{"rect", {15, 50, 300, 100}}}});
+    EXPECT_EQ(inset("becomeFirstResponder"), 0) << "it ends above the keyboard";
+}
+
 } // namespace

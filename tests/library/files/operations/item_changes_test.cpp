@@ -188,4 +188,22 @@ TEST_F(ItemChanges, TakesNamesOfAnyBytes) {
     EXPECT_EQ(names(), std::set<std::string>{"source"});
 }
 
+TEST_F(ItemChanges, MovesToAnotherVolumeAsAWhole) {
+    const fs::path other = fs::path("/dev/shm") / folder.path().filename();
+    std::error_code missing;
+    fs::create_directory(other, missing);
+    if (struct stat there{};
+        missing || stat(other.c_str(), &there) != 0 || there.st_dev == status("").st_dev) {
+        GTEST_SKIP() << "there is only one volume";
+    }
+    folder.write("tree/a", "a");
+    folder.write("b", "b");
+    EXPECT_EQ(moveItem(at("tree"), other / "tree"), 0);
+    EXPECT_TRUE(fs::exists(other / "tree/a"));
+    EXPECT_EQ(replaceByMove(at("b"), other / "tree"), 0);
+    EXPECT_TRUE(fs::is_regular_file(other / "tree"));
+    EXPECT_EQ(names(), std::set<std::string>());
+    fs::remove_all(other);
+}
+
 } // namespace
