@@ -19,39 +19,51 @@ before(async () => {
 });
 
 after(async () => {
+    await phone?.close();
+    await browser?.close();
+    assert.equal(await host?.stop(), 0);
     assert.deepEqual(phone.complaints, []);
-    await phone.close();
-    assert.equal(await host.stop(), 0);
-    await browser.close();
 });
 
 const middle = ([x, y, width, height]) => [x + width / 2, y + height / 2];
 
 const onDisk = (name) => join(host.root, "var/mobile", name);
 
-/** Taps the view when it has come to rest. */
-async function tapOn(where) {
-    for (let former; ;) {
-        const [{ rect }] = await phone.do("wait", { for: { visible: true, ...where } });
-        if (String(rect) === former) {
-            return phone.tap(middle(rect));
+/** What the question gives at last, within ten seconds. */
+async function until(what, question) {
+    for (let tries = 0; tries < 100; ++tries) {
+        const found = await question();
+        if (found) {
+            return found;
         }
-        former = String(rect);
         await phone.page.waitForTimeout(100);
     }
+    assert.fail(`there never was ${what}`);
+}
+
+const shown = (where) => phone.do("find", { where: { visible: true, ...where } });
+
+/** Taps the view when it has come to rest. */
+async function tapOn(where) {
+    let former;
+    const resting = await until(JSON.stringify(where), async () => {
+        const [view] = await shown(where);
+        const rests = view && String(view.rect) === former;
+        former = view && String(view.rect);
+        return rests && view;
+    });
+    await phone.tap(middle(resting.rect));
 }
 
 /** The label that has the name in the pane that begins there. */
-async function row(name, left) {
-    for (;;) {
-        const labels = await phone.do("wait", { for: { text: name, visible: true } });
-        const label = labels.find(({ rect }) => rect[0] >= left);
-        if (label) {
-            return label;
-        }
-        await phone.page.waitForTimeout(50);
-    }
-}
+const row = (name, left) => until(`${name} from ${left} on`, async () =>
+    (await shown({ text: name })).find(({ rect }) => rect[0] >= left));
+
+/** The text field, when what is typed goes there. */
+const focusedField = () => until("a field with the focus", async () => {
+    const [field] = await shown({ class: "UITextField" });
+    return field && await phone.do("send", { to: field, selector: "isFirstResponder" }) && field;
+});
 
 async function chooseFor(label, title) {
     await phone.press(middle(label.rect), 800);
@@ -67,7 +79,7 @@ test("a file is copied across, renamed and edited, which the disk shows", async 
     assert.equal(readFileSync(onDisk("Media/周一.txt"), "utf8"), "爬山\n");
 
     await chooseFor(copy, "重命名");
-    await phone.do("wait", { for: { class: "UITextField", visible: true } });
+    await focusedField();
     for (let letters = 0; letters < "周一.txt".length; ++letters) {
         await phone.page.keyboard.press("Backspace");
     }
