@@ -50,6 +50,21 @@ TEST_F(Dictation, WhatIsSaidIsShown) {
     EXPECT_EQ(dictated(1), nullptr) << "nothing of what was said before";
 }
 
+TEST_F(Dictation, ACancelledTouchEndsTheListening) {
+    phone.choose("OK");
+    const Json button = phone.find({{"title", "应用录屏"}, {"visible", true}}).at(0);
+    const Json inside{{"point", {5, 5}}};
+    const Json at = phone.message(button, "convertPoint:toView:", {inside, nullptr})["point"];
+    const auto touch = [&](const char* phase) {
+        const Json point{1, at[0], at[1]};
+        phone.result({{"do", "touch"}, {"phase", phase}, {"points", Json::array({point})}});
+        phone.advance(1);
+        return phone.message(phone.panel("audioEngine"), "isRunning");
+    };
+    EXPECT_EQ(touch("began"), true);
+    EXPECT_EQ(touch("cancelled"), false);
+}
+
 TEST_F(Dictation, SilenceGivesNoText) {
     phone.choose("OK");
     EXPECT_EQ(dictated(1), nullptr);

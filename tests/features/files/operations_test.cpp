@@ -219,6 +219,16 @@ TEST_F(Operations, SurviveAListingThatChangedBeforeTheAnswer) {
     EXPECT_EQ(phone->swallowed().size(), 0U);
 }
 
+TEST_F(Operations, DeleteNoFolderThatAListingNamesByDots) {
+    file("a");
+    start();
+    for (const char* name : {"", ".", ".."}) {
+        send("deleteAtIndex:tableView:contentArray:path:",
+             {path(0), left, Json{name}, "/var/mobile/Documents"});
+        EXPECT_TRUE(fs::exists(leftFile("a"))) << name;
+    }
+}
+
 TEST_F(Operations, DeleteAllAfterAsking) {
     file("a");
     file("d/e");
