@@ -171,4 +171,16 @@ TEST_F(Browser, ClosesAndLeavesTheApplication) {
     EXPECT_EQ(phone->result({{"do", "screens"}}).size(), 3U);
 }
 
+TEST_F(Browser, OpensTheTappedOneOfThePanesImages) {
+    for (const char* name : {"a.png", "b.txt", "c.jpg"}) {
+        file(name, "", -name[0]); // the first is the newest
+    }
+    start();
+    phone->tap(cell(left, 2));
+    phone->advance(1);
+    const Json viewer =
+        phone->message(phone->message(controller, "navigationController"), "topViewController");
+    EXPECT_EQ(phone->message(viewer, "currentIndex"), 1);
+}
+
 } // namespace
