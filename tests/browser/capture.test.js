@@ -1,29 +1,9 @@
 // Recordings and pictures of the phone's screen in the page.
 import assert from "node:assert/strict";
-import { after, before, test } from "node:test";
-import { Host, openBrowser, Phone } from "./phone.js";
+import { test } from "node:test";
+import { middle, onePhone, phone } from "./fixture.js";
 
-/** @type {import("playwright-core").Browser} */
-let browser;
-/** @type {Host} */
-let host;
-/** @type {Phone} */
-let phone;
-
-before(async () => {
-    browser = await openBrowser();
-    host = await Host.start("--app", "settings");
-    phone = await Phone.open(browser, host.address, { locale: "zh-CN" });
-});
-
-after(async () => {
-    assert.deepEqual(phone.complaints, []);
-    await phone.close();
-    assert.equal(await host.stop(), 0);
-    await browser.close();
-});
-
-const middle = ([x, y, width, height]) => [x + width / 2, y + height / 2];
+onePhone("settings");
 
 const first = async (where) => (await phone.do("wait", { for: { visible: true, ...where } }))[0];
 

@@ -2,30 +2,10 @@
 import assert from "node:assert/strict";
 import { existsSync, readFileSync } from "node:fs";
 import { join } from "node:path";
-import { after, before, test } from "node:test";
-import { Host, openBrowser, Phone } from "./phone.js";
+import { test } from "node:test";
+import { host, middle, onePhone, phone } from "./fixture.js";
 
-/** @type {import("playwright-core").Browser} */
-let browser;
-/** @type {Host} */
-let host;
-/** @type {Phone} */
-let phone;
-
-before(async () => {
-    browser = await openBrowser();
-    host = await Host.start("--app", "files");
-    phone = await Phone.open(browser, host.address, { locale: "zh-CN" });
-});
-
-after(async () => {
-    await phone?.close();
-    await browser?.close();
-    assert.equal(await host?.stop(), 0);
-    assert.deepEqual(phone.complaints, []);
-});
-
-const middle = ([x, y, width, height]) => [x + width / 2, y + height / 2];
+onePhone("files");
 
 const onDisk = (name) => join(host.root, "var/mobile", name);
 
@@ -54,6 +34,15 @@ async function tapOn(where) {
     });
     await phone.tap(middle(resting.rect));
 }
+
+/** Taps that answer of the alert; again where it was still on its way to its place. */
+const answer = (title) => until(`the end of the alert by ${title}`, async () => {
+    const [view] = await shown({ text: title });
+    if (view) {
+        await phone.tap(middle(view.rect));
+    }
+    return await phone.do("alert") === null;
+});
 
 /** The label that has the name in the pane that begins there. */
 const row = (name, left) => until(`${name} from ${left} on`, async () =>
@@ -84,7 +73,7 @@ test("a file is copied across, renamed and edited, which the disk shows", async 
         await phone.page.keyboard.press("Backspace");
     }
     await phone.page.keyboard.insertText("周末.txt");
-    await tapOn({ text: "确认" });
+    await answer("确认");
     const renamed = await row("周末.txt", rightPane);
     assert.ok(!existsSync(onDisk("Media/周一.txt")));
 

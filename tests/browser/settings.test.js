@@ -1,33 +1,9 @@
 // A person switches a feature on in the phone's own Settings, and sees it in another application.
 import assert from "node:assert/strict";
-import { after, afterEach, before, beforeEach, test } from "node:test";
-import { Host, openBrowser, Phone } from "./phone.js";
+import { test } from "node:test";
+import { middle, phone, phoneForEach } from "./fixture.js";
 
-/** @type {import("playwright-core").Browser} */
-let browser;
-/** @type {Host} */
-let host;
-/** @type {Phone} */
-let phone;
-
-before(async () => {
-    browser = await openBrowser();
-});
-
-after(() => browser?.close());
-
-beforeEach(async () => {
-    host = await Host.start("--app", "settings");
-    phone = await Phone.open(browser, host.address, { locale: "zh-CN" });
-});
-
-afterEach(async () => {
-    assert.deepEqual(phone.complaints, []);
-    await phone.close();
-    assert.equal(await host.stop(), 0);
-});
-
-const middle = ([x, y, width, height]) => [x + width / 2, y + height / 2];
+phoneForEach("settings");
 
 test("the ball is switched on in Settings and floats over another application", async () => {
     await phone.tap(middle((await phone.showing("Wentra")).rect));

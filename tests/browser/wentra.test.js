@@ -2,34 +2,10 @@
 import assert from "node:assert/strict";
 import { existsSync } from "node:fs";
 import { join } from "node:path";
-import { after, before, beforeEach, afterEach, test } from "node:test";
-import { Host, openBrowser, Phone } from "./phone.js";
+import { test } from "node:test";
+import { host, middle, phone, phoneForEach } from "./fixture.js";
 
-/** @type {import("playwright-core").Browser} */
-let browser;
-/** @type {Host} */
-let host;
-/** @type {Phone} */
-let phone;
-
-before(async () => {
-    browser = await openBrowser();
-});
-
-after(() => browser?.close());
-
-beforeEach(async () => {
-    host = await Host.start("--app", "notes");
-    phone = await Phone.open(browser, host.address, { locale: "zh-CN" });
-});
-
-afterEach(async () => {
-    assert.deepEqual(phone.complaints, []);
-    await phone.close();
-    assert.equal(await host.stop(), 0);
-});
-
-const middle = ([x, y, width, height]) => [x + width / 2, y + height / 2];
+phoneForEach("notes");
 
 const first = async (where) => (await phone.do("wait", { for: { visible: true, ...where } }))[0];
 
