@@ -149,6 +149,7 @@ asio::awaitable<void> converse(const Server& server, Stream stream) {
 asio::awaitable<void> accept(Server& server) {
     for (;;) {
         tcp::socket socket = co_await server.acceptor.async_accept(use_awaitable);
+        socket.set_option(tcp::no_delay(true)); // the body does not wait until the header has come
         // What goes wrong in one conversation ends that conversation only.
         asio::co_spawn(server.events, converse(server, Stream(std::move(socket), server.tls)),
                        asio::detached);
