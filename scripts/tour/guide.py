@@ -6,6 +6,7 @@ import os
 import pathlib
 import sys
 import tempfile
+import time
 from contextlib import contextmanager
 
 import phone as stage
@@ -23,6 +24,17 @@ class Phone(stage.Phone):
     def tap(self, place):
         super().tap(place)
         self.advance(ANIMATION)
+
+    def all(self, text):
+        return self.ask("find", where={"text": text, "visible": True})
+
+    def wait_for(self, holds):
+        """For what other threads do: ten seconds at most."""
+        for _ in range(200):
+            if holds():
+                return
+            time.sleep(0.05)
+        sys.exit("guide: it took too long")
 
     def hold(self, place, seconds=0.6):
         self.ask("press", on=place, seconds=seconds)
@@ -156,6 +168,7 @@ def block_requests(guide):
     with guide.open("browser") as phone:
         phone.ask("preferences", set={"开启广告屏蔽": True, "Host过滤屏蔽": "example.com,"})
         phone.tap(phone.button("重新加载"))
+        phone.wait_for(lambda: len(phone.all("通过")) + len(phone.all("屏蔽")) == 30)
         phone.picture("blocking.png")
 
 
