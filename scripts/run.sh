@@ -7,7 +7,7 @@ usage='usage: ./dev run [--app NAME] [--root DIR] [--port N]
        ./dev run --tour
 
 Shows the phone in a browser page, at the address that is printed; Ctrl-C ends it.
-  --app NAME   the application that runs first (notes, settings, chat, plain; default: notes)
+  --app NAME   the application that runs first (notes, settings, chat, browser, files or plain; default: notes)
   --root DIR   the folder that keeps the phone'"'"'s files (default: a fresh one, removed at the end)
   --port N     the port of the loopback address, 1 to 65535 (default: a free one)
   --tour       plays the main road without a browser and leaves screenshots

@@ -107,13 +107,17 @@ def use_the_toolbox(guide):
         phone.picture("translation.png")
 
 
+def hold_in_the_toolbox(guide, button, picture, *options):
+    with guide.open("notes", *options) as phone:
+        open_the_toolbox(phone)
+        phone.hold(phone.button(button))
+        phone.picture(picture)
+
+
 def look_it_up(guide):
     with guide.open("plain") as phone:
         phone.ask("preferences", set=dict.fromkeys(SEARCHES, True))
-    with guide.open("notes") as phone:
-        open_the_toolbox(phone)
-        phone.hold(phone.button("链接跳转"))
-        phone.picture("search.png")
+    hold_in_the_toolbox(guide, "链接跳转", "search.png")
 
 
 def keep_what_was_copied(guide):
@@ -128,25 +132,10 @@ def keep_what_was_copied(guide):
         phone.picture("history.png")
 
 
-def flip_quickly(guide):
-    with guide.open("notes") as phone:
-        open_the_toolbox(phone)
-        phone.hold(phone.button("写入粘板"))
-        phone.picture("switches.png")
-
-
-def use_a_tool(guide):
-    with guide.open("notes") as phone:
-        open_the_toolbox(phone)
-        phone.hold(phone.button("U码转换"))
-        phone.picture("utilities.png")
-
-
-def look_at_crashes(guide):
-    with guide.open("notes", "--device-files") as phone:
-        open_the_toolbox(phone)
-        phone.hold(phone.button("日志检索"))
-        phone.picture("crashes.png")
+def hold_other_buttons(guide):
+    hold_in_the_toolbox(guide, "写入粘板", "switches.png")
+    hold_in_the_toolbox(guide, "U码转换", "utilities.png")
+    hold_in_the_toolbox(guide, "日志检索", "crashes.png", "--device-files")
 
 
 def edit_a_text(guide):
@@ -178,7 +167,7 @@ def manage_files(guide):
 
 
 CHAPTERS = [manage_files, switch_on, replace_a_text, use_the_toolbox, look_it_up,
-            keep_what_was_copied, flip_quickly, use_a_tool, look_at_crashes, edit_a_text, block_requests]
+            keep_what_was_copied, hold_other_buttons, edit_a_text, block_requests]
 
 
 def main(host, folder):
