@@ -4,7 +4,7 @@ import { after, afterEach, before, beforeEach } from "node:test";
 import { Host, openBrowser, Phone } from "./phone.js";
 
 /** @type {import("playwright-core").Browser} */
-let browser;
+export let browser;
 /** @type {Host} */
 export let host;
 /** @type {Phone} */
@@ -27,6 +27,18 @@ const open = async () => {
     browser = await openBrowser();
 };
 const close = () => browser?.close();
+
+/** One host for all tests of the file, which open its page themselves. */
+export function oneHost(application) {
+    before(async () => {
+        await open();
+        host = await Host.start("--app", application);
+    });
+    after(async () => {
+        await close();
+        await host?.stop();
+    });
+}
 
 /** One phone for all tests of the file. */
 export function onePhone(application) {

@@ -1,23 +1,11 @@
 // The phone in the page: seen, touched, taken over, lost and found again.
 import assert from "node:assert/strict";
 import { request } from "node:http";
-import { after, before, test } from "node:test";
-import { Host, openBrowser, Phone } from "./phone.js";
+import { test } from "node:test";
+import { browser, host, oneHost } from "./fixture.js";
+import { Host, Phone } from "./phone.js";
 
-/** @type {import("playwright-core").Browser} */
-let browser;
-/** @type {Host} */
-let host;
-
-before(async () => {
-    browser = await openBrowser();
-    host = await Host.start("--app", "plain");
-});
-
-after(async () => {
-    await browser?.close();
-    await host?.stop();
-});
+oneHost("plain");
 
 test("the screen shows the application", async () => {
     const phone = await Phone.open(browser, host.address);

@@ -1,23 +1,11 @@
 // Web pages on the phone, which the browser shows: what is on this machine at once, all else when asked.
 import assert from "node:assert/strict";
 import { createServer } from "node:http";
-import { after, before, test } from "node:test";
-import { Host, openBrowser, Phone } from "./phone.js";
+import { test } from "node:test";
+import { browser, host, oneHost } from "./fixture.js";
+import { Phone } from "./phone.js";
 
-/** @type {import("playwright-core").Browser} */
-let browser;
-/** @type {Host} */
-let host;
-
-before(async () => {
-    browser = await openBrowser();
-    host = await Host.start("--app", "plain");
-});
-
-after(async () => {
-    await browser?.close();
-    await host?.stop();
-});
+oneHost("plain");
 
 /** A web view there that loads the address. */
 async function show(phone, address, frame) {
