@@ -19,6 +19,7 @@
 #include "desktop/viewer/access.hpp"
 #include "desktop/viewer/listener.hpp"
 #include "desktop/viewer/phone.hpp"
+#include "desktop/viewer/resting_phone.hpp"
 #include "desktop/viewer/supervisor.hpp"
 
 #include <cstdio>
@@ -137,6 +138,15 @@ int runAlone(const App& app, const Options& options) {
     return runDevice(app, options, [](Values&) { runUntilStopped(); });
 }
 
+/// Waits until a page starts an application, or the process is asked to stop.
+int rest(const viewer::Door& door, const viewer::Start& start,
+         const std::filesystem::path& folder) {
+    watchForStop();
+    const viewer::RestingPhone phone(door, start, folder);
+    runUntilStopped();
+    return EXIT_SUCCESS;
+}
+
 int runForPage(const App& app, const Options& options) {
     const viewer::Listener listener(options.port);
     const viewer::Door door{listener.socket(), viewer::freshToken()};
@@ -145,6 +155,9 @@ int runForPage(const App& app, const Options& options) {
     std::printf("Wentra %s, data folder %s\nhttp://127.0.0.1:%u/%s/\n", WENTRA_VERSION,
                 device.path().c_str(), unsigned{listener.port()}, door.token.c_str());
     return viewer::supervise(app.name, [&](const viewer::Start& start) {
+        if (start.rests) {
+            return rest(door, start, device.path());
+        }
         Options asked = options;
         if (start.application != app.name) {
             asked.bundle.reset(); // it was given for the first application

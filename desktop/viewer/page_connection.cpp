@@ -16,9 +16,6 @@ constexpr std::size_t longestMessage = std::size_t{24} << 20U;
 constexpr std::size_t mostWaitingBytes = std::size_t{64} << 20U;
 constexpr std::size_t mostUnhandled = 64;
 
-// Codes of an application's own begin at 4000; the page knows this one.
-constexpr unsigned short takenOver = 4001;
-
 } // namespace
 
 void PageConnection::accept(const HttpRequest& request) {
@@ -26,11 +23,13 @@ void PageConnection::accept(const HttpRequest& request) {
     stream_.set_option(websocket::stream_base::timeout::suggested(boost::beast::role_type::server));
     stream_.read_message_max(longestMessage);
     stream_.async_accept(request, [self = shared_from_this()](Failure failure) {
-        if (!failure && !self->isClosing_) {
-            self->isOpen_ = true;
-            self->listener_.opened(self->number_);
-            self->read();
+        if (failure) {
+            self->listener_.closed(self->number_);
+            return;
         }
+        self->isOpen_ = true;
+        self->listener_.opened(self->number_);
+        self->read();
     });
 }
 
@@ -96,14 +95,11 @@ void PageConnection::write() {
                         });
 }
 
-void PageConnection::yieldToAnother() { close(takenOver); }
-
 void PageConnection::close(unsigned short code) {
-    if (!isOpen_ || std::exchange(isClosing_, true)) {
-        isClosing_ = true; // also when it is not open yet
+    if (!std::exchange(isOpen_, false)) {
         return;
     }
-    isOpen_ = false;
+    isClosing_ = true;
     listener_.closed(number_);
     // Without a close frame within the suggested time, the stream is closed by itself.
     stream_.async_close({code}, [self = shared_from_this()](Failure) {});

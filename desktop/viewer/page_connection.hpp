@@ -31,8 +31,6 @@ public:
     void send(Bytes bytes) { send({true, std::move(bytes)}); }
     /// One text less is on its way to the phone.
     void handled();
-    /// Tells the page that another takes over, and ends the connection.
-    void yieldToAnother();
 
 private:
     struct Outgoing {

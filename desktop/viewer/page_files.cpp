@@ -34,6 +34,7 @@ constexpr std::array files{
     PageFile{"opened_urls.js", "opened_urls.js", script},
     PageFile{"over_screen.js", "over_screen.js", script},
     PageFile{"screen.js", "screen.js", script},
+    PageFile{"veil.js", "veil.js", script},
     PageFile{"web_pages.js", "web_pages.js", script},
     PageFile{"words.js", "words.js", script},
     PageFile{"panels/applications.js", "panels/applications.js", script},
@@ -57,6 +58,11 @@ std::optional<Answer> pageFile(std::string_view name) {
         return Answer{serverError, "text/plain", std::string("cannot read ") + found->file + "\n"};
     }
     return Answer{200, found->type, {std::istreambuf_iterator(stream), {}}};
+}
+
+Answer noSuchFile() {
+    constexpr unsigned notFound = 404;
+    return {notFound, "text/plain", "there is no such file\n"};
 }
 
 } // namespace desktop::viewer

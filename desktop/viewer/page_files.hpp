@@ -18,4 +18,7 @@ struct Answer {
 /// A file that cannot be read answers 500. Read anew at each request. Any thread.
 [[nodiscard]] std::optional<Answer> pageFile(std::string_view name);
 
+/// The answer 404.
+[[nodiscard]] Answer noSuchFile();
+
 } // namespace desktop::viewer

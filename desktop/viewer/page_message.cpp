@@ -122,10 +122,12 @@ PageMessage ask(const Json& message) {
     return Ask{request.dump()};
 }
 
+PageMessage takeHand(const Json&) { return TakeHand{}; }
+
 PageMessage launch(const Json& message) { return Launch{text(message, "application")}; }
 
 using Reader = PageMessage (*)(const Json& message);
-constexpr std::array<std::pair<std::string_view, Reader>, 10> readers{{{"fingers", &fingers},
+constexpr std::array<std::pair<std::string_view, Reader>, 11> readers{{{"fingers", &fingers},
                                                                        {"wheel", &wheel},
                                                                        {"look", &look},
                                                                        {"seen", &seen},
@@ -134,6 +136,7 @@ constexpr std::array<std::pair<std::string_view, Reader>, 10> readers{{{"fingers
                                                                        {"press", &press},
                                                                        {"paste", &paste},
                                                                        {"ask", &ask},
+                                                                       {"takeHand", &takeHand},
                                                                        {"launch", &launch}}};
 
 /// Deeper values are refused while they are read: each level takes a stack frame later.

@@ -70,13 +70,16 @@ struct Ask {
     std::string request;
 };
 
+/// The page wants to be the one that has the phone in hand.
+struct TakeHand {};
+
 /// Starts the application of that name anew in place of the one that runs.
 struct Launch {
     std::string application;
 };
 
 using PageMessage =
-    std::variant<Fingers, Wheel, Look, Seen, Insert, Compose, Press, Paste, Ask, Launch>;
+    std::variant<Fingers, Wheel, Look, Seen, Insert, Compose, Press, Paste, Ask, TakeHand, Launch>;
 
 /// Why a message is refused.
 struct MessageError : std::runtime_error {

@@ -7,17 +7,14 @@
 
 #include "bindings/foundation/data.hpp"
 #include "bindings/objc/pool.hpp"
-#include "bindings/uikit/event.hpp"
 #include "bindings/uikit/pasteboard.hpp"
-#include "bindings/uikit/window.hpp"
-#include "desktop/replaykit/film_view.hpp"
 #include "desktop/runtime/main_queue.hpp"
 #include "desktop/uikit/application/screen.hpp"
 #include "desktop/uikit/keyboard/keyboard_input.hpp"
 #include "desktop/uikit/scrolling/wheel.hpp"
 #include "desktop/uikit/uikit.hpp"
 #include "desktop/uikit/values/image.hpp"
-#include "desktop/webkit/web_content.hpp"
+#include "desktop/viewer/welcome.hpp"
 
 #include <algorithm>
 #include <array>
@@ -27,12 +24,6 @@
 
 namespace desktop::viewer {
 namespace {
-
-constexpr unsigned notFound = 404;
-
-std::string serialised(const host::Json& message) {
-    return message.dump(-1, ' ', false, host::Json::error_handler_t::replace);
-}
 
 /// Told by what a browser can show or play; everything else is only downloaded.
 const char* typeOf(const std::filesystem::path& file) {
@@ -51,7 +42,7 @@ const char* typeOf(const std::filesystem::path& file) {
 Answer contentOf(const std::string& file) {
     std::ifstream stream(file, std::ios::binary);
     if (file.empty() || !stream) {
-        return {notFound, "text/plain", "there is no such file\n"};
+        return noSuchFile();
     }
     return {200, typeOf(file), {std::istreambuf_iterator(stream), {}}};
 }
@@ -73,47 +64,6 @@ Answer pasteboardPicture() {
     return image != nullptr ? content(*image) : Answer{noContent, "image/png", ""};
 }
 
-/// In points, as the phone is held, with the pixels a point.
-host::Json screenSize() {
-    const ScreenGeometry& screen = ScreenGeometry::current();
-    return {{"width", screen.size.width}, {"height", screen.size.height}, {"scale", screen.scale}};
-}
-
-/// Whether the middle of the view is to be seen and touched.
-bool isInFront(ui::View view, const CGRect& frame) {
-    const CGPoint middle{frame.origin.x + frame.size.width / 2,
-                         frame.origin.y + frame.size.height / 2};
-    return view.window().hitTest(middle, nullptr).isDescendantOf(view);
-}
-
-host::Json listOf(const CGRect& frame) {
-    return {frame.origin.x, frame.origin.y, frame.size.width, frame.size.height};
-}
-
-/// The web pages in front of everything else, for the page to show what is in them.
-host::Json webPages() {
-    host::Json pages = host::Json::array();
-    for (const LiveWebPage& each : liveWebPages()) {
-        if (isInFront(each.view, each.frame)) {
-            pages.push_back({{"address", each.address}, {"frame", listOf(each.frame)}});
-        }
-    }
-    return pages;
-}
-
-/// The films in front of everything else, for the page to play them, each by the number of the
-/// event that carries its file.
-host::Json films(const EventFeed& events) {
-    host::Json shown = host::Json::array();
-    for (const LiveFilm& each : liveFilms()) {
-        const std::uint64_t number = events.numberOf(each.file);
-        if (number > 0 && isInFront(each.view, each.frame)) {
-            shown.push_back({{"event", number}, {"frame", listOf(each.frame)}});
-        }
-    }
-    return shown;
-}
-
 } // namespace
 
 Phone::Phone(const Door& door, Start start, std::filesystem::path deviceFolder,
@@ -122,14 +72,12 @@ Phone::Phone(const Door& door, Start start, std::filesystem::path deviceFolder,
       self_(std::make_shared<Phone*>(this)),
       events_(values,
               [this](const host::Json& event) {
-                  send({{"type", "events"}, {"events", host::Json::array({event})}});
+                  tellAll({{"type", "events"}, {"events", host::Json::array({event})}});
               }),
       server_(door.socket, door.token,
               {later<PageNumber>(&Phone::opened), later<PageNumber, std::string>(&Phone::said),
                later<PageNumber>(&Phone::closed),
                later<FetchNumber, std::string>(&Phone::fetched)}) {}
-
-Phone::~Phone() { picture_.reset(); }
 
 template <class... Arguments, class Method>
 std::function<void(Arguments...)> Phone::later(Method method) {
@@ -144,30 +92,53 @@ std::function<void(Arguments...)> Phone::later(Method method) {
 }
 
 void Phone::opened(PageNumber page) {
-    page_ = page;
-    webPages_ = nullptr;
-    films_ = nullptr;
-    screen_ = screenSize();
-    send(welcome());
-    send({{"type", "events"}, {"events", events_.events()}});
+    Watcher& watcher = watchers_.try_emplace(page, page, server_, events_).first->second;
+    if (holder_ == 0) {
+        holder_ = page;
+    }
+    watcher.tell(welcome(page));
+    watcher.tell({{"type", "events"}, {"events", events_.events()}});
 }
 
 void Phone::said(PageNumber page, const std::string& text) {
-    if (page == page_) {
+    if (const auto watcher = watchers_.find(page); watcher != watchers_.end()) {
         try {
-            std::visit([this](const auto& message) { carryOut(message); }, parsePageMessage(text));
+            std::visit([&](const auto& message) { take(watcher->second, page, message); },
+                       parsePageMessage(text));
         } catch (const MessageError& error) {
-            send({{"type", "refused"}, {"why", error.what()}});
+            watcher->second.tell({{"type", "refused"}, {"why", error.what()}});
         }
     }
     server_.handled(page);
 }
 
 void Phone::closed(PageNumber page) {
-    if (page == page_) {
-        page_ = 0;
-        picture_.reset();
-        hand_.leave();
+    watchers_.erase(page);
+    if (page == holder_) {
+        giveHand(watchers_.empty() ? 0 : watchers_.begin()->first);
+    }
+}
+
+void Phone::giveHand(PageNumber page) {
+    hand_.leave();
+    holder_ = page;
+    for (auto& [number, watcher] : watchers_) {
+        watcher.tell({{"type", "hand"}, {"hand", number == holder_}});
+    }
+}
+
+template <class Message>
+void Phone::take(Watcher& watcher, PageNumber page, const Message& message) {
+    if constexpr (std::is_same_v<Message, Look>) {
+        watcher.look(message.scale);
+    } else if constexpr (std::is_same_v<Message, Seen>) {
+        watcher.seen(message.picture);
+    } else if constexpr (std::is_same_v<Message, TakeHand>) {
+        giveHand(page);
+    } else if (page == holder_) {
+        carryOut(message);
+    } else {
+        throw MessageError("another page has the phone in hand");
     }
 }
 
@@ -186,61 +157,20 @@ Answer Phone::contentAt(const std::string& path) const {
     return contentOf(path.starts_with(files) ? events_.fileOf(path.substr(files.size())) : "");
 }
 
-host::Json Phone::welcome() const {
-    host::Json applications = host::Json::array();
-    for (const host::App* app : host::apps()) {
-        applications.push_back({{"name", app->name}, {"bundle", app->bundleIdentifier}});
-    }
-    return {{"type", "welcome"},
-            {"version", WENTRA_VERSION},
-            {"application", start_.application},
-            {"applications", applications},
-            {"afterCrash", start_.afterCrash},
-            {"folder", deviceFolder_.string()},
-            {"screen", screenSize()}};
+host::Json Phone::welcome(PageNumber page) const {
+    host::Json message = welcomeMessage("welcome", start_, deviceFolder_);
+    message["screen"] = screenSize();
+    message["hand"] = page == holder_;
+    return message;
 }
 
-void Phone::send(const host::Json& message) { server_.send(page_, serialised(message)); }
-
-void Phone::tellScreen() {
-    if (host::Json screen = screenSize(); screen != screen_) {
-        screen_ = std::move(screen);
-        send({{"type", "screen"}, {"screen", screen_}});
-    }
-}
-
-void Phone::tellWebPages() {
-    if (host::Json pages = webPages(); pages != webPages_) {
-        webPages_ = std::move(pages);
-        send({{"type", "webPages"}, {"pages", webPages_}});
-    }
-}
-
-void Phone::tellFilms() {
-    if (host::Json shown = films(events_); shown != films_) {
-        films_ = std::move(shown);
-        send({{"type", "films"}, {"films", films_}});
+void Phone::tellAll(const host::Json& message) {
+    for (auto& [page, watcher] : watchers_) {
+        watcher.tell(message);
     }
 }
 
 void Phone::carryOut(const Fingers& fingers) { hand_.touch(fingers); }
-
-void Phone::carryOut(const Look& look) {
-    picture_.reset();
-    picture_.emplace(
-        look.scale, [this, page = page_](Bytes frame) { server_.send(page, std::move(frame)); },
-        [this] {
-            tellScreen();
-            tellWebPages();
-            tellFilms();
-        });
-}
-
-void Phone::carryOut(const Seen& seen) {
-    if (picture_) {
-        picture_->seen(seen.picture);
-    }
-}
 
 void Phone::carryOut(const Wheel& wheel) {
     uikit::layoutWindows();
@@ -279,17 +209,19 @@ void Phone::carryOut(const Paste& paste) {
 
 void Phone::carryOut(const Ask& ask) {
     const std::string response = host::answer(session_, ask.request);
-    server_.send(page_, R"({"type":"answer","response":)" + response + "}");
+    server_.send(holder_, R"({"type":"answer","response":)" + response + "}");
     if (session_.quits) {
         host::stop();
     }
 }
 
-void Phone::carryOut(const Launch& launch) {
+void Phone::carryOut(const Launch& launch) { startInstead(start_, launch); }
+
+void startInstead(const Start& start, const Launch& launch) {
     if (host::appNamed(launch.application) == nullptr) {
         throw MessageError("unknown application: " + launch.application);
     }
-    nameSuccessor(start_, launch.application);
+    nameSuccessor(start, launch.application);
     host::stop();
 }
 

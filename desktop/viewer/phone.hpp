@@ -5,12 +5,12 @@
 #include "desktop/viewer/event_feed.hpp"
 #include "desktop/viewer/page_hand.hpp"
 #include "desktop/viewer/page_message.hpp"
-#include "desktop/viewer/picture.hpp"
 #include "desktop/viewer/server.hpp"
 #include "desktop/viewer/supervisor.hpp"
+#include "desktop/viewer/watcher.hpp"
 
 #include <filesystem>
-#include <optional>
+#include <map>
 
 namespace desktop::viewer {
 
@@ -20,14 +20,14 @@ struct Door {
     std::string token;
 };
 
-/// Serves pages for as long as it lives. Everything that they ask for happens on the main thread,
-/// on which the application's own work runs too.
+/// Serves pages for as long as it lives: all of them show the phone, and one has it in hand.
+/// Everything that they ask for happens on the main thread, on which the application's own work
+/// runs too.
 class Phone {
 public:
     Phone(const Door& door, Start start, std::filesystem::path deviceFolder, host::Values& values);
     Phone(const Phone&) = delete;
     Phone& operator=(const Phone&) = delete;
-    ~Phone();
 
 private:
     /// The method, called on the main thread as long as there is a phone.
@@ -39,9 +39,12 @@ private:
     void closed(PageNumber page);
     void fetched(FetchNumber fetch, const std::string& path);
 
+    /// From now on that page has the phone in hand, or none (0).
+    void giveHand(PageNumber page);
+    /// Carries the message out if the page may send it; throws MessageError if it may not.
+    template <class Message>
+    void take(Watcher& watcher, PageNumber page, const Message& message);
     void carryOut(const Fingers& fingers);
-    void carryOut(const Look& look);
-    void carryOut(const Seen& seen);
     static void carryOut(const Wheel& wheel);
     static void carryOut(const Insert& insert);
     static void carryOut(const Compose& compose);
@@ -50,26 +53,24 @@ private:
     void carryOut(const Ask& ask);
     void carryOut(const Launch& launch);
 
-    void send(const host::Json& message);
-    void tellScreen();
-    void tellWebPages();
-    void tellFilms();
-    [[nodiscard]] host::Json welcome() const;
+    void tellAll(const host::Json& message);
+    [[nodiscard]] host::Json welcome(PageNumber page) const;
     [[nodiscard]] Answer contentAt(const std::string& path) const;
 
     Start start_;
     std::filesystem::path deviceFolder_;
     host::Session session_;
-    PageNumber page_ = 0; // 0: none
+    PageNumber holder_ = 0; ///< the page that has the phone in hand; 0: none
     PageHand hand_;
-    host::Json webPages_; ///< as the page was told last
-    host::Json films_;    ///< likewise
-    host::Json screen_;   ///< likewise
     /// What is queued on the main thread must not outlive the phone.
     std::shared_ptr<Phone*> self_;
     EventFeed events_;
     Server server_;
-    std::optional<Picture> picture_; // delivers to the server
+    std::map<PageNumber, Watcher> watchers_; // their pictures are delivered to the server
 };
+
+/// Ends this process in favour of one that runs the application. Throws MessageError when there is
+/// none of that name.
+void startInstead(const Start& start, const Launch& launch);
 
 } // namespace desktop::viewer

@@ -52,21 +52,27 @@ struct Server::Room {
 
     Room(int socket, std::string secret, ServerListener told)
         : acceptor(context, tcp::v4(), socket), token(std::move(secret)),
-          listener(std::move(told)) {}
+          listener(std::move(told)) {
+        listener.closed = [this, tell = std::move(listener.closed)](PageNumber page) {
+            pages.erase(page);
+            tell(page);
+        };
+    }
 
     void accept();
     void welcome(tcp::socket socket, const HttpRequest& request);
-    /// The connection with that page, when it still is the present one.
-    [[nodiscard]] PageConnection* present(PageNumber number) const {
-        return page && page->number() == number ? page.get() : nullptr;
+    /// The connection with that page, as long as there is one.
+    [[nodiscard]] std::shared_ptr<PageConnection> present(PageNumber number) const {
+        const auto found = pages.find(number);
+        return found == pages.end() ? nullptr : found->second;
     }
 
     asio::io_context context{1};
     tcp::acceptor acceptor;
     std::string token;
     ServerListener listener;
-    std::shared_ptr<PageConnection> page;
-    PageNumber pages = 0;
+    std::map<PageNumber, std::shared_ptr<PageConnection>> pages;
+    PageNumber lastPage = 0;
     std::map<FetchNumber, std::shared_ptr<Visit>> waiting;
     FetchNumber fetches = 0;
     std::thread thread; // last: it uses all of the above
@@ -138,6 +144,8 @@ private:
             send(refusal(http::status::bad_request, "this path is for WebSocket connections"));
         } else if (!isSameOrigin(view(request[http::field::origin]), host)) {
             send(refusal(http::status::forbidden, "the page came from elsewhere"));
+        } else if (room_.pages.size() >= mostPages) {
+            send(refusal(http::status::service_unavailable, "too many pages show the phone"));
         } else {
             room_.welcome(stream_.release_socket(), request);
         }
@@ -164,10 +172,9 @@ void Server::Room::accept() {
 }
 
 void Server::Room::welcome(tcp::socket socket, const HttpRequest& request) {
-    if (page) {
-        page->yieldToAnother();
-    }
-    page = std::make_shared<PageConnection>(std::move(socket), ++pages, listener);
+    const PageNumber number = ++lastPage;
+    const auto page = std::make_shared<PageConnection>(std::move(socket), number, listener);
+    pages.emplace(number, page);
     page->accept(request);
 }
 
@@ -184,7 +191,7 @@ Server::~Server() {
 
 void Server::send(PageNumber number, std::string text) {
     asio::post(room_->context, [room = room_.get(), number, text = std::move(text)]() mutable {
-        if (PageConnection* page = room->present(number)) {
+        if (const auto page = room->present(number)) {
             page->send(std::move(text));
         }
     });
@@ -192,7 +199,7 @@ void Server::send(PageNumber number, std::string text) {
 
 void Server::send(PageNumber number, Bytes bytes) {
     asio::post(room_->context, [room = room_.get(), number, bytes = std::move(bytes)]() mutable {
-        if (PageConnection* page = room->present(number)) {
+        if (const auto page = room->present(number)) {
             page->send(std::move(bytes));
         }
     });
@@ -200,7 +207,7 @@ void Server::send(PageNumber number, Bytes bytes) {
 
 void Server::handled(PageNumber number) {
     asio::post(room_->context, [room = room_.get(), number] {
-        if (PageConnection* page = room->present(number)) {
+        if (const auto page = room->present(number)) {
             page->handled();
         }
     });

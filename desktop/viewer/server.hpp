@@ -17,12 +17,12 @@ using FetchNumber = std::uint64_t;
 
 /// What the server tells, on a thread of its own.
 struct ServerListener {
-    /// A page has connected; it takes over from the one before, if there is one.
+    /// A page has connected.
     std::function<void(PageNumber)> opened;
     /// A page sent a text. Each must be answered by `Server::handled`: while too many are not, the
     /// server reads no further.
     std::function<void(PageNumber, std::string)> said;
-    /// The page is gone, or another has taken over.
+    /// The page is gone.
     std::function<void(PageNumber)> closed;
     /// A page wants something that is none of its files, by this path; `Server::answer` follows.
     std::function<void(FetchNumber, std::string)> fetched;
@@ -30,10 +30,12 @@ struct ServerListener {
 
 /// Runs on a thread of its own from the first moment to the last. Only requests to this machine's
 /// own names with the token in their path are served; connections only to pages that came from
-/// here. One page is connected at a time. The functions may be called on any thread; what they send
+/// here, and to so many at a time. The functions may be called on any thread; what they send
 /// to a page that is gone is dropped.
 class Server {
 public:
+    static constexpr std::size_t mostPages = 8;
+
     /// Takes over the listening socket.
     Server(int socket, std::string token, ServerListener listener);
     Server(const Server&) = delete;

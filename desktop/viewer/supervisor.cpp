@@ -17,6 +17,7 @@
 #include <sys/wait.h>
 #include <system_error>
 #include <unistd.h>
+#include <utility>
 
 namespace desktop::viewer {
 namespace {
@@ -142,10 +143,11 @@ private:
 int supervise(std::string application, const std::function<int(const Start&)>& phone) {
     handleStopSignals(&passOn);
     Crashes crashes;
-    bool hasCrashed = false;
+    Start start{std::move(application)};
     for (;;) {
         const Pipe names;
-        const pid_t process = startChild({application, hasCrashed, names.ends[1]}, phone);
+        start.successor = names.ends[1];
+        const pid_t process = startChild(start, phone);
         if (process == 0) {
             return EXIT_SUCCESS;
         }
@@ -153,17 +155,19 @@ int supervise(std::string application, const std::function<int(const Start&)>& p
         if (stopRequested) {
             return EXIT_SUCCESS;
         }
-        hasCrashed = WIFSIGNALED(status);
+        start.afterCrash = WIFSIGNALED(status);
         if (const std::string successor = names.content(); !successor.empty()) {
-            application = successor;
-        } else if (!hasCrashed) {
+            start.application = successor;
+            start.rests = false;
+        } else if (!start.afterCrash) {
             return WEXITSTATUS(status);
+        } else if (std::exchange(start.rests, false)) {
+            return EXIT_FAILURE;
         } else {
-            std::fprintf(stderr, "host: %s crashed: %s\n", application.c_str(),
+            std::fprintf(stderr, "host: %s crashed: %s\n", start.application.c_str(),
                          strsignal(WTERMSIG(status)));
-            if (crashes.areTooMany()) {
-                std::fprintf(stderr, "host: it crashes again and again, so this is the end\n");
-                return EXIT_FAILURE;
+            if (start.rests = crashes.areTooMany(); start.rests) {
+                std::fprintf(stderr, "host: it crashes again and again: the page can start it\n");
             }
         }
     }

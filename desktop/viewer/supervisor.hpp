@@ -11,15 +11,18 @@ struct Start {
     std::string application;
     /// Whether the process before this one crashed.
     bool afterCrash = false;
+    /// The application crashes again and again: it is not to be started before somebody asks.
+    bool rests = false;
     /// Where the child writes the name of the application that it wants to be replaced by, before
     /// it ends.
     int successor = -1;
 };
 
 /// Runs `phone` in a child process; its result is the child's exit status. When the child has named
-/// a successor or has crashed, the next child follows; an application that crashes again and again
-/// is given up. Interrupt, hang-up and termination signals end the child and then this, with status
-/// 0. The exit status to end with. Before any thread is started.
+/// a successor or has crashed, the next child follows; for an application that crashes again and
+/// again, one that rests. A resting child that crashes is the end. Interrupt, hang-up and
+/// termination signals end the child and then this, with status 0. The exit status to end with.
+/// Before any thread is started.
 int supervise(std::string application, const std::function<int(const Start&)>& phone);
 
 /// Asks, in the child, for another application (or the same one anew). The child has to end then.

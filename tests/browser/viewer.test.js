@@ -278,17 +278,6 @@ test("fingers on a touch screen are the phone's fingers", async () => {
     await phone.close();
 });
 
-test("a second page takes over, and the first can take the phone back", async () => {
-    const first = await Phone.open(browser, host.address);
-    const second = await Phone.open(browser, host.address);
-    await first.page.waitForSelector("#take-back:visible");
-    assert.equal(await second.page.isVisible("#veil"), false);
-    await first.page.click("#take-back");
-    await second.page.waitForSelector("#take-back:visible");
-    await first.showing("Hello, world");
-    await first.close();
-    await second.close();
-});
 
 test("a page that is slow gets the newest picture, not all of them", async () => {
     const phone = await Phone.open(browser, host.address);

@@ -1,9 +1,9 @@
 // @ts-check
 // The connection with the phone: one WebSocket, opened again whenever it is lost.
 
-/** The server closes with this code when another page takes over. */
-const takenOver = 4001;
 const retryMilliseconds = 700;
+/** The listening socket outlives the phone's processes: whoever is refused that often finds no host. */
+const mostRefusals = 2;
 
 /** Texts that have no UTF-8 form come as their units, which are at home in JavaScript's strings. */
 function revived(/** @type {string} */ _, /** @type {any} */ value) {
@@ -15,8 +15,9 @@ function revived(/** @type {string} */ _, /** @type {any} */ value) {
 
 /**
  * Dispatches a CustomEvent for each message of the phone, named by its type, with the message as
- * its detail; "frame" with the bytes of a frame; and "state" with "connecting", "connected" or
- * "taken" whenever that changes.
+ * its detail; "frame" with the bytes of a frame; and "state" whenever that changes: "connecting";
+ * "connected", with the phone in this page's hand; "watching", with it in another's; "resting" when the
+ * application crashes again and again; "ended" when there is no host any more.
  */
 export class Connection extends EventTarget {
     /** @type {WebSocket | null} */
@@ -24,16 +25,19 @@ export class Connection extends EventTarget {
     /** @type {Map<number, {resolve: (result: any) => void, reject: (error: Error) => void}>} */
     #asked = new Map();
     #lastId = 0;
+    #refusals = 0;
+    #state = "";
 
     open() {
-        this.#tell("state", "connecting");
         const address = new URL("socket", location.href);
         address.protocol = "ws:";
         const socket = new WebSocket(address);
         socket.binaryType = "arraybuffer";
         socket.onmessage = ({ data }) => this.#receive(data);
-        socket.onopen = () => this.#tell("state", "connected");
-        socket.onclose = ({ code }) => this.#closed(code);
+        socket.onopen = () => {
+            this.#refusals = 0;
+        };
+        socket.onclose = () => this.#closed();
         this.#socket = socket;
     }
 
@@ -52,7 +56,7 @@ export class Connection extends EventTarget {
      */
     ask(command, given = {}) {
         return new Promise((resolve, reject) => {
-            if (this.#socket?.readyState !== WebSocket.OPEN) {
+            if (this.#state !== "connected") {
                 reject(new Error("not connected"));
                 return;
             }
@@ -70,9 +74,14 @@ export class Connection extends EventTarget {
         const message = JSON.parse(data, revived);
         if (message.type === "answer") {
             this.#answered(message.response);
-        } else {
-            this.#tell(message.type, message);
+            return;
         }
+        if (message.type === "resting") {
+            this.#become("resting");
+        } else if ("hand" in message) {
+            this.#become(message.hand ? "connected" : "watching");
+        }
+        this.#tell(message.type, message);
     }
 
     #answered(/** @type {{id: number, ok: boolean, result?: any, error?: string}} */ response) {
@@ -85,16 +94,20 @@ export class Connection extends EventTarget {
         }
     }
 
-    #closed(/** @type {number} */ code) {
+    #closed() {
         for (const { reject } of this.#asked.values()) {
             reject(new Error("the connection was lost"));
         }
         this.#asked.clear();
-        if (code === takenOver) {
-            this.#tell("state", "taken");
-        } else {
-            this.#tell("state", "connecting");
-            setTimeout(() => this.open(), retryMilliseconds);
+        this.#refusals += 1;
+        this.#become(this.#refusals > mostRefusals ? "ended" : "connecting");
+        setTimeout(() => this.open(), retryMilliseconds * Math.min(this.#refusals, 8));
+    }
+
+    #become(/** @type {string} */ state) {
+        if (state !== this.#state) {
+            this.#state = state;
+            this.#tell("state", state);
         }
     }
 

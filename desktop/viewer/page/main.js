@@ -15,6 +15,7 @@ import { pasteboardPanel } from "./panels/pasteboard.js";
 import { preferencesPanel } from "./panels/preferences.js";
 import { rulesPanel } from "./panels/rules.js";
 import { Screen } from "./screen.js";
+import { showState } from "./veil.js";
 import { showWebPages } from "./web_pages.js";
 import { language, switchLanguage, word } from "./words.js";
 
@@ -119,13 +120,6 @@ let events = [];
 /** @type {Record<string, Panel>} */
 let panels = {};
 
-function showState() {
-    const veil = part("veil");
-    veil.hidden = connectionState === "connected";
-    part("veil-text").textContent = word(connectionState === "taken" ? "taken" : "connecting");
-    part("take-back").hidden = connectionState !== "taken";
-}
-
 function showPage() {
     const eventList = eventsPanel();
     panels = {
@@ -137,8 +131,8 @@ function showPage() {
         events: eventList,
     };
     showWords();
-    showState();
     makeTabs(panels);
+    showState(connectionState, connection, phone);
     eventList.add(events);
     if (phone) {
         panels.applications.welcome?.(phone);
@@ -163,15 +157,17 @@ function fitScreen() {
 
 connection.addEventListener("state", (event) => {
     connectionState = /** @type {CustomEvent} */ (event).detail;
-    showState();
+    showState(connectionState, connection, phone);
 });
-connection.addEventListener("welcome", (event) => {
-    phone = /** @type {CustomEvent} */ (event).detail;
-    events = [];
-    document.title = `${word(phone.application)} — Wentra`;
-    showPage();
-    fitScreen();
-});
+for (const told of ["welcome", "resting"]) {
+    connection.addEventListener(told, (event) => {
+        phone = /** @type {CustomEvent} */ (event).detail;
+        events = [];
+        document.title = `${word(phone.application)} — Wentra`;
+        showPage();
+        fitScreen();
+    });
+}
 screen.addEventListener("turned", fitScreen);
 connection.addEventListener("refused", (event) => {
     tell(word("failed") + /** @type {CustomEvent} */ (event).detail.why);
@@ -183,7 +179,6 @@ showFilms(part("glass"), connection);
 tellOpenedUrls(connection, tell);
 typeInto(field, part("help"), connection);
 part("glass").addEventListener("pointerdown", () => field.focus({ preventScroll: true }));
-part("take-back").onclick = () => connection.open();
 part("help").onclick = showHelp;
 const holding = holdPhone(connection, attempt);
 part("rotate").onclick = holding.turn;

@@ -27,8 +27,21 @@ const words = {
     pasteboard: ["剪贴板", "Pasteboard"],
     events: ["事件", "Events"],
     connecting: ["正在连接手机…", "Connecting to the phone…"],
-    taken: ["手机已在另一个页面中打开", "The phone is open in another page"],
-    takeBack: ["在此页面继续使用", "Use it here"],
+    watching: ["正在观看：另一个页面正在操作手机", "Watching: another page has the phone in hand"],
+    takeHand: ["在此页面操作", "Use it here"],
+    resting: ["应用接连崩溃，已停止重新启动", "The application crashes again and again"],
+    restingHint: [
+        "原因见终端。可以再次启动它，或打开另一个应用。",
+        "The terminal tells why. Start it once more, or open another application.",
+    ],
+    startAgain: ["再次启动", "Start it again"],
+    ended: ["手机已经关闭", "The phone has ended"],
+    endedHint: [
+        "终端里有原因。重新运行 ./dev run，并打开它给出的新地址。",
+        "The terminal tells why. Run ./dev run again and open the address that it prints.",
+    ],
+    controls: ["手机的按钮", "Buttons of the phone"],
+    pageControls: ["页面的按钮", "Buttons of the page"],
     crashed: [
         "应用刚刚崩溃，已经重新启动；原因见终端。",
         "The application crashed and was started again; the terminal tells why.",

@@ -36,7 +36,21 @@ TEST(Supervisor, StartsAgainAfterACrash) {
     EXPECT_EQ(supervise("one", phone), 9);
 }
 
-TEST(Supervisor, GivesUpWhatCrashesAgainAndAgain) {
+TEST(Supervisor, RestsWhenCrashesComeAgainAndAgainUntilSomebodyAsks) {
+    const auto phone = [](const Start& start) {
+        if (start.application == "two") {
+            return start.rests ? 8 : 7;
+        }
+        if (start.rests) {
+            nameSuccessor(start, "two");
+            return 0;
+        }
+        return raise(SIGKILL);
+    };
+    EXPECT_EQ(supervise("one", phone), 7);
+}
+
+TEST(Supervisor, GivesUpWhenNotEvenRestingWorks) {
     EXPECT_EQ(supervise("one", [](const Start&) { return raise(SIGKILL); }), EXIT_FAILURE);
 }
 

@@ -36,14 +36,14 @@ export function applicationsPanel(connection) {
     return {
         panel,
         welcome(/** @type {any} */ phone) {
-            const { width, height, scale } = phone.screen;
+            const { screen } = phone; // there is none when no application runs
             panel.replaceChildren(
                 element("p", { class: "hint" }, word("applicationsHint")),
                 element(
                     "ul",
                     { class: "card applications" },
                     ...phone.applications.map((/** @type {Application} */ application) =>
-                        row(application, application.name === phone.application),
+                        row(application, Boolean(screen) && application.name === phone.application),
                     ),
                 ),
                 element(
@@ -51,13 +51,15 @@ export function applicationsPanel(connection) {
                     { class: "card facts" },
                     element("dt", {}, word("version")),
                     element("dd", {}, `Wentra ${phone.version}`),
-                    element("dt", {}, word("screen")),
-                    element("dd", {}, `${width} × ${height} @ ${scale}×`),
+                    ...(screen ? [
+                        element("dt", {}, word("screen")),
+                        element("dd", {}, `${screen.width} × ${screen.height} @ ${screen.scale}×`),
+                    ] : []),
                     element("dt", {}, word("folder")),
                     element("dd", {}, element("code", {}, phone.folder)),
                 ),
             );
-            if (phone.afterCrash) {
+            if (phone.afterCrash && screen) {
                 panel.prepend(element("p", { class: "warning", role: "alert" }, word("crashed")));
             }
         },
