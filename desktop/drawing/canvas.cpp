@@ -54,8 +54,10 @@ void addRoundedRectangle(cairo_t* context, const Rectangle& area, double wantedR
 
 double unit(double component) { return component > 0 ? std::min(component, 1.0) : 0; }
 
+double usable(double scale) { return scale > 0 && std::isfinite(scale) ? scale : 1; }
+
 int pixels(double points, double scale) {
-    const double count = std::ceil(points * scale - 1e-6);
+    const double count = std::ceil(points * usable(scale) - 1e-6);
     return count >= 1 ? static_cast<int>(std::min(count, double{Image::largestSide})) : 1;
 }
 
@@ -77,9 +79,13 @@ void keepPixels(cairo_surface_t* target, cairo_surface_t* pixels) {
 
 } // namespace
 
-Canvas::Canvas(Size size, double scale) : scale_(scale > 0 && std::isfinite(scale) ? scale : 1) {
-    cairo_surface_t* surface = cairo_image_surface_create(
-        CAIRO_FORMAT_ARGB32, pixels(size.width, scale_), pixels(size.height, scale_));
+Canvas::Canvas(Size size, double scale)
+    : Canvas(pixels(size.width, scale), pixels(size.height, scale), scale) {}
+
+Canvas::Canvas(int width, int height, double scale) : scale_(usable(scale)) {
+    cairo_surface_t* surface =
+        cairo_image_surface_create(CAIRO_FORMAT_ARGB32, std::clamp(width, 1, Image::largestSide),
+                                   std::clamp(height, 1, Image::largestSide));
     context_.reset(cairo_create(surface), cairo_destroy);
     cairo_surface_destroy(surface);
     cairo_scale(context(), scale_, scale_);

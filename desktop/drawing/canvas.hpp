@@ -29,6 +29,8 @@ public:
     /// A clear surface of size times scale pixels, rounded up, each side between 1 and
     /// `Image::largestSide`; (390 x 844) at 3 has 1170 x 2532 pixels.
     Canvas(Size size, double scale);
+    /// A clear surface of that many pixels, likewise limited, on which a point has `scale` of them.
+    Canvas(int width, int height, double scale);
     /// Draws with a context made elsewhere, of which it shares the ownership.
     explicit Canvas(cairo_t* context);
 

@@ -51,6 +51,16 @@ bool contains(const PixelRectangle& outer, const PixelRectangle& inner) {
     return intersection(outer, inner) == inner || inner.isEmpty();
 }
 
+double nearestEdge(double place) {
+    constexpr double farAway = 1e8; // nothing can be seen there, and whole numbers end
+    return std::clamp(std::round(place), -farAway, farAway);
+}
+
+PixelRectangle screenPixels(Size size, double pixelsPerPoint) {
+    return {0, 0, static_cast<int>(nearestEdge(size.width * pixelsPerPoint)),
+            static_cast<int>(nearestEdge(size.height * pixelsPerPoint))};
+}
+
 PixelRectangle pixelsAround(const Rectangle& area, const PixelRectangle& limits) {
     return limited(std::floor(area.x), std::floor(area.y), std::ceil(area.x + area.width),
                    std::ceil(area.y + area.height), limits);

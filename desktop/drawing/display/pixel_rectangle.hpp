@@ -29,6 +29,12 @@ struct PixelRectangle {
 [[nodiscard]] PixelRectangle bounding(const PixelRectangle& a, const PixelRectangle& b);
 [[nodiscard]] bool contains(const PixelRectangle& outer, const PixelRectangle& inner);
 
+/// The edge between pixels nearest to a place that is told in pixels. Screens and upright boxes on
+/// them are measured by this alone, so that what fills a screen in points fills it in pixels.
+[[nodiscard]] double nearestEdge(double place);
+/// The pixels of a screen of that size in points.
+[[nodiscard]] PixelRectangle screenPixels(Size size, double pixelsPerPoint);
+
 /// The pixels that an area touches, or (`pixelsInside`) covers wholly, as far as they lie in
 /// `limits`. Empty when the area is not a number.
 [[nodiscard]] PixelRectangle pixelsAround(const Rectangle& area, const PixelRectangle& limits);

@@ -7,14 +7,8 @@
 namespace desktop {
 namespace {
 
-// Farther away nothing can be seen, and whole numbers end.
-constexpr double farAway = 1e8;
-
-/// An edge that can be seen comes to lie between pixels.
-double edge(double place) { return std::clamp(std::round(place), -farAway, farAway); }
-
 int wholePixels(double distance) {
-    return std::isnan(distance) ? 0 : static_cast<int>(std::clamp(distance, -farAway, farAway));
+    return std::isnan(distance) ? 0 : static_cast<int>(nearestEdge(distance));
 }
 
 } // namespace
@@ -40,11 +34,11 @@ PlacedBox PlacedBox::onPixels() const {
     if (!isUpright() || !(area.width > 0 && area.height > 0)) {
         return *this;
     }
-    const double left = edge(area.x);
-    const double top = edge(area.y);
+    const double left = nearestEdge(area.x);
+    const double top = nearestEdge(area.y);
     return {{},
-            {left, top, std::max(1.0, edge(area.x + area.width) - left),
-             std::max(1.0, edge(area.y + area.height) - top)},
+            {left, top, std::max(1.0, nearestEdge(area.x + area.width) - left),
+             std::max(1.0, nearestEdge(area.y + area.height) - top)},
             cornerRadius * pixelsPerPoint()};
 }
 
@@ -53,8 +47,8 @@ ContentPlace::ContentPlace(const PlacedBox& shape) : inPicture(shape.place) {
     const Point turned{place.a * box.x + place.c * box.y, place.b * box.x + place.d * box.y};
     const Point origin{turned.x + place.tx, turned.y + place.ty};
     if (shape.isUpright()) {
-        right = wholePixels(std::round(origin.x));
-        down = wholePixels(std::round(origin.y));
+        right = wholePixels(origin.x);
+        down = wholePixels(origin.y);
         inPicture.tx = -turned.x;
         inPicture.ty = -turned.y;
     } else {

@@ -19,11 +19,17 @@ Size screenSize() {
     return {size.width, size.height};
 }
 
+Canvas screenCanvas(Size size, double scale) {
+    const PixelRectangle pixels = screenPixels(size, scale);
+    return {pixels.width, pixels.height, scale};
+}
+
+double usable(double scale) { return scale > 0 && std::isfinite(scale) ? scale : 1; }
+
 } // namespace
 
 ScreenImage::ScreenImage(double scale)
-    : size_(screenSize()), canvas_(size_, scale),
-      scale_(scale > 0 && std::isfinite(scale) ? scale : 1),
+    : size_(screenSize()), scale_(usable(scale)), canvas_(screenCanvas(size_, scale_)),
       ticket_(ScreenChanges::shared().listen([this] { becomeStale(); })) {}
 
 ScreenImage::~ScreenImage() { ScreenChanges::shared().leave(ticket_); }
@@ -42,7 +48,7 @@ std::vector<PixelRectangle> ScreenImage::refresh() {
     uikit::layoutWindows();
     if (const Size size = screenSize(); size.width != size_.width || size.height != size_.height) {
         size_ = size;
-        canvas_ = Canvas(size, scale_);
+        canvas_ = screenCanvas(size, scale_);
         shown_ = {};
     }
     stale_ = false; // what drawing itself changes is for the next time

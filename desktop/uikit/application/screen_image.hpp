@@ -45,8 +45,8 @@ private:
     [[nodiscard]] cairo_surface_t* surface() const { return cairo_get_target(canvas_.context()); }
 
     Size size_; ///< in points
-    Canvas canvas_;
     double scale_;
+    Canvas canvas_;
     DisplayList shown_;
     ContentStore contents_;
     std::function<void()> whenStale_;

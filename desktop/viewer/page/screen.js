@@ -81,8 +81,10 @@ export class Screen extends EventTarget {
     fit() {
         const wanted = Math.min(3, Math.max(0.5, this.zoom * devicePixelRatio));
         document.documentElement.style.setProperty("--zoom", String(this.zoom));
-        this.#canvas.style.width = `${this.size.width * this.zoom}px`;
-        this.#canvas.style.height = `${this.size.height * this.zoom}px`;
+        // As the phone rounds: whole pixels of the display, or the browser would blur them.
+        const length = (/** @type {number} */ points) => (Math.round(points * wanted) / wanted) * this.zoom;
+        this.#canvas.style.width = `${length(this.size.width)}px`;
+        this.#canvas.style.height = `${length(this.size.height)}px`;
         if (wanted !== this.#shownScale) {
             this.#shownScale = wanted;
             this.#connection.send({ type: "look", scale: wanted });

@@ -5,6 +5,7 @@
 #include "bindings/uikit/label.hpp"
 #include "bindings/uikit/screen.hpp"
 #include "bindings/uikit/window.hpp"
+#include "desktop/uikit/application/screen.hpp"
 #include "desktop/uikit/application/screen_image.hpp"
 
 #include <algorithm>
@@ -122,6 +123,43 @@ std::string difference(const ScreenImage& one, const ScreenImage& other) {
                       : std::to_string(count) + " bytes, by at most " + std::to_string(largest) +
                             ", first at " + std::to_string(first % stride / 4) + ", " +
                             std::to_string(first / stride);
+}
+
+/// How many pixels of the picture's edges are not of that colour.
+int otherPixelsAtEdges(const desktop::Image& picture, const desktop::Colour& wanted) {
+    const int right = picture.pixelWidth() - 1;
+    const int bottom = picture.pixelHeight() - 1;
+    int others = 0;
+    for (int x = 0; x <= right; ++x) {
+        others += picture.pixel(x, 0) == wanted ? 0 : 1;
+        others += picture.pixel(x, bottom) == wanted ? 0 : 1;
+    }
+    for (int y = 0; y <= bottom; ++y) {
+        others += picture.pixel(0, y) == wanted ? 0 : 1;
+        others += picture.pixel(right, y) == wanted ? 0 : 1;
+    }
+    return others;
+}
+
+TEST_F(ScreenImageTest, AWindowFillsTheScreenAtEveryScale) {
+    desktop::ScreenGeometry& geometry = desktop::ScreenGeometry::current();
+    const desktop::ScreenGeometry before = geometry;
+    for (const CGSize size : {CGSize{390, 844}, {844, 390}, {375, 667}, {393.5, 851.25}}) {
+        geometry = desktop::ScreenGeometry::upright(size, 3);
+        window.setFrame({{}, size});
+        for (double scale = 0.5; scale < 3; scale += 0.0771) {
+            ScreenImage screen(scale);
+            for (const auto& [colour, drawn] :
+                 {std::pair{ui::Color::red(), desktop::Colour{1, 0, 0, 1}},
+                  {ui::Color::white(), {1, 1, 1, 1}}}) {
+                window.setBackgroundColor(colour);
+                screen.refresh();
+                EXPECT_EQ(otherPixelsAtEdges(screen.snapshot(), drawn), 0)
+                    << size.width << " x " << size.height << " at " << scale;
+            }
+        }
+    }
+    geometry = before;
 }
 
 /// A tree of views, changed at random.
