@@ -29,16 +29,17 @@ std::u16string readableHost(std::u16string_view host) {
     return readable;
 }
 
-/// The text as GNUstep reads it: a slash stands before a query right after the host.
-std::u16string readable(std::u16string_view text) {
-    const std::u16string_view host = hostIn(text);
-    if (host.empty()) {
-        return std::u16string(text);
+/// The text as GNUstep reads it: a slash stands before a query right after the host. Most texts are
+/// read as they are.
+ns::String readable(ns::String text, std::u16string_view given, std::u16string_view host) {
+    const auto start = static_cast<std::size_t>(host.data() - given.data());
+    const std::u16string_view rest = given.substr(start + host.size());
+    const bool hasQueryAfterHost = rest.starts_with(u'?');
+    if (host.empty() || (!hasQueryAfterHost && host.find(u'&') == host.npos)) {
+        return text;
     }
-    const auto start = static_cast<std::size_t>(host.data() - text.data());
-    const std::u16string_view rest = text.substr(start + host.size());
-    return std::u16string(text.substr(0, start)) + readableHost(host) +
-           (rest.starts_with(u'?') ? u"/" : u"") + std::u16string(rest);
+    return ns::String::from(std::u16string(given.substr(0, start)) + readableHost(host) +
+                            (hasQueryAfterHost ? u"/" : u"") + std::u16string(rest));
 }
 
 using Maker = objc::Next<ns::Url(ns::String, ns::Url)>;
@@ -48,8 +49,9 @@ ns::Url read(Maker next, ns::Url url, ns::String text, ns::Url base) {
         return nullptr;
     }
     const std::u16string given = text.utf16();
-    const ns::Url made = next(text ? ns::String::from(readable(given)) : text, base);
-    if (const bool isWhole = !base || !hostIn(given).empty(); made && isWhole) {
+    const std::u16string_view host = hostIn(given);
+    const ns::Url made = next(readable(text, given, host), base);
+    if (const bool isWhole = !base || !host.empty(); made && isWhole) {
         objc::associate<"givenText">(made, text, objc::Association::copyNonatomic);
     }
     return made;
