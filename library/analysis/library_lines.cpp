@@ -2,7 +2,7 @@
 #include "library/analysis/library_lines.hpp"
 
 #include "library/analysis/line_cleaning.hpp"
-#include "library/common/text_parts.hpp"
+#include "library/analysis/lines_holding.hpp"
 
 #include <array>
 
@@ -11,19 +11,15 @@ namespace {
 
 constexpr std::array steps{backslashes, nameKey, spacedColon, pathKey, abortNote};
 
-bool namesLibrary(std::u16string_view line) {
-    return line.find(u".dylib") != line.npos || line.find(u".framework") != line.npos;
-}
+constexpr std::array<std::u16string_view, 2> libraryKinds{u".dylib", u".framework"};
 
 } // namespace
 
 LibraryLines libraryLines(std::u16string_view text, SystemList list) {
     LibraryLines lines;
-    for (const std::u16string_view line : split(text, isLineFeed)) {
-        if (namesLibrary(line)) {
-            std::u16string clean = cleaned(line, steps);
-            (isSystemLine(clean, list) ? lines.system : lines.others).push_back(std::move(clean));
-        }
+    for (const std::u16string_view line : linesHolding(text, libraryKinds)) {
+        std::u16string clean = cleaned(line, steps);
+        (isSystemLine(clean, list) ? lines.system : lines.others).push_back(std::move(clean));
     }
     return lines;
 }

@@ -1,6 +1,7 @@
 // What the filters look for. Paths in reports carry JSON's backslashes.
 #include "library/analysis/line_filters.hpp"
 
+#include "library/analysis/lines_holding.hpp"
 #include "library/common/decimal_digits.hpp"
 #include "library/common/text_parts.hpp"
 
@@ -9,20 +10,26 @@
 namespace wentra::analysis {
 namespace {
 
-bool holds(std::u16string_view line, std::u16string_view sought) {
-    return line.find(sought) != line.npos;
+using Lines = std::vector<std::u16string_view>;
+
+template <std::size_t Count>
+using Fragments = std::array<std::u16string_view, Count>;
+constexpr Fragments<1> urls{u"://"};
+constexpr Fragments<3> libraryMarks{u".dylib", u"\\/usr\\/lib\\/", u"\\/System\\/Library\\/"};
+constexpr Fragments<1> dylibs{u".dylib"};
+constexpr Fragments<2> foreignPaths{u"\\/private\\/preboot\\/", u"\\/private\\/var\\/containers"};
+constexpr Fragments<1> systemPaths{u"\\/System\\/Library\\/"};
+
+template <const auto& Fragments>
+Lines linesWith(std::u16string_view text) {
+    return linesHolding(text, Fragments);
 }
 
-bool holdsUrl(std::u16string_view line) { return holds(line, u"://"); }
-bool holdsDylib(std::u16string_view line) { return holds(line, u".dylib"); }
-bool holdsSystemPath(std::u16string_view line) { return holds(line, u"\\/System\\/Library\\/"); }
-bool holdsLibrary(std::u16string_view line) {
-    return holdsDylib(line) || holds(line, u"\\/usr\\/lib\\/") || holdsSystemPath(line);
+Lines linesWithTwoDigits(std::u16string_view text) {
+    Lines lines = split(text, u'\n');
+    std::erase_if(lines, [](std::u16string_view line) { return countDecimalDigits(line) < 2; });
+    return lines;
 }
-bool holdsForeignPath(std::u16string_view line) {
-    return holds(line, u"\\/private\\/preboot\\/") || holds(line, u"\\/private\\/var\\/containers");
-}
-bool holdsTwoDigits(std::u16string_view line) { return countDecimalDigits(line) >= 2; }
 
 constexpr std::array keys{pathKey, nameKey};
 constexpr std::array paths{pathKey, nameKey, backslashes, quoteComma};
@@ -33,19 +40,17 @@ constexpr std::u16string_view paragraph = u"\n\n";
 
 } // namespace
 
-constexpr LineFilter urlFilter{u"过滤网站结果", &holdsUrl, keys, paragraph};
-constexpr LineFilter libraryFilter{u"可执行库结果", &holdsLibrary, libraries, paragraph};
-constexpr LineFilter dylibFilter{u"dylib结果", &holdsDylib, libraries, paragraph};
-constexpr LineFilter errorFilter{u"异常插件", &holdsForeignPath, paths, paragraph};
-constexpr LineFilter systemFilter{u"system可执行库", &holdsSystemPath, paths, paragraph};
-constexpr LineFilter numberFilter{u"过滤数字结果", &holdsTwoDigits, {}, line};
+constexpr LineFilter urlFilter{u"过滤网站结果", &linesWith<urls>, keys, paragraph};
+constexpr LineFilter libraryFilter{u"可执行库结果", &linesWith<libraryMarks>, libraries, paragraph};
+constexpr LineFilter dylibFilter{u"dylib结果", &linesWith<dylibs>, libraries, paragraph};
+constexpr LineFilter errorFilter{u"异常插件", &linesWith<foreignPaths>, paths, paragraph};
+constexpr LineFilter systemFilter{u"system可执行库", &linesWith<systemPaths>, paths, paragraph};
+constexpr LineFilter numberFilter{u"过滤数字结果", &linesWithTwoDigits, {}, line};
 
 std::u16string filtered(std::u16string_view text, const LineFilter& filter) {
     std::u16string result;
-    for (const std::u16string_view candidate : split(text, isLineFeed)) {
-        if (filter.keeps(candidate)) {
-            result.append(cleaned(candidate, filter.cleaning)).append(filter.separator);
-        }
+    for (const std::u16string_view picked : filter.pick(text)) {
+        result.append(cleaned(picked, filter.cleaning)).append(filter.separator);
     }
     return result;
 }

@@ -21,7 +21,7 @@ std::vector<std::u16string> wordsEndedByCommas(std::u16string_view text) {
 }
 
 std::vector<std::u16string_view> wordsBetweenCommas(std::u16string_view text) {
-    return split(text, [](char16_t unit) { return unit == u','; });
+    return split(text, u',');
 }
 
 } // namespace wentra::blocking

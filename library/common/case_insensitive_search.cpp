@@ -2,7 +2,8 @@
 // other.
 #include "library/common/case_insensitive_search.hpp"
 
-#include "library/common/plain_search.hpp"
+#include "library/common/occurrences.hpp"
+#include "library/common/plain_text.hpp"
 
 namespace wentra {
 namespace {
@@ -27,8 +28,9 @@ std::vector<ns::Range> occurrencesIgnoringCase(ns::String text, ns::String sough
     }
     const std::u16string units = text.utf16();
     const std::u16string soughtUnits = sought.utf16();
-    return isPlainText(units) && isPlainText(soughtUnits) ? plainOccurrences(units, soughtUnits)
-                                                          : platformOccurrences(text, sought);
+    return isPlainText(units) && isPlainText(soughtUnits)
+               ? occurrences(units, soughtUnits, LetterCase::ignored)
+               : platformOccurrences(text, sought);
 }
 
 } // namespace wentra

@@ -5,13 +5,12 @@
 
 namespace wentra {
 
-std::vector<ns::Range> occurrences(std::u16string_view text, std::u16string_view sought) {
+std::vector<ns::Range> occurrences(std::u16string_view text, std::u16string_view sought,
+                                   LetterCase letterCase) {
     std::vector<ns::Range> found;
-    if (sought.empty()) {
-        return found;
-    }
-    for (std::size_t place = text.find(sought); place != text.npos;
-         place = text.find(sought, place + sought.size())) {
+    const TextSearch search(text, sought, letterCase);
+    for (std::size_t place = search.next(0); place < text.size();
+         place = search.next(place + sought.size())) {
         found.push_back({place, sought.size()});
     }
     return found;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bindings/foundation/range.hpp"
+#include "library/common/text_search.hpp"
 
 #include <string>
 #include <string_view>
@@ -12,7 +13,8 @@ namespace wentra {
 /// Every place in the text where `sought` stands, from the start on; none overlaps another. None
 /// when `sought` is empty.
 [[nodiscard]] std::vector<ns::Range> occurrences(std::u16string_view text,
-                                                 std::u16string_view sought);
+                                                 std::u16string_view sought,
+                                                 LetterCase letterCase = LetterCase::counts);
 
 /// Puts the replacement in the place of every occurrence, in one pass: what it brings in is not
 /// searched.

@@ -28,6 +28,12 @@ split(std::u16string_view text, std::predicate<char16_t> auto separates) {
     }
 }
 
+/// The same for one unit that separates.
+[[nodiscard]] constexpr std::vector<std::u16string_view> split(std::u16string_view text,
+                                                               char16_t separator) {
+    return split(text, [separator](char16_t unit) { return unit == separator; });
+}
+
 /// The text's lines without their ends, empty lines included; each newline character ends one, so
 /// that there is an empty line within "\r\n".
 [[nodiscard]] inline std::vector<std::u16string_view> splitLines(std::u16string_view text) {

@@ -8,9 +8,6 @@ constexpr bool isNewline(char16_t unit) {
     return (unit >= u'\n' && unit <= u'\r') || unit == 0x0085 || unit == 0x2028 || unit == 0x2029;
 }
 
-/// "\n" alone, which ends a line for those who split at it.
-constexpr bool isLineFeed(char16_t unit) { return unit == u'\n'; }
-
 /// The platform's white space, newlines included.
 constexpr bool isWhiteSpace(char16_t unit) {
     return isNewline(unit) || unit == u'\t' || unit == u' ' || unit == 0x00A0 || unit == 0x1680 ||

@@ -37,7 +37,7 @@ bool isHelpExample(RuleKind kind, const Rule& rule) {
 
 RuleSet parseRules(std::u16string_view text) {
     RuleSet rules;
-    for (const auto line : split(text, [](char16_t unit) { return unit == u'\n'; })) {
+    for (const auto line : split(text, u'\n')) {
         parseLine(line, rules);
     }
     return rules;

@@ -2,7 +2,8 @@
 #include "library/common/case_insensitive_search.hpp"
 
 #include "bindings/objc/pool.hpp"
-#include "library/common/plain_search.hpp"
+#include "library/common/occurrences.hpp"
+#include "library/common/plain_text.hpp"
 
 #include <gtest/gtest.h>
 
@@ -61,7 +62,7 @@ TEST_F(SearchOfEitherCase, FindsWhatThePlatformFindsInAnyPlainText) {
         }
         const std::u16string sought = text.substr(random() % 190, 1 + random() % 4);
         ASSERT_TRUE(isPlainText(text));
-        ASSERT_EQ(plainOccurrences(text, sought), byThePlatform(text, sought));
+        ASSERT_EQ(occurrences(text, sought, LetterCase::ignored), byThePlatform(text, sought));
     }
 }
 

@@ -18,6 +18,17 @@ TEST(Occurrences, DoNotOverlap) {
     EXPECT_EQ(occurrences(u"", u"a"), Places{});
 }
 
+TEST(Occurrences, AreFoundAnywhereInLongTexts) {
+    constexpr std::size_t longest = 300;
+    const std::u16string_view sought = u"ab";
+    for (std::size_t before = 0; before < longest; ++before) {
+        const std::u16string text = std::u16string(before, u'a') + u"aAb" + std::u16string(2, u'b');
+        EXPECT_EQ(occurrences(text, sought), Places{}) << before;
+        const std::u16string second(longest - before, u'b');
+        EXPECT_EQ(occurrences(text + u"ab" + second, sought), (Places{{text.size(), 2}})) << before;
+    }
+}
+
 TEST(Occurrences, AreReplacedInOnePass) {
     std::u16string text = u"aaXaX";
     replaceAll(text, u"aa", u"aaa");

@@ -1,0 +1,41 @@
+// Searching a text for another, many places at a time.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace wentra {
+
+/// Whether the case of ASCII's letters counts.
+enum class LetterCase : std::uint8_t { counts, ignored };
+
+/// Looks for one text in another, unit for unit. Both are borrowed.
+class TextSearch {
+public:
+    TextSearch(std::u16string_view text, std::u16string_view sought,
+               LetterCase letterCase = LetterCase::counts);
+
+    /// The first place from `place` on where it stands; the end of the text when there is none, or
+    /// nothing is sought.
+    [[nodiscard]] std::size_t next(std::size_t place) const;
+
+private:
+    /// A unit of what is sought.
+    struct Letter {
+        char16_t lower;
+        char16_t caseBit; ///< what tells it from the capital letter; 0 where that does not count
+    };
+
+    static Letter letter(char16_t unit, LetterCase letterCase);
+    [[nodiscard]] std::size_t placesEnd() const;
+    [[nodiscard]] bool mayStandIn(std::size_t place) const;
+    [[nodiscard]] bool standsAt(std::size_t place) const;
+
+    std::u16string_view text_;
+    std::u16string_view sought_;
+    LetterCase letterCase_;
+    Letter first_{};
+    Letter last_{};
+};
+
+} // namespace wentra
