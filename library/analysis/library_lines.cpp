@@ -3,6 +3,7 @@
 
 #include "library/analysis/line_cleaning.hpp"
 #include "library/analysis/lines_holding.hpp"
+#include "library/common/text_parts.hpp"
 
 #include <array>
 
@@ -17,9 +18,11 @@ constexpr std::array<std::u16string_view, 2> libraryKinds{u".dylib", u".framewor
 
 LibraryLines libraryLines(std::u16string_view text, SystemList list) {
     LibraryLines lines;
-    for (const std::u16string_view line : linesHolding(text, libraryKinds)) {
-        std::u16string clean = cleaned(line, steps);
-        (isSystemLine(clean, list) ? lines.system : lines.others).push_back(std::move(clean));
+    const std::u16string clean = cleaned(linesHolding(text, libraryKinds), u"\n", steps);
+    std::vector<std::u16string_view> parts = split(clean, u'\n');
+    parts.pop_back(); // behind the last line's end
+    for (const std::u16string_view line : parts) {
+        (isSystemLine(line, list) ? lines.system : lines.others).emplace_back(line);
     }
     return lines;
 }

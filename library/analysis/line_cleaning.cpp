@@ -1,16 +1,20 @@
-// Replaces step by step.
+// Replaces step by step, in all lines at once: each search has its price.
 #include "library/analysis/line_cleaning.hpp"
 
 #include "library/common/occurrences.hpp"
 
 namespace wentra::analysis {
 
-std::u16string cleaned(std::u16string_view line, std::span<const Replacement> steps) {
-    std::u16string result(line);
-    for (const Replacement& step : steps) {
-        replaceAll(result, step.sought, step.put);
+std::u16string cleaned(std::span<const std::u16string_view> lines, std::u16string_view separator,
+                       std::span<const Replacement> steps) {
+    std::u16string text;
+    for (const std::u16string_view line : lines) {
+        text.append(line).append(separator);
     }
-    return result;
+    for (const Replacement& step : steps) {
+        replaceAll(text, step.sought, step.put);
+    }
+    return text;
 }
 
 } // namespace wentra::analysis

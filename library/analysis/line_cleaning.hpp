@@ -1,4 +1,4 @@
-// What makes a line of a crash report readable.
+// What makes the lines of a crash report readable.
 #pragma once
 
 #include <span>
@@ -22,7 +22,10 @@ inline constexpr Replacement abortNote{u"  \"asi\" : {\"libsystem_c.dylib\":[\"a
                                        u""};
 inline constexpr Replacement quoteComma{u"\",", u"\""};
 
-/// The line after these replacements, one after the other: their order matters.
-[[nodiscard]] std::u16string cleaned(std::u16string_view line, std::span<const Replacement> steps);
+/// The lines with the separator, which ends in a line feed, behind each, after these replacements
+/// one after the other: their order matters. None of them reaches across the end of a line.
+[[nodiscard]] std::u16string cleaned(std::span<const std::u16string_view> lines,
+                                     std::u16string_view separator,
+                                     std::span<const Replacement> steps);
 
 } // namespace wentra::analysis

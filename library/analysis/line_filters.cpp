@@ -27,7 +27,7 @@ Lines linesWith(std::u16string_view text) {
 
 Lines linesWithTwoDigits(std::u16string_view text) {
     Lines lines = split(text, u'\n');
-    std::erase_if(lines, [](std::u16string_view line) { return countDecimalDigits(line) < 2; });
+    std::erase_if(lines, [](std::u16string_view line) { return !holdsDecimalDigits(line, 2); });
     return lines;
 }
 
@@ -48,11 +48,7 @@ constexpr LineFilter systemFilter{u"system可执行库", &linesWith<systemPaths>
 constexpr LineFilter numberFilter{u"过滤数字结果", &linesWithTwoDigits, {}, line};
 
 std::u16string filtered(std::u16string_view text, const LineFilter& filter) {
-    std::u16string result;
-    for (const std::u16string_view picked : filter.pick(text)) {
-        result.append(cleaned(picked, filter.cleaning)).append(filter.separator);
-    }
-    return result;
+    return cleaned(filter.pick(text), filter.separator, filter.cleaning);
 }
 
 } // namespace wentra::analysis

@@ -25,7 +25,7 @@ bool passes(std::u16string_view text, const RecordFilters& filters) {
     if ((filters.numbers || filters.letters) && !isOneLine(text)) {
         return false;
     }
-    return (!filters.numbers || countDecimalDigits(text) > 0) &&
+    return (!filters.numbers || holdsDecimalDigits(text, 1)) &&
            (!filters.letters || std::ranges::any_of(text, isLetter));
 }
 

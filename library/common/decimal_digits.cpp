@@ -38,14 +38,13 @@ char32_t takeCharacter(std::u16string_view& text) {
 
 } // namespace
 
-std::size_t countDecimalDigits(std::u16string_view text) {
-    std::size_t count = 0;
-    while (!text.empty()) {
+bool holdsDecimalDigits(std::u16string_view text, std::size_t count) {
+    while (count > 0 && !text.empty()) {
         if (isDecimalDigit(takeCharacter(text))) {
-            ++count;
+            --count;
         }
     }
-    return count;
+    return count == 0;
 }
 
 std::size_t decimalDigitSize(std::u16string_view text) {

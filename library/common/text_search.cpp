@@ -7,7 +7,7 @@ namespace wentra {
 namespace {
 
 /// So many places are looked at before anything is decided, which compilers turn into vectors.
-constexpr std::size_t blockSize = 64;
+constexpr std::size_t blockSize = 32;
 
 constexpr char16_t lowerCase(char16_t unit) {
     return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 0x20) : unit;
@@ -40,7 +40,7 @@ std::size_t TextSearch::next(std::size_t place) const {
             continue;
         }
         for (; place < blockEnd; ++place) {
-            if (standsAt(place)) {
+            if (first_.difference(text_[place]) == 0 && standsAt(place)) {
                 return place;
             }
         }
@@ -57,14 +57,12 @@ std::size_t TextSearch::placesEnd() const {
 bool TextSearch::mayStandIn(std::size_t place) const {
     const char16_t* const starts = text_.data() + place;
     const char16_t* const ends = starts + sought_.size() - 1;
-    const auto [lower, caseBit] = first_;
-    const auto [lastLower, lastCaseBit] = last_;
-    // A unit with the case's bit set is the small letter: what differs from it in no bit.
+    const Letter first = first_; // copies, which nothing in the loop can change
+    const Letter last = last_;
     std::uint16_t found = 0;
     for (std::size_t index = 0; index < blockSize; ++index) {
-        const auto first = static_cast<std::uint16_t>((starts[index] | caseBit) ^ lower);
-        const auto last = static_cast<std::uint16_t>((ends[index] | lastCaseBit) ^ lastLower);
-        const auto differs = static_cast<std::uint16_t>(first | last);
+        const auto differs = static_cast<std::uint16_t>(first.difference(starts[index]) |
+                                                        last.difference(ends[index]));
         found = static_cast<std::uint16_t>(found | (differs == 0 ? 1U : 0U));
     }
     return found != 0;

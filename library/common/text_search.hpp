@@ -24,6 +24,11 @@ private:
     struct Letter {
         char16_t lower;
         char16_t caseBit; ///< what tells it from the capital letter; 0 where that does not count
+
+        /// The bits in which the unit differs from the letter.
+        [[nodiscard]] constexpr std::uint16_t difference(char16_t unit) const {
+            return static_cast<std::uint16_t>((unit | caseBit) ^ lower);
+        }
     };
 
     static Letter letter(char16_t unit, LetterCase letterCase);
