@@ -4,6 +4,7 @@
 #include "desktop/drawing/passage.hpp"
 
 #include <algorithm>
+#include <iterator>
 
 namespace desktop {
 namespace {
@@ -41,7 +42,39 @@ private:
     Passage passage_;
 };
 
+/// A carriage return and a line feed are one line break.
+bool isInsideALineBreak(std::u16string_view text, std::size_t unit) {
+    return unit > 0 && unit < text.size() && text[unit - 1] == u'\r' && text[unit] == u'\n';
+}
+
+/// The ends of the characters at the beginning of the text. One that may go on behind what is
+/// looked at is left for the next time, unless it is the only one.
+std::vector<std::size_t> firstEnds(std::u16string_view text) {
+    const Window window(text, 0);
+    std::vector<std::size_t> ends = window.passage().caretPositions();
+    std::erase_if(ends,
+                  [text](std::size_t end) { return end == 0 || isInsideALineBreak(text, end); });
+    constexpr std::size_t sure = reach / 2;
+    if (text.size() > reach && !ends.empty()) {
+        ends.erase(std::max(ends.begin() + 1, std::ranges::upper_bound(ends, sure)), ends.end());
+    }
+    return ends;
+}
+
 } // namespace
+
+std::vector<std::size_t> composedCharacterEnds(std::u16string_view text) {
+    std::vector<std::size_t> ends;
+    for (std::size_t start = 0; start < text.size(); start = ends.back()) {
+        const auto next = firstEnds(text.substr(start));
+        std::ranges::transform(next, std::back_inserter(ends),
+                               [start](std::size_t end) { return start + end; });
+        if (next.empty()) {
+            ends.push_back(start + 1);
+        }
+    }
+    return ends;
+}
 
 Stretch composedCharacter(std::u16string_view text, std::size_t unit) {
     if (unit >= text.size()) {
@@ -54,12 +87,8 @@ Stretch composedCharacter(std::u16string_view text, std::size_t unit) {
         return {unit, unit + 1};
     }
     Stretch character = window.moved({*std::prev(end), *end});
-    // A carriage return and a line feed are one line break.
-    const auto breaks = [text](std::size_t place) {
-        return place > 0 && place < text.size() && text[place - 1] == u'\r' && text[place] == u'\n';
-    };
-    character.start -= breaks(character.start) ? 1U : 0U;
-    character.end += breaks(character.end) ? 1U : 0U;
+    character.start -= isInsideALineBreak(text, character.start) ? 1U : 0U;
+    character.end += isInsideALineBreak(text, character.end) ? 1U : 0U;
     return character;
 }
 

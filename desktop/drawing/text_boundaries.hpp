@@ -10,6 +10,9 @@ namespace desktop {
 /// around are looked at, so a longer character is taken in parts. Any thread.
 Stretch composedCharacter(std::u16string_view text, std::size_t unit);
 
+/// Where the text's characters end, one after the other; the last one with the text. Any thread.
+std::vector<std::size_t> composedCharacterEnds(std::u16string_view text);
+
 /// The word that a finger on the caret before `unit` means: the one around it, else the one that
 /// ends there, else the character there. Empty in an empty text. Any thread.
 Stretch wordAround(std::u16string_view text, std::size_t unit);

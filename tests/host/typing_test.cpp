@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+
 namespace {
 
 using nlohmann::json;
@@ -36,6 +38,19 @@ TEST_P(TypingCommands, TextGoesWhereTheFocusIs) {
     EXPECT_EQ(host.message(view, "isFirstResponder"), false);
     EXPECT_NE(host.error({{"do", "key"}, {"name", "delete"}}), "");
     EXPECT_NE(host.error({{"do", "menu"}}), "");
+}
+
+TEST_P(TypingCommands, AHundredThousandCharactersTakeFiveSecondsAtMost) {
+    constexpr std::size_t many = 100'000;
+    std::string typed;
+    for (std::size_t characters = 0; characters < many; characters += 10) {
+        typed += characters % 100 == 0 ? "A line 你\n" : "words 😀é, ";
+    }
+    host.result({{"do", "tap"}, {"on", view}});
+    const auto start = std::chrono::steady_clock::now();
+    host.result({{"do", "type"}, {"text", typed}});
+    EXPECT_LE(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
+    EXPECT_EQ(text(), typed);
 }
 
 TEST_P(TypingCommands, TheMenuOffersWhatCanBeDone) {

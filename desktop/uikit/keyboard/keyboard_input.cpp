@@ -36,12 +36,13 @@ bool insertText(ns::String text) {
     if (!receiver()) {
         return false;
     }
-    const std::u16string units = text.utf16();
-    // What is written first may take the focus elsewhere, or away.
-    for (std::size_t start = 0; start < units.size() && receiver();) {
+    std::size_t start = 0;
+    for (const std::size_t end : composedCharacterEnds(text.utf16())) {
         const objc::Pool pool;
         const objc::Strong<ui::Responder> kept = receiver();
-        const std::size_t end = std::max(composedCharacter(units, start).end, start + 1);
+        if (!kept) {
+            break; // what was written first has taken the focus away
+        }
         insertCharacter(
             kept, text.send<"substringWithRange:", ns::String>(ns::Range{start, end - start}));
         start = end;

@@ -278,8 +278,14 @@ CGRect TextInput::boundingRect(ns::Range range) {
     return fromFlow({0, first.y, textArea().size.width, last.y + last.height - first.y});
 }
 
+/// In the next layout: the text is set once then, however often it has changed.
 void TextInput::showCaret() {
-    if (view().window()) {
+    caretIsToBeShown_ = true;
+    view().setNeedsLayout();
+}
+
+void TextInput::revealCaret() {
+    if (std::exchange(caretIsToBeShown_, false)) {
         reveal(fromFlow(flow().caret(selection_.location + selection_.length)));
     }
 }

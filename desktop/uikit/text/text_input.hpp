@@ -96,6 +96,10 @@ protected:
     /// How text looks that is written now.
     [[nodiscard]] ns::Dictionary typingAttributes() const;
     void setTypingAttributes(ns::Dictionary attributes) { typingAttributes_ = attributes; }
+    /// To be called in layout: scrolls to the caret after an edit.
+    void revealCaret();
+    /// It is scrolled elsewhere.
+    void forgetCaret() { caretIsToBeShown_ = false; }
     /// To be called in layout and when the view's size or offset has changed.
     void placeSelection();
     void addRecognizers();
@@ -177,6 +181,7 @@ private:
     objc::Strong<ui::Color> textColor_;
     TextFlow flow_{*this};
     ns::Range selection_;
+    bool caretIsToBeShown_ = false;
     std::optional<ns::Range> marked_;
     objc::Copied<ns::Dictionary> typingAttributes_;
     objc::Strong<TextSelectionViewKind> selectionView_;

@@ -101,6 +101,7 @@ CGSize TextView::contentSize() {
 
 void TextView::layoutSubviews() {
     contentSize();
+    revealCaret();
     super<"layoutSubviews">();
     placeSelection();
 }
@@ -128,7 +129,10 @@ CGSize TextView::intrinsicContentSize() const {
     return sizeThatFits({self().bounds().size.width, 0});
 }
 
-void TextView::scrollRangeToVisible(ns::Range range) { reveal(boundingRect(range)); }
+void TextView::scrollRangeToVisible(ns::Range range) {
+    forgetCaret();
+    reveal(boundingRect(range));
+}
 
 /// Scrolls no further than needed; of what is too high, the top is shown.
 void TextView::reveal(CGRect rect) {

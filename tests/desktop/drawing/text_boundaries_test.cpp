@@ -35,6 +35,22 @@ TEST(TextBoundaries, KeepCharactersTogether) {
     }
 }
 
+TEST(TextBoundaries, AllCharactersOfATextEndWhereEachOfThemDoes) {
+    std::u16string text;
+    const std::u16string some = u"a你😀\r\n👨‍👩‍👧🇨🇳🇨🇳e\u0301\xD83D.\n";
+    while (text.size() < 2000) {
+        text += some + std::u16string(text.size() % 17, u' ');
+    }
+    std::vector<std::size_t> ends;
+    for (std::size_t start = 0; start < text.size(); start = ends.back()) {
+        ends.push_back(composedCharacter(text, start).end);
+    }
+    EXPECT_EQ(composedCharacterEnds(text), ends);
+    EXPECT_EQ(composedCharacterEnds(u""), std::vector<std::size_t>{});
+    const std::u16string endless = u"e" + std::u16string(1000, u'\u0301');
+    EXPECT_EQ(composedCharacterEnds(endless).back(), endless.size());
+}
+
 TEST(TextBoundaries, FindWords) {
     const std::u16string text = u"Hello, big world";
     EXPECT_EQ(wordAround(text, 2), (Stretch{0, 5}));

@@ -250,6 +250,7 @@ TEST_F(TextEditing, TheCaretIsKeptInSight) {
     for (int line = 0; line < 20; ++line) {
         keyboard::insertText(u"line\n"_ns);
     }
+    view_.layoutIfNeeded();
     const double bottom = view_.contentSize().height - 100;
     EXPECT_NEAR(view_.contentOffset().y, bottom, 1);
     view_.scrollRangeToVisible({0, 0});
