@@ -62,11 +62,16 @@ void TextFlow::setSingleLine() {
     reset();
 }
 
-void TextFlow::reset() { blocks_.clear(); }
+void TextFlow::reset() {
+    blocks_.clear();
+    edit_.reset();
+}
 
 void TextFlow::prepare() {
     if (blocks_.empty()) {
         blocks_ = split({0, source_.length()});
+    } else if (const auto edit = std::exchange(edit_, std::nullopt); edit) {
+        apply(*edit);
     }
 }
 
@@ -100,6 +105,20 @@ void TextFlow::replaced(Stretch former, std::size_t length) {
     if (blocks_.empty()) {
         return;
     }
+    if (!edit_) {
+        edit_ = Edit{former, length};
+        return;
+    }
+    const std::size_t start = std::min(edit_->former.start, former.start);
+    const std::size_t edited =
+        edit_->former.start + edit_->length; // where the edits before end now
+    const std::size_t end = std::max(edited, former.end);
+    edit_ = {{start, edit_->former.end + end - edited},
+             end - start + length - (former.end - former.start)};
+}
+
+void TextFlow::apply(const Edit& edit) {
+    const auto& [former, length] = edit;
     Place first = blockWith(former.start);
     // A word may move back onto the line before.
     if (first.index > 0 && blocks_[first.index - 1].open) {

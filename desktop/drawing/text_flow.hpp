@@ -4,6 +4,7 @@
 
 #include "desktop/drawing/text_layout.hpp"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -37,7 +38,8 @@ public:
     void setAlignment(TextAlignment alignment);
     /// All in one line, which ends at the latest at `longestLine` units.
     void setSingleLine();
-    /// The source changed: what was in `former` is now `length` units long.
+    /// The source changed: what was in `former` is now `length` units long. Costs next to nothing:
+    /// changes are gathered until a place is asked for.
     void replaced(Stretch former, std::size_t length);
     /// The source changed altogether.
     void reset();
@@ -72,6 +74,10 @@ private:
         double height = 0;
         std::optional<TextLayout> layout = {};
     };
+    struct Edit {
+        Stretch former;
+        std::size_t length;
+    };
     struct Place {
         std::size_t index = 0;
         std::size_t start = 0;
@@ -79,6 +85,7 @@ private:
     };
 
     void prepare();
+    void apply(const Edit& edit);
     [[nodiscard]] std::vector<Block> split(Stretch stretch) const;
     [[nodiscard]] Size estimate(std::u16string_view text, std::size_t start) const;
     [[nodiscard]] Stretch unitsOf(const Place& place) const;
@@ -100,6 +107,8 @@ private:
     TextAlignment alignment_ = TextAlignment::natural;
     bool singleLine_ = false;
     std::vector<Block> blocks_;
+    /// All that has changed since the blocks were made.
+    std::optional<Edit> edit_;
 };
 
 } // namespace desktop
