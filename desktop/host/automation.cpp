@@ -8,6 +8,7 @@
 #include "bindings/objc/boundary.hpp"
 #include "bindings/objc/pool.hpp"
 #include "desktop/runtime/run_loop.hpp"
+#include "desktop/runtime/stop_request.hpp"
 
 #include <limits>
 
@@ -46,6 +47,9 @@ Json carryOut(Session& session, const Json& request) {
     }
     Json result = command(session, request);
     run_loop::runUntilIdle();
+    if (stop_request::isMade()) {
+        throw RequestError("the host has been asked to stop");
+    }
     return result;
 }
 
@@ -76,7 +80,7 @@ std::string answer(Session& session, const std::string& line) {
 
 void automate(Streams& streams, Values& values) {
     Session session{values};
-    while (!session.quits && !isStopRequested()) {
+    while (!session.quits && !stop_request::isMade()) {
         if (const auto line = streams.nextLine()) {
             if (!streams.write(answer(session, *line))) {
                 return;
@@ -87,9 +91,6 @@ void automate(Streams& streams, Values& values) {
             return;
         }
         runWhatIsDue();
-        if (isStopRequested()) { // the wake-up of a stop is lost while work runs
-            return;
-        }
         run_loop::sleep(streams.input(), std::numeric_limits<double>::infinity());
         streams.receive();
     }

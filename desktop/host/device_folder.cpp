@@ -38,6 +38,10 @@ DeviceFolder::DeviceFolder(const std::optional<std::filesystem::path>& given)
 
 DeviceFolder::~DeviceFolder() {
     deviceroot_set(nullptr);
+    remove();
+}
+
+void DeviceFolder::remove() const {
     if (temporary_) {
         std::error_code ignored; // the system clears its temporary folders itself
         std::filesystem::remove_all(path_, ignored);

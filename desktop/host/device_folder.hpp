@@ -16,6 +16,9 @@ public:
     DeviceFolder& operator=(const DeviceFolder&) = delete;
     ~DeviceFolder();
 
+    /// Removes the folder if it is a fresh one. Any thread.
+    void remove() const;
+
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
 
 private:

@@ -1,6 +1,8 @@
 // Walks the files that were made.
 #include "desktop/host/file_copies.hpp"
 
+#include "desktop/runtime/stop_request.hpp"
+
 namespace desktop::host {
 namespace {
 
@@ -17,6 +19,9 @@ void copyFile(const fs::path& from, const fs::path& to) {
 
 void copyMissingFiles(const fs::path& from, const fs::path& to) {
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(from)) {
+        if (stop_request::isMade()) {
+            return;
+        }
         if (entry.is_regular_file()) {
             copyFile(entry, to / fs::relative(entry, from));
         }

@@ -6,7 +6,7 @@
 namespace desktop::host {
 
 /// Copies each file below `from`, with its time, to its place below `to`, unless a file is there.
-/// Throws std::filesystem::filesystem_error.
+/// A request to stop ends it before its time. Throws std::filesystem::filesystem_error.
 void copyMissingFiles(const std::filesystem::path& from, const std::filesystem::path& to);
 
 } // namespace desktop::host

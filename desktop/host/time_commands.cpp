@@ -1,11 +1,11 @@
 // Commands for the clock, for waiting, and for what has happened meanwhile.
 #include "desktop/host/arguments.hpp"
 #include "desktop/host/commands.hpp"
-#include "desktop/host/main_loop.hpp"
 #include "desktop/host/view_search.hpp"
 
 #include "desktop/runtime/event_log.hpp"
 #include "desktop/runtime/run_loop.hpp"
+#include "desktop/runtime/stop_request.hpp"
 
 #include <algorithm>
 #include <chrono>
@@ -60,8 +60,8 @@ Json wait(Session& session, const Json& request) {
         if (!found.empty()) {
             return found;
         }
-        if (isStopRequested()) {
-            throw RequestError("the host has been asked to stop");
+        if (stop_request::isMade()) {
+            return nullptr;
         }
         const Seconds left = limit - Seconds(Clock::now() - start);
         if (left <= Seconds::zero()) {

@@ -4,6 +4,7 @@
 #include "desktop/host/device_files.hpp"
 #include "desktop/host/device_folder.hpp"
 #include "desktop/host/event_recording.hpp"
+#include "desktop/host/forced_end.hpp"
 #include "desktop/host/main_loop.hpp"
 #include "desktop/host/options.hpp"
 #include "desktop/host/settings_bundle.hpp"
@@ -15,6 +16,7 @@
 #include "desktop/foundation/foundation.hpp"
 #include "desktop/platform/platform.hpp"
 #include "desktop/runtime/process_end.hpp"
+#include "desktop/runtime/stop_request.hpp"
 #include "desktop/uikit/uikit.hpp"
 #include "desktop/viewer/access.hpp"
 #include "desktop/viewer/listener.hpp"
@@ -26,6 +28,8 @@
 #include <cstring>
 #include <dlfcn.h>
 #include <functional>
+#include <poll.h>
+#include <unistd.h>
 
 namespace {
 
@@ -92,7 +96,6 @@ void launch(const App& app, const Options& options) {
 int runDevice(const App& app, const Options& options, const std::function<void(Values&)>& drive) {
     const objc::Pool pool;
     try {
-        watchForStop();
         setClock(options);
         foundation::install(options.bundle.value_or(app.bundleIdentifier));
         if (!app.describesUsage) {
@@ -123,25 +126,48 @@ void furnish(const DeviceFolder& device, const Options& options) {
     }
 }
 
+/// As the shell tells of a process that a signal has ended.
+constexpr int signalStatus = 128;
+
+/// The exit status of a run that gave `status`, and a line if it was cut short.
+int ended(int status) {
+    const int signal = stop_request::signal();
+    if (signal == 0) {
+        return status;
+    }
+    pollfd errors{STDERR_FILENO, POLLOUT, 0};
+    if (poll(&errors, 1, 0) > 0) { // nobody may read them, and the end does not wait for it
+        dprintf(STDERR_FILENO, "host: ended by SIG%s\n", sigabbrev_np(signal));
+    }
+    return signalStatus + signal;
+}
+
+/// What a signal cuts short leaves nothing behind either.
+int leave(const DeviceFolder& device) {
+    device.remove();
+    return ended(EXIT_FAILURE);
+}
+
 int runForScript(const App& app, const Options& options) {
     Streams streams;
     const DeviceFolder device(options.root);
+    const ForcedEnd end([&device] { return leave(device); });
     furnish(device, options);
-    return runDevice(app, options, [&](Values& values) { automate(streams, values); });
+    return ended(runDevice(app, options, [&](Values& values) { automate(streams, values); }));
 }
 
 int runAlone(const App& app, const Options& options) {
     const DeviceFolder device(options.root);
+    const ForcedEnd end([&device] { return leave(device); });
     furnish(device, options);
     std::fprintf(stderr, "Wentra host %s: %s, device folder %s\n", WENTRA_VERSION, app.name,
                  device.path().c_str());
-    return runDevice(app, options, [](Values&) { runUntilStopped(); });
+    return ended(runDevice(app, options, [](Values&) { runUntilStopped(); }));
 }
 
 /// Waits until a page starts an application, or the process is asked to stop.
 int rest(const viewer::Door& door, const viewer::Start& start,
          const std::filesystem::path& folder) {
-    watchForStop();
     const viewer::RestingPhone phone(door, start, folder);
     runUntilStopped();
     return EXIT_SUCCESS;
@@ -155,6 +181,7 @@ int runForPage(const App& app, const Options& options) {
     std::printf("Wentra %s, data folder %s\nhttp://127.0.0.1:%u/%s/\n", WENTRA_VERSION,
                 device.path().c_str(), unsigned{listener.port()}, door.token.c_str());
     return viewer::supervise(app.name, [&](const viewer::Start& start) {
+        stop_request::watchSignals();
         if (start.rests) {
             return rest(door, start, device.path());
         }
@@ -178,22 +205,10 @@ int run(const Options& options) {
     return options.viewer ? runForPage(app, options) : runAlone(app, options);
 }
 
-/// As the shell tells of a process that a signal has ended.
-constexpr int signalStatus = 128;
-
-/// The exit status of a run that gave `status`, and a line if it was cut short.
-int ended(int status) {
-    const int signal = stopSignal();
-    if (signal == 0) {
-        return status;
-    }
-    std::fprintf(stderr, "host: ended by SIG%s\n", sigabbrev_np(signal));
-    return signalStatus + signal;
-}
-
 } // namespace
 
 int main(int count, char** words) {
+    stop_request::watchSignals();
     try {
         const Options options = parseOptions({words + 1, words + count});
         if (options.help) {
@@ -204,7 +219,7 @@ int main(int count, char** words) {
             listApplications();
             return EXIT_SUCCESS;
         }
-        endProcess(ended(run(options)));
+        endProcess(run(options));
     } catch (const UsageError& error) {
         std::fprintf(stderr, "%shost: %s\n", usage, error.what());
         return usageFailure;

@@ -6,6 +6,7 @@
 #include "bindings/objc/pool.hpp"
 #include "desktop/runtime/clock.hpp"
 #include "desktop/runtime/main_queue.hpp"
+#include "desktop/runtime/stop_request.hpp"
 
 #include <algorithm>
 #include <array>
@@ -27,12 +28,13 @@ void runFoundation() {
 
 void runUntilIdle() {
     bool ran = true;
-    while (ran) {
+    while (ran && !stop_request::isMade()) {
         const objc::Pool pool;
         runFoundation();
         MainQueue::shared().quiet();
         ran = false;
-        while (MainQueue::shared().runNext() || Clock::shared().runNextDue()) {
+        while (!stop_request::isMade() &&
+               (MainQueue::shared().runNext() || Clock::shared().runNextDue())) {
             ran = true;
         }
     }
@@ -43,13 +45,14 @@ void advance(double seconds) {
     const double end = clock.now() + std::max(0.0, seconds);
     runUntilIdle();
     if (clock.mode() == Clock::Mode::real) {
-        while (clock.now() < end) {
+        while (clock.now() < end && !stop_request::isMade()) {
             sleep(-1, end - clock.now());
             runUntilIdle();
         }
         return;
     }
-    for (auto due = clock.nextDeadline(); due && *due <= end; due = clock.nextDeadline()) {
+    for (auto due = clock.nextDeadline(); due && *due <= end && !stop_request::isMade();
+         due = clock.nextDeadline()) {
         clock.moveTo(*due);
         runUntilIdle();
     }
@@ -66,8 +69,9 @@ void sleep(int descriptor, double seconds) {
     constexpr double longest = 86'400;
     constexpr double millisecondsPerSecond = 1'000;
     const double bounded = std::clamp(seconds, 0.0, longest);
-    std::array<pollfd, 2> watched{
-        {{MainQueue::shared().descriptor(), POLLIN, 0}, {descriptor, POLLIN, 0}}};
+    std::array<pollfd, 3> watched{{{MainQueue::shared().descriptor(), POLLIN, 0},
+                                   {stop_request::descriptor(), POLLIN, 0},
+                                   {descriptor, POLLIN, 0}}};
     poll(watched.data(), watched.size(),
          static_cast<int>(std::ceil(bounded * millisecondsPerSecond)));
 }

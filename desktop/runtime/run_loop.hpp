@@ -1,4 +1,5 @@
-// The main thread's run loop: queued work, due timers, and the platform's own run loop.
+// The main thread's run loop: queued work, due timers, and the platform's own run loop. A request
+// to stop ends all of it between two pieces of work.
 #pragma once
 
 namespace desktop::run_loop {
@@ -10,8 +11,8 @@ void runUntilIdle();
 /// own moment. With the real clock it waits that long instead. Main thread.
 void advance(double seconds);
 
-/// Sleeps until something can run, `descriptor` (when not -1) becomes readable, or the time is
-/// over; then returns without running it. Main thread.
+/// Sleeps until something can run, `descriptor` (when not -1) becomes readable, the time is over,
+/// or a stop is requested; then returns without running it. Main thread.
 void sleep(int descriptor, double seconds);
 
 } // namespace desktop::run_loop

@@ -3,12 +3,12 @@
 
 #include "desktop/host/app.hpp"
 #include "desktop/host/automation.hpp"
-#include "desktop/host/main_loop.hpp"
 
 #include "bindings/foundation/data.hpp"
 #include "bindings/objc/pool.hpp"
 #include "bindings/uikit/pasteboard.hpp"
 #include "desktop/runtime/main_queue.hpp"
+#include "desktop/runtime/stop_request.hpp"
 #include "desktop/uikit/application/screen.hpp"
 #include "desktop/uikit/keyboard/keyboard_input.hpp"
 #include "desktop/uikit/scrolling/wheel.hpp"
@@ -101,15 +101,19 @@ void Phone::opened(PageNumber page) {
 }
 
 void Phone::said(PageNumber page, const std::string& text) {
+    bool waitsForItsTurn = false;
     if (const auto watcher = watchers_.find(page); watcher != watchers_.end()) {
         try {
-            std::visit([&](const auto& message) { take(watcher->second, page, message); },
-                       parsePageMessage(text));
+            const PageMessage message = parsePageMessage(text);
+            std::visit([&](const auto& each) { take(watcher->second, page, each); }, message);
+            waitsForItsTurn = std::holds_alternative<Ask>(message);
         } catch (const MessageError& error) {
             watcher->second.tell({{"type", "refused"}, {"why", error.what()}});
         }
     }
-    server_.handled(page);
+    if (!waitsForItsTurn) {
+        server_.handled(page);
+    }
 }
 
 void Phone::closed(PageNumber page) {
@@ -208,10 +212,19 @@ void Phone::carryOut(const Paste& paste) {
 }
 
 void Phone::carryOut(const Ask& ask) {
-    const std::string response = host::answer(session_, ask.request);
-    server_.send(holder_, R"({"type":"answer","response":)" + response + "}");
+    requests_.add([this, page = holder_, request = ask.request] {
+        if (watchers_.contains(page)) { // it may have left meanwhile
+            answer(page, request);
+        }
+        server_.handled(page);
+    });
+}
+
+void Phone::answer(PageNumber page, const std::string& request) {
+    const std::string response = host::answer(session_, request);
+    server_.send(page, R"({"type":"answer","response":)" + response + "}");
     if (session_.quits) {
-        host::stop();
+        stop_request::make();
     }
 }
 
@@ -222,7 +235,7 @@ void startInstead(const Start& start, const Launch& launch) {
         throw MessageError("unknown application: " + launch.application);
     }
     nameSuccessor(start, launch.application);
-    host::stop();
+    stop_request::make();
 }
 
 } // namespace desktop::viewer

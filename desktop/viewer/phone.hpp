@@ -7,6 +7,7 @@
 #include "desktop/viewer/page_message.hpp"
 #include "desktop/viewer/server.hpp"
 #include "desktop/viewer/supervisor.hpp"
+#include "desktop/viewer/turns.hpp"
 #include "desktop/viewer/watcher.hpp"
 
 #include <filesystem>
@@ -53,6 +54,7 @@ private:
     void carryOut(const Ask& ask);
     void carryOut(const Launch& launch);
 
+    void answer(PageNumber page, const std::string& request);
     void tellAll(const host::Json& message);
     [[nodiscard]] host::Json welcome(PageNumber page) const;
     [[nodiscard]] Answer contentAt(const std::string& path) const;
@@ -62,6 +64,7 @@ private:
     host::Session session_;
     PageNumber holder_ = 0; ///< the page that has the phone in hand; 0: none
     PageHand hand_;
+    Turns requests_;
     /// What is queued on the main thread must not outlive the phone.
     std::shared_ptr<Phone*> self_;
     EventFeed events_;

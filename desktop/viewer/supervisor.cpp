@@ -2,9 +2,9 @@
 #include "desktop/viewer/supervisor.hpp"
 
 #include "desktop/runtime/process_end.hpp"
+#include "desktop/runtime/stop_request.hpp"
 
 #include <array>
-#include <atomic>
 #include <cerrno>
 #include <chrono>
 #include <csignal>
@@ -13,7 +13,9 @@
 #include <cstring>
 #include <deque>
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/prctl.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <system_error>
 #include <unistd.h>
@@ -21,45 +23,6 @@
 
 namespace desktop::viewer {
 namespace {
-
-constexpr std::array stopSignals{SIGINT, SIGTERM, SIGHUP};
-
-std::atomic<pid_t> child{0};
-std::atomic<bool> stopRequested{false};
-
-void passOn(int) {
-    stopRequested = true;
-    if (const pid_t running = child; running > 0) {
-        kill(running, SIGTERM);
-    }
-}
-
-void handleStopSignals(void (*handler)(int)) {
-    struct sigaction action {};
-    action.sa_handler = handler;
-    for (const int signal : stopSignals) {
-        sigaction(signal, &action, nullptr);
-    }
-}
-
-/// Holds stop signals back, so that none falls between a decision and its consequence.
-class SignalsHeld {
-public:
-    SignalsHeld() {
-        sigset_t held;
-        sigemptyset(&held);
-        for (const int signal : stopSignals) {
-            sigaddset(&held, signal);
-        }
-        sigprocmask(SIG_BLOCK, &held, &former_);
-    }
-    SignalsHeld(const SignalsHeld&) = delete;
-    SignalsHeld& operator=(const SignalsHeld&) = delete;
-    ~SignalsHeld() { sigprocmask(SIG_SETMASK, &former_, nullptr); }
-
-private:
-    sigset_t former_{};
-};
 
 /// The two ends through which a child names its successor.
 struct Pipe {
@@ -84,38 +47,44 @@ struct Pipe {
     std::array<int, 2> ends{};
 };
 
-/// Starts the child unless a stop has been requested; then it gives 0.
 pid_t startChild(const Start& start, const std::function<int(const Start&)>& phone) {
     const pid_t parent = getpid();
-    const SignalsHeld held;
-    if (stopRequested) {
-        return 0;
-    }
     std::fflush(nullptr); // or both would write it
     const pid_t process = fork();
     if (process < 0) {
         throw std::system_error(errno, std::generic_category(), "cannot start a process");
     }
     if (process > 0) {
-        child = process;
         return process;
     }
     prctl(PR_SET_PDEATHSIG, SIGTERM);
-    handleStopSignals(SIG_DFL);
     if (getppid() != parent) {
         std::exit(EXIT_FAILURE);
     }
-    sigset_t none;
-    sigemptyset(&none);
-    sigprocmask(SIG_SETMASK, &none, nullptr);
     endProcess(phone(start));
 }
 
+/// The status of the child's end. A request to stop is passed on to it, and enforced when it does
+/// not come to its end within a moment.
 int waitFor(pid_t process) {
-    int status = 0;
-    while (waitpid(process, &status, 0) < 0 && errno == EINTR) {
+    constexpr int forEver = -1;
+    constexpr int patienceInMilliseconds = 150;
+    const int end = static_cast<int>(syscall(SYS_pidfd_open, process, 0));
+    std::array<pollfd, 2> watched{{{end, POLLIN, 0}, {stop_request::descriptor(), POLLIN, 0}}};
+    while (poll(watched.data(), watched.size(), forEver) < 0) { // a signal's handler ran
     }
-    child = 0;
+    if (stop_request::isMade()) {
+        kill(process, SIGTERM);
+    }
+    int ended = 0;
+    while ((ended = poll(watched.data(), 1, patienceInMilliseconds)) < 0) {
+    }
+    if (ended == 0) {
+        kill(process, SIGKILL);
+    }
+    close(end);
+    int status = 0;
+    waitpid(process, &status, 0);
     return status;
 }
 
@@ -141,19 +110,15 @@ private:
 } // namespace
 
 int supervise(std::string application, const std::function<int(const Start&)>& phone) {
-    handleStopSignals(&passOn);
     Crashes crashes;
     Start start{std::move(application)};
-    for (;;) {
+    while (!stop_request::isMade()) {
         const Pipe names;
         start.successor = names.ends[1];
         const pid_t process = startChild(start, phone);
-        if (process == 0) {
-            return EXIT_SUCCESS;
-        }
         const int status = waitFor(process);
-        if (stopRequested) {
-            return EXIT_SUCCESS;
+        if (stop_request::isMade()) {
+            break;
         }
         start.afterCrash = WIFSIGNALED(status);
         if (const std::string successor = names.content(); !successor.empty()) {
@@ -171,6 +136,7 @@ int supervise(std::string application, const std::function<int(const Start&)>& p
             }
         }
     }
+    return EXIT_SUCCESS;
 }
 
 void nameSuccessor(const Start& start, const std::string& application) {

@@ -134,42 +134,4 @@ TEST(Protocol, TheEndOfInputEndsWellAfterTheLastRequest) {
     EXPECT_NE(output.find("\"id\":2"), std::string::npos) << output;
 }
 
-TEST(Protocol, ASignalEndsTheHostAndIsNamed) {
-    for (const auto& [signal, line] : {std::pair{SIGTERM, "host: ended by SIGTERM\n"},
-                                       std::pair{SIGINT, "host: ended by SIGINT\n"},
-                                       std::pair{SIGHUP, "host: ended by SIGHUP\n"}}) {
-        HostProcess host = automatedHost({"--app", "plain"});
-        EXPECT_EQ(host.result({{"do", "events"}}), json::array());
-        host.signal(signal);
-        EXPECT_EQ(host.wait(), 128 + signal);
-        EXPECT_TRUE(host.errors().ends_with(line)) << host.errors();
-    }
-}
-
-TEST(Protocol, ASignalEndsAWaitToo) {
-    HostProcess host = automatedHost({"--app", "plain"});
-    host.result({{"do", "events"}});
-    host.write("{\"do\":\"wait\",\"for\":{\"event\":\"never\"},\"seconds\":600}\n");
-    host.signal(SIGTERM);
-    EXPECT_EQ(host.wait(), 128 + SIGTERM);
-}
-
-TEST(Protocol, AFreshDeviceFolderIsRemovedAtTheEnd) {
-    const auto hasDeviceFolder = [](const HostProcess& host) {
-        const std::filesystem::directory_iterator files(host.temporaryFolder());
-        return std::ranges::any_of(files, [](const auto& entry) {
-            return entry.path().filename().string().starts_with("wentra-device-");
-        });
-    };
-    HostProcess host = automatedHost({"--app", "plain"});
-    host.result({{"do", "preferences"}, {"set", {{"key", 1}}}});
-    EXPECT_TRUE(hasDeviceFolder(host));
-    host.result({{"do", "quit"}});
-    EXPECT_EQ(host.wait(), 0);
-    EXPECT_FALSE(hasDeviceFolder(host));
-    HostProcess broken = hostWith({"--automation", "--library", "/nonexistent/library.so"});
-    EXPECT_EQ(broken.wait(), 1);
-    EXPECT_FALSE(hasDeviceFolder(broken));
-}
-
 } // namespace
