@@ -20,9 +20,9 @@ struct Start {
 
 /// Runs `phone` in a child process; its result is the child's exit status. When the child has named
 /// a successor or has crashed, the next child follows; for an application that crashes again and
-/// again, one that rests. A resting child that crashes is the end. A request to stop ends the child,
-/// within a moment whatever it is doing, and then this, with status 0. The exit status to end with.
-/// Before any thread is started.
+/// again, one that rests. A resting child that crashes is the end. A request to stop ends the
+/// child, within a moment whatever it is doing, and then this, with status 0. The exit status to
+/// end with. Before any thread is started.
 int supervise(std::string application, const std::function<int(const Start&)>& phone);
 
 /// Asks, in the child, for another application (or the same one anew). The child has to end then.
