@@ -9,8 +9,12 @@
 // The font file's bytes.
 asm(".pushsection .rodata\n"
     ".balign 16\n"
+    ".globl wentra_symbol_font\n"
+    ".hidden wentra_symbol_font\n"
     "wentra_symbol_font:\n"
     ".incbin \"" SYMBOL_FONT "\"\n"
+    ".globl wentra_symbol_font_end\n"
+    ".hidden wentra_symbol_font_end\n"
     "wentra_symbol_font_end:\n"
     ".popsection\n");
 extern const char wentra_symbol_font[];     // NOLINT: named in the assembly above

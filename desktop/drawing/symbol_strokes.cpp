@@ -14,8 +14,12 @@
 
 // The bytes of the file, which says how it is written.
 asm(".pushsection .rodata\n"
+    ".globl wentra_symbol_strokes\n"
+    ".hidden wentra_symbol_strokes\n"
     "wentra_symbol_strokes:\n"
     ".incbin \"" SYMBOL_STROKES "\"\n"
+    ".globl wentra_symbol_strokes_end\n"
+    ".hidden wentra_symbol_strokes_end\n"
     "wentra_symbol_strokes_end:\n"
     ".popsection\n");
 extern const char wentra_symbol_strokes[];     // NOLINT: named in the assembly above
