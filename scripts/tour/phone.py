@@ -1,12 +1,13 @@
 """The phone that the tour is played on, and what is said along the way."""
 
 import json
+import os
 import pathlib
 import subprocess
 import sys
 
 TOP = pathlib.Path(__file__).resolve().parent.parent.parent
-HOST = TOP / "build/release/bin/host"
+HOST = os.environ.get("WENTRA_HOST", TOP / "build/release/bin/host")
 MATERIAL = TOP / "scripts/tour"
 PICTURES = TOP / "build/tour"
 

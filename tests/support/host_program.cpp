@@ -2,8 +2,13 @@
 // folders share serves all others in each.
 #include "tests/support/host_program.hpp"
 
+#include <cstdlib>
+
 namespace tests {
 
-const char* hostProgram() { return HOST_PATH; }
+const char* hostProgram() {
+    const char* const chosen = std::getenv("WENTRA_HOST");
+    return chosen == nullptr ? HOST_PATH : chosen;
+}
 
 } // namespace tests

@@ -3,7 +3,7 @@
 
 namespace tests {
 
-/// The host's program file.
+/// The host's program file: that of the build, or another that WENTRA_HOST names.
 [[nodiscard]] const char* hostProgram();
 
 } // namespace tests
