@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs the missing Debian packages of the given groups: build (default), browser, format, lint, fuzz, package.
+# Installs the missing Debian packages of the given groups: build (default), browser, emulate, format, lint, fuzz, package; --list GROUP names them.
 set -euo pipefail
 
 # Group, package, and what the package is needed for.
@@ -42,6 +42,8 @@ build  python3                  makes the files of a used phone, runs the tour
 browser chromium                shows the page in tests
 browser nodejs                  runs the tests of the page
 browser npm                     fetches what those tests need
+emulate g++-aarch64-linux-gnu   compiles the desktop host for Linux on arm64
+emulate qemu-user-static        runs that host
 format clang-format             formats the sources
 lint   clang-tidy               finds faults in the sources
 lint   shellcheck               finds faults in the scripts
@@ -74,6 +76,13 @@ as_root() {
         fail "neither root nor sudo here; as root, run: apt-get install ${missing[*]}"
     fi
 }
+
+if [[ "${1:-}" == --list ]]; then
+    while read -r group package _; do
+        [[ "$group" != "$2" ]] || printf '%s\n' "$package"
+    done <<<"$packages"
+    exit
+fi
 
 command -v dpkg-query >/dev/null || fail 'this needs Debian 12 (there is no dpkg-query here)'
 

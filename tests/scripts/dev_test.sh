@@ -6,7 +6,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/../support/expectations.sh"
 run "$root/dev"
 [[ $status == 0 ]] || fail "./dev alone exits with $status"
 list="$output"
-for word in run build test browser bench fuzz guide host package format lint help; do
+for word in run build test browser bench emulate fuzz guide host package format lint help; do
     grep -Eq "^  $word +[A-Z].*\.$" <<<"$list" || fail "the list does not describe $word"
 done
 run "$root/dev" help

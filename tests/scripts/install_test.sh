@@ -32,6 +32,10 @@ install build lint
     fail "wrong calls: $calls"
 [[ "$output" == *shellcheck*'faults in the scripts'* ]] || fail 'it does not say why'
 
+install --list browser
+[[ $status == 0 && "$output" == $'chromium\nnodejs\nnpm' && -z "$calls" ]] ||
+    fail 'it does not list the packages of a group, or does more than that'
+
 install nonsense
 [[ $status == 1 && "$output" == *'unknown group: nonsense'* && -z "$calls" ]] ||
     fail 'an unknown group is accepted'
