@@ -8,6 +8,7 @@
 #include "library/preferences/preferences.hpp"
 
 #include <array>
+#include <atomic>
 #include <functional>
 #include <map>
 #include <string>
@@ -21,7 +22,31 @@ using objc::Object;
 using preferences::keys;
 using preferences::Preferences;
 
-void updateSharedMenu() { ui::MenuController::sharedMenuController().update(); }
+/// One at a time: an update asks responders what they can perform, and one of them may in turn ask
+/// whether it can be the first; another thread would find the menu half changed.
+class SharedMenuUpdate {
+public:
+    SharedMenuUpdate() : isFirst_(!running_.test_and_set()) {}
+    SharedMenuUpdate(const SharedMenuUpdate&) = delete;
+    SharedMenuUpdate& operator=(const SharedMenuUpdate&) = delete;
+    ~SharedMenuUpdate() {
+        if (isFirst_) {
+            running_.clear();
+        }
+    }
+
+    void run() const {
+        if (isFirst_) {
+            ui::MenuController::sharedMenuController().update();
+        }
+    }
+
+private:
+    static inline std::atomic_flag running_;
+    bool isFirst_;
+};
+
+void updateSharedMenu() { SharedMenuUpdate().run(); }
 
 bool canBecomeFirstResponder(Next<bool()> next, Object) {
     const bool can = next();

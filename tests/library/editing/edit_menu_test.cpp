@@ -5,7 +5,10 @@
 #include "bindings/foundation/string.hpp"
 #include "bindings/objc/hook.hpp"
 #include "bindings/objc/pool.hpp"
+#include "bindings/uikit/menu_controller.hpp"
+#include "bindings/uikit/text_field.hpp"
 #include "bindings/uikit/text_view.hpp"
+#include "bindings/uikit/window.hpp"
 #include "desktop/platform/platform.hpp"
 #include "tests/support/own_process.hpp"
 
@@ -47,6 +50,40 @@ void expectTheFormerMethodIsAskedWithItsOwnArguments() {
 
 TEST(EditMenuHooks, AskTheFormerMethodWithItsOwnArguments) {
     tests::inProcessOfItsOwn(&expectTheFormerMethodIsAskedWithItsOwnArguments);
+}
+
+int questions = 0;
+
+/// As an application may: a view leaves it to one that can be the first responder.
+bool wonder(objc::Next<bool(SEL, objc::Object)>, ui::View view, SEL, objc::Object) {
+    ++questions;
+    return !view.superview().canBecomeFirstResponder();
+}
+
+void expectAnUpdateThatAsksToEnd() {
+    const objc::Pool pool;
+    desktop::registerPlatform();
+    install(menuHooks());
+    install(responderHooks());
+    objc::install(objc::hook<"UIView", "canPerformAction:withSender:", &wonder>());
+    const auto window = ui::Window::withFrame({{0, 0}, {100, 100}});
+    window.makeKeyAndVisible();
+    const auto field = ui::TextField::withFrame({{0, 0}, {100, 20}});
+    window.addSubview(field);
+    ASSERT_TRUE(field.becomeFirstResponder());
+    const auto menu = ui::MenuController::sharedMenuController();
+    const auto items = ns::MutableArray::make();
+    items.add(ui::MenuItem::with(u"拼音"_ns, objc::selector<"pinyin:">()));
+    menu.setMenuItems(items);
+    menu.showMenu(field, {{0, 0}, {10, 10}});
+    ASSERT_TRUE(menu.isMenuVisible());
+    questions = 0;
+    EXPECT_FALSE(window.canBecomeFirstResponder());
+    EXPECT_GT(questions, 0);
+}
+
+TEST(EditMenuHooks, UpdateOnceHoweverOftenTheyAreAskedMeanwhile) {
+    tests::inProcessOfItsOwn(&expectAnUpdateThatAsksToEnd);
 }
 
 TEST(SpeechCategories, ATextViewRetainsItsSynthesizer) {
