@@ -2,8 +2,10 @@
 #include "library/editing/edit_menu.hpp"
 #include "library/editing/text_actions.hpp"
 
+#include "bindings/foundation/exception.hpp"
 #include "bindings/foundation/string.hpp"
 #include "bindings/objc/hook.hpp"
+#include "bindings/objc/peer.hpp"
 #include "bindings/objc/pool.hpp"
 #include "bindings/uikit/menu_controller.hpp"
 #include "bindings/uikit/text_field.hpp"
@@ -84,6 +86,46 @@ void expectAnUpdateThatAsksToEnd() {
 
 TEST(EditMenuHooks, UpdateOnceHoweverOftenTheyAreAskedMeanwhile) {
     tests::inProcessOfItsOwn(&expectAnUpdateThatAsksToEnd);
+}
+
+struct UnwillingDelegate : objc::Kind<UnwillingDelegate, "TestUnwillingDelegate"> {};
+
+class UnwillingDelegatePeer
+    : public objc::Peer<UnwillingDelegatePeer, UnwillingDelegate, objc::Boundary::propagates> {
+public:
+    static constexpr auto methods() {
+        return std::array{objc::method<"textViewDidChange:", &UnwillingDelegatePeer::changed>()};
+    }
+    static inline int raised = 0;
+
+private:
+    void changed(objc::Object) {
+        ++raised;
+        ns::Exception::with(u"No"_ns, u"not to be changed"_ns).raise();
+    }
+};
+
+void expectAnUnwillingDelegateToEndNothing() {
+    const objc::Pool pool;
+    desktop::registerPlatform();
+    install(menuItemCategory());
+    install(speechCategories());
+    install(textViewHooks());
+    UnwillingDelegatePeer::registerClass();
+    const auto view = ui::TextView::withFrame({});
+    const auto delegate = UnwillingDelegate::make();
+    view.send<"setDelegate:">(delegate);
+    for (const SEL action : {objc::selector<"deleteSelectedText:">(), objc::selector<"cutText:">(),
+                             objc::selector<"pasteText:">(), objc::selector<"addComment:">()}) {
+        view.setText(u"text"_ns);
+        view.setSelectedRange({0, 4});
+        EXPECT_NO_THROW(objc::sendTo(view.raw(), action, objc::Object())) << sel_getName(action);
+    }
+    EXPECT_EQ(UnwillingDelegatePeer::raised, 3) << "what is set by the program is not told";
+}
+
+TEST(TextViewActions, SurviveADelegateThatRaises) {
+    tests::inProcessOfItsOwn(&expectAnUnwillingDelegateToEndNothing);
 }
 
 TEST(SpeechCategories, ATextViewRetainsItsSynthesizer) {
