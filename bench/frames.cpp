@@ -8,7 +8,6 @@
 #include "bindings/uikit/window.hpp"
 #include "desktop/uikit/application/screen_image.hpp"
 #include "desktop/viewer/frame.hpp"
-#include "desktop/viewer/patch.hpp"
 
 #include <benchmark/benchmark.h>
 
@@ -42,15 +41,19 @@ struct Scene {
     objc::Strong<ui::View> caret;
 };
 
-Bytes frameOf(ScreenImage& image, const std::vector<PixelRectangle>& regions) {
-    std::vector<Patch> patches;
-    patches.reserve(regions.size());
-    for (const PixelRectangle& region : regions) {
-        patches.push_back(copied(image, region));
+/// What one page is sent.
+class Frames {
+public:
+    Bytes next(ScreenImage& image, const std::vector<PixelRectangle>& regions) {
+        Changes changes =
+            shown_.update({image.pixels(), image.width(), image.height(), image.stride()}, regions);
+        return encodeFrame(1, static_cast<std::uint16_t>(image.width()),
+                           static_cast<std::uint16_t>(image.height()), std::move(changes));
     }
-    return encodeFrame(1, static_cast<std::uint16_t>(image.width()),
-                       static_cast<std::uint16_t>(image.height()), patches);
-}
+
+private:
+    ShownScreen shown_;
+};
 
 /// Changes the screen again and again, and makes the frames that a page would be sent.
 template <class Change>
@@ -58,12 +61,13 @@ void measure(benchmark::State& state, Change change) {
     Scene& scene = Scene::shared();
     const objc::Pool pool; // after the platform's own
     ScreenImage image(phoneScale);
-    image.refresh();
+    Frames frames;
+    frames.next(image, image.refresh());
     std::size_t bytes = 0;
     bool odd = false;
     for (auto _ : state) {
         change(scene, odd = !odd);
-        bytes += frameOf(image, image.refresh()).size();
+        bytes += frames.next(image, image.refresh()).size();
     }
     state.counters["bytes"] =
         benchmark::Counter(static_cast<double>(bytes), benchmark::Counter::kAvgIterations);
@@ -89,7 +93,7 @@ void wholeScreen(benchmark::State& state) {
     image.refresh();
     std::size_t bytes = 0;
     for (auto _ : state) {
-        bytes = frameOf(image, {{0, 0, image.width(), image.height()}}).size();
+        bytes = Frames().next(image, {{0, 0, image.width(), image.height()}}).size();
     }
     state.counters["bytes"] = static_cast<double>(bytes);
     state.counters["frames/s"] =

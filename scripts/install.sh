@@ -25,6 +25,7 @@ build  libcurl4-openssl-dev     loads over HTTP and HTTPS
 build  libssl-dev               certificates and digests of the local services
 build  libboost1.81-dev         the web servers of the desktop
 build  libespeak-ng-dev         speaks
+build  liblz4-dev               packs what changes on the screen
 build  librsvg2-bin             draws the pictures of the settings
 build  zlib1g-dev               packs pictures
 build  libavcodec-dev           compresses recordings of the screen

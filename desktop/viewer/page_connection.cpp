@@ -22,6 +22,7 @@ void PageConnection::accept(const HttpRequest& request) {
     stream_.next_layer().expires_never(); // the stream below has its own times
     stream_.set_option(websocket::stream_base::timeout::suggested(boost::beast::role_type::server));
     stream_.read_message_max(longestMessage);
+    stream_.auto_fragment(false); // a frame goes out at once, not in pieces of 4 KB
     stream_.async_accept(request, [self = shared_from_this()](Failure failure) {
         if (failure) {
             self->listener_.closed(self->number_);

@@ -34,6 +34,7 @@ constexpr std::array files{
     PageFile{"opened_urls.js", "opened_urls.js", script},
     PageFile{"over_screen.js", "over_screen.js", script},
     PageFile{"screen.js", "screen.js", script},
+    PageFile{"unpack.js", "unpack.js", script},
     PageFile{"veil.js", "veil.js", script},
     PageFile{"web_pages.js", "web_pages.js", script},
     PageFile{"words.js", "words.js", script},

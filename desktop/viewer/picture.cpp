@@ -2,14 +2,18 @@
 #include "desktop/viewer/picture.hpp"
 
 #include "desktop/runtime/main_queue.hpp"
-#include "desktop/viewer/patch.hpp"
 
 #include <boost/asio/post.hpp>
 
 namespace desktop::viewer {
 namespace {
 
+// One that the page draws, and one that waits for it.
 constexpr std::uint32_t mostUnseen = 2;
+
+ScreenPixels pixelsOf(const ScreenImage& image) {
+    return {image.pixels(), image.width(), image.height(), image.stride()};
+}
 
 } // namespace
 
@@ -48,23 +52,20 @@ void Picture::refresh() {
     if (regions.empty()) {
         return;
     }
-    std::vector<Patch> patches;
-    patches.reserve(regions.size());
-    for (const PixelRectangle& region : regions) {
-        patches.push_back(copied(image_, region));
+    if (Changes changes = shown_.update(pixelsOf(image_), regions); !changes.places.empty()) {
+        encode(std::move(changes));
     }
-    encode(std::move(patches));
     drawn_();
     schedule(); // drawing itself may have made it stale
 }
 
-void Picture::encode(std::vector<Patch> patches) {
-    const std::uint32_t number = ++sent_;
-    boost::asio::post(encoder_, [number, width = static_cast<std::uint16_t>(image_.width()),
-                                 height = static_cast<std::uint16_t>(image_.height()),
-                                 patches = std::move(patches), deliver = &deliver_] {
-        (*deliver)(encodeFrame(number, width, height, patches));
-    });
+void Picture::encode(Changes changes) {
+    boost::asio::post(encoder_,
+                      [number = ++sent_, width = static_cast<std::uint16_t>(image_.width()),
+                       height = static_cast<std::uint16_t>(image_.height()),
+                       changes = std::move(changes), deliver = &deliver_]() mutable {
+                          (*deliver)(encodeFrame(number, width, height, std::move(changes)));
+                      });
 }
 
 } // namespace desktop::viewer

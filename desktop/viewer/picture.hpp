@@ -4,6 +4,7 @@
 
 #include "desktop/uikit/application/screen_image.hpp"
 #include "desktop/viewer/frame.hpp"
+#include "desktop/viewer/shown_screen.hpp"
 
 #include <boost/asio/thread_pool.hpp>
 
@@ -31,9 +32,10 @@ public:
 private:
     void schedule();
     void refresh();
-    void encode(std::vector<Patch> patches);
+    void encode(Changes changes);
 
     ScreenImage image_;
+    ShownScreen shown_;
     std::function<void(Bytes)> deliver_;
     std::function<void()> drawn_;
     std::uint32_t sent_ = 0;

@@ -1,5 +1,6 @@
 // @ts-check
-// The phone's screen on a canvas: as sharp as the display allows, drawn patch by patch.
+// The phone's screen on a canvas: as sharp as the display allows, drawn place by place.
+import { unpack } from "./unpack.js";
 
 /** @typedef {import("./connection.js").Connection} Connection */
 
@@ -7,22 +8,21 @@
  * Reads a frame; frame.hpp tells its form.
  * @param {ArrayBuffer} bytes
  */
-export function readFrame(bytes) {
+function readFrame(bytes) {
     const view = new DataView(bytes);
-    const frame = {
+    const count = view.getUint32(8, true);
+    const places = Array.from({ length: count }, (_, index) => {
+        const part = (/** @type {number} */ at) => view.getUint16(12 + 8 * index + at, true);
+        return { x: part(0), y: part(2), width: part(4), height: part(6) };
+    });
+    const size = places.reduce((sum, { width, height }) => sum + 4 * width * height, 0);
+    return {
         number: view.getUint32(0, true),
         width: view.getUint16(4, true),
         height: view.getUint16(6, true),
-        /** @type {{x: number, y: number, png: Blob}[]} */
-        patches: [],
+        places,
+        pixels: unpack(new Uint8Array(bytes, 12 + 8 * count), size),
     };
-    for (let at = 8; at < bytes.byteLength;) {
-        const length = view.getUint32(at + 8, true);
-        const png = new Blob([new Uint8Array(bytes, at + 12, length)], { type: "image/png" });
-        frame.patches.push({ x: view.getUint16(at, true), y: view.getUint16(at + 2, true), png });
-        at += 12 + length;
-    }
-    return frame;
 }
 
 /** Keeps a canvas like the phone's screen, and as large as its surroundings allow. Tells "turned". */
@@ -37,7 +37,6 @@ export class Screen extends EventTarget {
     #canvas;
     #connection;
     #context;
-    #lastFrame = Promise.resolve();
     #shownScale = 0;
 
     /**
@@ -55,7 +54,7 @@ export class Screen extends EventTarget {
         this.#context = context;
         connection.addEventListener("frame", (event) => {
             const { detail } = /** @type {CustomEvent<ArrayBuffer>} */ (event);
-            this.#lastFrame = this.#lastFrame.then(() => this.#show(detail)).catch(console.error);
+            this.#show(detail);
         });
         connection.addEventListener("welcome", (event) => {
             this.size = /** @type {CustomEvent} */ (event).detail.screen;
@@ -101,18 +100,20 @@ export class Screen extends EventTarget {
         };
     }
 
-    async #show(/** @type {ArrayBuffer} */ bytes) {
-        const frame = readFrame(bytes);
-        const pictures = await Promise.all(frame.patches.map(({ png }) => createImageBitmap(png)));
-        if (this.#canvas.width !== frame.width || this.#canvas.height !== frame.height) {
-            this.#canvas.width = frame.width;
-            this.#canvas.height = frame.height;
+    #show(/** @type {ArrayBuffer} */ bytes) {
+        const { number, width, height, places, pixels } = readFrame(bytes);
+        if (this.#canvas.width !== width || this.#canvas.height !== height) {
+            this.#canvas.width = width;
+            this.#canvas.height = height;
         }
-        frame.patches.forEach(({ x, y }, index) => {
-            this.#context.drawImage(pictures[index], x, y);
-            pictures[index].close();
-        });
+        let from = 0;
+        for (const place of places) {
+            const size = 4 * place.width * place.height;
+            const data = new Uint8ClampedArray(pixels.buffer, from, size);
+            this.#context.putImageData(new ImageData(data, place.width), place.x, place.y);
+            from += size;
+        }
         this.frames += 1;
-        this.#connection.send({ type: "seen", picture: frame.number });
+        this.#connection.send({ type: "seen", picture: number });
     }
 }
