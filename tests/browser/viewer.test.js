@@ -227,6 +227,7 @@ test("bad messages are refused, and the phone goes on", async () => {
             socket.onclose = ({ code }) => done(code);
         });
         const talking = await open();
+        talking.send('{"type":"takeHand"}');
         const refusals = [];
         talking.onmessage = ({ data }) => {
             const message = typeof data === "string" ? JSON.parse(data) : {};
@@ -305,6 +306,7 @@ test("a page that is slow gets the newest picture, not all of them", async () =>
         await new Promise((opened) => {
             socket.onopen = opened;
         });
+        socket.send('{"type":"takeHand"}');
         const [window] = await ask({ do: "tree" });
         socket.send('{"type":"look","scale":1}');
         for (let change = 0; change < 8; ++change) {
