@@ -3,15 +3,16 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-usage='usage: ./dev run [--app NAME] [--root DIR] [--port N]
+usage='usage: ./dev run [--app NAME] [--device NAME] [--root DIR] [--port N]
        ./dev run --tour
 
 Shows the phone in a browser page, at the address that is printed; Ctrl-C ends it.
-  --app NAME   the application that runs first (notes, settings, chat, browser, files or plain; default: notes)
-  --root DIR   the folder that keeps the phone'"'"'s files (default: a fresh one, removed at the end)
-  --port N     the port of the loopback address, 1 to 65535 (default: a free one)
-  --tour       plays the main road without a browser and leaves screenshots
-  --help       prints this'
+  --app NAME     the application that runs first (notes, settings, chat, browser, files or plain; default: notes)
+  --device NAME  the model of phone, "iPhone SE" for instance (default: iPhone 12; the page changes it)
+  --root DIR     the folder that keeps the phone'"'"'s files (default: a fresh one, removed at the end)
+  --port N       the port of the loopback address, 1 to 65535 (default: a free one)
+  --tour         plays the main road without a browser and leaves screenshots
+  --help         prints this'
 
 refuse() {
     printf '%s\nrun: %s\n' "$usage" "$1" >&2
@@ -27,7 +28,7 @@ while [[ $# -gt 0 ]]; do
         exit 0
         ;;
     --tour) tour=true ;;
-    --app | --root | --port)
+    --app | --device | --root | --port)
         [[ $# -ge 2 ]] || refuse "$1 needs a value"
         options+=("$1" "$2")
         shift

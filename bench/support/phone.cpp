@@ -146,7 +146,7 @@ void startPlatform() {
         static const objc::Pool pool; // for as long as the process measures
         desktop::foundation::install("com.example.bench");
         desktop::registerPlatform();
-        desktop::uikit::startApplication({390, 844, 3});
+        desktop::uikit::startApplication(desktop::usualDevice());
         storeRules();
         return true;
     }();

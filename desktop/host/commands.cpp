@@ -53,6 +53,7 @@ constexpr auto table = std::to_array<Row>({
     {"recognizer", &recognizer},
     {"appearance", &appearance},
     {"rotate", &rotate},
+    {"device", &device},
     {"advance", &advance},
     {"wait", &wait},
     {"events", &events},

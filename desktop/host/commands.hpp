@@ -53,9 +53,10 @@ using Command = Json (*)(Session& session, const Json& request);
 // What is recorded, and what is heard.
 [[nodiscard]] Json recorder(Session& session, const Json& request);
 [[nodiscard]] Json recognizer(Session& session, const Json& request);
-// How the phone is held, and its appearance.
+// The model of phone, how it is held, and its appearance.
 [[nodiscard]] Json appearance(Session& session, const Json& request);
 [[nodiscard]] Json rotate(Session& session, const Json& request);
+[[nodiscard]] Json device(Session& session, const Json& request);
 // Time and events.
 [[nodiscard]] Json advance(Session& session, const Json& request);
 [[nodiscard]] Json wait(Session& session, const Json& request);

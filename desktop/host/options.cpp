@@ -14,8 +14,8 @@ const char* const usage =
     "usage: host [--app NAME] [--bundle ID] [--root DIR] [--library FILE | --no-library]\n"
     "            [--clock virtual|real] [--date YYYY-MM-DDThh:mm:ss]\n"
     "            [--automation | --viewer [--port N]]\n"
-    "            [--size WxH@S] [--content FILE] [--settings-bundle] [--device-files]\n"
-    "            [--list-apps] [--help]\n";
+    "            [--device NAME | --size WxH@S] [--content FILE] [--settings-bundle]\n"
+    "            [--device-files] [--list-apps] [--list-devices] [--help]\n";
 
 namespace {
 
@@ -50,18 +50,25 @@ double measure(const char*& at, char end, double largest) {
     return fits ? value : std::nan("");
 }
 
-ScreenShape parseScreen(const std::string& text) {
+Device parseSize(const std::string& text) {
     constexpr double largestSide = 4096;
     constexpr double largestScale = 4;
     const char* at = text.c_str();
-    ScreenShape shape;
-    shape.width = measure(at, 'x', largestSide);
-    shape.height = measure(at, '@', largestSide);
-    shape.scale = measure(at, '\0', largestScale);
-    if (std::isnan(shape.width + shape.height + shape.scale)) {
+    const double width = measure(at, 'x', largestSide);
+    const double height = measure(at, '@', largestSide);
+    const double scale = measure(at, '\0', largestScale);
+    if (std::isnan(width + height + scale)) {
         throw UsageError("--size " + text + ": not of the form 390x844@3");
     }
-    return shape;
+    return deviceOfSize({width, height}, scale);
+}
+
+Device parseDevice(const std::string& name) {
+    const Device* device = deviceNamed(name);
+    if (device == nullptr) {
+        throw UsageError("--device " + name + ": unknown; --list-devices tells all");
+    }
+    return *device;
 }
 
 Clock::Mode parseClock(const std::string& text) {
@@ -99,7 +106,7 @@ struct Option {
     void (*read)(Options& options, Words& words);
 };
 
-constexpr std::array<Option, 17> table{{
+constexpr std::array<Option, 19> table{{
     {"--app", [](Options& o, Words& w) { o.application = w.value("--app"); }},
     {"--bundle", [](Options& o, Words& w) { o.bundle = w.value("--bundle"); }},
     {"--root", [](Options& o, Words& w) { o.root = w.value("--root"); }},
@@ -110,11 +117,13 @@ constexpr std::array<Option, 17> table{{
     {"--automation", [](Options& o, Words&) { o.automation = true; }},
     {"--viewer", [](Options& o, Words&) { o.viewer = true; }},
     {"--port", [](Options& o, Words& w) { o.port = parsePort(w.value("--port")); }},
-    {"--size", [](Options& o, Words& w) { o.screen = parseScreen(w.value("--size")); }},
+    {"--device", [](Options& o, Words& w) { o.device = parseDevice(w.value("--device")); }},
+    {"--size", [](Options& o, Words& w) { o.device = parseSize(w.value("--size")); }},
     {"--content", [](Options& o, Words& w) { o.content = w.value("--content"); }},
     {"--settings-bundle", [](Options& o, Words&) { o.settingsBundle = true; }},
     {"--device-files", [](Options& o, Words&) { o.deviceFiles = true; }},
     {"--list-apps", [](Options& o, Words&) { o.listsApplications = true; }},
+    {"--list-devices", [](Options& o, Words&) { o.listsDevices = true; }},
     {"--help", [](Options& o, Words&) { o.help = true; }},
     {"-h", [](Options& o, Words&) { o.help = true; }},
 }};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/runtime/clock.hpp"
+#include "desktop/uikit/application/device.hpp"
 
 #include <cstdint>
 #include <filesystem>
@@ -11,13 +12,6 @@
 #include <string>
 
 namespace desktop::host {
-
-/// A screen: points, and pixels a point.
-struct ScreenShape {
-    double width = 390;
-    double height = 844;
-    double scale = 3;
-};
 
 struct Options {
     std::string application = "notes";
@@ -40,10 +34,11 @@ struct Options {
     bool settingsBundle = false;
     /// Puts a used phone's files on the device, as for a page.
     bool deviceFiles = false;
-    ScreenShape screen;
+    Device device = usualDevice();
     /// The file with the screen's texts.
     std::optional<std::filesystem::path> content;
     bool listsApplications = false;
+    bool listsDevices = false;
     bool help = false;
 
     [[nodiscard]] Clock::Mode clockMode() const {

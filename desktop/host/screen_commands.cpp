@@ -1,6 +1,8 @@
-// Commands for the screen: its appearance, and how the phone is held.
+// Commands for the screen: its appearance, how the phone is held, and which model it is.
 #include "desktop/host/arguments.hpp"
 #include "desktop/host/commands.hpp"
+#include "desktop/uikit/application/rotation.hpp"
+#include "desktop/uikit/application/screen.hpp"
 #include "desktop/uikit/uikit.hpp"
 
 namespace desktop::host {
@@ -23,6 +25,21 @@ Json rotate(Session&, const Json& request) {
                            "portraitUpsideDown");
     }
     return std::string(uikit::orientation());
+}
+
+Json device(Session&, const Json& request) {
+    if (argument(request, "set") != nullptr) {
+        const Device* chosen = deviceNamed(stringArgument(request, "set"));
+        if (chosen == nullptr) {
+            throw RequestError("\"set\" must be a device that --list-devices names");
+        }
+        exchangeDevice(*chosen);
+    }
+    const Device& present = ScreenGeometry::current().device;
+    return {{"name", present.name.empty() ? Json() : Json(present.name)},
+            {"size", {present.size.width, present.size.height}},
+            {"scale", present.scale},
+            {"front", nameOf(present.front)}};
 }
 
 } // namespace desktop::host

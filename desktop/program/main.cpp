@@ -62,6 +62,13 @@ void listApplications() {
     }
 }
 
+void listDevices() {
+    for (const Device& device : devices()) {
+        std::printf("%-18s %gx%g@%g\n", std::string(device.name).c_str(), device.size.width,
+                    device.size.height, device.scale);
+    }
+}
+
 std::filesystem::path libraryFile(const Options& options) {
     return options.library.value_or(std::filesystem::read_symlink("/proc/self/exe").parent_path() /
                                     "../lib/Wentra.so");
@@ -87,7 +94,7 @@ void launch(const App& app, const Options& options) {
     if (options.loadsLibrary) {
         loadLibrary(libraryFile(options));
     }
-    uikit::startApplication({options.screen.width, options.screen.height, options.screen.scale});
+    uikit::startApplication(options.device);
     app.launch();
 }
 
@@ -189,6 +196,9 @@ int runForPage(const App& app, const Options& options) {
         if (start.application != app.name) {
             asked.bundle.reset(); // it was given for the first application
         }
+        if (const Device* chosen = deviceNamed(start.device); chosen != nullptr) {
+            asked.device = *chosen;
+        }
         return runDevice(*appNamed(start.application), asked, [&](Values& values) {
             const viewer::Phone phone(door, start, device.path(), values);
             runUntilStopped();
@@ -217,6 +227,10 @@ int main(int count, char** words) {
         }
         if (options.listsApplications) {
             listApplications();
+            return EXIT_SUCCESS;
+        }
+        if (options.listsDevices) {
+            listDevices();
             return EXIT_SUCCESS;
         }
         endProcess(run(options));

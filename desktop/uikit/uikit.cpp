@@ -137,10 +137,9 @@ void registerClasses() {
     installGeometryValues();
 }
 
-void startApplication(ScreenSize size) {
+void startApplication(const Device& device) {
     const objc::Pool pool;
-    const CGSize points{size.width, size.height};
-    ScreenGeometry::current() = ScreenGeometry::upright(points, size.scale);
+    ScreenGeometry::current() = ScreenGeometry::upright(device);
     ui::Application::sharedApplication();
 }
 

@@ -1,23 +1,18 @@
 // UIKit as a whole: its classes, the application's start, and the picture of the screen.
 #pragma once
 
+#include "desktop/uikit/application/device.hpp"
+
 #include <string>
 #include <string_view>
 
 namespace desktop::uikit {
 
-/// A screen in points, with pixels a point.
-struct ScreenSize {
-    double width;
-    double height;
-    double scale;
-};
-
 /// Makes the classes of UIKit known to the runtime. Once, before anything else. Main thread.
 void registerClasses();
 
 /// Sets the screen up; the shared application and its scene exist from here on. Main thread.
-void startApplication(ScreenSize size);
+void startApplication(const Device& device);
 
 enum class Appearance { light, dark };
 

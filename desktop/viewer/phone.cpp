@@ -163,7 +163,7 @@ Answer Phone::contentAt(const std::string& path) const {
 
 host::Json Phone::welcome(PageNumber page) const {
     host::Json message = welcomeMessage("welcome", start_, deviceFolder_);
-    message["screen"] = screenSize();
+    message["screen"] = screenShape();
     message["hand"] = page == holder_;
     return message;
 }
@@ -228,13 +228,15 @@ void Phone::answer(PageNumber page, const std::string& request) {
     }
 }
 
-void Phone::carryOut(const Launch& launch) { startInstead(start_, launch); }
+void Phone::carryOut(const Launch& launch) {
+    startInstead(start_, launch, std::string(ScreenGeometry::current().device.name));
+}
 
-void startInstead(const Start& start, const Launch& launch) {
+void startInstead(const Start& start, const Launch& launch, const std::string& device) {
     if (host::appNamed(launch.application) == nullptr) {
         throw MessageError("unknown application: " + launch.application);
     }
-    nameSuccessor(start, launch.application);
+    nameSuccessor(start, launch.application, device);
     stop_request::make();
 }
 

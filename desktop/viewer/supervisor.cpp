@@ -24,6 +24,8 @@
 namespace desktop::viewer {
 namespace {
 
+constexpr char nameEnd = '\n';
+
 /// The two ends through which a child names its successor.
 struct Pipe {
     Pipe() {
@@ -111,7 +113,8 @@ private:
 
 int supervise(std::string application, const std::function<int(const Start&)>& phone) {
     Crashes crashes;
-    Start start{std::move(application)};
+    Start start;
+    start.application = std::move(application);
     while (!stop_request::isMade()) {
         const Pipe names;
         start.successor = names.ends[1];
@@ -122,7 +125,9 @@ int supervise(std::string application, const std::function<int(const Start&)>& p
         }
         start.afterCrash = WIFSIGNALED(status);
         if (const std::string successor = names.content(); !successor.empty()) {
-            start.application = successor;
+            const auto end = successor.find(nameEnd);
+            start.application = successor.substr(0, end);
+            start.device = successor.substr(end + 1);
             start.rests = false;
         } else if (!start.afterCrash) {
             return WEXITSTATUS(status);
@@ -139,9 +144,10 @@ int supervise(std::string application, const std::function<int(const Start&)>& p
     return EXIT_SUCCESS;
 }
 
-void nameSuccessor(const Start& start, const std::string& application) {
-    // Shorter than what a pipe takes at once; a full pipe already holds a name.
-    static_cast<void>(!write(start.successor, application.data(), application.size()));
+void nameSuccessor(const Start& start, const std::string& application, const std::string& device) {
+    const std::string names = application + nameEnd + device;
+    // Shorter than what a pipe takes at once; a full pipe already holds names.
+    static_cast<void>(!write(start.successor, names.data(), names.size()));
 }
 
 } // namespace desktop::viewer

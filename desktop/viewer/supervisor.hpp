@@ -9,12 +9,13 @@ namespace desktop::viewer {
 /// How a phone comes up.
 struct Start {
     std::string application;
+    /// The model of phone, by its name; empty: as the command line says.
+    std::string device;
     /// Whether the process before this one crashed.
     bool afterCrash = false;
     /// The application crashes again and again: it is not to be started before somebody asks.
     bool rests = false;
-    /// Where the child writes the name of the application that it wants to be replaced by, before
-    /// it ends.
+    /// Where the child writes what it wants to be replaced by, before it ends.
     int successor = -1;
 };
 
@@ -25,7 +26,9 @@ struct Start {
 /// end with. Before any thread is started.
 int supervise(std::string application, const std::function<int(const Start&)>& phone);
 
-/// Asks, in the child, for another application (or the same one anew). The child has to end then.
-void nameSuccessor(const Start& start, const std::string& application);
+/// Asks, in the child, for another application (or the same one anew) on that device, each by its
+/// name. The child has to end then.
+void nameSuccessor(const Start& start, const std::string& application,
+                   const std::string& device = {});
 
 } // namespace desktop::viewer

@@ -5,6 +5,7 @@
 #include "bindings/uikit/window.hpp"
 #include "desktop/replaykit/film_view.hpp"
 #include "desktop/uikit/application/screen.hpp"
+#include "desktop/uikit/uikit.hpp"
 #include "desktop/webkit/web_content.hpp"
 
 namespace desktop::viewer {
@@ -47,9 +48,12 @@ host::Json films(const EventFeed& events) {
 
 } // namespace
 
-host::Json screenSize() {
+host::Json screenShape() {
     const ScreenGeometry& screen = ScreenGeometry::current();
-    return {{"width", screen.size.width}, {"height", screen.size.height}, {"scale", screen.scale}};
+    return {{"width", screen.size.width},    {"height", screen.size.height},
+            {"scale", screen.scale},         {"orientation", uikit::orientation()},
+            {"device", screen.device.name},  {"front", nameOf(screen.device.front)},
+            {"corner", screen.device.corner}};
 }
 
 void Watcher::tell(const host::Json& message) {
@@ -71,7 +75,7 @@ void Watcher::seen(std::uint32_t picture) {
 }
 
 void Watcher::drawn() {
-    tellIfNew("screen", "screen", screenSize(), screen_);
+    tellIfNew("screen", "screen", screenShape(), screen_);
     tellIfNew("webPages", "pages", webPages(), webPages_);
     tellIfNew("films", "films", films(events_), films_);
 }

@@ -10,14 +10,14 @@
 
 namespace desktop::viewer {
 
-/// The screen in points, as the phone is held, with the pixels a point.
-[[nodiscard]] host::Json screenSize();
+/// The screen as the phone is held, in points, with the pixels a point; and what is around it.
+[[nodiscard]] host::Json screenShape();
 
 /// Main thread.
 class Watcher {
 public:
     Watcher(PageNumber page, Server& server, const EventFeed& events)
-        : page_(page), server_(server), events_(events), screen_(screenSize()) {}
+        : page_(page), server_(server), events_(events), screen_(screenShape()) {}
 
     void tell(const host::Json& message);
     /// From now on it gets pictures with that many pixels a point.

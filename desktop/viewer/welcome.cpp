@@ -2,6 +2,7 @@
 #include "desktop/viewer/welcome.hpp"
 
 #include "desktop/host/app.hpp"
+#include "desktop/uikit/application/device.hpp"
 
 namespace desktop::viewer {
 
@@ -11,10 +12,15 @@ host::Json welcomeMessage(const char* type, const Start& start,
     for (const host::App* app : host::apps()) {
         applications.push_back({{"name", app->name}, {"bundle", app->bundleIdentifier}});
     }
+    host::Json models = host::Json::array();
+    for (const Device& device : devices()) {
+        models.push_back(device.name);
+    }
     return {{"type", type},
             {"version", WENTRA_VERSION},
             {"application", start.application},
             {"applications", applications},
+            {"devices", models},
             {"afterCrash", start.afterCrash},
             {"folder", deviceFolder.string()}};
 }

@@ -21,6 +21,7 @@ TEST(Options, WrongOnesAreToldOnStandardErrorWithStatusTwo) {
              Case{{"--clock", "sundial"}, "sundial"},
              Case{{"--date", "2024-12-30"}, "2024-12-30"},
              Case{{"--date", "2024-12-30T12:00:00Z"}, "2024-12-30T12:00:00Z"},
+             Case{{"--device", "Nokia"}, "Nokia"},
              Case{{"--size", "390x844"}, "390x844"},
              Case{{"--size", "0x844@3"}, "0x844@3"},
              Case{{"--size", "nanx844@3"}, "nanx844@3"},

@@ -4,6 +4,7 @@
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/navigation_bar.hpp"
 #include "bindings/uikit/screen.hpp"
+#include "desktop/uikit/application/screen.hpp"
 
 namespace desktop::host {
 namespace {
@@ -35,14 +36,15 @@ ui::View separatorWithFrame(CGRect frame) {
 double addNavigationBar(ui::View page, std::string_view title) {
     constexpr double height = 96;
     const double width = page.bounds().size.width;
-    const auto bar = ui::NavigationBar::withFrame({{0, statusBarHeight}, {width, height}});
+    const double top = ScreenGeometry::current().safeArea.top;
+    const auto bar = ui::NavigationBar::withFrame({{0, top}, {width, height}});
     bar.setPrefersLargeTitles(true);
     bar.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth);
     const auto items = ns::MutableArray::make();
     items.add(ui::NavigationItem::withTitle(ns::String::fromUtf8(title)));
     bar.setItems(items);
     page.addSubview(bar);
-    return statusBarHeight + height;
+    return top + height;
 }
 
 void showInWindow(ui::ViewController controller) {

@@ -38,10 +38,7 @@ ui::View cardWithFrame(CGRect frame);
 /// A hairline.
 ui::View separatorWithFrame(CGRect frame);
 
-/// Where the content of a screen begins: below the status bar.
-inline constexpr double statusBarHeight = 47;
-
-/// Adds a navigation bar with a large title; the result is where it ends.
+/// Adds a navigation bar with a large title, below the status bar; the result is where it ends.
 double addNavigationBar(ui::View page, std::string_view title);
 
 /// Shows the controller in a window of the screen's size, which is kept as long as the process

@@ -63,15 +63,18 @@ public:
             add(window, points, DisplayGroup::none);
         }
         const Colour ink = systemInk(isDark());
-        if (!ScreenGeometry::current().isLandscape()) {
+        const ScreenGeometry& phone = ScreenGeometry::current();
+        if (!phone.isLandscape()) {
             list_.add({.kind = DisplayItem::Kind::content,
                        .stamp = ink == systemInk(true) ? lightStatusBarStamp : statusBarStamp,
-                       .shape = {affine(points), statusBarArea(size)}});
+                       .shape = {affine(points), statusBarArea(phone.device)}});
         }
-        const Rectangle indicator = homeIndicatorArea(size);
-        list_.add({.stamp = homeIndicatorStamp,
-                   .shape = {affine(points), indicator, indicator.height / 2},
-                   .colour = ink});
+        if (!phone.device.hasHomeButton()) {
+            const Rectangle indicator = homeIndicatorArea(size);
+            list_.add({.stamp = homeIndicatorStamp,
+                       .shape = {affine(points), indicator, indicator.height / 2},
+                       .colour = ink});
+        }
     }
 
 private:
@@ -144,7 +147,8 @@ private:
 
 void Composition::draw(std::uint64_t stamp, Canvas& canvas) const {
     if (stamp == statusBarStamp || stamp == lightStatusBarStamp) {
-        drawStatusBar(canvas, screenSize(), systemInk(stamp == lightStatusBarStamp));
+        drawStatusBar(canvas, ScreenGeometry::current().device,
+                      systemInk(stamp == lightStatusBarStamp));
         return;
     }
     const auto view = views.find(stamp);

@@ -1,4 +1,4 @@
-// What happens when the phone is turned, in the platform's order.
+// What happens when the screen becomes another one, in the platform's order.
 #include "desktop/uikit/application/rotation.hpp"
 
 #include "bindings/uikit/menu_controller.hpp"
@@ -42,7 +42,7 @@ ui::ViewController decidingController() {
 bool isSupported(ui::InterfaceOrientation orientation) {
     using ui::InterfaceOrientation;
     if (orientation == InterfaceOrientation::portraitUpsideDown &&
-        ScreenGeometry::current().hasNotch()) {
+        !ScreenGeometry::current().device.hasHomeButton()) {
         return false;
     }
     const ui::ViewController controller = decidingController();
@@ -87,6 +87,19 @@ void turn(const Windows& windows, const ScreenGeometry& coming) {
     uikit::layoutWindows();
 }
 
+void change(const ScreenGeometry& coming) {
+    const Windows windows = windowsOnScreen();
+    ui::MenuController::sharedMenuController().hideMenu();
+    if (coming.size == ScreenGeometry::current().size) {
+        turn(windows, coming);
+        return;
+    }
+    const auto coordinator = TransitionCoordinatorKind::make();
+    announce(windows, coming, coordinator);
+    turn(windows, coming);
+    TransitionCoordinator::of(coordinator).run(Application::shared().keyWindow());
+}
+
 } // namespace
 
 ui::InterfaceOrientation rotate(ui::InterfaceOrientation to) {
@@ -94,18 +107,12 @@ ui::InterfaceOrientation rotate(ui::InterfaceOrientation to) {
     if (to == former.orientation || !isSupported(to)) {
         return former.orientation;
     }
-    const ScreenGeometry coming = former.heldAs(to);
-    const Windows windows = windowsOnScreen();
-    ui::MenuController::sharedMenuController().hideMenu();
-    if (coming.size == former.size) {
-        turn(windows, coming);
-        return to;
-    }
-    const auto coordinator = TransitionCoordinatorKind::make();
-    announce(windows, coming, coordinator);
-    turn(windows, coming);
-    TransitionCoordinator::of(coordinator).run(Application::shared().keyWindow());
+    change(former.heldAs(to));
     return to;
+}
+
+void exchangeDevice(const Device& device) {
+    change(ScreenGeometry::upright(device).heldAs(ScreenGeometry::current().orientation));
 }
 
 } // namespace desktop

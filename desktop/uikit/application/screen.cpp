@@ -9,11 +9,6 @@
 
 namespace desktop {
 
-ScreenGeometry& ScreenGeometry::current() {
-    static ScreenGeometry geometry;
-    return geometry;
-}
-
 namespace {
 
 using ui::InterfaceOrientation;
@@ -23,20 +18,26 @@ bool isSideways(InterfaceOrientation orientation) {
            orientation == InterfaceOrientation::landscapeRight;
 }
 
-/// Held sideways, a phone shows no status bar.
-UIEdgeInsets safeAreaOf(bool hasNotch, bool isLandscape) {
+/// Held sideways, a phone shows no status bar. One with a home button has no home indicator to
+/// keep clear of.
+UIEdgeInsets safeAreaOf(const Device& device, bool isLandscape) {
     if (isLandscape) {
-        return hasNotch ? UIEdgeInsets{0, 47, 21, 47} : UIEdgeInsets{};
+        return device.hasHomeButton() ? UIEdgeInsets{}
+                                      : UIEdgeInsets{0, device.top, 21, device.top};
     }
-    return hasNotch ? UIEdgeInsets{47, 0, 34, 0} : UIEdgeInsets{20, 0, 0, 0};
+    return {device.top, 0, device.hasHomeButton() ? 0.0 : 34.0, 0};
 }
 
 } // namespace
 
-ScreenGeometry ScreenGeometry::upright(CGSize size, double scale) {
-    ScreenGeometry geometry{size, scale, {}, InterfaceOrientation::portrait};
-    geometry.safeArea = safeAreaOf(geometry.hasNotch(), false);
+ScreenGeometry& ScreenGeometry::current() {
+    static ScreenGeometry geometry = upright(usualDevice());
     return geometry;
+}
+
+ScreenGeometry ScreenGeometry::upright(const Device& device) {
+    return {device.size, device.scale, safeAreaOf(device, false), InterfaceOrientation::portrait,
+            device};
 }
 
 ScreenGeometry ScreenGeometry::heldAs(InterfaceOrientation other) const {
@@ -45,16 +46,11 @@ ScreenGeometry ScreenGeometry::heldAs(InterfaceOrientation other) const {
     if (isSideways(other) != isLandscape()) {
         std::swap(geometry.size.width, geometry.size.height);
     }
-    geometry.safeArea = safeAreaOf(hasNotch(), isSideways(other));
+    geometry.safeArea = safeAreaOf(device, isSideways(other));
     return geometry;
 }
 
 bool ScreenGeometry::isLandscape() const { return isSideways(orientation); }
-
-bool ScreenGeometry::hasNotch() const {
-    constexpr double shortestWithNotch = 780;
-    return (isLandscape() ? size.width : size.height) >= shortestWithNotch;
-}
 
 ui::Screen Screen::mainScreen(Class) {
     static const auto* screen = new objc::Strong(ui::Screen::make());

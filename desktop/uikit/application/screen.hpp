@@ -7,23 +7,22 @@
 #include "bindings/uikit/window_scene.hpp"
 
 #include "desktop/class.hpp"
+#include "desktop/uikit/application/device.hpp"
 
 namespace desktop {
 
 /// Size in points as the phone is held, pixels a point, and the margins that bars and corners take.
 struct ScreenGeometry {
-    CGSize size{390, 844};
-    double scale = 3;
-    UIEdgeInsets safeArea{47, 0, 34, 0};
-    ui::InterfaceOrientation orientation = ui::InterfaceOrientation::portrait;
+    CGSize size;
+    double scale;
+    UIEdgeInsets safeArea;
+    ui::InterfaceOrientation orientation;
+    Device device;
 
-    /// Of an upright phone with a screen of that size.
-    [[nodiscard]] static ScreenGeometry upright(CGSize size, double scale);
+    [[nodiscard]] static ScreenGeometry upright(const Device& device);
     /// The same phone in another orientation.
     [[nodiscard]] ScreenGeometry heldAs(ui::InterfaceOrientation other) const;
     [[nodiscard]] bool isLandscape() const;
-    /// A phone without a notch has a home button, and no home indicator to keep clear of.
-    [[nodiscard]] bool hasNotch() const;
 
     /// The geometry in force.
     static ScreenGeometry& current();

@@ -9,22 +9,39 @@
 namespace desktop {
 namespace {
 
-// All places are for the bar of a phone with a notch, 47 points high.
-constexpr double middle = 25;
+/// Where a bar has its parts, in points.
+struct Places {
+    double middle;    ///< the height that all of them are centred about
+    double timeWidth; ///< the time stands in the middle of so much of the bar
+    double timeSize;
+    double signal, wireless, battery; ///< where they begin
+};
 
-void drawTime(Canvas& canvas, const Colour& ink) {
+Places placesOn(const Device& device) {
+    const double width = device.size.width;
+    switch (device.front) {
+    case PhoneFront::homeButton:
+        return {device.statusBar / 2, width, 12, 7, 30, width - 33};
+    case PhoneFront::notch:
+        return {device.statusBar / 2 + 1.5, 96, 17, width - 82, width - 59, width - 40};
+    default:
+        return {device.statusBar / 2 + 5, 126, 17, width - 99, width - 76, width - 57};
+    }
+}
+
+void drawTime(Canvas& canvas, const Colour& ink, const Places& places) {
     TextRun look;
-    look.font.size = 17;
+    look.font.size = places.timeSize;
     look.font.weight = 600;
     look.colour = ink;
     TextFrame frame;
-    frame.width = 96;
+    frame.width = places.timeWidth;
     frame.alignment = TextAlignment::center;
     const TextLayout time(u"9:41", look, frame);
-    time.draw(canvas.context(), {0, middle - time.size().height / 2});
+    time.draw(canvas.context(), {0, places.middle - time.size().height / 2});
 }
 
-void drawSignal(Canvas& canvas, const Colour& ink, double left) {
+void drawSignal(Canvas& canvas, const Colour& ink, double left, double middle) {
     constexpr std::array heights{4.0, 6.0, 8.5, 11.0};
     for (std::size_t bar = 0; bar < heights.size(); ++bar) {
         canvas.fill(
@@ -33,7 +50,7 @@ void drawSignal(Canvas& canvas, const Colour& ink, double left) {
     }
 }
 
-void drawWireless(Canvas& canvas, const Colour& ink, double left) {
+void drawWireless(Canvas& canvas, const Colour& ink, double left, double middle) {
     cairo_t* context = canvas.context();
     cairo_save(context);
     cairo_set_source_rgba(context, ink.red, ink.green, ink.blue, ink.alpha);
@@ -53,7 +70,7 @@ void drawWireless(Canvas& canvas, const Colour& ink, double left) {
     cairo_restore(context);
 }
 
-void drawBattery(Canvas& canvas, const Colour& ink, double left) {
+void drawBattery(Canvas& canvas, const Colour& ink, double left, double middle) {
     const Colour faint{ink.red, ink.green, ink.blue, 0.35};
     canvas.stroke({left, middle - 6, 24, 12}, faint, 1, 3.6);
     canvas.fill({left + 25, middle - 2, 1.4, 4}, faint, 0.7);
@@ -62,16 +79,16 @@ void drawBattery(Canvas& canvas, const Colour& ink, double left) {
 
 } // namespace
 
-Rectangle statusBarArea(Size screen) {
-    constexpr double height = 47;
-    return {0, 0, screen.width, height};
+Rectangle statusBarArea(const Device& device) {
+    return {0, 0, device.size.width, device.statusBar};
 }
 
-void drawStatusBar(Canvas& canvas, Size screen, const Colour& ink) {
-    drawTime(canvas, ink);
-    drawSignal(canvas, ink, screen.width - 82);
-    drawWireless(canvas, ink, screen.width - 59);
-    drawBattery(canvas, ink, screen.width - 40);
+void drawStatusBar(Canvas& canvas, const Device& device, const Colour& ink) {
+    const Places places = placesOn(device);
+    drawTime(canvas, ink, places);
+    drawSignal(canvas, ink, places.signal, places.middle);
+    drawWireless(canvas, ink, places.wireless, places.middle);
+    drawBattery(canvas, ink, places.battery, places.middle);
 }
 
 Rectangle homeIndicatorArea(Size screen) {

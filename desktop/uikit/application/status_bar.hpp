@@ -2,14 +2,16 @@
 #pragma once
 
 #include "desktop/drawing/canvas.hpp"
+#include "desktop/uikit/application/device.hpp"
 
 namespace desktop {
 
-/// Where the status bar draws, on a screen of that size in points.
-[[nodiscard]] Rectangle statusBarArea(Size screen);
-void drawStatusBar(Canvas& canvas, Size screen, const Colour& ink);
+/// Where the status bar draws, on that phone held upright.
+[[nodiscard]] Rectangle statusBarArea(const Device& device);
+void drawStatusBar(Canvas& canvas, const Device& device, const Colour& ink);
 
-/// The home indicator, a bar with round ends.
+/// The home indicator of a phone without a home button, a bar with round ends, on a screen of that
+/// size in points.
 [[nodiscard]] Rectangle homeIndicatorArea(Size screen);
 
 /// The colour of both: white on what is dark, else black.

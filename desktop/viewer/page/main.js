@@ -1,6 +1,7 @@
 // @ts-check
 // Puts the page together.
 import { Connection } from "./connection.js";
+import { edgesOf, showBody } from "./device.js";
 import { element } from "./element.js";
 import { showFilms } from "./films.js";
 import { Fingers } from "./fingers.js";
@@ -9,6 +10,7 @@ import { holdPhone } from "./holding.js";
 import { typeInto } from "./keyboard.js";
 import { tellOpenedUrls } from "./opened_urls.js";
 import { applicationsPanel } from "./panels/applications.js";
+import { devicePanel } from "./panels/device.js";
 import { eventsPanel } from "./panels/events.js";
 import { microphonePanel } from "./panels/microphone.js";
 import { pasteboardPanel } from "./panels/pasteboard.js";
@@ -124,6 +126,7 @@ function showPage() {
     const eventList = eventsPanel();
     panels = {
         applications: applicationsPanel(connection),
+        device: devicePanel(connection, attempt),
         preferences: preferencesPanel(connection),
         rules: rulesPanel(connection),
         pasteboard: pasteboardPanel(connection),
@@ -135,7 +138,7 @@ function showPage() {
     showState(connectionState, connection, phone);
     eventList.add(events);
     if (phone) {
-        panels.applications.welcome?.(phone);
+        Object.values(panels).forEach((panel) => panel.welcome?.(phone));
     }
     connection.removeEventListener("events", showEvents);
     showEvents = (event) => {
@@ -151,8 +154,9 @@ let showEvents = () => {};
 
 function fitScreen() {
     const room = part("stage").getBoundingClientRect();
-    const frame = 28; // the phone's edge, on both sides
-    screen.fitInto(room.width - frame, room.height - frame);
+    showBody(part("phone"), screen.size);
+    const { across, down } = edgesOf(part("phone"));
+    screen.fitInto(room.width - across, room.height - down);
 }
 
 connection.addEventListener("state", (event) => {
@@ -165,7 +169,6 @@ for (const told of ["welcome", "resting"]) {
         events = [];
         document.title = `${word(phone.application)} — Wentra`;
         showPage();
-        fitScreen();
     });
 }
 screen.addEventListener("turned", fitScreen);

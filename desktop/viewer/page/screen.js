@@ -27,8 +27,8 @@ function readFrame(bytes) {
 
 /** Keeps a canvas like the phone's screen, and as large as its surroundings allow. Tells "turned". */
 export class Screen extends EventTarget {
-    /** Points of the phone, as the phone tells them. */
-    size = { width: 390, height: 844 };
+    /** Points of the phone, and what is around its screen, as the phone tells them. */
+    size = { width: 390, height: 844, front: "notch", orientation: "portrait", corner: 47 };
     /** CSS pixels a point. */
     zoom = 1;
     /** How many frames have been drawn. */
@@ -59,7 +59,7 @@ export class Screen extends EventTarget {
         connection.addEventListener("welcome", (event) => {
             this.size = /** @type {CustomEvent} */ (event).detail.screen;
             this.#shownScale = 0;
-            this.fit();
+            this.dispatchEvent(new Event("turned"));
         });
         connection.addEventListener("screen", (event) => {
             this.size = /** @type {CustomEvent} */ (event).detail.screen;

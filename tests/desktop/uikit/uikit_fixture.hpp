@@ -15,7 +15,7 @@ protected:
     static void SetUpTestSuite() {
         static const bool once = [] {
             desktop::registerPlatform();
-            desktop::uikit::startApplication({390, 844, 3});
+            desktop::uikit::startApplication(desktop::usualDevice());
             return true;
         }();
         static_cast<void>(once);

@@ -18,10 +18,11 @@ TEST(Supervisor, GivesTheStatusOfAnOrdinaryEnd) {
 TEST(Supervisor, StartsTheNamedSuccessor) {
     const auto phone = [](const Start& start) {
         if (start.application == "one") {
-            nameSuccessor(start, "two");
+            nameSuccessor(start, "two", "a phone");
             return 5;
         }
-        return start.application == "two" && !start.afterCrash ? 7 : 8;
+        const bool isNamed = start.application == "two" && start.device == "a phone";
+        return isNamed && !start.afterCrash ? 7 : 8;
     };
     EXPECT_EQ(supervise("one", phone), 7);
 }

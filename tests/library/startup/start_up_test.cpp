@@ -88,7 +88,7 @@ void expectEveryRowOnceAndTheToolboxLater() {
     desktop::Clock::shared().setMode(desktop::Clock::Mode::virtual_);
     desktop::foundation::installUrlSessions();
     desktop::registerPlatform();
-    desktop::uikit::startApplication({390, 844, 3});
+    desktop::uikit::startApplication(desktop::usualDevice());
 
     watchObservers();
     const auto before = implementations();

@@ -69,7 +69,7 @@ TEST(WordGrid, LetsALargeTextGoInOnePass) {
     const objc::Pool pool;
     desktop::Clock::shared().setMode(desktop::Clock::Mode::virtual_);
     desktop::registerPlatform();
-    desktop::uikit::startApplication({390, 844, 3});
+    desktop::uikit::startApplication(desktop::usualDevice());
     registerFloatingViewController();
     const auto controller = FloatingViewController::make();
     static_cast<void>(controller.view());

@@ -80,14 +80,14 @@ protected:
 };
 
 TEST(ScreenGeometryRules, TheSafeAreaFollowsTheWayThePhoneIsHeld) {
-    const auto notch = ScreenGeometry::upright({390, 844}, 3);
+    const auto notch = ScreenGeometry::upright(desktop::usualDevice());
     EXPECT_EQ(notch.safeArea, (UIEdgeInsets{47, 0, 34, 0}));
     const auto sideways = notch.heldAs(InterfaceOrientation::landscapeRight);
     EXPECT_EQ(sideways.size, (CGSize{844, 390}));
     EXPECT_EQ(sideways.safeArea, (UIEdgeInsets{0, 47, 21, 47}));
     EXPECT_EQ(sideways.heldAs(InterfaceOrientation::landscapeLeft).size, (CGSize{844, 390}));
     EXPECT_EQ(sideways.heldAs(InterfaceOrientation::portrait).safeArea, notch.safeArea);
-    const auto button = ScreenGeometry::upright({375, 667}, 2);
+    const auto button = ScreenGeometry::upright(desktop::deviceOfSize({375, 667}, 2));
     EXPECT_EQ(button.safeArea, (UIEdgeInsets{20, 0, 0, 0}));
     EXPECT_EQ(button.heldAs(InterfaceOrientation::landscapeLeft).safeArea, UIEdgeInsets());
 }

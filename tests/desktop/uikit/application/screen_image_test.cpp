@@ -145,7 +145,7 @@ TEST_F(ScreenImageTest, AWindowFillsTheScreenAtEveryScale) {
     desktop::ScreenGeometry& geometry = desktop::ScreenGeometry::current();
     const desktop::ScreenGeometry before = geometry;
     for (const CGSize size : {CGSize{390, 844}, {844, 390}, {375, 667}, {393.5, 851.25}}) {
-        geometry = desktop::ScreenGeometry::upright(size, 3);
+        geometry = desktop::ScreenGeometry::upright(desktop::deviceOfSize(size, 3));
         window.setFrame({{}, size});
         for (double scale = 0.5; scale < 3; scale += 0.0771) {
             ScreenImage screen(scale);

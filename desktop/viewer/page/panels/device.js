@@ -1,0 +1,53 @@
+// @ts-check
+// The model of phone.
+import { element } from "../element.js";
+import { word } from "../words.js";
+
+/** @typedef {import("../connection.js").Connection} Connection */
+
+/** What a phone has, by the protocol's names. @type {Record<string, string>} */
+const fronts = { homeButton: "homeButton", notch: "notch", island: "island" };
+
+/** A row with a name and a control. */
+const row = (/** @type {string} */ name, /** @type {HTMLElement} */ control) =>
+    element("li", {}, element("label", { class: "names", for: control.id }, word(name)), control);
+
+/**
+ * @param {Connection} connection
+ * @param {(work: () => any) => void} attempt does what may fail and tells if it does
+ */
+export function devicePanel(connection, attempt) {
+    const panel = element("div", { class: "panel device" });
+    const model = element("select", { id: "model" });
+    const facts = element("p", { class: "hint" });
+    let application = "";
+
+    model.onchange = () =>
+        attempt(async () => {
+            await connection.ask("device", { set: model.value });
+            // No application lives to see another phone: it is started anew on it.
+            connection.send({ type: "launch", application });
+        });
+
+    return {
+        panel,
+        welcome(/** @type {any} */ phone) {
+            application = phone.application;
+            if (!phone.screen) {
+                return;
+            }
+            const { device, width, height, scale, front } = phone.screen;
+            const names = device ? phone.devices : ["", ...phone.devices];
+            model.replaceChildren(
+                ...names.map((/** @type {string} */ name) =>
+                    element("option", { value: name, selected: name === device }, name || word("otherDevice"))),
+            );
+            facts.textContent = `${width} × ${height} @ ${scale}× · ${word(fronts[front])}`;
+            panel.replaceChildren(
+                element("p", { class: "hint" }, word("deviceHint")),
+                element("ul", { class: "card" }, row("model", model)),
+                facts,
+            );
+        },
+    };
+}

@@ -1,0 +1,39 @@
+// The phone's body and its buttons, in the page.
+import assert from "node:assert/strict";
+import { test } from "node:test";
+import { phone, phoneForEach } from "./fixture.js";
+
+phoneForEach("notes");
+
+const shape = () => phone.page.evaluate(() => {
+    const { front, orientation } = document.getElementById("phone").dataset;
+    const { width, height } = document.getElementById("cutout").getBoundingClientRect();
+    return { front, orientation, cutout: [width > 0, width > height] };
+});
+const welcome = () => phone.page.evaluate(() => new Promise((done) => {
+    window.wentra.connection.addEventListener("welcome", ({ detail }) => done(detail.screen), { once: true });
+}));
+
+test("another model is chosen, and the application starts anew on it and stays on it", async () => {
+    assert.deepEqual(await shape(), { front: "notch", orientation: "portrait", cutout: [true, true] });
+    await phone.page.click("#tab-device");
+    const told = welcome();
+    await phone.page.selectOption("#model", "iPhone SE");
+    const { width, height, scale } = await told;
+    assert.deepEqual([width, height, scale], [375, 667, 2]);
+    await phone.picture(1);
+    assert.deepEqual((await shape()).front, "homeButton");
+    assert.equal((await shape()).cutout[0], false);
+    assert.equal((await phone.do("find", { where: { class: "UINavigationBar" } }))[0].rect[1], 20);
+
+    await phone.restart();
+    assert.equal((await phone.do("device")).name, "iPhone SE");
+    await phone.page.click("#tab-device");
+    assert.equal(await phone.page.inputValue("#model"), "iPhone SE");
+});
+
+test("a phone that is turned has its notch at the side", async () => {
+    await phone.page.click("#rotate");
+    await phone.page.waitForSelector("[data-orientation=landscapeLeft]");
+    assert.deepEqual((await shape()).cutout, [true, false]);
+});
