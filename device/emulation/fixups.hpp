@@ -1,0 +1,34 @@
+// The byte code of classic fixups: which words of the image move with it, and which are imports.
+#pragma once
+
+#include "device/emulation/byte_reader.hpp"
+
+#include <string>
+#include <vector>
+
+namespace emulation {
+
+/// A word of the image that becomes the address of what it names, plus the addend.
+struct Binding {
+    std::uint64_t address;
+    std::string name;
+    std::int64_t addend;
+    bool mayBeMissing; ///< The word is zero then.
+
+    bool operator==(const Binding&) const = default;
+};
+
+/// The addresses of the words that hold addresses within the image. `segments` are the addresses of
+/// the image's segments. Throws Refusal.
+[[nodiscard]] std::vector<std::uint64_t> rebasedWords(Bytes code,
+                                                      const std::vector<std::uint64_t>& segments);
+
+/// Whether a table of imports ends at the first end mark, or has one behind each import because
+/// these are bound one by one.
+enum class BindingTable { eager, lazy };
+
+/// Throws Refusal.
+[[nodiscard]] std::vector<Binding> bindings(Bytes code, BindingTable table,
+                                            const std::vector<std::uint64_t>& segments);
+
+} // namespace emulation
