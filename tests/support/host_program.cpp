@@ -3,12 +3,21 @@
 #include "tests/support/host_program.hpp"
 
 #include <cstdlib>
+#include <filesystem>
 
 namespace tests {
+namespace {
 
-const char* hostProgram() {
-    const char* const chosen = std::getenv("WENTRA_HOST");
-    return chosen == nullptr ? HOST_PATH : chosen;
+const char* chosenHost() { return std::getenv("WENTRA_HOST"); }
+
+} // namespace
+
+const char* hostProgram() { return chosenHost() == nullptr ? HOST_PATH : chosenHost(); }
+
+std::string bordersLibrary() {
+    return chosenHost() == nullptr
+               ? BORDERS_PATH
+               : std::filesystem::path(chosenHost()).parent_path() / "lib/Borders.so";
 }
 
 } // namespace tests
