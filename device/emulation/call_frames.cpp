@@ -93,7 +93,7 @@ void writeSaved(Record& record, std::uint32_t encoding, std::uint8_t slot) {
 }
 
 void writeLayout(Record& record, std::uint32_t encoding) {
-    constexpr std::uint8_t unitOfStack = 16;
+    constexpr std::uint64_t unitOfStack = 16;
     if ((encoding >> 24U & 0xFU) == withFrame) {
         constexpr std::uint8_t savedFramePointer = savedAt | framePointer;
         constexpr std::uint8_t savedLink = savedAt | linkRegister;

@@ -1,6 +1,7 @@
 // Writing instructions.
 #include "device/emulation/stub_code.hpp"
 
+#include <algorithm>
 #include <array>
 
 namespace emulation {
@@ -33,10 +34,8 @@ void appendWord(std::vector<std::uint32_t>& code, std::uint64_t word) {
 
 std::vector<std::uint32_t> wideningCode(const std::vector<NarrowArgument>& arguments,
                                         std::uint64_t function) {
-    std::vector<std::uint32_t> code;
-    for (const NarrowArgument& argument : arguments) {
-        code.push_back(widen(argument));
-    }
+    std::vector<std::uint32_t> code(arguments.size());
+    std::ranges::transform(arguments, code.begin(), &widen);
     if (code.size() % 2 != 0) {
         code.push_back(noOperation); // so that the word is aligned
     }
