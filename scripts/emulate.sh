@@ -12,12 +12,12 @@ desktop host for Linux on arm64.
   --help     prints this'
 
 kind=emulated
-target=emulated_library
-library=emulation/Wentra.so
+targets=(emulated_library emulated_borders)
+libraries=emulation
 if [[ "${1:-}" == --control ]]; then
     kind=controlled
-    target=Wentra
-    library=lib/Wentra.so
+    targets=(Wentra Borders)
+    libraries=lib
     shift
 fi
 case "${1:-}" in
@@ -36,17 +36,17 @@ esac
 scripts/install.sh build emulate package
 scripts/emulation/sysroot.sh build/sysroot
 cmake --preset arm64
-cmake --build --preset arm64 --parallel "$(nproc)" --target host "$target"
+cmake --build --preset arm64 --parallel "$(nproc)" --target host "${targets[@]}"
 
-# The host finds its library by its own place.
+# The host finds its library by its own place, and the tests that of the borders by the host's.
 folder="$PWD/build/arm64/$kind"
 mkdir -p "$folder"/{bin,lib}
 ln -f build/arm64/bin/host "$folder/bin/host"
-ln -f "build/arm64/$library" "$folder/lib/Wentra.so"
+ln -f build/arm64/"$libraries"/{Wentra,Borders}.so "$folder/lib"
 if [[ "$kind" == emulated ]]; then
     cmake --preset device
-    cmake --build --preset device --parallel "$(nproc)" --target Wentra
-    ln -f build/device/lib/Wentra.dylib "$folder/lib/Wentra.dylib"
+    cmake --build --preset device --parallel "$(nproc)" --target Wentra Borders
+    ln -f build/device/lib/{Wentra,Borders}.dylib "$folder/lib"
 fi
 cat >"$folder/host" <<END
 #!/bin/sh

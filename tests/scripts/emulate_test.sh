@@ -10,6 +10,7 @@ printf 'host\n' >"$folder/build/arm64/bin/host"
 printf 'of Linux\n' >"$folder/build/arm64/lib/Wentra.so"
 printf 'the loader\n' >"$folder/build/arm64/emulation/Wentra.so"
 printf 'of the phone\n' >"$folder/build/device/lib/Wentra.dylib"
+touch "$folder"/build/arm64/{lib,emulation}/Borders.so "$folder/build/device/lib/Borders.dylib"
 
 # tool FILE: a stand-in whose body is read from standard input.
 tool() {
@@ -33,12 +34,12 @@ emulate() {
 
 emulate -R Label
 names 'install.sh build emulate package' 'sysroot.sh build/sysroot' \
-    'cmake --build --preset arm64' '--target host emulated_library' \
+    'cmake --build --preset arm64' '--target host emulated_library emulated_borders' \
     'cmake --build --preset device' 'build.sh release host_tests features_tests' \
     'ctest -R Label' $'of the phone\nthe loader\n<--app><a b>' 'patience 10'
 
 emulate --control
-names '--target host Wentra' $'of Linux\n<--app><a b>'
+names '--target host Wentra Borders' $'of Linux\n<--app><a b>'
 [[ "$output" != *'of the phone'* && "$output" != *'preset device'* ]] ||
     fail 'the control has to do with the phone'
 
