@@ -56,6 +56,10 @@ bool isSameOrigin(std::string_view origin, std::string_view host) {
     return origin.starts_with(scheme) && origin.substr(scheme.size()) == host;
 }
 
+bool isTokenAlone(std::string_view path, std::string_view token) {
+    return path.starts_with('/') && isSameToken(path.substr(1), token);
+}
+
 const char* afterToken(const std::string& path, std::string_view token) {
     const std::size_t end = token.size() + 1;
     const bool fits = path.size() > end && path.front() == '/' && path[end] == '/' &&

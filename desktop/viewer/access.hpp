@@ -21,6 +21,9 @@ namespace desktop::viewer {
 /// Whether a page of the same host opens the connection: what Origin says against what Host says.
 [[nodiscard]] bool isSameOrigin(std::string_view origin, std::string_view host);
 
+/// Whether the path is the token alone, without the slash that follows it in the address.
+[[nodiscard]] bool isTokenAlone(std::string_view path, std::string_view token);
+
 /// What remains of the path after "/TOKEN/" ("" for the page itself); null when the token is
 /// another or missing.
 [[nodiscard]] const char* afterToken(const std::string& path, std::string_view token);

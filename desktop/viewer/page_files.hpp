@@ -12,6 +12,7 @@ struct Answer {
     unsigned status = 200;
     std::string type;
     std::string content;
+    std::string location = {}; ///< where else to look; empty: nowhere
 };
 
 /// The file of the page under that name ("" is the page itself); nothing when the page has none.

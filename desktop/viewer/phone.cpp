@@ -147,7 +147,9 @@ void Phone::take(Watcher& watcher, PageNumber page, const Message& message) {
 }
 
 void Phone::fetched(FetchNumber fetch, const std::string& path) {
-    server_.answer(fetch, contentAt(path));
+    if (server_.isAwaited(fetch)) {
+        server_.answer(fetch, contentAt(path));
+    }
 }
 
 Answer Phone::contentAt(const std::string& path) const {

@@ -6,11 +6,13 @@
 
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/post.hpp>
+#include <boost/asio/steady_timer.hpp>
 #include <boost/beast/http.hpp>
 #include <boost/beast/websocket/rfc6455.hpp>
 
 #include <chrono>
 #include <map>
+#include <mutex>
 #include <thread>
 
 namespace desktop::viewer {
@@ -46,6 +48,32 @@ void secure(HttpResponse& response) {
 
 } // namespace
 
+/// Who asked for what is still being made. Any thread.
+template <class Visit>
+class WaitingVisits {
+public:
+    FetchNumber add(std::shared_ptr<Visit> visit) {
+        const std::lock_guard lock(mutex_);
+        visits_.emplace(++last_, std::move(visit));
+        return last_;
+    }
+    /// Null when nobody waits for it any more.
+    std::shared_ptr<Visit> take(FetchNumber fetch) {
+        const std::lock_guard lock(mutex_);
+        const auto found = visits_.extract(fetch);
+        return found ? found.mapped() : nullptr;
+    }
+    bool has(FetchNumber fetch) {
+        const std::lock_guard lock(mutex_);
+        return visits_.contains(fetch);
+    }
+
+private:
+    std::mutex mutex_;
+    std::map<FetchNumber, std::shared_ptr<Visit>> visits_;
+    FetchNumber last_ = 0;
+};
+
 /// Everything that belongs to the server's thread.
 struct Server::Room {
     class Visit;
@@ -60,6 +88,7 @@ struct Server::Room {
     }
 
     void accept();
+    void acceptLater();
     void welcome(tcp::socket socket, const HttpRequest& request);
     /// The connection with that page, as long as there is one.
     [[nodiscard]] std::shared_ptr<PageConnection> present(PageNumber number) const {
@@ -69,12 +98,12 @@ struct Server::Room {
 
     asio::io_context context{1};
     tcp::acceptor acceptor;
+    asio::steady_timer pause{context};
     std::string token;
     ServerListener listener;
     std::map<PageNumber, std::shared_ptr<PageConnection>> pages;
     PageNumber lastPage = 0;
-    std::map<FetchNumber, std::shared_ptr<Visit>> waiting;
-    FetchNumber fetches = 0;
+    WaitingVisits<Visit> waiting;
     std::thread thread; // last: it uses all of the above
 };
 
@@ -105,6 +134,9 @@ public:
     void send(const Answer& answer) {
         response_.emplace(http::int_to_status(answer.status), 11);
         response_->set(http::field::content_type, answer.type);
+        if (!answer.location.empty()) {
+            response_->set(http::field::location, answer.location);
+        }
         secure(*response_);
         response_->keep_alive(keepsAlive_);
         response_->body() = answer.content;
@@ -124,6 +156,9 @@ private:
         const std::string target(view(request.target()));
         if (!isLoopbackHost(host)) {
             send(refusal(http::status::forbidden, "this address is for this machine only"));
+        } else if (isTokenAlone(target, room_.token)) {
+            send({static_cast<unsigned>(http::status::permanent_redirect), "text/plain", "",
+                  target + "/"});
         } else if (const char* name = afterToken(target, room_.token); name == nullptr) {
             send(refusal(http::status::forbidden,
                          "this is not the address that was printed at the start"));
@@ -134,9 +169,28 @@ private:
         } else if (const auto file = pageFile(name)) {
             send(*file);
         } else {
-            room_.waiting.emplace(++room_.fetches, shared_from_this());
-            room_.listener.fetched(room_.fetches, name);
+            const FetchNumber fetch = room_.waiting.add(shared_from_this());
+            watch(fetch);
+            room_.listener.fetched(fetch, name);
         }
+    }
+
+    /// Nobody waits any more when the connection ends.
+    void watch(FetchNumber fetch) {
+        const auto isOver = [this] {
+            char next = 0;
+            Failure failure;
+            stream_.socket().receive(asio::buffer(&next, 1), tcp::socket::message_peek, failure);
+            return failure && failure != asio::error::would_block;
+        };
+        stream_.socket().non_blocking(true);
+        stream_.socket().async_wait(tcp::socket::wait_read,
+                                    [weak = weak_from_this(), fetch, isOver](Failure failure) {
+                                        const auto self = weak.lock();
+                                        if (self && !failure && isOver()) {
+                                            self->room_.waiting.take(fetch);
+                                        }
+                                    });
     }
 
     void connect(const HttpRequest& request, std::string_view host) {
@@ -161,14 +215,21 @@ private:
 
 void Server::Room::accept() {
     acceptor.async_accept([this](Failure failure, tcp::socket socket) {
-        if (!failure) {
-            socket.set_option(tcp::no_delay(true), failure);
-            std::make_shared<Visit>(std::move(socket), *this)->read();
+        if (failure) {
+            acceptLater();
+            return;
         }
-        if (acceptor.is_open()) {
-            accept();
-        }
+        socket.set_option(tcp::no_delay(true), failure);
+        std::make_shared<Visit>(std::move(socket), *this)->read();
+        accept();
     });
+}
+
+/// While there are no descriptors, the next attempt fails as quickly as the last one did.
+void Server::Room::acceptLater() {
+    constexpr std::chrono::milliseconds rest(100);
+    pause.expires_after(rest);
+    pause.async_wait([this](Failure) { accept(); });
 }
 
 void Server::Room::welcome(tcp::socket socket, const HttpRequest& request) {
@@ -213,10 +274,12 @@ void Server::handled(PageNumber number) {
     });
 }
 
+bool Server::isAwaited(FetchNumber fetch) const { return room_->waiting.has(fetch); }
+
 void Server::answer(FetchNumber fetch, Answer answer) {
     asio::post(room_->context, [room = room_.get(), fetch, answer = std::move(answer)] {
-        if (const auto visit = room->waiting.extract(fetch)) {
-            visit.mapped()->send(answer);
+        if (const auto visit = room->waiting.take(fetch)) {
+            visit->send(answer);
         }
     });
 }

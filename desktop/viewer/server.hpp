@@ -46,6 +46,8 @@ public:
     void send(PageNumber page, std::string text);
     void send(PageNumber page, Bytes bytes);
     void handled(PageNumber page);
+    /// Whether somebody still waits for the answer.
+    [[nodiscard]] bool isAwaited(FetchNumber fetch) const;
     void answer(FetchNumber fetch, Answer answer);
 
 private:

@@ -33,6 +33,15 @@ TEST(Access, OnlyTheWholeTokenOpens) {
     }
 }
 
+TEST(Access, TheTokenMayStandAlone) {
+    const std::string token = "0123456789abcdef0123456789abcdef";
+    EXPECT_TRUE(isTokenAlone("/" + token, token));
+    for (const std::string& path :
+         {std::string(), std::string("/"), token, "/" + token + "/", "//" + token}) {
+        EXPECT_FALSE(isTokenAlone(path, token)) << path;
+    }
+}
+
 TEST(Access, OnlyNamesOfThisMachineAreServed) {
     for (const char* host : {"127.0.0.1:8080", "localhost:1", "localhost", "[::1]:80", "[::1]"}) {
         EXPECT_TRUE(isLoopbackHost(host)) << host;
