@@ -31,7 +31,7 @@ tidy() {
 scripts/install.sh build format lint
 status=0
 printf '== shellcheck\n'
-shellcheck dev .ci/run cmake/*.sh scripts/*.sh scripts/emulation/*.sh tests/{bindings,device,scripts,support}/*.sh || status=1
+shellcheck dev .ci/run cmake/*.sh scripts/*.sh scripts/{emulation,run}/*.sh tests/{bindings,device,scripts,support}/*.sh || status=1
 [[ "${1:-}" == --scripts ]] && exit "$status"
 
 printf '== clang-format\n'
