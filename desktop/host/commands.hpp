@@ -53,9 +53,12 @@ using Command = Json (*)(Session& session, const Json& request);
 // What is recorded, and what is heard.
 [[nodiscard]] Json recorder(Session& session, const Json& request);
 [[nodiscard]] Json recognizer(Session& session, const Json& request);
-// The model of phone, how it is held, and its appearance.
+// The model of phone, how it is held, its buttons, and its appearance.
 [[nodiscard]] Json appearance(Session& session, const Json& request);
 [[nodiscard]] Json rotate(Session& session, const Json& request);
+[[nodiscard]] Json home(Session& session, const Json& request);
+[[nodiscard]] Json lock(Session& session, const Json& request);
+[[nodiscard]] Json shake(Session& session, const Json& request);
 [[nodiscard]] Json device(Session& session, const Json& request);
 // Time and events.
 [[nodiscard]] Json advance(Session& session, const Json& request);

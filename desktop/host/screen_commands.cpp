@@ -1,8 +1,10 @@
-// Commands for the screen: its appearance, how the phone is held, and which model it is.
+// Commands for the phone as a whole: its appearance, how it is held, its buttons, and its model.
 #include "desktop/host/arguments.hpp"
 #include "desktop/host/commands.hpp"
+#include "desktop/uikit/application/foreground.hpp"
 #include "desktop/uikit/application/rotation.hpp"
 #include "desktop/uikit/application/screen.hpp"
+#include "desktop/uikit/events/shake.hpp"
 #include "desktop/uikit/uikit.hpp"
 
 namespace desktop::host {
@@ -25,6 +27,25 @@ Json rotate(Session&, const Json& request) {
                            "portraitUpsideDown");
     }
     return std::string(uikit::orientation());
+}
+
+Json home(Session&, const Json& request) {
+    if (argument(request, "set") != nullptr) {
+        Foreground::shared().showHomeScreen(flagArgument(request, "set"));
+    }
+    return Foreground::shared().isHomeScreenShown();
+}
+
+Json lock(Session&, const Json& request) {
+    if (argument(request, "set") != nullptr) {
+        Foreground::shared().lock(flagArgument(request, "set"));
+    }
+    return Foreground::shared().isLocked();
+}
+
+Json shake(Session&, const Json&) {
+    shakePhone();
+    return nullptr;
 }
 
 Json device(Session&, const Json& request) {

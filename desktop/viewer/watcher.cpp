@@ -4,6 +4,7 @@
 #include "bindings/uikit/event.hpp"
 #include "bindings/uikit/window.hpp"
 #include "desktop/replaykit/film_view.hpp"
+#include "desktop/uikit/application/foreground.hpp"
 #include "desktop/uikit/application/screen.hpp"
 #include "desktop/uikit/uikit.hpp"
 #include "desktop/webkit/web_content.hpp"
@@ -15,7 +16,8 @@ namespace {
 bool isInFront(ui::View view, const CGRect& frame) {
     const CGPoint middle{frame.origin.x + frame.size.width / 2,
                          frame.origin.y + frame.size.height / 2};
-    return view.window().hitTest(middle, nullptr).isDescendantOf(view);
+    return Foreground::shared().hasApplication() &&
+           view.window().hitTest(middle, nullptr).isDescendantOf(view);
 }
 
 host::Json listOf(const CGRect& frame) {
@@ -50,10 +52,15 @@ host::Json films(const EventFeed& events) {
 
 host::Json screenShape() {
     const ScreenGeometry& screen = ScreenGeometry::current();
-    return {{"width", screen.size.width},    {"height", screen.size.height},
-            {"scale", screen.scale},         {"orientation", uikit::orientation()},
-            {"device", screen.device.name},  {"front", nameOf(screen.device.front)},
-            {"corner", screen.device.corner}};
+    return {{"width", screen.size.width},
+            {"height", screen.size.height},
+            {"scale", screen.scale},
+            {"orientation", uikit::orientation()},
+            {"device", screen.device.name},
+            {"front", nameOf(screen.device.front)},
+            {"corner", screen.device.corner},
+            {"home", Foreground::shared().isHomeScreenShown()},
+            {"locked", Foreground::shared().isLocked()}};
 }
 
 void Watcher::tell(const host::Json& message) {

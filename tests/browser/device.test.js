@@ -37,3 +37,20 @@ test("a phone that is turned has its notch at the side", async () => {
     await phone.page.waitForSelector("[data-orientation=landscapeLeft]");
     assert.deepEqual((await shape()).cutout, [true, false]);
 });
+
+test("home and lock show something else than the application, and say so on their buttons", async () => {
+    const application = await phone.colourAt([20, 700]);
+    await phone.page.click("#home");
+    await phone.page.waitForSelector("#home[aria-pressed=true]");
+    assert.notDeepEqual(await phone.colourAt([20, 700]), application);
+    await phone.tap([57, 106]); // the application's icon
+    await phone.page.waitForSelector("#home[aria-pressed=false]");
+    assert.deepEqual(await phone.colourAt([20, 700]), application);
+
+    await phone.page.click("#lock");
+    await phone.page.waitForSelector("#lock[aria-pressed=true]");
+    assert.deepEqual(await phone.colourAt([20, 700]), [0, 0, 0]);
+    await phone.page.keyboard.press("l");
+    await phone.page.waitForSelector("#lock[aria-pressed=false]");
+    assert.deepEqual(await phone.colourAt([20, 700]), application);
+});

@@ -8,6 +8,7 @@
 #include "bindings/uikit/window_scene.hpp"
 
 #include "desktop/class.hpp"
+#include "desktop/uikit/application/foreground.hpp"
 
 #include <vector>
 
@@ -54,8 +55,9 @@ private:
     /// To nil: to the first responder, or else the sender, or whoever is next in its chain that
     /// can perform the action. False when nobody can.
     bool sendAction(SEL action, objc::Object target, objc::Object sender, ui::Event event);
-    /// 0: active.
-    [[nodiscard]] long applicationState() const { return 0; }
+    [[nodiscard]] ApplicationState applicationState() const {
+        return Foreground::shared().applicationState();
+    }
 
     objc::Strong<ui::WindowScene> scene_ = ui::WindowScene::make();
     std::vector<ui::Window> windows_;

@@ -1,9 +1,12 @@
 // Walking the views: transforms, opacity, clipping and borders of each view's layer.
 #include "desktop/uikit/application/compositor.hpp"
 
+#include "bindings/foundation/bundle.hpp"
 #include "desktop/coregraphics/affine.hpp"
 #include "desktop/coregraphics/graphics_context.hpp"
 #include "desktop/uikit/application/application.hpp"
+#include "desktop/uikit/application/foreground.hpp"
+#include "desktop/uikit/application/home_screen.hpp"
 #include "desktop/uikit/application/screen.hpp"
 #include "desktop/uikit/application/status_bar.hpp"
 #include "desktop/uikit/traits/screen_traits.hpp"
@@ -20,6 +23,7 @@ constexpr std::uint64_t screenStamp = 1;
 constexpr std::uint64_t statusBarStamp = 2;
 constexpr std::uint64_t homeIndicatorStamp = 3;
 constexpr std::uint64_t lightStatusBarStamp = 4;
+constexpr std::uint64_t homeScreenStamp = 5;
 
 AffineTransform affine(const CGAffineTransform& t) { return {t.a, t.b, t.c, t.d, t.tx, t.ty}; }
 
@@ -33,6 +37,16 @@ bool drawsItself(ui::View view) {
     const SEL draw = objc::selector<"drawRect:">();
     return objc::lookUp(view.raw(), draw) !=
            class_getMethodImplementation(View::registeredClass(), draw);
+}
+
+/// The last part of the bundle's identifier, with a capital.
+std::u16string applicationName() {
+    std::u16string name = ns::Bundle::mainBundle().bundleIdentifier().utf16();
+    name.erase(0, name.rfind(u'.') + 1);
+    if (!name.empty() && name[0] >= u'a' && name[0] <= u'z') {
+        name[0] = static_cast<char16_t>(name[0] - u'a' + u'A');
+    }
+    return name;
 }
 
 /// Whether what lies below the system's marks is dark, as far as the platform looks at it.
@@ -59,10 +73,29 @@ public:
         const Size size = screenSize();
         const PlacedBox everything{affine(points), {0, 0, size.width, size.height}};
         list_.add({.stamp = screenStamp, .shape = everything, .colour = {0, 0, 0, 1}});
+        const Foreground& front = Foreground::shared();
+        if (front.isLocked()) {
+            return;
+        }
+        if (front.isHomeScreenShown()) {
+            list_.add({.kind = DisplayItem::Kind::content,
+                       .stamp = homeScreenStamp,
+                       .shape = everything});
+        } else {
+            windows(points);
+        }
+        marks(points, systemInk(front.isHomeScreenShown() || isDark()));
+    }
+
+private:
+    void windows(const CGAffineTransform& points) {
         for (const ui::Window window : Application::shared().visibleWindows()) {
             add(window, points, DisplayGroup::none);
         }
-        const Colour ink = systemInk(isDark());
+    }
+
+    /// The status bar and the home indicator.
+    void marks(const CGAffineTransform& points, const Colour& ink) {
         const ScreenGeometry& phone = ScreenGeometry::current();
         if (!phone.isLandscape()) {
             list_.add({.kind = DisplayItem::Kind::content,
@@ -70,14 +103,13 @@ public:
                        .shape = {affine(points), statusBarArea(phone.device)}});
         }
         if (!phone.device.hasHomeButton()) {
-            const Rectangle indicator = homeIndicatorArea(size);
+            const Rectangle indicator = homeIndicatorArea(screenSize());
             list_.add({.stamp = homeIndicatorStamp,
                        .shape = {affine(points), indicator, indicator.height / 2},
                        .colour = ink});
         }
     }
 
-private:
     void add(ui::View view, const CGAffineTransform& parent, int group) {
         const View& peer = View::of(view);
         const Layer& layer = peer.layer();
@@ -149,6 +181,10 @@ void Composition::draw(std::uint64_t stamp, Canvas& canvas) const {
     if (stamp == statusBarStamp || stamp == lightStatusBarStamp) {
         drawStatusBar(canvas, ScreenGeometry::current().device,
                       systemInk(stamp == lightStatusBarStamp));
+        return;
+    }
+    if (stamp == homeScreenStamp) {
+        drawHomeScreen(canvas, screenSize(), applicationName());
         return;
     }
     const auto view = views.find(stamp);

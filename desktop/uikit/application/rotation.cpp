@@ -41,6 +41,9 @@ ui::ViewController decidingController() {
 
 bool isSupported(ui::InterfaceOrientation orientation) {
     using ui::InterfaceOrientation;
+    if (!Foreground::shared().hasApplication()) {
+        return false;
+    }
     if (orientation == InterfaceOrientation::portraitUpsideDown &&
         !ScreenGeometry::current().device.hasHomeButton()) {
         return false;

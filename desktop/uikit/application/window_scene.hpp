@@ -1,4 +1,4 @@
-// UIWindowScene: the one scene, in the foreground.
+// UIWindowScene: the one scene.
 #pragma once
 
 #include "bindings/uikit/window_scene.hpp"
@@ -6,6 +6,7 @@
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/screen.hpp"
 #include "desktop/class.hpp"
+#include "desktop/uikit/application/foreground.hpp"
 #include "desktop/uikit/application/screen.hpp"
 
 namespace desktop {
@@ -24,7 +25,7 @@ public:
 
 private:
     [[nodiscard]] ui::SceneActivationState activationState() const {
-        return ui::SceneActivationState::foregroundActive;
+        return Foreground::shared().sceneState();
     }
     [[nodiscard]] ns::Array windows() const {
         return ui::Application::sharedApplication().windows();

@@ -1,4 +1,4 @@
-// UIEvent: what happened to all fingers at one moment.
+// UIEvent: what happened to all fingers at one moment, or to the whole phone.
 #pragma once
 
 #include "bindings/uikit/event.hpp"
@@ -11,7 +11,8 @@ class Event : public PlatformClass<Event, ui::Event> {
 public:
     static constexpr auto methods() {
         return std::array{
-            objc::method<"type", &Event::type>(),
+            objc::method<"type", &Event::type_>(),
+            objc::method<"subtype", &Event::subtype_>(),
             objc::method<"timestamp", &Event::timestamp_>(),
             objc::method<"allTouches", &Event::touches_>(),
         };
@@ -24,10 +25,21 @@ public:
         return event;
     }
 
-private:
-    /// 0: touches.
-    [[nodiscard]] long type() const { return 0; }
+    /// Of a phone that is shaken.
+    static ui::Event withShake(double timestamp) {
+        const auto event = ui::Event::make();
+        of(event).type_ = motion;
+        of(event).subtype_ = shake;
+        of(event).timestamp_ = timestamp;
+        return event;
+    }
+    // The platform's numbers: of a type and of a subtype.
+    static constexpr long motion = 1;
+    static constexpr long shake = 1;
 
+private:
+    long type_ = 0; ///< touches
+    long subtype_ = 0;
     objc::Strong<ns::SetOf<ui::Touch>> touches_;
     double timestamp_ = 0;
 };

@@ -20,6 +20,10 @@ std::vector<objc::MethodRow> Responder::methods() {
         objc::method<"touchesEnded:withEvent:", &Responder::pass<"touchesEnded:withEvent:">>(),
         objc::method<"touchesCancelled:withEvent:",
                      &Responder::pass<"touchesCancelled:withEvent:">>(),
+        objc::method<"motionBegan:withEvent:", &Responder::passMotion<"motionBegan:withEvent:">>(),
+        objc::method<"motionEnded:withEvent:", &Responder::passMotion<"motionEnded:withEvent:">>(),
+        objc::method<"motionCancelled:withEvent:",
+                     &Responder::passMotion<"motionCancelled:withEvent:">>(),
     };
 }
 

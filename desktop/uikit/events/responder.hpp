@@ -21,6 +21,11 @@ private:
         const objc::Strong<ui::Responder> next = self().nextResponder(); // its handler may drop it
         next.template send<Message>(touches, event);
     }
+    template <objc::Literal Message>
+    void passMotion(long motion, ui::Event event) {
+        const objc::Strong<ui::Responder> next = self().nextResponder();
+        next.template send<Message>(motion, event);
+    }
     [[nodiscard]] ui::Responder nextResponder() const { return nullptr; }
     [[nodiscard]] bool canBecomeFirstResponder() const { return false; }
     [[nodiscard]] bool canResignFirstResponder() const { return true; }

@@ -31,6 +31,9 @@ CGPoint intoWindow(ui::Window window, CGPoint screenPoint) {
 }
 
 Hit hitAt(CGPoint screenPoint) {
+    if (!Foreground::shared().hasApplication()) {
+        return {nullptr, nullptr, screenPoint};
+    }
     const auto& visible = Application::shared().visibleWindows();
     // Kept, and a copy: a view's own test may change the list.
     const std::vector<objc::Strong<ui::Window>> windows(visible.begin(), visible.end());
@@ -151,6 +154,9 @@ void TouchDispatcher::begin(std::span<const TouchPoint> points) {
             continue;
         }
         const Hit hit = hitAt(screenPoint);
+        if (!hit.view) {
+            Foreground::shared().touched(screenPoint);
+        }
         const auto touch = Touch::began(hit.window, hit.view, hit.point, tapCountAt(hit.point));
         // A view that does not ask for several touches gets the first one only.
         Touch::of(touch).reachesView =
@@ -189,6 +195,14 @@ void TouchDispatcher::end(std::span<const TouchPoint> points) {
 
 void TouchDispatcher::cancel(std::span<const TouchPoint> points) {
     leave(points, ui::TouchPhase::cancelled);
+}
+
+void TouchDispatcher::cancelAll() {
+    std::vector<TouchPoint> points;
+    for (const auto& [id, touch] : touches_) {
+        points.push_back({id, {}});
+    }
+    cancel(points);
 }
 
 void TouchDispatcher::leave(std::span<const TouchPoint> points, ui::TouchPhase phase) {

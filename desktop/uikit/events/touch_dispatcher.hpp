@@ -17,8 +17,8 @@ struct TouchPoint {
 };
 
 /// All fingers on the screen. Each finger belongs, until it leaves, to the view that was under it
-/// when it came down. What an application does meanwhile, such as removing that view, is survived.
-/// Main thread.
+/// when it came down; to none while the application is not in front. What an application does
+/// meanwhile, such as removing that view, is survived. Main thread.
 class TouchDispatcher {
 public:
     using Touches = std::vector<objc::Strong<ui::Touch>>;
@@ -38,6 +38,8 @@ public:
     void end(std::span<const TouchPoint> points);
     /// The system takes the fingers away, as when a call comes in.
     void cancel(std::span<const TouchPoint> points);
+    /// All of them; those that caused it are unknown from then on.
+    void cancelAll();
 
     /// The views of these touches are told that they are none of theirs any more.
     void cancelInViews(const Touches& touches);

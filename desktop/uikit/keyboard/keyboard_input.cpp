@@ -3,6 +3,7 @@
 
 #include "bindings/objc/pool.hpp"
 #include "desktop/drawing/text_boundaries.hpp"
+#include "desktop/uikit/application/foreground.hpp"
 #include "desktop/uikit/events/first_responder.hpp"
 #include "desktop/uikit/text/text_input.hpp"
 
@@ -13,8 +14,12 @@ namespace {
 
 using namespace ns::literals;
 
-/// The first responder, if it takes text. One of the application's own takes it by UIKeyInput.
+/// The first responder, if its application is in front and it takes text. One of the application's
+/// own takes it by UIKeyInput.
 ui::Responder receiver() {
+    if (!Foreground::shared().hasApplication()) {
+        return nullptr;
+    }
     const ui::Responder first = first_responder::current();
     return first && first.respondsToSelector(objc::selector<"insertText:">()) ? first : nullptr;
 }

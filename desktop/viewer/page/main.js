@@ -36,6 +36,7 @@ const part = (id) => /** @type {T} */ (document.getElementById(id));
 
 const connection = new Connection();
 const screen = new Screen(part("screen"), connection);
+const holding = holdPhone(connection, attempt);
 const field = /** @type {HTMLTextAreaElement} */ (part("keyboard"));
 
 /** Shows the words of the page that stand in its HTML. */
@@ -126,7 +127,7 @@ function showPage() {
     const eventList = eventsPanel();
     panels = {
         applications: applicationsPanel(connection),
-        device: devicePanel(connection, attempt),
+        device: devicePanel(connection, attempt, holding),
         preferences: preferencesPanel(connection),
         rules: rulesPanel(connection),
         pasteboard: pasteboardPanel(connection),
@@ -155,6 +156,8 @@ let showEvents = () => {};
 function fitScreen() {
     const room = part("stage").getBoundingClientRect();
     showBody(part("phone"), screen.size);
+    part("home").setAttribute("aria-pressed", String(screen.size.home));
+    part("lock").setAttribute("aria-pressed", String(screen.size.locked));
     const { across, down } = edgesOf(part("phone"));
     screen.fitInto(room.width - across, room.height - down);
 }
@@ -183,7 +186,9 @@ tellOpenedUrls(connection, tell);
 typeInto(field, part("help"), connection);
 part("glass").addEventListener("pointerdown", () => field.focus({ preventScroll: true }));
 part("help").onclick = showHelp;
-const holding = holdPhone(connection, attempt);
+part("home").onclick = holding.home;
+part("home-button").onclick = holding.home;
+part("lock").onclick = holding.lock;
 part("rotate").onclick = holding.turn;
 part("appearance").onclick = holding.switchAppearance;
 part("language").onclick = () => {
@@ -207,6 +212,12 @@ window.addEventListener("keydown", (event) => {
         holding.turn();
     } else if (event.key === "d") {
         holding.switchAppearance();
+    } else if (event.key === "h") {
+        holding.home();
+    } else if (event.key === "l") {
+        holding.lock();
+    } else if (event.key === "s") {
+        holding.shake();
     }
 });
 const shownPanel = () => Object.values(panels).find(({ panel }) => !panel.hidden);

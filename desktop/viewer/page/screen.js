@@ -28,7 +28,9 @@ function readFrame(bytes) {
 /** Keeps a canvas like the phone's screen, and as large as its surroundings allow. Tells "turned". */
 export class Screen extends EventTarget {
     /** Points of the phone, and what is around its screen, as the phone tells them. */
-    size = { width: 390, height: 844, front: "notch", orientation: "portrait", corner: 47 };
+    size = {
+        width: 390, height: 844, front: "notch", orientation: "portrait", corner: 47, home: false, locked: false,
+    };
     /** CSS pixels a point. */
     zoom = 1;
     /** How many frames have been drawn. */

@@ -1,5 +1,5 @@
 // @ts-check
-// The model of phone.
+// The model of phone, and what a person does with all of it.
 import { element } from "../element.js";
 import { word } from "../words.js";
 
@@ -15,8 +15,9 @@ const row = (/** @type {string} */ name, /** @type {HTMLElement} */ control) =>
 /**
  * @param {Connection} connection
  * @param {(work: () => any) => void} attempt does what may fail and tells if it does
+ * @param {{shake: () => void}} holding
  */
-export function devicePanel(connection, attempt) {
+export function devicePanel(connection, attempt, { shake }) {
     const panel = element("div", { class: "panel device" });
     const model = element("select", { id: "model" });
     const facts = element("p", { class: "hint" });
@@ -47,6 +48,7 @@ export function devicePanel(connection, attempt) {
                 element("p", { class: "hint" }, word("deviceHint")),
                 element("ul", { class: "card" }, row("model", model)),
                 facts,
+                element("button", { id: "shake", onclick: shake }, word("shake")),
             );
         },
     };
