@@ -50,6 +50,7 @@ struct Array : objc::Kind<Array, "NSArray"> {
 template <class Element>
 struct ArrayOf : Array {
     using Array::Array;
+    using Elements = Element;
 
     [[nodiscard]] Element at(unsigned long index) const {
         return Array::at(index).template assume<Element>();

@@ -88,8 +88,43 @@ struct MethodEncoding<Result(Arguments...)> {
         join(encodingOf<Lent<Result>>(), Literal("@:"), encodingOf<Lent<Arguments>>()...);
 };
 
-/// Whether two method encodings mean the same to a caller. Frame offsets, qualifiers and structure
-/// names do not count; NSInteger may be written "l" or "q", BOOL "B", "c" or "C".
+namespace detail {
+
+template <class Kind>
+constexpr auto nameOfKind() {
+    if constexpr (requires { Kind::Elements::className; }) {
+        return join(Kind::className, Literal("<"), Kind::Elements::className, Literal(">"));
+    } else {
+        return Kind::className;
+    }
+}
+
+} // namespace detail
+
+/// The encoding of an argument with the class that the object is of, `@"UIFont"`, and for an array
+/// that knows its elements theirs, `@"NSArray<UIView>"`; as `encodingOf` where there is no class.
+template <class T>
+constexpr auto classedEncodingOf() {
+    using Kind = Lent<T>;
+    if constexpr (requires { Kind::className; }) {
+        return join(Literal("@\""), detail::nameOfKind<Kind>(), Literal("\""));
+    } else {
+        return encodingOf<Kind>();
+    }
+}
+
+/// Like `MethodEncoding`, but the arguments tell their classes: `void(Font)` gives `v@:@"UIFont"`.
+template <class Signature>
+struct ClassedMethodEncoding;
+template <class Result, class... Arguments>
+struct ClassedMethodEncoding<Result(Arguments...)> {
+    static constexpr auto value =
+        join(encodingOf<Lent<Result>>(), Literal("@:"), classedEncodingOf<Arguments>()...);
+};
+
+/// Whether two method encodings mean the same to a caller. Frame offsets, qualifiers and the names
+/// of structures and classes do not count; NSInteger may be written "l" or "q", BOOL "B", "c" or
+/// "C".
 [[nodiscard]] bool sameMeaning(std::string_view one, std::string_view other);
 
 } // namespace objc

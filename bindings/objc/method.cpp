@@ -1,6 +1,8 @@
 // Adding rows of a method table to a class in construction.
 #include "bindings/objc/method.hpp"
 
+#include "bindings/objc/declared_types.hpp"
+
 #include <cstring>
 #include <string_view>
 
@@ -10,7 +12,8 @@ namespace {
 void addProperty(const MethodRow& row, Class cls) {
     const PropertyRow& property = *row.property;
     class_addMethod(cls, sel_registerName(property.setter),
-                    implementationAt(property.setterImplementation), property.setterTypes);
+                    implementationAt(property.setterImplementation),
+                    keepDeclaredTypes(cls, property.setter, property.setterTypes));
 
     std::array<objc_property_attribute_t, 4> attributes{};
     unsigned int count = 0;
@@ -36,7 +39,7 @@ IMP implementationAt(FunctionPlace place) {
 void addMethod(const MethodRow& row, Class cls) {
     const Class target = row.side == Side::type ? object_getClass(object(cls)) : cls;
     class_addMethod(target, sel_registerName(row.selector), implementationAt(row.implementation),
-                    row.types);
+                    keepDeclaredTypes(target, row.selector, row.types));
     if (row.property != nullptr) {
         addProperty(row, cls);
     }

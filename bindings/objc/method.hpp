@@ -118,6 +118,16 @@ template <Literal Name>
 inline constexpr auto flagGetterOf = flagGetterName(Name);
 template <class Signature>
 inline constexpr const char* types = MethodEncoding<Signature>::value.data();
+/// Where a class plays the platform, its methods tell the classes of their arguments too
+/// (`declaredTypes`). So do all class methods, which do not say whose they are.
+template <class Owner, class Signature>
+inline constexpr const char* typesIn = [] {
+    if constexpr (Owner::border == Boundary::propagates) {
+        return ClassedMethodEncoding<Signature>::value.data();
+    } else {
+        return types<Signature>;
+    }
+}();
 template <class T>
 inline constexpr auto encoded = encodingOf<Lent<T>>();
 
@@ -151,7 +161,8 @@ inline constexpr PropertyRow assignable{
     Name.data(),
     setterOf<Name>.data(),
     &placed<&Assignment<Member, Changed>::call>,
-    types<void(Lent<typename MemberType<decltype(Member)>::Value>)>,
+    typesIn<typename MemberType<decltype(Member)>::Owner,
+            void(Lent<typename MemberType<decltype(Member)>::Value>)>,
     encoded<typename MemberType<decltype(Member)>::Value>.data(),
     ownership<typename MemberType<decltype(Member)>::Value>()};
 
@@ -160,7 +171,8 @@ template <Literal Name, auto Getter, auto Setter>
 inline constexpr PropertyRow computed{Name.data(),
                                       setterOf<Name>.data(),
                                       &placed<&Trampoline<Setter>::call>,
-                                      types<typename MemberType<decltype(Setter)>::Signature>,
+                                      typesIn<typename MemberType<decltype(Setter)>::Owner,
+                                              typename MemberType<decltype(Setter)>::Signature>,
                                       encoded<typename MemberType<decltype(Getter)>::Result>.data(),
                                       nullptr};
 
@@ -173,7 +185,7 @@ constexpr MethodRow method() {
     static_assert(argumentCount(Selector) == Type::argumentCount,
                   "a selector has one colon for each argument");
     return {Selector.data(), &placed<&detail::Trampoline<Member>::call>,
-            detail::types<typename Type::Signature>};
+            detail::typesIn<typename Type::Owner, typename Type::Signature>};
 }
 
 /// A class method, a static function that takes the receiving class first:
@@ -181,8 +193,8 @@ constexpr MethodRow method() {
 template <Literal Selector, auto Function>
 constexpr MethodRow classMethod() {
     using Call = detail::ClassTrampoline<Function>;
-    return {Selector.data(), &placed<&Call::call>, detail::types<typename Call::Signature>, nullptr,
-            Side::type};
+    return {Selector.data(), &placed<&Call::call>,
+            ClassedMethodEncoding<typename Call::Signature>::value.data(), nullptr, Side::type};
 }
 
 /// A property kept in a data member, with its getter and setter; `Changed`, when given, is a member

@@ -59,7 +59,7 @@ mf::MailComposeViewController MailComposeViewController::init() {
     return self();
 }
 
-void MailComposeViewController::setToRecipients(ns::Array addresses) {
+void MailComposeViewController::setToRecipients(ns::ArrayOf<ns::String> addresses) {
     message_.to.clear();
     for (const objc::Object address : addresses) {
         message_.to.push_back(address.as<ns::String>().utf8());

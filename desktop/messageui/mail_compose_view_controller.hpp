@@ -40,7 +40,7 @@ private:
     static bool canSendMail(Class) { return isAvailable; }
     mf::MailComposeViewController init();
     void setSubject(ns::String subject) { message_.subject = subject.utf8(); }
-    void setToRecipients(ns::Array addresses);
+    void setToRecipients(ns::ArrayOf<ns::String> addresses);
     void setBody(ns::String body, bool isHtml);
     void addAttachment(ns::Data data, ns::String type, ns::String name);
     void viewDidLoad();

@@ -5,6 +5,7 @@
 #include "bindings/foundation/method_signature.hpp"
 #include "bindings/foundation/string.hpp"
 #include "bindings/objc/block.hpp"
+#include "bindings/objc/declared_types.hpp"
 #include "bindings/objc/encoding.hpp"
 #include "bindings/objc/pool.hpp"
 #include "bindings/uikit/label.hpp"
@@ -29,6 +30,25 @@ TEST(Encoding, WritesWhatTheRuntimeWrites) {
     EXPECT_EQ(encoding<objc::Strong<ui::View>(objc::Copied<ns::String>)>(), "@@:@");
     EXPECT_EQ(encoding<CGColorRef(CGAffineTransform, UIEdgeInsets)>(),
               "^{CGColor=}@:{CGAffineTransform=dddddd}{UIEdgeInsets=dddd}");
+}
+
+TEST(Encoding, TellsTheClassesOfArguments) {
+    const auto classed = []<class Signature>(Signature*) {
+        return std::string(objc::ClassedMethodEncoding<Signature>::value.data());
+    };
+    using Setter = void(objc::Copied<ns::String>, double, objc::Object, ns::ArrayOf<ui::View>);
+    EXPECT_EQ(classed(static_cast<Setter*>(nullptr)), "v@:@\"NSString\"d@@\"NSArray<UIView>\"");
+    EXPECT_EQ(classed(static_cast<ui::View (*)(objc::Block<void(ui::View)>)>(nullptr)), "@@:@?");
+}
+
+TEST(DeclaredTypes, AreKeptForAClassAndItsSubclasses) {
+    const Class string = objc_lookUpClass("NSString");
+    const Class mutableString = objc_lookUpClass("NSMutableString");
+    EXPECT_STREQ(objc::keepDeclaredTypes(string, "keptForTest:", "v@:@\"UIFont\"d"), "v@:@d");
+    EXPECT_STREQ(objc::declaredTypes(mutableString, sel_registerName("keptForTest:")),
+                 "v@:@\"UIFont\"d");
+    EXPECT_STREQ(objc::keepDeclaredTypes(string, "plainForTest:", "v@:@"), "v@:@");
+    EXPECT_EQ(objc::declaredTypes(mutableString, sel_registerName("plainForTest:")), nullptr);
 }
 
 TEST(Encoding, IsParsedByFoundationToTheRightSizes) {

@@ -66,13 +66,13 @@ ui::LayoutConstraint LayoutConstraint::make(Class, objc::Object first,
     return with({first, firstAttribute, relation, second, secondAttribute, multiplier, constant});
 }
 
-void LayoutConstraint::activateAll(Class, ns::Array constraints) {
+void LayoutConstraint::activateAll(Class, ns::ArrayOf<ui::LayoutConstraint> constraints) {
     for (const objc::Object constraint : constraints) {
         of(constraint).setActive(true);
     }
 }
 
-void LayoutConstraint::deactivateAll(Class, ns::Array constraints) {
+void LayoutConstraint::deactivateAll(Class, ns::ArrayOf<ui::LayoutConstraint> constraints) {
     for (const objc::Object constraint : constraints.copied()) {
         of(constraint).setActive(false);
     }

@@ -49,8 +49,8 @@ private:
                                      Relation relation, objc::Object second,
                                      LayoutAttribute secondAttribute, double multiplier,
                                      double constant);
-    static void activateAll(Class, ns::Array constraints);
-    static void deactivateAll(Class, ns::Array constraints);
+    static void activateAll(Class, ns::ArrayOf<ui::LayoutConstraint> constraints);
+    static void deactivateAll(Class, ns::ArrayOf<ui::LayoutConstraint> constraints);
     [[nodiscard]] ns::String description() const;
     [[nodiscard]] bool isActive() const { return static_cast<bool>(holder_); }
     void setActive(bool active);

@@ -133,11 +133,11 @@ void ViewConstraints::remove(ui::LayoutConstraint constraint) {
 
 void ViewConstraints::activate(ui::LayoutConstraint constraint) { constraint.activate(); }
 
-void ViewConstraints::addAll(ns::Array constraints) {
+void ViewConstraints::addAll(ns::ArrayOf<ui::LayoutConstraint> constraints) {
     ui::LayoutConstraint::sendClass<"activateConstraints:">(constraints);
 }
 
-void ViewConstraints::removeAll(ns::Array constraints) {
+void ViewConstraints::removeAll(ns::ArrayOf<ui::LayoutConstraint> constraints) {
     ui::LayoutConstraint::sendClass<"deactivateConstraints:">(constraints);
 }
 

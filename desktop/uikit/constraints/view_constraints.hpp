@@ -59,8 +59,8 @@ private:
     [[nodiscard]] bool translatesMask() const { return translatesMask_; }
     void setTranslatesMask(bool translates);
     [[nodiscard]] ns::Array constraints() const;
-    void addAll(ns::Array constraints);
-    void removeAll(ns::Array constraints);
+    void addAll(ns::ArrayOf<ui::LayoutConstraint> constraints);
+    void removeAll(ns::ArrayOf<ui::LayoutConstraint> constraints);
     void activate(ui::LayoutConstraint constraint);
     template <GuideRole Role>
     [[nodiscard]] ui::LayoutGuide guide();

@@ -5,7 +5,7 @@
 
 namespace desktop {
 
-ui::Menu Menu::with(Class cls, ns::String title, ns::Array children) {
+ui::Menu Menu::with(Class cls, ns::String title, ns::ArrayOf<ui::MenuElement> children) {
     const auto menu = newObject<ui::Menu>(cls);
     MenuElement::of(menu).set(title, nullptr);
     of(menu).children_ = children;

@@ -20,10 +20,10 @@ public:
     }
 
 private:
-    static ui::Menu with(Class cls, ns::String title, ns::Array children);
-    [[nodiscard]] ns::Array children() const { return children_; }
+    static ui::Menu with(Class cls, ns::String title, ns::ArrayOf<ui::MenuElement> children);
+    [[nodiscard]] ns::ArrayOf<ui::MenuElement> children() const { return children_; }
 
-    objc::Copied<ns::Array> children_;
+    objc::Copied<ns::ArrayOf<ui::MenuElement>> children_;
 };
 
 } // namespace desktop

@@ -111,7 +111,7 @@ private:
     objc::Strong<ui::View> view_;
     objc::Copied<ns::String> title_;
     objc::Strong<ui::NavigationItem> navigationItem_;
-    objc::Strong<ns::Array> toolbarItems_;
+    objc::Strong<ns::ArrayOf<ui::BarButtonItem>> toolbarItems_;
     objc::Strong<ui::BarButtonItem> editButton_;
     bool editing_ = false;
     std::vector<objc::Strong<ui::ViewController>> children_;

@@ -143,7 +143,7 @@ void CollectionView::dataChanged() {
     pressed_.keepOnly(stays);
 }
 
-void CollectionView::reloadItems(ns::Array paths) {
+void CollectionView::reloadItems(ns::ArrayOf<ns::IndexPath> paths) {
     for (const ItemIndex index : indexesOf(paths)) {
         selection_.remove(index);
         putAway(index);
@@ -151,13 +151,13 @@ void CollectionView::reloadItems(ns::Array paths) {
     layoutIsInvalid();
 }
 
-void CollectionView::insertItems(ns::Array paths) {
+void CollectionView::insertItems(ns::ArrayOf<ns::IndexPath> paths) {
     selection_.itemsWereInserted(indexesOf(paths));
     pressed_.itemsWereInserted(indexesOf(paths));
     dataChanged();
 }
 
-void CollectionView::deleteItems(ns::Array paths) {
+void CollectionView::deleteItems(ns::ArrayOf<ns::IndexPath> paths) {
     selection_.itemsWereDeleted(indexesOf(paths));
     pressed_.itemsWereDeleted(indexesOf(paths));
     dataChanged();

@@ -46,9 +46,9 @@ private:
     [[nodiscard]] long numberOfItems(long section);
     [[nodiscard]] bool exists(ItemIndex index);
     void reloadData();
-    void reloadItems(ns::Array paths);
-    void insertItems(ns::Array paths);
-    void deleteItems(ns::Array paths);
+    void reloadItems(ns::ArrayOf<ns::IndexPath> paths);
+    void insertItems(ns::ArrayOf<ns::IndexPath> paths);
+    void deleteItems(ns::ArrayOf<ns::IndexPath> paths);
     void reloadSections(objc::Object) { dataChanged(); }
     void performBatchUpdates(Updates updates, Completion completion);
     void dataChanged();

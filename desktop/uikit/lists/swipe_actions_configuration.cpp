@@ -14,7 +14,8 @@ std::vector<objc::MethodRow> SwipeActionsConfiguration::methods() {
     };
 }
 
-ui::SwipeActionsConfiguration SwipeActionsConfiguration::with(Class cls, ns::Array actions) {
+ui::SwipeActionsConfiguration
+SwipeActionsConfiguration::with(Class cls, ns::ArrayOf<ui::ContextualAction> actions) {
     const auto configuration = newObject<ui::SwipeActionsConfiguration>(cls);
     of(configuration).actions_ = actions;
     return configuration;

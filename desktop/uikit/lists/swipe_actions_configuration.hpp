@@ -24,9 +24,9 @@ public:
     [[nodiscard]] bool performsFirst() const { return performsFirst_; }
 
 private:
-    static ui::SwipeActionsConfiguration with(Class cls, ns::Array actions);
+    static ui::SwipeActionsConfiguration with(Class cls, ns::ArrayOf<ui::ContextualAction> actions);
 
-    objc::Copied<ns::Array> actions_;
+    objc::Copied<ns::ArrayOf<ui::ContextualAction>> actions_;
     bool performsFirst_ = true;
 };
 

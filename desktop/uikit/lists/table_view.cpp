@@ -144,21 +144,21 @@ void TableView::rowsChanged() {
     self().setNeedsLayout();
 }
 
-void TableView::reloadRows(ns::Array paths, long) {
+void TableView::reloadRows(ns::ArrayOf<ns::IndexPath> paths, long) {
     for (const ItemIndex index : indexesOf(paths)) {
         selection_.remove(index);
     }
     rowsChanged();
 }
 
-void TableView::insertRows(ns::Array paths, long) {
+void TableView::insertRows(ns::ArrayOf<ns::IndexPath> paths, long) {
     selection_.itemsWereInserted(indexesOf(paths));
     pressed_.itemsWereInserted(indexesOf(paths));
     heights_.rowsWereInserted(indexesOf(paths));
     rowsChangedBy(1, indexesOf(paths));
 }
 
-void TableView::deleteRows(ns::Array paths, long) {
+void TableView::deleteRows(ns::ArrayOf<ns::IndexPath> paths, long) {
     selection_.itemsWereDeleted(indexesOf(paths));
     pressed_.itemsWereDeleted(indexesOf(paths));
     heights_.rowsWereDeleted(indexesOf(paths));

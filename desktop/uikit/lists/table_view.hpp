@@ -68,9 +68,9 @@ private:
     [[nodiscard]] long numberOfRows(long section);
     void reloadData();
     void rowsChanged();
-    void reloadRows(ns::Array paths, long animation);
-    void insertRows(ns::Array paths, long animation);
-    void deleteRows(ns::Array paths, long animation);
+    void reloadRows(ns::ArrayOf<ns::IndexPath> paths, long animation);
+    void insertRows(ns::ArrayOf<ns::IndexPath> paths, long animation);
+    void deleteRows(ns::ArrayOf<ns::IndexPath> paths, long animation);
     void reloadSections(objc::Object, long) { rowsChanged(); }
     /// Asks the data source anew, which must have that many more rows in the section of each.
     void rowsChangedBy(long change, const std::set<ItemIndex>& rows);

@@ -56,7 +56,7 @@ private:
     [[nodiscard]] std::vector<objc::Strong<ui::MenuItem>> offered() const;
     void place();
 
-    objc::Copied<ns::Array> items_;
+    objc::Copied<ns::ArrayOf<ui::MenuItem>> items_;
     std::vector<objc::Strong<ui::MenuItem>> shown_;
     objc::Strong<ui::View> bar_;
     objc::Strong<ui::View> targetView_;

@@ -81,7 +81,7 @@ ui::NavigationBar NavigationBar::initWithFrame(CGRect frame) {
     return self();
 }
 
-void NavigationBar::setItems(ns::Array items) {
+void NavigationBar::setItems(ns::ArrayOf<ui::NavigationItem> items) {
     for (const objc::Object item : items_) {
         NavigationItem::of(item).changed = nullptr;
     }

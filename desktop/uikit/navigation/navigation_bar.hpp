@@ -24,7 +24,7 @@ public:
 
 private:
     ui::NavigationBar initWithFrame(CGRect frame);
-    void setItems(ns::Array items);
+    void setItems(ns::ArrayOf<ui::NavigationItem> items);
     [[nodiscard]] ns::Array items() const { return items_; }
     [[nodiscard]] ui::NavigationItem topItem() const;
     void showTop();
@@ -35,7 +35,7 @@ private:
     void placeSmallTitle(double left, double right, double top);
     [[nodiscard]] CGSize sizeThatFits(CGSize room) const;
 
-    objc::Copied<ns::Array> items_;
+    objc::Copied<ns::ArrayOf<ui::NavigationItem>> items_;
     objc::Strong<ui::Label> titleLabel_;
     objc::Strong<ui::View> titleView_;
     objc::Strong<ui::Button> backButton_;

@@ -113,7 +113,7 @@ ns::Array NavigationController::viewControllers() const {
     return array;
 }
 
-void NavigationController::setViewControllers(ns::Array controllers) {
+void NavigationController::setViewControllers(ns::ArrayOf<ui::ViewController> controllers) {
     const objc::Strong<ui::ViewController> former = topViewController();
     for (const auto& controller : std::exchange(stack_, {})) {
         if (!controllers.contains(controller)) {

@@ -23,8 +23,8 @@ private:
     void loadView();
     [[nodiscard]] ui::NavigationBar navigationBar() const { return bar_; }
     [[nodiscard]] ns::Array viewControllers() const;
-    void setViewControllers(ns::Array controllers);
-    void setViewControllersAnimated(ns::Array controllers, bool) {
+    void setViewControllers(ns::ArrayOf<ui::ViewController> controllers);
+    void setViewControllersAnimated(ns::ArrayOf<ui::ViewController> controllers, bool) {
         setViewControllers(controllers);
     }
     [[nodiscard]] ui::ViewController topViewController() const;

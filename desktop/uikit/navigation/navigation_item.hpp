@@ -75,8 +75,8 @@ private:
     objc::Copied<ns::String> prompt_;
     objc::Copied<ns::String> backTitle_;
     objc::Strong<ui::View> titleView_;
-    objc::Copied<ns::Array> left_;
-    objc::Copied<ns::Array> right_;
+    objc::Copied<ns::ArrayOf<ui::BarButtonItem>> left_;
+    objc::Copied<ns::ArrayOf<ui::BarButtonItem>> right_;
     objc::Strong<ui::BarButtonItem> backItem_;
     bool hidesBack_ = false;
     long largeTitleMode_ = 0;

@@ -49,7 +49,7 @@ std::vector<objc::MethodRow> Toolbar::methods() {
     };
 }
 
-void Toolbar::setItems(ns::Array items) {
+void Toolbar::setItems(ns::ArrayOf<ui::BarButtonItem> items) {
     for (const objc::Object item : items_) {
         BarButtonItem::of(item).view().removeFromSuperview();
     }

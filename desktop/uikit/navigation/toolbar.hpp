@@ -19,14 +19,14 @@ public:
 
 private:
     [[nodiscard]] ns::Array items() const { return items_; }
-    void setItems(ns::Array items);
-    void setItemsAnimated(ns::Array items, bool) { setItems(items); }
+    void setItems(ns::ArrayOf<ui::BarButtonItem> items);
+    void setItemsAnimated(ns::ArrayOf<ui::BarButtonItem> items, bool) { setItems(items); }
     void layoutSubviews();
     [[nodiscard]] CGSize sizeThatFits(CGSize room) const { return {room.width, barHeight}; }
     /// As high as a bar where constraints say no height, and as wide as they say.
     [[nodiscard]] CGSize intrinsicContentSize() const { return {noIntrinsicMetric, barHeight}; }
 
-    objc::Copied<ns::Array> items_;
+    objc::Copied<ns::ArrayOf<ui::BarButtonItem>> items_;
     objc::Strong<ui::Color> barTintColor_;
     bool translucent_ = true;
 };

@@ -17,7 +17,7 @@ ui::TraitCollection telling(Class, std::remove_cvref_t<decltype(Traits().*Member
     return TraitCollection::with(traits);
 }
 
-ui::TraitCollection merging(Class, ns::Array collections) {
+ui::TraitCollection merging(Class, ns::ArrayOf<ui::TraitCollection> collections) {
     Traits traits;
     for (const objc::Object one : collections) {
         traits = merged(traits, TraitCollection::valueOf(one.as<ui::TraitCollection>()));

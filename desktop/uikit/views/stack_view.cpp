@@ -22,7 +22,7 @@ CGSize wanted(ui::View view, double width) {
 
 } // namespace
 
-ui::StackView StackView::initWithArrangedSubviews(ns::Array views) {
+ui::StackView StackView::initWithArrangedSubviews(ns::ArrayOf<ui::View> views) {
     self().send<"initWithFrame:", ui::View>(CGRect());
     for (const objc::Object view : views) {
         addArrangedSubview(view.assume<ui::View>());

@@ -37,7 +37,7 @@ private:
         double breadth;
     };
 
-    ui::StackView initWithArrangedSubviews(ns::Array views);
+    ui::StackView initWithArrangedSubviews(ns::ArrayOf<ui::View> views);
     void addArrangedSubview(ui::View view);
     void insertArrangedSubview(ui::View view, unsigned long index);
     void removeArrangedSubview(ui::View view);
