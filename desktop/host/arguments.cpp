@@ -93,7 +93,7 @@ CGPoint toPoint(const Json& value) {
         return part.is_number() && std::abs(part.get<double>()) <= farthest;
     };
     if (!value.is_array() || value.size() != 2 || !std::ranges::all_of(value, fits)) {
-        throw RequestError("a point is [x,y], got " + value.dump());
+        throw RequestError("a point is [x,y], got " + written(value));
     }
     return {value[0].get<double>(), value[1].get<double>()};
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "bindings/coregraphics/geometry.hpp"
-#include "desktop/host/json.hpp"
+#include "desktop/host/response_line.hpp"
 
 #include <optional>
 #include <string>

@@ -4,6 +4,8 @@
 #include "desktop/host/arguments.hpp"
 #include "desktop/host/commands.hpp"
 #include "desktop/host/main_loop.hpp"
+#include "desktop/host/request_line.hpp"
+#include "desktop/host/response_line.hpp"
 
 #include "bindings/objc/boundary.hpp"
 #include "bindings/objc/pool.hpp"
@@ -15,28 +17,11 @@
 namespace desktop::host {
 namespace {
 
-/// Deeper values are refused: converting them takes a stack frame a level.
-constexpr int deepest = 200;
-
 Json parse(const std::string& line) {
     if (line.size() > Streams::longestLine) {
         throw RequestError("the line is longer than 64 MB");
     }
-    bool tooDeep = false;
-    Json request = Json::parse(
-        line,
-        [&tooDeep](int depth, Json::parse_event_t, const Json&) {
-            tooDeep = tooDeep || depth > deepest;
-            return depth <= deepest;
-        },
-        false);
-    if (tooDeep) {
-        throw RequestError("the request is nested too deeply");
-    }
-    if (!request.is_object()) {
-        throw RequestError("the line is not a JSON object");
-    }
-    return request;
+    return readRequest(line);
 }
 
 Json carryOut(Session& session, const Json& request) {
@@ -53,10 +38,6 @@ Json carryOut(Session& session, const Json& request) {
     return result;
 }
 
-std::string serialised(const Json& response) {
-    return response.dump(-1, ' ', false, Json::error_handler_t::replace);
-}
-
 } // namespace
 
 std::string answer(Session& session, const std::string& line) {
@@ -69,13 +50,18 @@ std::string answer(Session& session, const std::string& line) {
         }
         response["result"] = carryOut(session, request);
         response["ok"] = true;
+    } catch (const MalformedLine& error) {
+        if (!error.id.is_null()) {
+            response["id"] = error.id;
+        }
+        response["error"] = error.what();
     } catch (const RequestError& error) {
         response["error"] = error.what();
     } catch (...) {
         const objc::ExceptionText text = objc::describeCurrentException();
         response["error"] = text.name + ": " + text.reason;
     }
-    return serialised(response);
+    return written(response);
 }
 
 void automate(Streams& streams, Values& values) {

@@ -1,11 +1,11 @@
 // Commands about the controllers that are shown: which they are, and alerts.
-#include "desktop/foundation/text.hpp"
 #include "desktop/host/arguments.hpp"
 #include "desktop/host/commands.hpp"
 
 #include "bindings/uikit/alert_controller.hpp"
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/navigation_controller.hpp"
+#include "desktop/host/half_pairs.hpp"
 #include "desktop/uikit/alerts/alert_controller.hpp"
 #include "desktop/uikit/presentation/presentation.hpp"
 
@@ -96,14 +96,14 @@ void fill(ui::AlertController alert, const Json& texts) {
     }
     for (unsigned long index = 0; index < texts.size(); ++index) {
         const auto field = fields.at(index).assume<ui::TextField>();
-        field.setText(ns::String::fromUtf8(texts[index].get_ref<const std::string&>()));
+        field.setText(toText(texts[index].get_ref<const std::string&>()));
         field.sendActions(ui::ControlEvents::editingChanged);
     }
 }
 
 ui::AlertAction actionTitled(ui::AlertController alert, const std::string& title) {
     for (const ui::AlertAction action : alert.actions()) {
-        if (action.title() && toUtf8(action.title()) == title) {
+        if (action.title() && withHalfPairs(action.title()) == title) {
             return action;
         }
     }

@@ -2,6 +2,7 @@
 #include "desktop/foundation/file_dates.hpp"
 #include "desktop/host/arguments.hpp"
 #include "desktop/host/commands.hpp"
+#include "desktop/host/half_pairs.hpp"
 #include "desktop/host/preference_file.hpp"
 
 #include "bindings/foundation/file_manager.hpp"
@@ -87,7 +88,7 @@ Json preferences(Session& session, const Json& request) {
 }
 
 Json defaults(Session& session, const Json& request) {
-    const auto key = ns::String::fromUtf8(stringArgument(request, "key"));
+    const auto key = toText(stringArgument(request, "key"));
     const auto store = ns::UserDefaults::standardUserDefaults();
     if (const Json* value = argument(request, "set"); value != nullptr) {
         store.set(session.values.toObject(*value), key);

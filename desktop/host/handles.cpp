@@ -17,4 +17,27 @@ objc::Object Handles::object(std::uint64_t number) const {
                : static_cast<objc::Object>(objects_[number - 1]);
 }
 
+std::uint64_t Handles::addAllocated(objc::Object object) {
+    objects_.emplace_back();
+    allocated_.emplace(objects_.size(), object);
+    return objects_.size();
+}
+
+objc::Object Handles::allocated(std::uint64_t number) const {
+    const auto found = allocated_.find(number);
+    return found == allocated_.end() ? objc::Object() : found->second;
+}
+
+objc::Object Handles::releaseAllocated(std::uint64_t number) {
+    const auto entry = allocated_.extract(number);
+    return entry ? entry.mapped() : objc::Object();
+}
+
+void Handles::setInitialised(std::uint64_t number, objc::Object object) {
+    if (object) {
+        objects_[number - 1] = object;
+        numbers_.try_emplace(object.raw(), number);
+    }
+}
+
 } // namespace desktop::host

@@ -1,6 +1,7 @@
 // What the rows of lists offer.
 #include "desktop/host/arguments.hpp"
 #include "desktop/host/commands.hpp"
+#include "desktop/host/half_pairs.hpp"
 #include "desktop/host/view_argument.hpp"
 
 #include "desktop/uikit/lists/table_view.hpp"
@@ -30,7 +31,7 @@ Row rowAround(ui::View view) {
 Json titlesOf(const RowActions& actions) {
     Json titles = Json::array();
     for (const RowAction& action : actions.list) {
-        titles.push_back(action.title.utf8());
+        titles.push_back(withHalfPairs(action.title));
     }
     return titles;
 }
@@ -47,7 +48,7 @@ Json swipe(Session& session, const Json& request) {
     const std::string& wanted = stringArgument(request, "choose");
     const auto chosen = std::ranges::find(offered, Json(wanted));
     if (chosen == offered.end()) {
-        throw RequestError("no such action: " + wanted + "; offered: " + offered.dump());
+        throw RequestError("no such action: " + wanted + "; offered: " + written(offered));
     }
     table.openSwipe(row.index);
     table.choose(static_cast<std::size_t>(chosen - offered.begin()));

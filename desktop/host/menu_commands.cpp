@@ -1,7 +1,7 @@
 // Context menus.
-#include "desktop/foundation/text.hpp"
 #include "desktop/host/arguments.hpp"
 #include "desktop/host/commands.hpp"
+#include "desktop/host/half_pairs.hpp"
 #include "desktop/host/view_argument.hpp"
 
 #include "bindings/uikit/context_menu_interaction.hpp"
@@ -48,7 +48,7 @@ Json menuNode(ui::Menu menu) {
 
 ui::MenuElement elementTitled(ui::Menu menu, const std::string& title) {
     for (const ui::MenuElement element : menu.children()) {
-        if (element.title() && toUtf8(element.title()) == title) {
+        if (element.title() && withHalfPairs(element.title()) == title) {
             return element;
         }
     }

@@ -3,11 +3,11 @@
 
 #include "bindings/foundation/invocation.hpp"
 #include "bindings/foundation/method_signature.hpp"
-#include "desktop/foundation/text.hpp"
+#include "desktop/host/argument_classes.hpp"
 #include "desktop/host/structure.hpp"
+#include "desktop/host/unsendable.hpp"
 
 #include <algorithm>
-#include <array>
 #include <cctype>
 #include <cstring>
 #include <deque>
@@ -16,16 +16,6 @@
 
 namespace desktop::host {
 namespace {
-
-/// Methods that take a list as long as the caller likes do not say so in their encoding.
-constexpr std::array<std::string_view, 14> variadic{
-    "stringWithFormat:",        "initWithFormat:",
-    "initWithFormat:locale:",   "appendFormat:",
-    "stringByAppendingFormat:", "localizedStringWithFormat:",
-    "predicateWithFormat:",     "raise:format:",
-    "arrayWithObjects:",        "setWithObjects:",
-    "orderedSetWithObjects:",   "initWithObjects:",
-    "initWithObjectsAndKeys:",  "dictionaryWithObjectsAndKeys:"};
 
 /// The encoding without the qualifiers in front of it.
 std::string_view unqualified(std::string_view type) {
@@ -43,17 +33,20 @@ bool fits(const Json& value) {
            value.get<std::int64_t>() >= static_cast<std::int64_t>(std::numeric_limits<T>::min());
 }
 
+constexpr std::size_t hidden = 2; // receiver and selector
+
 /// An invocation whose arguments are given one after the other.
 class Call {
 public:
-    Call(Values& values, ns::MethodSignature signature, SEL name)
-        : values_(&values), signature_(signature), invocation_(ns::Invocation::with(signature)) {
+    Call(Values& values, ns::MethodSignature signature, SEL name,
+         std::vector<DeclaredClass> classes)
+        : values_(&values), signature_(signature), invocation_(ns::Invocation::with(signature)),
+          name_(name), classes_(std::move(classes)) {
         invocation_.setSelector(name);
     }
 
     void add(const Json& value) {
-        const std::string_view type =
-            unqualified(signature_.argumentType(static_cast<unsigned long>(index_)));
+        const std::string_view type = unqualified(declaredType());
         if (const Structure* structure = structureOf(type)) {
             store(structure->fromJson(value));
         } else {
@@ -81,6 +74,11 @@ private:
         invocation_.setArgument(&value, index_);
     }
 
+    /// With qualifiers.
+    [[nodiscard]] std::string_view declaredType() const {
+        return signature_.argumentType(static_cast<unsigned long>(index_));
+    }
+
     template <class T>
     void storeNumber(const Json& value) {
         if constexpr (std::is_floating_point_v<T>) {
@@ -88,10 +86,27 @@ private:
         } else {
             require(fits<T>(value), value);
         }
+        if constexpr (std::is_unsigned_v<T>) {
+            require(!hasNull_ || value == 0, value); // it counts what is behind the null pointer
+        }
         store(value.get<T>());
     }
 
+    void storeObject(const Json& value) {
+        const objc::Object object = values_->toObject(value);
+        const auto place = static_cast<std::size_t>(index_) - hidden;
+        if (place < classes_.size() && !isOf(object, classes_[place])) {
+            const auto& [name, elements] = classes_[place];
+            refuse(value, "it must be of the class " + std::string(name) +
+                              (elements.empty() ? "" : ", with " + std::string(elements)));
+        }
+        store(object.raw());
+    }
+
     void storeText(const Json& value) {
+        if (!declaredType().starts_with('r')) {
+            refuse(value, "the method writes to it");
+        }
         require(value.is_string() || value.is_null(), value);
         if (value.is_null()) {
             store(static_cast<const char*>(nullptr));
@@ -114,23 +129,28 @@ private:
 
     void require(bool fitting, const Json& value) const {
         if (!fitting) {
-            throw RequestError("argument " + std::to_string(index_ - 1) + " cannot be " +
-                               value.dump() + " (its type is " +
-                               signature_.argumentType(static_cast<unsigned long>(index_)) + ")");
+            refuse(value, "its type is " + std::string(declaredType()));
         }
+    }
+    [[noreturn]] void refuse(const Json& value, const std::string& why) const {
+        throw RequestError("argument " + std::to_string(index_ - 1) + " cannot be " +
+                           written(value) + " (" + why + ")");
     }
 
     Values* values_;
     ns::MethodSignature signature_;
     ns::Invocation invocation_;
+    SEL name_;
+    std::vector<DeclaredClass> classes_;
     std::deque<std::string> texts_; // lent to the method
-    long index_ = 2;
+    bool hasNull_ = false;          // among the pointers so far
+    long index_ = hidden;
 };
 
 void Call::addScalar(std::string_view type, const Json& value) {
     switch (type.empty() ? '\0' : type.front()) {
     case '@':
-        store(values_->toObject(value).raw());
+        storeObject(value);
         break;
     case '#':
         store(value.is_null() ? nullptr : values_->toClass(value));
@@ -175,7 +195,11 @@ void Call::addScalar(std::string_view type, const Json& value) {
         storeText(value);
         break;
     case '^':
+        if (std::string_view(sel_getName(name_)).starts_with("get")) {
+            refuse(value, "the method writes to it");
+        }
         require(value.is_null(), value);
+        hasNull_ = true;
         store(static_cast<void*>(nullptr));
         break;
     default:
@@ -260,8 +284,8 @@ ns::MethodSignature signatureFor(objc::Object receiver, const std::string& selec
         throw RequestError(std::string(object_getClassName(receiver.raw())) + " does not answer " +
                            selector);
     }
-    if (std::ranges::count(variadic, selector) != 0) {
-        throw RequestError(selector + " takes a list of any length, which cannot be passed");
+    if (const auto why = whyUnsendable(selector)) {
+        throw RequestError(selector + " " + *why);
     }
     if (!isAnswerable(unqualified(signature.returnType()))) {
         throw RequestError("the result of " + selector +
@@ -275,51 +299,81 @@ Call preparedCall(Values& values, objc::Object receiver, const std::string& sele
                   const Json& arguments) {
     const SEL name = sel_registerName(selector.c_str());
     const auto signature = signatureFor(receiver, selector, name);
-    constexpr unsigned long hidden = 2; // receiver and selector
     if (arguments.size() + hidden != signature.numberOfArguments()) {
         throw RequestError(selector + " takes " +
                            std::to_string(signature.numberOfArguments() - hidden) +
                            " arguments, not " + std::to_string(arguments.size()));
     }
-    Call call(values, signature, name);
+    Call call(values, signature, name, argumentClasses(receiver, selector, arguments));
     for (const Json& argument : arguments) {
         call.add(argument);
     }
     return call;
 }
 
-/// As the platform's compiler tells: "init", a further word of the name or none, and underscores in
-/// front of it.
-bool isOfInitFamily(std::string_view selector) {
-    constexpr std::string_view init = "init";
+/// As the platform's compiler tells: that word, a further one or none, and underscores in front.
+bool isOfFamily(std::string_view selector, std::string_view family) {
     selector.remove_prefix(std::min(selector.find_first_not_of('_'), selector.size()));
-    return selector.starts_with(init) &&
-           (selector.size() == init.size() ||
-            std::islower(static_cast<unsigned char>(selector[init.size()])) == 0);
+    return selector.starts_with(family) &&
+           (selector.size() == family.size() ||
+            std::islower(static_cast<unsigned char>(selector[family.size()])) == 0);
+}
+
+/// Whether what comes back has not been initialised.
+bool allocates(const std::string& selector, const Json& arguments) {
+    const bool performs = selector.starts_with("performSelector") && !arguments.empty();
+    return isOfFamily(performs ? selectorIn(arguments[0]) : selector, "alloc");
+}
+
+void requireInitialiser(const std::string& selector) {
+    if (!isOfFamily(selector, "init")) {
+        throw RequestError(selector + " does not initialise an object");
+    }
+}
+
+/// `giveUp` gives the allocated object up to the initialiser, which owns it.
+template <class GiveUp>
+objc::Strong<objc::Object> initialised(Values& values, objc::Object allocated,
+                                       const std::string& selector, const Json& arguments,
+                                       GiveUp giveUp) {
+    requireInitialiser(selector);
+    const Call call = preparedCall(values, allocated, selector, arguments);
+    if (!call.givesObject()) {
+        throw RequestError(selector + " gives no object");
+    }
+    call.invoke(giveUp());
+    return objc::Strong<objc::Object>::adopt(call.objectResult());
 }
 
 } // namespace
 
 Json sendMessage(Values& values, objc::Object receiver, const std::string& selector,
-                 const Json& arguments) {
+                 const Json& arguments, ObjectForm form) {
     const Call call = preparedCall(values, receiver, selector, arguments);
     call.invoke(receiver);
-    return call.result();
+    if (!call.givesObject()) {
+        return call.result();
+    }
+    const objc::Object result = call.objectResult();
+    return allocates(selector, arguments) ? values.allocated(result) : values.toJson(result, form);
 }
 
 objc::Strong<objc::Object> makeObject(Values& values, Class cls, const std::string& selector,
                                       const Json& arguments) {
-    if (!isOfInitFamily(selector)) {
-        throw RequestError(selector + " does not initialise an object");
-    }
+    requireInitialiser(selector);
     using Owned = objc::Strong<objc::Object>;
     auto allocated = Owned::adopt(objc::wrap(objc::object(cls)).send<"alloc", objc::Object>());
-    const Call call = preparedCall(values, allocated, selector, arguments);
-    if (!call.givesObject()) {
-        throw RequestError(selector + " gives no object");
-    }
-    call.invoke(allocated.release()); // an initialiser owns its receiver
-    return Owned::adopt(call.objectResult());
+    return initialised(values, allocated, selector, arguments,
+                       [&allocated] { return allocated.release(); });
+}
+
+Json initialise(Values& values, std::uint64_t number, const std::string& selector,
+                const Json& arguments, ObjectForm form) {
+    Handles& handles = values.handles();
+    const auto made = initialised(values, handles.allocated(number), selector, arguments,
+                                  [&] { return handles.releaseAllocated(number); });
+    handles.setInitialised(number, made);
+    return values.toJson(made, form);
 }
 
 } // namespace desktop::host

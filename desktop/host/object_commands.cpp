@@ -19,21 +19,32 @@ Json methodArguments(const Json& request) {
     return arguments != nullptr ? *arguments : Json::array();
 }
 
+ObjectForm form(const Json& request) {
+    return flagArgument(request, "handle") ? ObjectForm::handle : ObjectForm::value;
+}
+
 } // namespace
 
 Json send(Session& session, const Json& request) {
-    const objc::Object receiver = session.values.toObject(anyArgument(request, "to"));
+    const Json& to = anyArgument(request, "to");
+    const std::string& selector = stringArgument(request, "selector");
+    if (const auto allocated = session.values.numberOfAllocated(to)) {
+        return initialise(session.values, *allocated, selector, methodArguments(request),
+                          form(request));
+    }
+    const objc::Object receiver = session.values.toObject(to);
     if (!receiver) {
         throw RequestError("\"to\" must be an object or a class, not null");
     }
-    return sendMessage(session.values, receiver, stringArgument(request, "selector"),
-                       methodArguments(request));
+    return sendMessage(session.values, receiver, selector, methodArguments(request), form(request));
 }
 
 Json make(Session& session, const Json& request) {
     const Class cls = session.values.toClass({{"class", stringArgument(request, "class")}});
-    return session.values.toJson(makeObject(
-        session.values, cls, stringArgument(request, "selector"), methodArguments(request)));
+    return session.values.toJson(makeObject(session.values, cls,
+                                            stringArgument(request, "selector"),
+                                            methodArguments(request)),
+                                 form(request));
 }
 
 Json tree(Session& session, const Json& request) {

@@ -27,7 +27,7 @@ Field fieldFromJson(const Json& value, bool isFloating) {
     if (!isFloating && value.is_number_unsigned()) {
         return std::bit_cast<Field>(value.get<std::uint64_t>());
     }
-    throw RequestError(value.dump() + " does not fit into the structure");
+    throw RequestError(written(value) + " does not fit into the structure");
 }
 
 Json fieldToJson(const Field& field, bool isFloating) {
@@ -42,7 +42,7 @@ Structure::Bytes Structure::fromJson(const Json& value) const {
     if (!value.is_object() || fields == value.end() || !fields->is_array() ||
         fields->size() != fieldCount) {
         throw RequestError(std::string("expected {\"") + key + "\":[" + std::to_string(fieldCount) +
-                           " numbers]}, got " + value.dump());
+                           " numbers]}, got " + written(value));
     }
     Bytes bytes{};
     for (std::size_t i = 0; i < fieldCount; ++i) {

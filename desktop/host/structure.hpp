@@ -1,7 +1,7 @@
 // The C structures that messages carry: {"rect":[x,y,w,h]} and its like.
 #pragma once
 
-#include "desktop/host/json.hpp"
+#include "desktop/host/response_line.hpp"
 
 #include <array>
 #include <cstddef>

@@ -2,6 +2,7 @@
 #include "desktop/host/arguments.hpp"
 #include "desktop/host/commands.hpp"
 
+#include "desktop/host/half_pairs.hpp"
 #include "desktop/uikit/events/first_responder.hpp"
 #include "desktop/uikit/keyboard/keyboard_input.hpp"
 #include "desktop/uikit/menus/menu_controller.hpp"
@@ -19,9 +20,9 @@ void demand(bool wasTaken) {
 
 ns::String textArgument(const Json& value) {
     if (!value.is_string()) {
-        throw RequestError("expected a text, got " + value.dump());
+        throw RequestError("expected a text, got " + written(value));
     }
-    return ns::String::fromUtf8(value.get_ref<const std::string&>());
+    return toText(value.get_ref<const std::string&>());
 }
 
 /// The text as it is being composed, step by step: ["n", "ni"].
@@ -37,7 +38,7 @@ std::vector<ns::String> stepsArgument(const Json& request) {
 Json titles(const MenuController& menu) {
     Json list = Json::array();
     for (const auto& item : menu.shownItems()) {
-        list.push_back(item.title().utf8());
+        list.push_back(withHalfPairs(item.title()));
     }
     return list;
 }
@@ -85,14 +86,14 @@ Json menu(Session&, const Json& request) {
     Json offered = titles(menu);
     const auto items = menu.shownItems();
     const auto chosen = std::ranges::find_if(
-        items, [&](const auto& item) { return chooses && item.title().utf8() == wanted; });
+        items, [&](const auto& item) { return chooses && withHalfPairs(item.title()) == wanted; });
     if (chosen != items.end()) {
         menu.choose(*chosen);
     } else if (!wasVisible) {
         shared.hideMenu();
     }
     if (chooses && chosen == items.end()) {
-        throw RequestError("no such item: " + wanted + "; offered: " + offered.dump());
+        throw RequestError("no such item: " + wanted + "; offered: " + written(offered));
     }
     return offered;
 }

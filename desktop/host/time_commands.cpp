@@ -65,7 +65,7 @@ Json wait(Session& session, const Json& request) {
         }
         const Seconds left = limit - Seconds(Clock::now() - start);
         if (left <= Seconds::zero()) {
-            throw RequestError("waited in vain for " + wanted.dump());
+            throw RequestError("waited in vain for " + written(wanted));
         }
         constexpr Seconds nap(0.02); // other threads may change views without telling the loop
         run_loop::sleep(-1, std::min(nap, left).count());

@@ -125,7 +125,7 @@ std::vector<TouchPoint> fingersArgument(const Json& request, bool comeDown) {
     std::vector<TouchPoint> fingers;
     for (const Json& entry : listArgument(request, "points")) {
         if (!entry.is_array() || entry.size() != 3 || !entry[0].is_number_integer()) {
-            throw RequestError("a finger is [id,x,y], got " + entry.dump());
+            throw RequestError("a finger is [id,x,y], got " + written(entry));
         }
         const auto id = entry[0].get<std::int64_t>();
         const bool twice = std::ranges::find(fingers, id, &TouchPoint::id) != fingers.end();

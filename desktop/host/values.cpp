@@ -9,6 +9,7 @@
 #include "bindings/foundation/run_loop.hpp"
 #include "bindings/foundation/url.hpp"
 #include "desktop/foundation/text.hpp"
+#include "desktop/host/half_pairs.hpp"
 #include "desktop/host/structure.hpp"
 
 #include <algorithm>
@@ -31,9 +32,14 @@ const Json* lone(const Json& value, const char* key) {
 
 const std::string& text(const Json& value) {
     if (!value.is_string()) {
-        throw RequestError("expected a string, got " + value.dump());
+        throw RequestError("expected a string, got " + written(value));
     }
     return value.get_ref<const std::string&>();
+}
+
+/// A handle's number; 0, which none has, for other values.
+std::uint64_t numberIn(const Json& handle) {
+    return handle.is_number_unsigned() ? handle.get<std::uint64_t>() : 0;
 }
 
 objc::Object number(const Json& value) {
@@ -69,7 +75,7 @@ objc::Object fromUnits(const Json& units) {
         return unit.is_number_unsigned() && unit.get<std::uint64_t>() <= largest;
     };
     if (!units.is_array() || !std::ranges::all_of(units, isUnit)) {
-        throw RequestError("expected a list of UTF-16 units, got " + units.dump());
+        throw RequestError("expected a list of UTF-16 units, got " + written(units));
     }
     return ns::String::from(units.get<std::u16string>());
 }
@@ -77,14 +83,14 @@ objc::Object fromUnits(const Json& units) {
 objc::Object data(const Json& base64) {
     const auto bytes = ns::Data::fromBase64(ns::String::fromUtf8(text(base64)));
     if (!bytes) {
-        throw RequestError("not Base64: " + base64.dump());
+        throw RequestError("not Base64: " + written(base64));
     }
     return bytes;
 }
 
 objc::Object date(const Json& seconds) {
     if (!seconds.is_number()) {
-        throw RequestError("expected seconds since 1970, got " + seconds.dump());
+        throw RequestError("expected seconds since 1970, got " + written(seconds));
     }
     return ns::Date::withTimeIntervalSince1970(seconds.get<double>());
 }
@@ -104,10 +110,9 @@ Values::Values()
                                              objc::selector<"initWithString:relativeToURL:">())) {}
 
 objc::Object Values::url(const std::string& address) const {
-    const auto made =
-        objc::invoke<objc::Object>(makeUrl_, ns::Url::sendClass<"alloc", objc::Object>().raw(),
-                                   objc::selector<"initWithString:relativeToURL:">(),
-                                   ns::String::fromUtf8(address), objc::Object());
+    const auto made = objc::invoke<objc::Object>(
+        makeUrl_, ns::Url::sendClass<"alloc", objc::Object>().raw(),
+        objc::selector<"initWithString:relativeToURL:">(), toText(address), objc::Object());
     if (!made) {
         throw RequestError("not a URL: " + address);
     }
@@ -117,7 +122,7 @@ objc::Object Values::url(const std::string& address) const {
 Class Values::toClass(const Json& value) const {
     const Json* name = value.is_object() ? lone(value, "class") : nullptr;
     if (name == nullptr) {
-        throw RequestError("expected {\"class\":…}, got " + value.dump());
+        throw RequestError("expected {\"class\":…}, got " + written(value));
     }
     const Class found = objc_lookUpClass(text(*name).c_str());
     if (found == nullptr) {
@@ -129,14 +134,14 @@ Class Values::toClass(const Json& value) const {
 SEL Values::toSelector(const Json& value) const {
     const Json* name = value.is_object() ? lone(value, "selector") : nullptr;
     if (name == nullptr) {
-        throw RequestError("expected {\"selector\":…}, got " + value.dump());
+        throw RequestError("expected {\"selector\":…}, got " + written(value));
     }
     return sel_registerName(text(*name).c_str());
 }
 
 void Values::fill(ns::MutableDictionary dictionary, const Json& entries) const {
     for (const auto& [key, value] : entries.items()) {
-        const auto name = ns::String::fromUtf8(key);
+        const auto name = toText(key);
         if (value.is_null()) {
             dictionary.remove(name);
         } else {
@@ -152,7 +157,7 @@ objc::Object Values::toObject(const Json& value) const {
     case Json::value_t::boolean:
         return ns::Number::from(value.get<bool>());
     case Json::value_t::string:
-        return ns::String::fromUtf8(value.get_ref<const std::string&>());
+        return toText(value.get_ref<const std::string&>());
     case Json::value_t::array: {
         const auto array = ns::MutableArray::make();
         for (const Json& element : value) {
@@ -166,10 +171,12 @@ objc::Object Values::toObject(const Json& value) const {
         return number(value);
     }
     if (const auto handle = value.find("object"); handle != value.end()) {
-        const auto found = handles_.object(
-            handle->is_number_unsigned() ? handle->get<std::uint64_t>() : std::uint64_t{0});
+        const auto found = handles_.object(numberIn(*handle));
+        if (numberOfAllocated(value)) {
+            throw RequestError("object " + written(*handle) + " has not been initialised");
+        }
         if (!found) {
-            throw RequestError("no such object: " + handle->dump());
+            throw RequestError("no such object: " + written(*handle));
         }
         return found;
     }
@@ -190,7 +197,7 @@ objc::Object Values::toObject(const Json& value) const {
     }
     if (value.size() == 1 &&
         (lone(value, "selector") != nullptr || structureForKey(value.begin().key()) != nullptr)) {
-        throw RequestError("not an object: " + value.dump());
+        throw RequestError("not an object: " + written(value));
     }
     const auto dictionary = ns::MutableDictionary::make();
     fill(dictionary, value);
@@ -201,9 +208,23 @@ Json Values::reference(objc::Object object) {
     return {{"object", handles_.numberOf(object)}, {"class", object_getClassName(object.raw())}};
 }
 
-Json Values::toJson(objc::Object object) { return toJson(object, 0); }
+Json Values::allocated(objc::Object object) {
+    return {{"object", handles_.addAllocated(object)},
+            {"class", object_getClassName(object.raw())},
+            {"description", "not initialised"}};
+}
 
-Json Values::toJson(objc::Object object, int depth) {
+std::optional<std::uint64_t> Values::numberOfAllocated(const Json& value) const {
+    const auto handle = value.is_object() ? value.find("object") : value.end();
+    const std::uint64_t number = handle == value.end() ? 0 : numberIn(*handle);
+    return handles_.allocated(number) ? std::optional(number) : std::nullopt;
+}
+
+Json Values::toJson(objc::Object object, ObjectForm form) {
+    return form == ObjectForm::handle && object ? described(object, true) : valueOf(object, 0);
+}
+
+Json Values::valueOf(objc::Object object, int depth) {
     if (!object || object.as<ns::Null>()) {
         return nullptr;
     }
@@ -217,7 +238,7 @@ Json Values::toJson(objc::Object object, int depth) {
         return numberToJson(value);
     }
     if (const auto address = object.as<ns::Url>(); address) {
-        return {{"url", toUtf8(address.absoluteString())}};
+        return {{"url", withHalfPairs(address.absoluteString())}};
     }
     if (const auto moment = object.as<ns::Date>(); moment) {
         return {{"date", moment.timeIntervalSince1970()}};
@@ -232,19 +253,23 @@ Json Values::collection(objc::Object object, int depth) {
     if (const auto array = object.as<ns::Array>(); array && depth < deepest) {
         Json elements = Json::array();
         for (const objc::Object element : array) {
-            elements.push_back(toJson(element, depth + 1));
+            elements.push_back(valueOf(element, depth + 1));
         }
         return elements;
     }
     if (const auto dictionary = object.as<ns::Dictionary>(); dictionary && depth < deepest) {
         Json entries = Json::object();
         for (const objc::Object key : dictionary.allKeys()) {
-            entries[toUtf8(ns::description(key))] = toJson(dictionary.get(key), depth + 1);
+            entries[withHalfPairs(ns::description(key))] = valueOf(dictionary.get(key), depth + 1);
         }
         return entries;
     }
+    return described(object, depth < deepest);
+}
+
+Json Values::described(objc::Object object, bool fully) {
     Json result = reference(object);
-    result["description"] = depth < deepest ? toUtf8(ns::description(object)) : "";
+    result["description"] = fully ? withHalfPairs(ns::description(object)) : "";
     return result;
 }
 

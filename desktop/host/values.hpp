@@ -3,12 +3,17 @@
 
 #include "bindings/foundation/dictionary.hpp"
 #include "desktop/host/handles.hpp"
-#include "desktop/host/json.hpp"
+#include "desktop/host/response_line.hpp"
+
+#include <optional>
 
 namespace desktop::host {
 
 /// The text as a string, or {"units":[…]} when it has half a surrogate pair; null for nil.
 [[nodiscard]] Json textToJson(ns::String text);
+
+/// How an object is told: as a value where JSON has a form for it, or by its handle in any case.
+enum class ObjectForm { value, handle };
 
 /// Converts between JSON and objects; what JSON has no form for is known by its handle. Main
 /// thread.
@@ -26,7 +31,7 @@ public:
         const auto found = toObject(value).as<Kind>();
         if (!found) {
             throw RequestError(std::string("expected a ") + Kind::className.data() + ", got " +
-                               value.dump());
+                               written(value));
         }
         return found;
     }
@@ -37,12 +42,19 @@ public:
     /// The selector in {"selector":"setText:"}. Throws RequestError.
     [[nodiscard]] SEL toSelector(const Json& value) const;
 
-    [[nodiscard]] Json toJson(objc::Object object);
+    [[nodiscard]] Json toJson(objc::Object object, ObjectForm form = ObjectForm::value);
+    /// The handle of an object that is not initialised, of which nothing can be asked yet; takes
+    /// its reference over.
+    [[nodiscard]] Json allocated(objc::Object object);
+    /// The number in the handle of such an object; nothing for any other value.
+    [[nodiscard]] std::optional<std::uint64_t> numberOfAllocated(const Json& value) const;
+    [[nodiscard]] Handles& handles() { return handles_; }
     /// {"object":N,"class":…}: what a node and a handle have in common.
     [[nodiscard]] Json reference(objc::Object object);
 
 private:
-    [[nodiscard]] Json toJson(objc::Object object, int depth);
+    [[nodiscard]] Json valueOf(objc::Object object, int depth);
+    [[nodiscard]] Json described(objc::Object object, bool fully);
     [[nodiscard]] Json collection(objc::Object object, int depth);
     [[nodiscard]] objc::Object url(const std::string& text) const;
 

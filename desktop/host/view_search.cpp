@@ -3,7 +3,7 @@
 
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/screen.hpp"
-#include "desktop/foundation/text.hpp"
+#include "desktop/host/half_pairs.hpp"
 #include "desktop/host/view_node.hpp"
 #include "desktop/uikit/uikit.hpp"
 
@@ -21,7 +21,7 @@ bool isOfClass(ui::View view, const Json& wanted) {
 }
 
 bool hasText(ns::String text, const Json& wanted) {
-    return text && toUtf8(text) == wanted.get_ref<const std::string&>();
+    return text && withHalfPairs(text) == wanted.get_ref<const std::string&>();
 }
 
 bool intersect(CGRect one, CGRect other) {
@@ -71,7 +71,7 @@ struct Wanted {
 
 std::vector<Wanted> read(const Json& where) {
     if (!where.is_object()) {
-        throw RequestError("conditions must be an object, not " + where.dump());
+        throw RequestError("conditions must be an object, not " + written(where));
     }
     std::vector<Wanted> wanted;
     for (const auto& [name, value] : where.items()) {
@@ -80,7 +80,7 @@ std::vector<Wanted> read(const Json& where) {
             throw RequestError("no such condition: " + name);
         }
         if (!condition->accepts(value)) {
-            throw RequestError("condition " + name + " cannot be " + value.dump());
+            throw RequestError("condition " + name + " cannot be " + written(value));
         }
         wanted.push_back({condition, &value});
     }

@@ -72,4 +72,69 @@ TEST_F(Making, WhatAnInitialiserRaisesIsTold) {
               std::string::npos);
 }
 
+TEST_F(Making, AnAllocatedObjectIsTakenByItsInitialiserOnly) {
+    for (const char* cls : {"NSURL", "NSThread", "NSString", "NSMutableArray", "NSDate", "NSData",
+                            "NSTimer", "NSProxy", "UIFont", "UIView", "NSInvocation"}) {
+        const json object = host.message({{"class", cls}}, "alloc");
+        EXPECT_EQ(object.value("description", ""), "not initialised") << cls;
+        const std::string refused =
+            host.error({{"do", "send"}, {"to", object}, {"selector", "description"}});
+        EXPECT_EQ(refused, "description does not initialise an object");
+        EXPECT_NE(host.error({{"do", "send"},
+                              {"to", {{"class", "NSArray"}}},
+                              {"selector", "arrayWithObject:"},
+                              {"args", {object}}})
+                      .find("has not been initialised"),
+                  std::string::npos);
+    }
+    EXPECT_EQ(host.message({{"class", "NSURL"}}, "performSelector:", {{{"selector", "alloc"}}})
+                  .at("description"),
+              "not initialised");
+}
+
+TEST_F(Making, AllocationAndInitialisationAreAPair) {
+    const json url = host.message({{"class", "NSURL"}}, "alloc");
+    EXPECT_EQ(host.message(url, "initWithString:", {"http://a.b"}), json({{"url", "http://a.b"}}));
+    EXPECT_EQ(host.message(url, "host"), "a.b");
+    const json label = host.message({{"class", "UILabel"}}, "alloc");
+    const json initialised = host.message(label, "init");
+    EXPECT_EQ(initialised.at("object"), label.at("object"));
+    EXPECT_EQ(host.message(label, "class"), json({{"class", "UILabel"}}));
+    EXPECT_EQ(host.message(label, "retainCount"), 1);
+}
+
+TEST_F(Making, ObjectsOfOneClassMayBeAllocatedSideBySide) {
+    const json one = host.message({{"class", "NSMutableString"}}, "alloc");
+    const json other = host.message({{"class", "NSMutableString"}}, "alloc");
+    EXPECT_EQ(host.message(one, "initWithString:", {"one"}), "one");
+    EXPECT_EQ(host.message(other, "initWithString:", {"other"}), "other");
+    EXPECT_EQ(host.message(one, "self"), "one");
+}
+
+TEST_F(Making, ARefusedInitialiserLeavesTheObjectAllocated) {
+    const json view = host.message({{"class", "UIView"}}, "alloc");
+    EXPECT_NE(
+        host.error(
+            {{"do", "send"}, {"to", view}, {"selector", "initWithFrame:"}, {"args", {"text"}}}),
+        "");
+    EXPECT_EQ(host.message(view, "init").at("object"), view.at("object"));
+}
+
+TEST_F(Making, AnyResultCanBeHadAsAHandle) {
+    const json array = host.result(
+        {{"do", "make"}, {"class", "NSMutableArray"}, {"selector", "init"}, {"handle", true}});
+    host.message(array, "addObject:", {"text"});
+    EXPECT_EQ(host.message(array, "count"), 1);
+    EXPECT_EQ(host.message(array, "self"), json::array({"text"}));
+    const json text =
+        host.result({{"do", "send"}, {"to", array}, {"selector", "firstObject"}, {"handle", true}});
+    EXPECT_EQ(text.at("description"), "text");
+    EXPECT_EQ(host.message(text, "length"), 4);
+    EXPECT_EQ(
+        host.result(
+            {{"do", "send"}, {"to", json::array()}, {"selector", "firstObject"}, {"handle", true}}),
+        nullptr);
+    EXPECT_NE(host.error({{"do", "send"}, {"to", "a"}, {"selector", "self"}, {"handle", 1}}), "");
+}
+
 } // namespace

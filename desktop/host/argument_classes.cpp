@@ -1,0 +1,67 @@
+// Looking up declared classes, and comparing objects with them.
+#include "desktop/host/argument_classes.hpp"
+
+#include "bindings/foundation/array.hpp"
+#include "desktop/runtime/declared_types.hpp"
+
+#include <cctype>
+#include <string_view>
+
+namespace desktop::host {
+namespace {
+
+std::vector<DeclaredClass> declaredBy(objc::Object receiver, const std::string& selector) {
+    const char* types =
+        declaredTypes(object_getClass(receiver.raw()), sel_registerName(selector.c_str()));
+    return types == nullptr ? std::vector<DeclaredClass>() : declaredClasses(types);
+}
+
+std::string setterOf(std::string key) {
+    if (!key.empty()) {
+        key.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(key.front())));
+    }
+    return "set" + key + ":";
+}
+
+bool isOf(objc::Object object, std::string_view name) {
+    const Class cls = name.empty() ? nullptr : objc_lookUpClass(std::string(name).c_str());
+    return cls == nullptr || !object || object.isKindOfClass(cls);
+}
+
+} // namespace
+
+std::string selectorIn(const Json& value) {
+    const bool is =
+        value.is_object() && value.contains("selector") && value["selector"].is_string();
+    return is ? value["selector"].get<std::string>() : "";
+}
+
+std::vector<DeclaredClass> argumentClasses(objc::Object receiver, const std::string& selector,
+                                           const Json& arguments) {
+    if (selector.starts_with("performSelector") && !arguments.empty()) {
+        auto classes = declaredBy(receiver, selectorIn(arguments[0]));
+        classes.insert(classes.begin(), DeclaredClass());
+        return classes;
+    }
+    if (selector == "setValue:forKey:" && arguments.size() == 2 && arguments[1].is_string()) {
+        return declaredBy(receiver, setterOf(arguments[1].get<std::string>()));
+    }
+    return declaredBy(receiver, selector);
+}
+
+bool isOf(objc::Object object, const DeclaredClass& declared) {
+    if (!isOf(object, declared.name)) {
+        return false;
+    }
+    if (declared.elements.empty()) {
+        return true;
+    }
+    for (const objc::Object element : object.as<ns::Array>()) {
+        if (!isOf(element, declared.elements)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace desktop::host

@@ -1,0 +1,39 @@
+// What the names of messages tell of their arguments.
+#include "desktop/host/unsendable.hpp"
+
+#include <algorithm>
+#include <array>
+
+namespace desktop::host {
+namespace {
+
+/// Methods that take a list as long as the caller likes do not say so in their encoding.
+constexpr std::array<std::string_view, 14> variadic{
+    "stringWithFormat:",        "initWithFormat:",
+    "initWithFormat:locale:",   "appendFormat:",
+    "stringByAppendingFormat:", "localizedStringWithFormat:",
+    "predicateWithFormat:",     "raise:format:",
+    "arrayWithObjects:",        "setWithObjects:",
+    "orderedSetWithObjects:",   "initWithObjects:",
+    "initWithObjectsAndKeys:",  "dictionaryWithObjectsAndKeys:"};
+
+/// What follows such a word is called, be it nothing.
+constexpr std::array<std::string_view, 5> calling{
+    "Block:", "omparator:", "PassingTest:", "Function:", "function:"};
+
+} // namespace
+
+std::optional<std::string> whyUnsendable(std::string_view selector) {
+    const auto isIn = [selector](std::string_view word) {
+        return selector.find(word) != std::string_view::npos;
+    };
+    if (std::ranges::count(variadic, selector) != 0) {
+        return "takes a list of any length, which cannot be passed";
+    }
+    if (std::ranges::any_of(calling, isIn)) {
+        return "takes code, which cannot be passed";
+    }
+    return std::nullopt;
+}
+
+} // namespace desktop::host
