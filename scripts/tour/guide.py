@@ -6,7 +6,6 @@ import os
 import pathlib
 import sys
 import tempfile
-import time
 from contextlib import contextmanager
 
 import phone as stage
@@ -26,25 +25,17 @@ class Phone(stage.Phone):
         self.advance(ANIMATION)
 
     def all(self, text):
-        return self.ask("find", where={"text": text, "visible": True})
-
-    def wait_for(self, holds):
-        """For what other threads do: ten seconds at most."""
-        for _ in range(200):
-            if holds():
-                return
-            time.sleep(0.05)
-        sys.exit("guide: it took too long")
+        return self.find_all(text=text, visible=True)
 
     def hold(self, place, seconds=0.6):
-        self.ask("press", on=place, seconds=seconds)
+        self.press(place, seconds=seconds)
         self.advance(ANIMATION)
 
     def switch(self, title):
         """Turns the switch in the row of that title."""
         _, top, _, height = self.label(title)["rect"]
         middle = top + height / 2
-        beside = [node for node in self.ask("find", where={"class": "UISwitch", "visible": True})
+        beside = [node for node in self.find_all(class_="UISwitch", visible=True)
                   if node["rect"][1] < middle < node["rect"][1] + node["rect"][3]]
         self.tap(beside[0])
 
@@ -78,11 +69,11 @@ def switch_on(guide):
 
 def replace_a_text(guide):
     with guide.open("notes") as phone:
-        phone.hold(phone.ask("find", where={"class": "UINavigationBar"})[0])
-        editor = phone.ask("find", where={"class": "UITextView", "visible": True})[0]
+        phone.hold(phone.find(class_="UINavigationBar"))
+        editor = phone.find(class_="UITextView", visible=True)
         phone.hold(editor)
-        phone.ask("type", text="Shopping list===购物清单\nShopping list#=ff3b30\n")
-        phone.ask("key", name="hide")
+        phone.type(text="Shopping list===购物清单\nShopping list#=ff3b30\n")
+        phone.key(name="hide")
         phone.advance(ANIMATION)
         phone.picture("editor.png")
         phone.tap(phone.button("确定"))
@@ -97,13 +88,13 @@ def open_the_toolbox(phone):
 
 def use_the_toolbox(guide):
     with guide.open("notes") as phone:
-        phone.ask("preferences", set={"中英对比样式": True, "百度id": "desktop",
-                                      "百度key": "desktop-key"})
+        phone.preferences(set={"中英对比样式": True, "百度id": "desktop",
+                               "百度key": "desktop-key"})
         open_the_toolbox(phone)
-        phone.tap(phone.ask("find", where={"class": "UICollectionViewCell"})[0])
+        phone.tap(phone.find(class_="UICollectionViewCell"))
         phone.picture("toolbox.png")
         phone.tap(phone.button("文字翻译"))
-        phone.ask("wait", **{"for": {"class": "MovableAlertViewzerk"}, "seconds": 30})
+        phone.wait_for(30, class_="MovableAlertViewzerk")
         phone.picture("translation.png")
 
 
@@ -116,7 +107,7 @@ def hold_in_the_toolbox(guide, button, picture, *options):
 
 def look_it_up(guide):
     with guide.open("plain") as phone:
-        phone.ask("preferences", set=dict.fromkeys(SEARCHES, True))
+        phone.preferences(set=dict.fromkeys(SEARCHES, True))
     hold_in_the_toolbox(guide, "链接跳转", "search.png")
 
 
@@ -126,7 +117,7 @@ def keep_what_was_copied(guide):
         phone.hold(phone.button("全选文字"))
         for text in ("Seat: 12A, window", "https://www.example.com/travel", "13800138000"):
             phone.advance(60)
-            phone.ask("pasteboard", set=text)
+            phone.pasteboard(set=text)
         phone.tap(phone.button("关闭"))
         phone.hold(phone.button("全选文字"))
         phone.picture("history.png")
@@ -140,14 +131,13 @@ def hold_other_buttons(guide):
 
 def edit_a_text(guide):
     with guide.open("plain") as phone:
-        phone.ask("preferences", set={"注释代码": True, "翻译文本": True, "字转拼音": True,
-                                      "跳转结尾": True, "kqwzfc": False})
+        phone.preferences(set={"注释代码": True, "翻译文本": True, "字转拼音": True,
+                               "跳转结尾": True, "kqwzfc": False})
     with guide.open("plain") as phone:
-        view = phone.ask("make", **{"class": "UITextView", "selector": "initWithFrame:",
-                                    "args": [{"rect": [16, 120, 358, 240]}]})
-        phone.send(phone.ask("tree")[0], "addSubview:", view)
-        phone.send(view, "setText:", "早上好，我们坐早班车去海边。")
-        phone.send(view, "becomeFirstResponder")
+        view = phone.make("UITextView", "initWithFrame:", stage.rect(16, 120, 358, 240))
+        phone.tree()[0].addSubview_(view)
+        view.setText_("早上好，我们坐早班车去海边。")
+        view.becomeFirstResponder()
         phone.ask("tap", on=view, taps=2)
         phone.advance(ANIMATION)
         phone.picture("menu.png")
@@ -155,9 +145,9 @@ def edit_a_text(guide):
 
 def block_requests(guide):
     with guide.open("browser") as phone:
-        phone.ask("preferences", set={"开启广告屏蔽": True, "Host过滤屏蔽": "example.com,"})
+        phone.preferences(set={"开启广告屏蔽": True, "Host过滤屏蔽": "example.com,"})
         phone.tap(phone.button("重新加载"))
-        phone.wait_for(lambda: len(phone.all("通过")) + len(phone.all("屏蔽")) == 30)
+        phone.until(lambda: len(phone.all("通过")) + len(phone.all("屏蔽")) == 30)
         phone.picture("blocking.png")
 
 

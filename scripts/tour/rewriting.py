@@ -2,7 +2,7 @@
 
 import tempfile
 
-from phone import MATERIAL, PICTURES, Phone, expect
+from phone import MATERIAL, PICTURES, Phone, expect, rect
 
 # The switches that the settings would show, by their keys in the preference file.
 SWITCHES = {"kqwzgs": "colour", "kqwzdx": "font size", "kqwzgd": "height", "kqwzkd": "width",
@@ -12,10 +12,9 @@ SWITCHES = {"kqwzgs": "colour", "kqwzdx": "font size", "kqwzgd": "height", "kqwz
 
 def save_rules(phone, text):
     """Saves as the rule editor does, from a text view."""
-    editor = phone.send({"class": "UITextView"}, "alloc")
-    editor = phone.send(editor, "initWithFrame:", {"rect": [0, 0, 280, 400]})
-    phone.send(editor, "setText:", text)
-    phone.send(editor, "saveRulesFromTextView:", editor)
+    editor = phone.make("UITextView", "initWithFrame:", rect(0, 0, 280, 400))
+    editor.setText_(text)
+    editor.saveRulesFromTextView_(editor)
 
 
 def check(phone, after):
@@ -49,7 +48,7 @@ def play():
             print("".join(f"      {line}\n" for line in rules.splitlines()), end="")
             save_rules(phone, rules)
             print(f"3. The switches are turned on: {', '.join(SWITCHES.values())}.")
-            phone.ask("preferences", set=dict.fromkeys(SWITCHES, True))
+            phone.preferences(set=dict.fromkeys(SWITCHES, True))
         print("4. The application starts again and sets its labels; Wentra rewrites them.")
         with Phone(root) as phone:
             phone.picture("2-after.png")
