@@ -34,6 +34,8 @@ public:
         return {inside.start + start_, inside.end + start_};
     }
     [[nodiscard]] std::size_t inside(std::size_t unit) const { return unit - start_; }
+    [[nodiscard]] std::size_t start() const { return start_; }
+    [[nodiscard]] std::size_t end() const { return start_ + near_.size(); }
     [[nodiscard]] const Passage& passage() const { return passage_; }
 
 private:
@@ -110,6 +112,34 @@ Stretch wordAround(std::u16string_view text, std::size_t unit) {
         return window.moved(*before);
     }
     return composedCharacter(text, std::min(unit, text.size() - 1));
+}
+
+std::size_t wordEndAfter(std::u16string_view text, std::size_t unit) {
+    while (unit < text.size()) {
+        const Window window(text, unit);
+        for (const Stretch word : window.passage().words()) {
+            if (window.moved(word).end > unit) {
+                return window.moved(word).end;
+            }
+        }
+        unit = window.end();
+    }
+    return text.size();
+}
+
+std::size_t wordStartBefore(std::u16string_view text, std::size_t unit) {
+    unit = std::min(unit, text.size());
+    while (unit > 0) {
+        const Window window(text, unit);
+        const auto words = window.passage().words();
+        for (auto word = words.rbegin(); word != words.rend(); ++word) {
+            if (window.moved(*word).start < unit) {
+                return window.moved(*word).start;
+            }
+        }
+        unit = window.start();
+    }
+    return 0;
 }
 
 } // namespace desktop

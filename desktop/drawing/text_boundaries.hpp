@@ -17,4 +17,9 @@ std::vector<std::size_t> composedCharacterEnds(std::u16string_view text);
 /// ends there, else the character there. Empty in an empty text. Any thread.
 Stretch wordAround(std::u16string_view text, std::size_t unit);
 
+/// Where the caret stops when it goes from `unit` word by word: behind a word to the right, before
+/// one to the left, or at the text's end. Any thread.
+std::size_t wordEndAfter(std::u16string_view text, std::size_t unit);
+std::size_t wordStartBefore(std::u16string_view text, std::size_t unit);
+
 } // namespace desktop

@@ -38,6 +38,7 @@ constexpr auto table = std::to_array<Row>({
     {"swipe", &swipe},
     {"type", &type},
     {"key", &key},
+    {"keyboard", &keyboard},
     {"menu", &menu},
     {"context", &context},
     {"alert", &alert},

@@ -40,6 +40,7 @@ using Command = Json (*)(Session& session, const Json& request);
 // The keyboard and the edit menu.
 [[nodiscard]] Json type(Session& session, const Json& request);
 [[nodiscard]] Json key(Session& session, const Json& request);
+Json keyboard(Session& session, const Json& request);
 [[nodiscard]] Json menu(Session& session, const Json& request);
 [[nodiscard]] Json context(Session& session, const Json& request);
 // What the device keeps.

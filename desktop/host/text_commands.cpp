@@ -4,10 +4,14 @@
 
 #include "desktop/host/half_pairs.hpp"
 #include "desktop/uikit/events/first_responder.hpp"
+#include "desktop/uikit/keyboard/keyboard.hpp"
 #include "desktop/uikit/keyboard/keyboard_input.hpp"
 #include "desktop/uikit/menus/menu_controller.hpp"
 
 #include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
 
 namespace desktop::host {
 namespace {
@@ -35,6 +39,61 @@ std::vector<ns::String> stepsArgument(const Json& request) {
     return steps;
 }
 
+TextMovement movementArgument(const Json& request) {
+    using enum TextMovement;
+    constexpr auto names = std::to_array<std::pair<std::string_view, TextMovement>>({
+        {"left", left},
+        {"right", right},
+        {"up", up},
+        {"down", down},
+        {"wordLeft", wordLeft},
+        {"wordRight", wordRight},
+        {"lineStart", lineStart},
+        {"lineEnd", lineEnd},
+        {"start", start},
+        {"end", end},
+    });
+    const std::string& name = stringArgument(request, "to");
+    const auto* found = std::ranges::find(names, name, &decltype(names)::value_type::first);
+    if (found == names.end()) {
+        throw RequestError("unknown place: " + name);
+    }
+    return found->second;
+}
+
+/// What a key combination does to the text, as the edit menu does.
+struct Edit {
+    std::string_view name;
+    bool (*perform)();
+};
+
+template <objc::Literal Action>
+bool performs() {
+    return keyboard_input::perform(objc::selector<Action>());
+}
+
+const Edit& editNamed(const std::string& name) {
+    static constexpr auto edits = std::to_array<Edit>({
+        {"cut", &performs<"cut:">},
+        {"copy", &performs<"copy:">},
+        {"paste", &performs<"paste:">},
+        {"selectAll", &performs<"selectAll:">},
+        {"undo", &keyboard_input::undo},
+        {"redo", &keyboard_input::redo},
+    });
+    const auto* found = std::ranges::find(edits, name, &Edit::name);
+    if (found == edits.end()) {
+        throw RequestError("unknown key: " + name);
+    }
+    return *found;
+}
+
+void perform(const Edit& edit) {
+    if (!edit.perform()) {
+        throw RequestError("there is nothing to " + std::string(edit.name) + " now");
+    }
+}
+
 Json titles(const MenuController& menu) {
     Json list = Json::array();
     for (const auto& item : menu.shownItems()) {
@@ -50,7 +109,8 @@ Json type(Session&, const Json& request) {
     for (const ns::String step : stepsArgument(request)) {
         demand(keyboard_input::setMarkedText(step, {step.length(), 0}));
     }
-    demand(keyboard_input::insertText(text));
+    const bool isWhole = flagArgument(request, "whole");
+    demand(isWhole ? keyboard_input::insertText(text) : keyboard_input::typeText(text));
     return nullptr;
 }
 
@@ -59,13 +119,25 @@ Json key(Session&, const Json& request) {
     if (name == "return") {
         demand(keyboard_input::pressReturn());
     } else if (name == "delete") {
-        demand(keyboard_input::deleteBackward());
+        const bool isFar = argument(request, "to") != nullptr;
+        demand(keyboard_input::erase(isFar ? movementArgument(request) : TextMovement::left));
+    } else if (name == "move") {
+        const TextMovement movement = movementArgument(request);
+        demand(keyboard_input::move(movement, flagArgument(request, "select")));
     } else if (name == "hide") {
         demand(keyboard_input::hide());
     } else {
-        throw RequestError("\"name\" must be return, delete or hide");
+        perform(editNamed(name));
     }
     return nullptr;
+}
+
+Json keyboard(Session&, const Json& request) {
+    Keyboard& keyboard = Keyboard::shared();
+    if (argument(request, "hardware") != nullptr) {
+        keyboard.setHardware(flagArgument(request, "hardware"));
+    }
+    return {{"hardware", keyboard.hasHardware()}, {"height", keyboard.height()}};
 }
 
 /// Shows the menu, if it is not shown, for as long as it takes.

@@ -194,7 +194,7 @@ void Phone::carryOut(const Compose& compose) {
 
 void Phone::carryOut(const Press& press) {
     if (press.key == Key::deleteBackward) {
-        keyboard_input::deleteBackward();
+        keyboard_input::erase();
     } else {
         keyboard_input::pressReturn();
     }

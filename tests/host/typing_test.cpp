@@ -53,6 +53,54 @@ TEST_P(TypingCommands, AHundredThousandCharactersTakeFiveSecondsAtMost) {
     EXPECT_EQ(text(), typed);
 }
 
+TEST_P(TypingCommands, KeysMoveSelectAndErase) {
+    host.message(view, "becomeFirstResponder");
+    host.result({{"do", "type"}, {"text", "one two"}});
+    const auto press = [this](json request) {
+        request["do"] = "key";
+        host.result(request);
+    };
+    press({{"name", "move"}, {"to", "wordLeft"}, {"select", true}});
+    EXPECT_EQ(host.message(view, "selectedRange"), (json{{"range", {4, 3}}}));
+    press({{"name", "cut"}});
+    EXPECT_EQ(host.result({{"do", "pasteboard"}}), "two");
+    press({{"name", "move"}, {"to", "start"}});
+    press({{"name", "paste"}});
+    EXPECT_EQ(text(), "twoone ");
+    press({{"name", "delete"}, {"to", "end"}});
+    EXPECT_EQ(text(), "two");
+    press({{"name", "undo"}});
+    press({{"name", "undo"}});
+    EXPECT_EQ(text(), "one ");
+    press({{"name", "redo"}});
+    EXPECT_EQ(text(), "twoone ");
+    press({{"name", "selectAll"}});
+    EXPECT_EQ(host.message(view, "selectedRange"), (json{{"range", {0, 7}}}));
+    EXPECT_EQ(host.error({{"do", "key"}, {"name", "redo"}}), "there is nothing to redo now");
+}
+
+TEST_P(TypingCommands, TextCanBeInsertedAsAWhole) {
+    const json field = host.message({{"class", "UITextField"}}, "new");
+    host.message(host.result({{"do", "tree"}}).at(0), "addSubview:", {field});
+    host.message(field, "becomeFirstResponder");
+    host.result({{"do", "type"}, {"text", "two\nlines"}, {"whole", true}});
+    EXPECT_EQ(host.message(field, "text"), "two lines") << "no return key is pressed";
+}
+
+TEST_P(TypingCommands, TheKeyboardIsAwayWhileThereIsARealOne) {
+    const auto keyboard = [this](json request = json::object()) {
+        request["do"] = "keyboard";
+        return host.result(request);
+    };
+    EXPECT_EQ(keyboard(), (json{{"hardware", false}, {"height", 0}}));
+    host.message(view, "becomeFirstResponder");
+    EXPECT_EQ(keyboard(), (json{{"hardware", false}, {"height", 336}}));
+    EXPECT_EQ(keyboard({{"hardware", true}}), (json{{"hardware", true}, {"height", 0}}));
+    host.result({{"do", "type"}, {"text", "x"}});
+    EXPECT_EQ(text(), "x");
+    EXPECT_EQ(keyboard({{"hardware", false}}), (json{{"hardware", false}, {"height", 336}}));
+}
+
 TEST_P(TypingCommands, TheMenuOffersWhatCanBeDone) {
     host.message(view, "becomeFirstResponder");
     EXPECT_EQ(host.result({{"do", "menu"}}), json::array());
@@ -78,6 +126,11 @@ TEST_P(TypingCommands, BadArgumentsAreRefused) {
              {{"do", "type"}, {"text", "x"}, {"compose", "n"}},
              {{"do", "type"}, {"text", "x"}, {"compose", {1}}},
              {{"do", "key"}, {"name", "escape"}},
+             {{"do", "key"}, {"name", "move"}},
+             {{"do", "key"}, {"name", "move"}, {"to", "there"}},
+             {{"do", "key"}, {"name", "move"}, {"to", "left"}, {"select", 1}},
+             {{"do", "key"}, {"name", "copy"}},
+             {{"do", "keyboard"}, {"hardware", "yes"}},
              {{"do", "menu"}, {"choose", 1}},
          }) {
         EXPECT_NE(host.error(request), "") << request;

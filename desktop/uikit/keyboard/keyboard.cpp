@@ -77,31 +77,40 @@ void Keyboard::fill(ui::Responder responder) {
     accessory_.removeFromSuperview();
     accessory_ = viewOf<"inputAccessoryView">(responder);
     const double width = ui::Screen::mainScreen().bounds().size.width;
-    if (!own) {
+    if (!own && !hasHardware_) {
         const ScreenGeometry& screen = ScreenGeometry::current();
         keys_.setFrame(
             {{}, {width, keyboardHeight(screen.isLandscape(), screen.safeArea.bottom > 0)}});
         const bool isTyped = responder.respondsToSelector(objc::selector<"returnKeyType">());
         KeyboardView::of(keys_).reset(isTyped ? responder.send<"returnKeyType", long>() : 0);
     }
-    content_ = own ? own : static_cast<ui::View>(keys_);
+    content_ = own || hasHardware_ ? own : static_cast<ui::View>(keys_);
     const double above = accessory_ ? accessory_.frame().size.height : 0;
     if (accessory_) {
         accessory_.setFrame({{}, {width, above}});
         container_.addSubview(accessory_);
     }
-    content_.setFrame({{0, above}, {width, content_.frame().size.height}});
-    container_.addSubview(content_);
+    if (content_) {
+        content_.setFrame({{0, above}, {width, content_.frame().size.height}});
+        container_.addSubview(content_);
+    }
 }
 
 void Keyboard::show(ui::Responder responder) {
+    if (hasHardware_ && !viewOf<"inputView">(responder) &&
+        !viewOf<"inputAccessoryView">(responder)) {
+        if (isShown_) {
+            hide();
+        }
+        return;
+    }
     const CGSize screen = ui::Screen::mainScreen().bounds().size;
     if (!container_) {
         container_ = ui::View::withFrame({{0, screen.height}, {screen.width, 0}});
         keys_ = KeyboardViewKind::make<"initWithFrame:">(CGRect());
     }
     fill(responder);
-    const double height = content_.frame().origin.y + content_.frame().size.height;
+    const double height = accessory_.frame().size.height + content_.frame().size.height;
     const CGRect frame{{0, screen.height - height}, {screen.width, height}};
     if (isShown_ && frame == container_.frame()) {
         return;
@@ -112,6 +121,15 @@ void Keyboard::show(ui::Responder responder) {
     }
     isShown_ = true;
     moveTo(frame, u"UIKeyboardWillShowNotification"_ns, u"UIKeyboardDidShowNotification"_ns);
+}
+
+void Keyboard::setHardware(bool has) {
+    if (std::exchange(hasHardware_, has) == has) {
+        return;
+    }
+    if (const ui::Responder first = first_responder::current(); takesText(first)) {
+        show(first);
+    }
 }
 
 void Keyboard::fitScreen() {

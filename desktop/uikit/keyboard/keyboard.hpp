@@ -19,6 +19,11 @@ public:
     /// The screen is of another size.
     void fitScreen();
 
+    /// Whether text is typed on a keyboard of its own: then the keys are not shown, only what the
+    /// responder puts in their place or above them.
+    void setHardware(bool has);
+    [[nodiscard]] bool hasHardware() const { return hasHardware_; }
+
     /// How much of the screen the keyboard covers, or will once it has come, in points from below.
     [[nodiscard]] double height() const;
 
@@ -57,6 +62,7 @@ private:
     objc::Strong<ui::View> content_;
     objc::Strong<ui::View> accessory_;
     bool isShown_ = false;
+    bool hasHardware_ = false;
     int handovers_ = 0;
     Clock::Ticket arrival_ = 0;
 };

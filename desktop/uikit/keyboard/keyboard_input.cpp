@@ -1,7 +1,9 @@
 // Passing on what is typed.
 #include "desktop/uikit/keyboard/keyboard_input.hpp"
 
+#include "bindings/foundation/undo_manager.hpp"
 #include "bindings/objc/pool.hpp"
+#include "bindings/uikit/menu_controller.hpp"
 #include "desktop/drawing/text_boundaries.hpp"
 #include "desktop/uikit/application/foreground.hpp"
 #include "desktop/uikit/events/first_responder.hpp"
@@ -24,20 +26,41 @@ ui::Responder receiver() {
     return first && first.respondsToSelector(objc::selector<"insertText:">()) ? first : nullptr;
 }
 
+ns::UndoManager history() {
+    const ui::Responder first = receiver();
+    return first.respondsToSelector(objc::selector<"undoManager">())
+               ? first.send<"undoManager", ns::UndoManager>()
+               : nullptr;
+}
+
+void insertWhole(ui::Responder responder, ns::String text) {
+    if (TextInput* input = TextInput::find(responder); input != nullptr) {
+        input->type(text);
+    } else {
+        ui::TextInput(responder).insertText(text);
+    }
+}
+
 void insertCharacter(ui::Responder responder, ns::String character) {
     TextInput* input = TextInput::find(responder);
     if (character.isEqualToString(u"\n"_ns) && input != nullptr) {
         input->pressReturn();
-    } else if (input != nullptr) {
-        input->type(character);
     } else {
-        ui::TextInput(responder).insertText(character);
+        insertWhole(responder, character);
     }
 }
 
 } // namespace
 
 bool insertText(ns::String text) {
+    const objc::Strong<ui::Responder> kept = receiver();
+    if (kept) {
+        insertWhole(kept, text);
+    }
+    return static_cast<bool>(kept);
+}
+
+bool typeText(ns::String text) {
     if (!receiver()) {
         return false;
     }
@@ -73,14 +96,50 @@ bool unmarkText() {
     return static_cast<bool>(kept);
 }
 
-bool deleteBackward() {
+bool erase(TextMovement to) {
     const objc::Strong<ui::Responder> kept = receiver();
     if (TextInput* input = TextInput::find(kept); input != nullptr) {
-        input->erase();
-    } else {
+        input->erase(to);
+    } else if (to == TextMovement::left) {
         ui::TextInput(kept).deleteBackward();
     }
     return static_cast<bool>(kept);
+}
+
+bool move(TextMovement movement, bool extends) {
+    const objc::Strong<ui::Responder> kept = receiver();
+    if (TextInput* input = TextInput::find(kept); input != nullptr) {
+        input->move(movement, extends);
+    }
+    return static_cast<bool>(kept);
+}
+
+bool perform(SEL action) {
+    const objc::Strong<ui::Responder> target =
+        first_responder::current().targetForAction(action, nullptr);
+    if (target) {
+        ui::MenuController::sharedMenuController().hideMenu();
+        objc::sendTo(target.raw(), action, objc::Object());
+    }
+    return static_cast<bool>(target);
+}
+
+bool undo() {
+    const objc::Strong<ns::UndoManager> manager = history();
+    const bool can = manager.canUndo();
+    if (can) {
+        manager.undo();
+    }
+    return can;
+}
+
+bool redo() {
+    const objc::Strong<ns::UndoManager> manager = history();
+    const bool can = manager.canRedo();
+    if (can) {
+        manager.redo();
+    }
+    return can;
 }
 
 bool pressReturn() {

@@ -144,7 +144,7 @@ void KeyboardView::press(const Key& key) {
         keyboard_input::pressReturn();
         break;
     case KeyRole::erase:
-        keyboard_input::deleteBackward();
+        keyboard_input::erase();
         break;
     case KeyRole::shift:
         capitals_ = !capitals_;

@@ -144,7 +144,7 @@ void TextField::layoutSubviews() {
         rightView_.setFrame(self().send<"rightViewRectForBounds:", CGRect>(bounds));
     }
     if (isEditing()) {
-        reveal(fromFlow(flow().caret(selection().location + selection().length)));
+        reveal(fromFlow(flow().caret(looseEnd())));
     } else {
         scrolled_ = 0;
     }

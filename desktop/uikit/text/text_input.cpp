@@ -104,14 +104,39 @@ void TextInput::edited(ns::Range former, unsigned long length) {
         marked_.reset();
     }
     selection_ = clamped(selection_);
+    anchor_.reset();
+    if (!isWriting_ && former.length != length) {
+        history_.forget();
+    }
     view().setNeedsLayout();
     view().setNeedsDisplay();
 }
 
+/// Made of units, of which Foundation's own substrings lose the halves of pairs.
+ns::AttributedString TextInput::formerText(ns::Range range) const {
+    const auto former = ns::MutableAttributedString::make();
+    const unsigned long end = range.location + range.length;
+    for (unsigned long unit = range.location; unit < end;) {
+        ns::Range alike;
+        const ns::Dictionary attributes = storage_.attributesAt(unit, &alike);
+        const unsigned long next = std::min(alike.location + alike.length, end);
+        const auto part = ns::String::from(plainUnits({unit, next - unit}));
+        former.append(ns::AttributedString::with(part, attributes));
+        unit = next;
+    }
+    return former;
+}
+
 /// Puts the text in place of the range; the caret goes behind it, and it is no composition.
 void TextInput::write(ns::Range range, ns::String text) {
+    replace(range, ns::AttributedString::with(text, typingAttributes()));
+}
+
+void TextInput::replace(ns::Range range, ns::AttributedString text) {
     const ns::Range former = selection_;
-    storage_.replace(range, ns::AttributedString::with(text, typingAttributes()));
+    isWriting_ = true;
+    storage_.replace(range, text);
+    isWriting_ = false;
     marked_.reset();
     selection_ = former; // whoever is told of the new one is told of a change
     select({range.location + text.length(), 0});
@@ -125,7 +150,32 @@ void TextInput::mark(ns::Range range) {
 void TextInput::insertText(ns::String text) {
     const objc::Strong<ui::View> kept = view();
     const ns::Range range = clamped(replacedByTyping());
-    write(range, acceptable(text ? text : u""_ns));
+    const ns::String written = acceptable(text ? text : u""_ns);
+    remember(range, written.length());
+    write(range, written);
+    showCaret();
+    tellChange();
+}
+
+/// For undoing: the range is about to be replaced by so many units.
+void TextInput::remember(ns::Range range, unsigned long length) {
+    const objc::Strong<ns::AttributedString> former =
+        marked_            ? std::exchange(replacedByMarked_, nullptr)
+        : range.length > 0 ? objc::Strong<ns::AttributedString>(formerText(range))
+                           : nullptr;
+    history_.add(view(), range.location, former, length);
+}
+
+void TextInput::takeBack(TextEditKind edit) {
+    const objc::Strong<ui::View> kept = view();
+    unmarkText();
+    history_.pause();
+    const ns::Range range = clamped(TextEdit::of(edit).range);
+    const objc::Strong<ns::AttributedString> text = TextEdit::of(edit).text;
+    history_.add(kept, range.location, formerText(range), text.length());
+    history_.pause();
+    replace(range,
+            text ? static_cast<ns::AttributedString>(text) : ns::AttributedString::with(u""_ns));
     showCaret();
     tellChange();
 }
@@ -138,8 +188,13 @@ void TextInput::deleteBackward() {
         return;
     }
     const std::optional<ns::Range> marked = marked_;
+    const bool staysMarked =
+        marked && marked->location <= range.location && range.length < marked->length;
+    if (!staysMarked) {
+        remember(range, 0);
+    }
     write(range, u""_ns);
-    if (marked && marked->location <= range.location && range.length < marked->length) {
+    if (staysMarked) {
         mark({marked->location, marked->length - range.length});
     }
     showCaret();
@@ -150,6 +205,11 @@ void TextInput::setMarkedText(ns::String text, ns::Range selected) {
     const objc::Strong<ui::View> kept = view();
     const ns::Range range = clamped(replacedByTyping());
     const ns::String shown = acceptable(text ? text : u""_ns);
+    if (shown.length() == 0) {
+        remember(range, 0);
+    } else if (!marked_) {
+        replacedByMarked_ = formerText(range);
+    }
     write(range, shown);
     if (shown.length() > 0) {
         mark({range.location, shown.length()});
@@ -161,6 +221,9 @@ void TextInput::setMarkedText(ns::String text, ns::Range selected) {
 }
 
 void TextInput::unmarkText() {
+    if (marked_) {
+        remember(*marked_, marked_->length);
+    }
     if (const auto marked = std::exchange(marked_, std::nullopt); marked) {
         flow_.replaced({marked->location, marked->location + marked->length}, marked->length);
         view().setNeedsDisplay();
@@ -170,6 +233,8 @@ void TextInput::unmarkText() {
 
 void TextInput::select(ns::Range range) {
     const ns::Range former = std::exchange(selection_, clamped(range));
+    anchor_.reset();
+    column_.reset();
     if (former == selection_) {
         return;
     }
@@ -184,16 +249,6 @@ void TextInput::type(ns::String text) {
     const ns::String written = acceptable(text);
     if (isEditable() && mayChange(clamped(replacedByTyping()), written)) {
         kept.send<"insertText:">(written);
-    }
-}
-
-void TextInput::erase() {
-    const objc::Strong<ui::View> kept = view();
-    ui::MenuController::sharedMenuController().hideMenu();
-    const ns::Range range =
-        selection_.length > 0 ? selection_ : composedBefore(selection_.location);
-    if (isEditable() && (range.length == 0 || mayChange(range, u""_ns))) {
-        kept.send<"deleteBackward">();
     }
 }
 
@@ -286,7 +341,7 @@ void TextInput::showCaret() {
 
 void TextInput::revealCaret() {
     if (std::exchange(caretIsToBeShown_, false)) {
-        reveal(fromFlow(flow().caret(selection_.location + selection_.length)));
+        reveal(fromFlow(flow().caret(looseEnd())));
     }
 }
 

@@ -7,6 +7,8 @@
 #include "bindings/uikit/touch.hpp"
 #include "bindings/uikit/view.hpp"
 #include "desktop/drawing/text_flow.hpp"
+#include "desktop/uikit/text/text_history.hpp"
+#include "desktop/uikit/text/text_movement.hpp"
 #include "desktop/uikit/text/text_selection_view.hpp"
 #include "desktop/uikit/text/text_storage.hpp"
 #include "desktop/uikit/values/attributed_text.hpp"
@@ -35,7 +37,11 @@ public:
     ~TextInput() override;
 
     void type(ns::String text);
-    void erase();
+    /// Erases the selection; without one, what lies between the caret and where the movement would
+    /// take it.
+    void erase(TextMovement to = TextMovement::left);
+    /// Takes the caret there; or extends the selection to there, at its loose end.
+    void move(TextMovement movement, bool extends);
     /// Shows text that is still being composed, in place of what was composed so far.
     void compose(ns::String text, ns::Range selected);
     [[nodiscard]] virtual bool isEditable() const = 0;
@@ -96,6 +102,8 @@ protected:
     /// How text looks that is written now.
     [[nodiscard]] ns::Dictionary typingAttributes() const;
     void setTypingAttributes(ns::Dictionary attributes) { typingAttributes_ = attributes; }
+    /// The end of the selection that keys move; the caret, when nothing is selected.
+    [[nodiscard]] unsigned long looseEnd() const;
     /// To be called in layout: scrolls to the caret after an edit.
     void revealCaret();
     /// It is scrolled elsewhere.
@@ -125,8 +133,15 @@ private:
     [[nodiscard]] ns::Range replacedByTyping() const { return marked_.value_or(selection_); }
     [[nodiscard]] std::u16string plainUnits(ns::Range range) const;
     void write(ns::Range range, ns::String text);
+    void replace(ns::Range range, ns::AttributedString text);
+    void remember(ns::Range range, unsigned long length);
+    void takeBack(TextEditKind edit);
+    [[nodiscard]] ns::AttributedString formerText(ns::Range range) const;
+    [[nodiscard]] ns::UndoManager undoManager() { return history_.manager(); }
     void mark(ns::Range range);
     void edited(ns::Range former, unsigned long length);
+    [[nodiscard]] unsigned long destination(TextMovement movement, unsigned long from);
+    [[nodiscard]] unsigned long lineEnd(unsigned long unit);
     void moveCaret(unsigned long unit) { select({unit, 0}); }
     void showCaret();
     [[nodiscard]] unsigned long unitAt(CGPoint point);
@@ -181,8 +196,16 @@ private:
     objc::Strong<ui::Color> textColor_;
     TextFlow flow_{*this};
     ns::Range selection_;
+    /// The end of the selection that stays when keys extend it.
+    std::optional<unsigned long> anchor_;
+    /// Where the caret came from that goes up and down, in the flow's points.
+    std::optional<double> column_;
     bool caretIsToBeShown_ = false;
     std::optional<ns::Range> marked_;
+    /// What the text that is being composed has replaced; nil: nothing.
+    objc::Strong<ns::AttributedString> replacedByMarked_;
+    TextHistory history_;
+    bool isWriting_ = false;
     objc::Copied<ns::Dictionary> typingAttributes_;
     objc::Strong<TextSelectionViewKind> selectionView_;
     objc::Strong<ui::View> inputView_;

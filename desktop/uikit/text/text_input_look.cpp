@@ -24,6 +24,7 @@ void TextInput::setText(ns::String text) {
 
 void TextInput::setAttributedText(ns::AttributedString text) {
     marked_.reset();
+    history_.forget();
     storage_.setString(text ? text : ns::AttributedString::with(u""_ns));
     select({length(), 0});
 }

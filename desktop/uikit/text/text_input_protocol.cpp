@@ -73,6 +73,8 @@ std::vector<objc::MethodRow> TextInput::textInputMethods() {
         objc::property<"smartDashesType", &Self::smartDashesType_>(),
         objc::property<"enablesReturnKeyAutomatically", &Self::enablesReturnKeyAutomatically_>(),
         objc::property<"textContentType", &Self::textContentType_>(),
+        objc::method<"undoManager", &Self::undoManager>(),
+        objc::method<"_takeBack:", &Self::takeBack>(),
         objc::method<"gestureRecognizer:shouldReceiveTouch:", &Self::receives>(),
         objc::method<"_textTapped:", &Self::tapped>(),
         objc::method<"_textDoubleTapped:", &Self::doubleTapped>(),
@@ -87,7 +89,10 @@ ns::String TextInput::textInRange(ui::TextRange range) const {
 void TextInput::replaceRange(ui::TextRange range, ns::String text) {
     const objc::Strong<ui::View> kept = view();
     const ns::Range replaced = clamped(TextRange::rangeOf(range));
-    write(replaced, acceptable(text ? text : u""_ns));
+    const ns::String written = acceptable(text ? text : u""_ns);
+    unmarkText();
+    remember(replaced, written.length());
+    write(replaced, written);
     showCaret();
     tellChange();
 }

@@ -22,15 +22,15 @@ TEST_F(TextEditing, ATextViewTellsItsDelegateInOrder) {
     view_.setDelegate(textLog_);
     EXPECT_TRUE(view_.becomeFirstResponder());
     EXPECT_EQ(takeSeen(), "shouldBegin didBegin");
-    EXPECT_TRUE(keyboard::insertText(u"c"_ns));
+    EXPECT_TRUE(keyboard::typeText(u"c"_ns));
     EXPECT_EQ(takeSeen(), "mayChange(2,0,c) didSelect didChange");
-    EXPECT_TRUE(keyboard::deleteBackward());
+    EXPECT_TRUE(keyboard::erase());
     EXPECT_EQ(takeSeen(), "mayChange(2,1,) didSelect didChange");
     keyboard::pressReturn();
     EXPECT_EQ(takeSeen(), "mayChange(2,0,\n) didSelect didChange");
     text().refused = "mayChange";
-    keyboard::insertText(u"x"_ns);
-    keyboard::deleteBackward();
+    keyboard::typeText(u"x"_ns);
+    keyboard::erase();
     EXPECT_EQ(takeSeen(), "mayChange(3,0,x) mayChange(2,1,)");
     EXPECT_EQ(shown(), "ab\n");
     text().refused = "shouldEnd";
@@ -40,7 +40,7 @@ TEST_F(TextEditing, ATextViewTellsItsDelegateInOrder) {
     takeSeen();
     EXPECT_TRUE(view_.resignFirstResponder());
     EXPECT_EQ(takeSeen(), "shouldEnd didEnd");
-    EXPECT_FALSE(keyboard::insertText(u"x"_ns));
+    EXPECT_FALSE(keyboard::typeText(u"x"_ns));
 }
 
 TEST_F(TextEditing, WhatTheApplicationWritesAsksNobody) {
@@ -63,7 +63,7 @@ TEST_F(TextEditing, AFieldTellsItsDelegateAndItsTargets) {
                      ui::ControlEvents::editingDidEndOnExit);
     field_.becomeFirstResponder();
     EXPECT_EQ(takeSeen(), "shouldBegin didBegin");
-    keyboard::insertText(u"a\nb"_ns);
+    keyboard::typeText(u"a\nb"_ns);
     EXPECT_EQ(takeSeen(), "mayChange(0,0,a) didSelect [changed] shouldReturn [exit] "
                           "mayChange(1,0,b) didSelect [changed]");
     EXPECT_EQ(field_.text().utf8(), "ab");
@@ -127,16 +127,16 @@ TEST_F(TextEditing, CharactersAreDeletedAsAWhole) {
     view_.becomeFirstResponder();
     for (const char16_t* character : {u"😀", u"👨‍👩‍👧", u"🇨🇳", u"e\u0301", u"你"}) {
         view_.setText(ns::String::from(std::u16string(u"a") + character));
-        keyboard::deleteBackward();
+        keyboard::erase();
         EXPECT_EQ(shown(), "a");
     }
     const std::u16string lone{u'a', char16_t{0xD83D}};
     view_.setText(u"a😀"_ns.send<"substringWithRange:", ns::String>(ns::Range{0, 2}));
     EXPECT_EQ(view_.text().utf16(), lone);
-    keyboard::insertText(u"b"_ns);
+    keyboard::typeText(u"b"_ns);
     EXPECT_EQ(view_.text().utf16(), lone + u"b");
-    keyboard::deleteBackward();
-    keyboard::deleteBackward();
+    keyboard::erase();
+    keyboard::erase();
     EXPECT_EQ(shown(), "a");
 }
 
@@ -148,10 +148,10 @@ TEST_F(TextEditing, WordsAreComposed) {
     keyboard::setMarkedText(u"ni"_ns, {2, 0});
     EXPECT_EQ(shown(), "anib");
     EXPECT_EQ(input().textIn(view_.send<"markedTextRange", ui::TextRange>()).utf8(), "ni");
-    keyboard::deleteBackward();
+    keyboard::erase();
     EXPECT_EQ(shown(), "anb");
     EXPECT_EQ(input().textIn(view_.send<"markedTextRange", ui::TextRange>()).utf8(), "n");
-    keyboard::insertText(u"你"_ns);
+    keyboard::typeText(u"你"_ns);
     EXPECT_EQ(shown(), "a你b");
     EXPECT_EQ(selected(), (ns::Range{2, 0}));
     EXPECT_FALSE((view_.send<"markedTextRange", ui::TextRange>()));
@@ -248,7 +248,7 @@ TEST_F(TextEditing, ActionsAreOfferedWhereTheyMakeSense) {
 TEST_F(TextEditing, TheCaretIsKeptInSight) {
     view_.becomeFirstResponder();
     for (int line = 0; line < 20; ++line) {
-        keyboard::insertText(u"line\n"_ns);
+        keyboard::typeText(u"line\n"_ns);
     }
     view_.layoutIfNeeded();
     const double bottom = view_.contentSize().height - 100;
@@ -268,7 +268,7 @@ TEST_F(TextEditing, DelegatesMayDoAnything) {
             view_.setText(u""_ns);
         }
     };
-    keyboard::insertText(u"abc"_ns);
+    keyboard::typeText(u"abc"_ns);
     EXPECT_EQ(shown(), "bc");
     text().then = [this](const std::string& word) {
         if (word.starts_with("mayChange")) {
@@ -276,7 +276,7 @@ TEST_F(TextEditing, DelegatesMayDoAnything) {
             view_.setText(nullptr);
         }
     };
-    keyboard::insertText(u"def"_ns);
+    keyboard::typeText(u"def"_ns);
     EXPECT_FALSE(view_.isFirstResponder());
     text().then = nullptr;
     window_.addSubview(view_);
@@ -304,7 +304,7 @@ TEST_F(TextEditing, HostileInputIsSurvived) {
     EXPECT_EQ(shown(), "");
     view_.setText(ns::String::from(std::u16string(1000000, u'x')));
     view_.becomeFirstResponder();
-    keyboard::insertText(u"y"_ns);
+    keyboard::typeText(u"y"_ns);
     EXPECT_EQ(view_.text().length(), 1000001U);
     field_.setText(view_.text());
     field_.layoutIfNeeded();

@@ -5,6 +5,7 @@
 #include "bindings/foundation/number.hpp"
 #include "bindings/uikit/menu_controller.hpp"
 #include "bindings/uikit/pasteboard.hpp"
+#include "desktop/uikit/keyboard/keyboard.hpp"
 #include "desktop/uikit/menus/menu_controller.hpp"
 #include "desktop/uikit/text/text_effects_window.hpp"
 
@@ -107,6 +108,32 @@ TEST_F(KeyboardTest, ComesAndGoesWithTheFocus) {
     view_.setEditable(false);
     EXPECT_TRUE(view_.becomeFirstResponder());
     EXPECT_EQ(takePosted(), "") << "nothing to type";
+}
+
+TEST_F(KeyboardTest, IsAwayWhileThereIsARealOne) {
+    using desktop::Keyboard;
+    showKeyboard(ui::KeyboardDismissMode::none);
+    Keyboard::shared().setHardware(true);
+    desktop::run_loop::advance(0.3);
+    EXPECT_EQ(takePosted(), "WillHide DidHide ");
+    EXPECT_TRUE(view_.isFirstResponder());
+    EXPECT_EQ(Keyboard::shared().height(), 0);
+    field_.becomeFirstResponder();
+    desktop::run_loop::advance(0.3);
+    EXPECT_EQ(takePosted(), "");
+
+    const objc::Strong<ui::View> bar = ui::View::withFrame({{0, 0}, {0, 44}});
+    view_.send<"setInputAccessoryView:">(bar.raw());
+    view_.becomeFirstResponder();
+    desktop::run_loop::advance(0.3);
+    EXPECT_EQ(takePosted(), "WillShow DidShow ") << "what stands above the keys is still there";
+    EXPECT_EQ(Keyboard::shared().height(), 44);
+
+    Keyboard::shared().setHardware(false);
+    desktop::run_loop::advance(0.3);
+    EXPECT_EQ(takePosted(), "WillShow DidShow ");
+    EXPECT_EQ(Keyboard::shared().height(), 336 + 44);
+    EXPECT_EQ(keyboardTop(), 844 - 336 - 44);
 }
 
 TEST_F(KeyboardTest, StaysWhileContentIsDraggedUnlessToldOtherwise) {
