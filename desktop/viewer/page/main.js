@@ -7,7 +7,7 @@ import { showFilms } from "./films.js";
 import { Fingers } from "./fingers.js";
 import { showHelp } from "./help.js";
 import { holdPhone } from "./holding.js";
-import { typeInto } from "./keyboard.js";
+import { realKeyboard, typeInto } from "./keyboard.js";
 import { tellOpenedUrls } from "./opened_urls.js";
 import { applicationsPanel } from "./panels/applications.js";
 import { devicePanel } from "./panels/device.js";
@@ -130,7 +130,7 @@ function showPage() {
         device: devicePanel(connection, attempt, holding),
         preferences: preferencesPanel(connection),
         rules: rulesPanel(connection),
-        pasteboard: pasteboardPanel(connection),
+        pasteboard: pasteboardPanel(connection, attempt),
         microphone: microphonePanel(connection),
         events: eventList,
     };
@@ -183,7 +183,9 @@ new Fingers(part("glass"), part("marks"), screen, connection);
 showWebPages(part("glass"), connection);
 showFilms(part("glass"), connection);
 tellOpenedUrls(connection, tell);
-typeInto(field, part("help"), connection);
+const keyboard = realKeyboard(connection, part("keys"));
+typeInto(field, part("help"), connection, keyboard.types, attempt);
+part("keys").onclick = () => attempt(keyboard.toggle);
 part("glass").addEventListener("pointerdown", () => field.focus({ preventScroll: true }));
 part("help").onclick = showHelp;
 part("home").onclick = holding.home;
@@ -218,6 +220,8 @@ window.addEventListener("keydown", (event) => {
         holding.lock();
     } else if (event.key === "s") {
         holding.shake();
+    } else if (event.key === "k") {
+        attempt(keyboard.toggle);
     }
 });
 const shownPanel = () => Object.values(panels).find(({ panel }) => !panel.hidden);

@@ -20,6 +20,7 @@ const words = {
     shake: ["摇一摇", "Shake"],
     rotate: ["旋转", "Rotate"],
     appearance: ["深色／浅色", "Light or dark"],
+    keys: ["屏幕键盘", "Keyboard"],
     screenshot: ["截图", "Screenshot"],
     help: ["键盘与手势", "Keys and gestures"],
     language: ["English", "中文"],
@@ -100,6 +101,8 @@ const words = {
     newText: ["要放入剪贴板的文字", "Text to put on the pasteboard"],
     putText: ["放入剪贴板", "Put on the pasteboard"],
     putImage: ["放入图片…", "Put a picture…"],
+    fromMachine: ["取自本机剪贴板", "Take from this machine"],
+    toMachine: ["复制到本机剪贴板", "Copy to this machine"],
     pasteboardImage: ["剪贴板上的图片", "Picture on the pasteboard"],
     microphone: ["麦克风", "Microphone"],
     microphoneHint: [

@@ -1,19 +1,23 @@
 // @ts-check
 // What lies on the phone's pasteboard, and putting text and pictures there.
+import { copyFromMachine, copyToMachine, putPicture, putText } from "../clipboard.js";
 import { element } from "../element.js";
 import { word } from "../words.js";
 
 /** @typedef {import("../connection.js").Connection} Connection */
 
-/** @param {Connection} connection */
-export function pasteboardPanel(connection) {
+/**
+ * @param {Connection} connection
+ * @param {(work: () => any) => void} attempt does what may fail and tells if it does
+ */
+export function pasteboardPanel(connection, attempt) {
     const content = element("div", { class: "card content", "aria-live": "polite" });
     const text = element("textarea", { rows: 4, "aria-label": word("newText"), placeholder: word("newText") });
     const file = element("input", {
         type: "file",
         accept: "image/*",
         hidden: true,
-        onchange: () => putPicture(),
+        onchange: () => attempt(putChosen),
     });
     const panel = element(
         "div",
@@ -23,9 +27,15 @@ export function pasteboardPanel(connection) {
         element(
             "div",
             { class: "buttons" },
-            element("button", { class: "main", onclick: () => putText() }, word("putText")),
+            element("button", { class: "main", onclick: () => attempt(putWritten) }, word("putText")),
             element("button", { onclick: () => file.click() }, word("putImage")),
             file,
+        ),
+        element(
+            "div",
+            { class: "buttons" },
+            element("button", { onclick: () => attempt(take) }, word("fromMachine")),
+            element("button", { onclick: () => attempt(() => copyToMachine(connection)) }, word("toMachine")),
         ),
     );
 
@@ -46,16 +56,21 @@ export function pasteboardPanel(connection) {
         );
     };
 
-    const putText = async () => {
-        await connection.ask("pasteboard", { set: text.value });
+    const putWritten = async () => {
+        await putText(connection, text.value);
         await refresh();
     };
 
-    const putPicture = async () => {
+    const take = async () => {
+        await copyFromMachine(connection);
+        await refresh();
+    };
+
+    const putChosen = async () => {
         const [chosen] = file.files ?? [];
         file.value = "";
         if (chosen) {
-            connection.send({ type: "paste", picture: await base64(chosen) });
+            await putPicture(connection, chosen);
             await refresh();
         }
     };
@@ -75,17 +90,4 @@ export function pasteboardPanel(connection) {
     };
 
     return { panel, refresh, isLive: true };
-}
-
-/** @returns {Promise<string>} */
-function base64(/** @type {Blob} */ file) {
-    return new Promise((resolve, reject) => {
-        const reader = new FileReader();
-        reader.onload = () => {
-            const address = String(reader.result);
-            resolve(address.slice(address.indexOf(",") + 1));
-        };
-        reader.onerror = () => reject(reader.error);
-        reader.readAsDataURL(file);
-    });
 }
