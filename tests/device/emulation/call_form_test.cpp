@@ -31,7 +31,7 @@ TEST(ValueShape, IsReadFromTheEncoding) {
              {"{R={P=dd}{S=dd}}", {32, 8, '{', 4}},
              {"{T=dddddd}", {48, 8, '{', 6}},
              {"{_NSRange=QQ}", {16, 8, '{', 0}},
-             {"{mixed=\"one\"f\"two\"d}", {16, 8, '{', 0}},
+             {R"({mixed="one"f"two"d})", {16, 8, '{', 0}},
              {"{padded=cqc}", {24, 8, '{', 0}},
              {"{small=ccs}", {4, 2, '{', 0}},
              {"{array=[3f]}", {12, 4, '{', 3}},

@@ -20,7 +20,7 @@ long answeredToHook = 0;
 
 signed char listen(objc::Next<signed char(long)> next, Gate, long bits) {
     const signed char answer = next(bits);
-    answeredToHook = answer;
+    answeredToHook = answer; // NOLINT(bugprone-signed-char-misuse): it is a number
     return answer;
 }
 
