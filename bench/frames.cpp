@@ -55,6 +55,22 @@ private:
     ShownScreen shown_;
 };
 
+/// The bytes of what is sent, against those of the tiles that differ anywhere on the screen.
+template <class Change>
+double sentByTiles(Scene& scene, ScreenImage& image, Frames& frames, Change change) {
+    const PixelRectangle everything{0, 0, image.width(), image.height()};
+    Frames exact;
+    exact.next(image, {everything});
+    std::size_t sent = 0;
+    std::size_t tiles = 0;
+    for (const bool odd : {true, false, true, false}) {
+        change(scene, odd);
+        sent += frames.next(image, image.refresh()).size();
+        tiles += exact.next(image, {everything}).size();
+    }
+    return static_cast<double>(sent) / static_cast<double>(tiles);
+}
+
 /// Changes the screen again and again, and makes the frames that a page would be sent.
 template <class Change>
 void measure(benchmark::State& state, Change change) {
@@ -71,6 +87,7 @@ void measure(benchmark::State& state, Change change) {
     }
     state.counters["bytes"] =
         benchmark::Counter(static_cast<double>(bytes), benchmark::Counter::kAvgIterations);
+    state.counters["byTiles"] = sentByTiles(scene, image, frames, change);
     state.counters["frames/s"] =
         benchmark::Counter(1, benchmark::Counter::kIsIterationInvariantRate);
 }

@@ -1,11 +1,13 @@
 // The toolbox's panel dragged on a page that only reads: frames a second, their bytes, and how long
 // a movement takes to become a frame.
 #include "bench/support/page_client.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
 #include <chrono>
+#include <stdexcept>
 
 namespace {
 
@@ -13,19 +15,24 @@ using namespace std::chrono_literals;
 using bench::PageClient;
 using nlohmann::json;
 
+/// A folder for a phone whose toolbox has a ball and a panel that is dragged.
+std::string preparedRoot(const support::TemporaryFolder& folder) {
+    const std::string root = folder.path();
+    PageClient({HOST_PATH, WENTRA_PATH, "plain", root})
+        .ask({{"do", "preferences"}, {"set", {{"kqwzfc", true}, {"kqxfyd", true}}}});
+    return root;
+}
+
 /// The panel, open and in hand, at the phone's own 3 pixels a point.
 class Drag {
 public:
     Drag() {
-        page_.ask({{"do", "preferences"},
-                   {"set", {{"kqwzfc", true}, {"kqxfyd", true}, {"显示悬浮球", true}}}});
         page_.ask(
             {{"do", "pasteboard"},
              {"set", "下午取快递，顺便买牛奶 Milk. The quick brown fox jumps over the lazy dog; "
                      "床前明月光，疑是地上霜。举头望明月，低头思故乡。"}});
         page_.say({{"type", "look"}, {"scale", 3}});
-        page_.ask({{"do", "tap"}, {"at", ball}});
-        page_.read(1s);
+        openPanel();
         page_.say(fingers("began", 0));
         page_.say(fingers("moved", 20)); // far enough for a drag to begin
         page_.read(500ms);
@@ -44,8 +51,22 @@ private:
         return {{"type", "fingers"}, {"phase", phase}, {"points", json::array({point})}};
     }
 
-    inline static const json ball{358, 222};
-    PageClient page_{HOST_PATH, WENTRA_PATH, "notes"};
+    bool isOpen() {
+        return !page_.ask({{"do", "find"}, {"where", {{"class", "UICollectionView"}}}}).empty();
+    }
+    void openPanel() {
+        constexpr int attempts = 30;
+        for (int attempt = 0; !isOpen(); ++attempt) {
+            if (attempt == attempts) {
+                throw std::runtime_error("the panel does not open");
+            }
+            page_.ask({{"do", "tap"}, {"at", {358, 222}}}); // the ball, as soon as it is there
+            page_.read(1s);
+        }
+    }
+
+    support::TemporaryFolder folder_;
+    PageClient page_{{HOST_PATH, WENTRA_PATH, "notes", preparedRoot(folder_)}};
     int step_ = 0;
 };
 

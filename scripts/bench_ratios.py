@@ -112,6 +112,13 @@ def show_others(results, time):
         frame = results[f"frame/{kind}"]
         print(f"{'frame, ' + kind.replace('_', ' '):58}{frame['bytes'] / 1024:.1f} KiB,"
               f" {frame['frames/s']:.0f} a second")
+    drag = results["framesOfADrag/iterations:1/real_time"]
+    show("frames a second of a dragged panel on a page that only reads", drag["frames/s"], "5.0f",
+         "at least 60")
+    show("bytes of a moved panel's frame / of the tiles that differ",
+         results["frame/panel_moves"]["byTiles"], "5.2f", "at most 1.2")
+    show("from a movement to its frame, in ms at the median",
+         results["movementToFrame/iterations:300/real_time"]["median_ms"], "5.1f", "at most 20")
     for name in ("panelDrag", "panelDragBetweenPixels", "panelPinch"):
         show(f"frames a second of one core, {name}", results[name]["frames"], "5.0f", "at least 60")
     show("frames a second while the screen is recorded",

@@ -51,8 +51,8 @@ std::unique_ptr<FILE, int (*)(FILE*)> spawn(pid_t& process, std::vector<std::str
 
 } // namespace
 
-PageClient::PageClient(const char* program, const char* library, const std::string& application) {
-    connect(start(program, library, application));
+PageClient::PageClient(const Program& program) {
+    connect(start(program));
     asio::co_spawn(context_, reading(), asio::detached);
 }
 
@@ -61,10 +61,9 @@ PageClient::~PageClient() {
     waitpid(process_, nullptr, 0);
 }
 
-PageClient::Address PageClient::start(const char* program, const char* library,
-                                      const std::string& application) {
-    const auto output = spawn(process_, {program, "--viewer", "--library", library, "--root",
-                                         folder_.path(), "--app", application});
+PageClient::Address PageClient::start(const Program& program) {
+    const auto output = spawn(process_, {program.host, "--viewer", "--library", program.library,
+                                         "--root", program.root, "--app", program.application});
     std::array<char, 4096> line{};
     while (std::fgets(line.data(), line.size(), output.get()) != nullptr) {
         unsigned port = 0;

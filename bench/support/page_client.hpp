@@ -1,14 +1,13 @@
 // A page without a browser: starts the host with its server, and only reads what it is sent.
 #pragma once
 
-#include "tests/support/temporary_folder.hpp"
-
 #include <boost/asio/awaitable.hpp>
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/ip/tcp.hpp>
 #include <boost/beast/websocket/stream.hpp>
 #include <nlohmann/json.hpp>
 
+#include <chrono>
 #include <cstdint>
 #include <deque>
 #include <functional>
@@ -20,9 +19,15 @@ namespace bench {
 
 class PageClient {
 public:
-    /// Starts the program with the library and the application, and connects; throws
-    /// std::exception.
-    PageClient(const char* program, const char* library, const std::string& application);
+    struct Program {
+        const char* host;
+        const char* library;
+        std::string application;
+        std::string root; ///< the folder of the phone's data
+    };
+
+    /// Starts the program and connects; throws std::exception.
+    explicit PageClient(const Program& program);
     PageClient(const PageClient&) = delete;
     PageClient& operator=(const PageClient&) = delete;
     /// Interrupts the host, and waits until it has ended.
@@ -50,7 +55,7 @@ private:
         std::string path;
     };
 
-    Address start(const char* program, const char* library, const std::string& application);
+    Address start(const Program& program);
     void connect(const Address& address);
     boost::asio::awaitable<void> reading();
     boost::asio::awaitable<void> writing();
@@ -58,7 +63,6 @@ private:
     void received(const std::vector<unsigned char>& message, bool isText);
     void runUntil(const std::function<bool()>& isDone);
 
-    support::TemporaryFolder folder_;
     pid_t process_ = -1;
     boost::asio::io_context context_{1};
     boost::beast::websocket::stream<boost::asio::ip::tcp::socket> stream_{context_};

@@ -180,6 +180,8 @@ test("only the printed address opens the phone", async () => {
         const status = (await fetch(host.address + path)).status;
         assert.ok(status === 404 || status === 403, `${path}: ${status}`);
     }
+    const unfinished = await fetch(host.address.replace(/\/$/, ""));
+    assert.deepEqual([unfinished.status, unfinished.url], [200, host.address]);
     const page = await fetch(host.address);
     assert.equal(page.headers.get("x-content-type-options"), "nosniff");
     assert.equal(page.headers.get("referrer-policy"), "no-referrer");
