@@ -42,7 +42,7 @@ End endOf(HostProcess& host, int signal) {
 /// machine that is busy with other things, half a second may need another try.
 template <class Begin>
 End interrupted(const std::vector<std::string>& options, Begin begin) {
-    constexpr milliseconds longest(500);
+    const milliseconds longest = milliseconds(500) * support::patience();
     End end{};
     for (int tries = 0; tries == 0 || (tries < 4 && end.took > longest); ++tries) {
         HostProcess host = tests::hostWith(options);

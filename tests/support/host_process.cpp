@@ -20,14 +20,7 @@ namespace {
 
 using nlohmann::json;
 
-/// How long the host may take to answer, in milliseconds; WENTRA_PATIENCE tells how many times as
-/// long a slow one may.
-int patience() {
-    constexpr int usual = 60'000;
-    constexpr int most = 1000;
-    const char* const times = std::getenv("WENTRA_PATIENCE");
-    return usual * std::clamp(times == nullptr ? 1 : std::atoi(times), 1, most);
-}
+int patienceInMilliseconds() { return 60'000 * patience(); }
 
 std::pair<int, int> makePipe() {
     std::array<int, 2> ends{};
@@ -56,6 +49,12 @@ std::pair<int, int> makePipe() {
 }
 
 } // namespace
+
+int patience() {
+    constexpr int most = 1000;
+    const char* const times = std::getenv("WENTRA_PATIENCE");
+    return std::clamp(times == nullptr ? 1 : std::atoi(times), 1, most);
+}
 
 std::string readFile(const std::filesystem::path& file) {
     std::ifstream stream(file, std::ios::binary);
@@ -116,7 +115,7 @@ json HostProcess::sendLine(const std::string& line) {
     std::size_t end = 0;
     while ((end = received_.find('\n')) == std::string::npos) {
         pollfd watched{output_, POLLIN, 0};
-        if (poll(&watched, 1, patience()) <= 0 || !receive()) {
+        if (poll(&watched, 1, patienceInMilliseconds()) <= 0 || !receive()) {
             ADD_FAILURE() << "no answer to " << line.substr(0, 200) << "\n" << errors();
             return nullptr;
         }
@@ -158,7 +157,7 @@ bool HostProcess::hasEnded() {
     const int process = static_cast<int>(syscall(SYS_pidfd_open, process_, 0));
     std::array<pollfd, 2> watched{{{process, POLLIN, 0}, {output_, POLLIN, 0}}};
     int ready = 0;
-    while ((ready = poll(watched.data(), watched.size(), patience())) > 0 &&
+    while ((ready = poll(watched.data(), watched.size(), patienceInMilliseconds())) > 0 &&
            watched[1].revents != 0) {
         if (!receive()) {
             watched[1].fd = -1; // closed: only the end is left to wait for

@@ -13,6 +13,9 @@
 
 namespace support {
 
+/// How many times as long as usual the host may take: 1, or what WENTRA_PATIENCE says.
+[[nodiscard]] int patience();
+
 /// Empty when there is no such file.
 [[nodiscard]] std::string readFile(const std::filesystem::path& file);
 
