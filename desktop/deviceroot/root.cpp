@@ -33,8 +33,13 @@ void append(char* entry, std::string_view text) {
     entry[length + text.size()] = 0;
 }
 
-// Children may be started in another folder: the path has to be absolute.
+// Children may be started in another folder: the path has to be absolute. Where this process is
+// emulated, theirs is another library, that of the machine.
 std::string_view libraryPath(char (&canonical)[PATH_MAX]) {
+    if (const char* const childrens = std::getenv("WENTRA_DEVICE_ROOT_LIBRARY");
+        childrens != nullptr && std::strlen(childrens) < PATH_MAX) {
+        return childrens;
+    }
     Dl_info information;
     if (dladdr(&rootEntry, &information) == 0 || information.dli_fname == nullptr) {
         return {};

@@ -61,6 +61,12 @@ TEST_F(ChildrenTest, InheritTheRootThroughAnOlderEnvironment) {
               0);
 }
 
+TEST_F(ChildrenTest, PreloadTheLibraryOfTheirMachine) {
+    EXPECT_EQ(run({"/bin/sh", "-c", "test \"${LD_PRELOAD%%:*}\" = /other.so"},
+                  {"WENTRA_DEVICE_ROOT_LIBRARY=/other.so"}),
+              0);
+}
+
 TEST_F(ChildrenTest, SeeTheRealFilesWithoutARoot) {
     deviceroot_set(nullptr);
     EXPECT_NE(std::system("test -e /var/mobile/x"), 0);
