@@ -50,6 +50,7 @@ if [[ "$kind" == emulated ]]; then
 fi
 cat >"$folder/host" <<END
 #!/bin/sh
+export WENTRA_DEVICE_ROOT_LIBRARY='$PWD/build/release/lib/libdeviceroot.so' # of programs that it starts
 exec qemu-aarch64-static -L '$PWD/build/sysroot' -0 '$folder/bin/host' '$folder/bin/host' "\$@"
 END
 chmod +x "$folder/host"

@@ -58,5 +58,8 @@ find "$folder" -type l -lname '/*' | while read -r link; do
 done
 # The compiler's own folder has it natively; the cross-compiler's has not.
 ln -sf libobjc.so.4 "$folder/usr/lib/$triple/libobjc.so"
+# What the package writes when it is installed.
+pixbuf="$folder/usr/lib/$triple/gdk-pixbuf-2.0"
+qemu-aarch64-static -L "$folder" "$pixbuf/gdk-pixbuf-query-loaders" >"$pixbuf/2.10.0/loaders.cache"
 rm -rf "$apt"
 printf '%s\n' "${wanted[*]}" >"$folder.packages"
