@@ -54,6 +54,7 @@ constexpr auto table = std::to_array<Row>({
     {"recognizer", &recognizer},
     {"appearance", &appearance},
     {"rotate", &rotate},
+    {"textSize", &textSize},
     {"home", &home},
     {"lock", &lock},
     {"shake", &shake},

@@ -57,6 +57,7 @@ Json keyboard(Session& session, const Json& request);
 // The model of phone, how it is held, its buttons, and its appearance.
 [[nodiscard]] Json appearance(Session& session, const Json& request);
 [[nodiscard]] Json rotate(Session& session, const Json& request);
+[[nodiscard]] Json textSize(Session& session, const Json& request);
 [[nodiscard]] Json home(Session& session, const Json& request);
 [[nodiscard]] Json lock(Session& session, const Json& request);
 [[nodiscard]] Json shake(Session& session, const Json& request);

@@ -3,6 +3,8 @@
 
 #include "desktop/runtime/clock.hpp"
 #include "desktop/uikit/application/device.hpp"
+#include "desktop/uikit/traits/content_size.hpp"
+#include "desktop/uikit/uikit.hpp"
 
 #include <cstdint>
 #include <filesystem>
@@ -35,6 +37,8 @@ struct Options {
     /// Puts a used phone's files on the device, as for a page.
     bool deviceFiles = false;
     Device device = usualDevice();
+    uikit::Appearance appearance = uikit::Appearance::light;
+    ContentSize textSize = ContentSize::large;
     /// The file with the screen's texts.
     std::optional<std::filesystem::path> content;
     bool listsApplications = false;

@@ -5,6 +5,7 @@
 #include "desktop/uikit/application/rotation.hpp"
 #include "desktop/uikit/application/screen.hpp"
 #include "desktop/uikit/events/shake.hpp"
+#include "desktop/uikit/traits/screen_traits.hpp"
 #include "desktop/uikit/uikit.hpp"
 
 namespace desktop::host {
@@ -27,6 +28,18 @@ Json rotate(Session&, const Json& request) {
                            "portraitUpsideDown");
     }
     return std::string(uikit::orientation());
+}
+
+Json textSize(Session&, const Json& request) {
+    if (argument(request, "set") != nullptr) {
+        const auto size = contentSizeNamed(stringArgument(request, "set"));
+        if (!size) {
+            throw RequestError("\"set\" must be a size from extraSmall to "
+                               "accessibilityExtraExtraExtraLarge");
+        }
+        setScreenContentSize(*size);
+    }
+    return nameOf(screenTraits().contentSize);
 }
 
 Json home(Session&, const Json& request) {

@@ -17,10 +17,12 @@
 #include "desktop/platform/platform.hpp"
 #include "desktop/runtime/process_end.hpp"
 #include "desktop/runtime/stop_request.hpp"
+#include "desktop/uikit/traits/screen_traits.hpp"
 #include "desktop/uikit/uikit.hpp"
 #include "desktop/viewer/access.hpp"
 #include "desktop/viewer/listener.hpp"
 #include "desktop/viewer/phone.hpp"
+#include "desktop/viewer/phone_settings.hpp"
 #include "desktop/viewer/resting_phone.hpp"
 #include "desktop/viewer/supervisor.hpp"
 
@@ -95,6 +97,8 @@ void launch(const App& app, const Options& options) {
         loadLibrary(libraryFile(options));
     }
     uikit::startApplication(options.device);
+    uikit::setAppearance(options.appearance);
+    setScreenContentSize(options.textSize);
     app.launch();
 }
 
@@ -196,9 +200,7 @@ int runForPage(const App& app, const Options& options) {
         if (start.application != app.name) {
             asked.bundle.reset(); // it was given for the first application
         }
-        if (const Device* chosen = deviceNamed(start.device); chosen != nullptr) {
-            asked.device = *chosen;
-        }
+        viewer::applySettings(start.settings, asked);
         return runDevice(*appNamed(start.application), asked, [&](Values& values) {
             const viewer::Phone phone(door, start, device.path(), values);
             runUntilStopped();

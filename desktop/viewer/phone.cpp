@@ -14,6 +14,7 @@
 #include "desktop/uikit/scrolling/wheel.hpp"
 #include "desktop/uikit/uikit.hpp"
 #include "desktop/uikit/values/image.hpp"
+#include "desktop/viewer/phone_settings.hpp"
 #include "desktop/viewer/welcome.hpp"
 
 #include <algorithm>
@@ -230,15 +231,13 @@ void Phone::answer(PageNumber page, const std::string& request) {
     }
 }
 
-void Phone::carryOut(const Launch& launch) {
-    startInstead(start_, launch, std::string(ScreenGeometry::current().device.name));
-}
+void Phone::carryOut(const Launch& launch) { startInstead(start_, launch, presentSettings()); }
 
-void startInstead(const Start& start, const Launch& launch, const std::string& device) {
+void startInstead(const Start& start, const Launch& launch, const std::string& settings) {
     if (host::appNamed(launch.application) == nullptr) {
         throw MessageError("unknown application: " + launch.application);
     }
-    nameSuccessor(start, launch.application, device);
+    nameSuccessor(start, launch.application, settings);
     stop_request::make();
 }
 

@@ -72,8 +72,8 @@ private:
     std::map<PageNumber, Watcher> watchers_; // their pictures are delivered to the server
 };
 
-/// Ends this process in favour of one that runs the application, on that device. Throws
+/// Ends this process in favour of one that runs the application with these settings. Throws
 /// MessageError when there is no application of that name.
-void startInstead(const Start& start, const Launch& launch, const std::string& device);
+void startInstead(const Start& start, const Launch& launch, const std::string& settings);
 
 } // namespace desktop::viewer

@@ -33,7 +33,7 @@ void RestingPhone::said(PageNumber page, const std::string& text) {
     try {
         const PageMessage message = parsePageMessage(text);
         if (const auto* launch = std::get_if<Launch>(&message); launch != nullptr) {
-            startInstead(start_, *launch, start_.device);
+            startInstead(start_, *launch, start_.settings);
         }
     } catch (const MessageError&) { // there is nothing else to do for a page
     }

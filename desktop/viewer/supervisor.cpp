@@ -127,7 +127,7 @@ int supervise(std::string application, const std::function<int(const Start&)>& p
         if (const std::string successor = names.content(); !successor.empty()) {
             const auto end = successor.find(nameEnd);
             start.application = successor.substr(0, end);
-            start.device = successor.substr(end + 1);
+            start.settings = successor.substr(end + 1);
             start.rests = false;
         } else if (!start.afterCrash) {
             return WEXITSTATUS(status);
@@ -144,10 +144,11 @@ int supervise(std::string application, const std::function<int(const Start&)>& p
     return EXIT_SUCCESS;
 }
 
-void nameSuccessor(const Start& start, const std::string& application, const std::string& device) {
-    const std::string names = application + nameEnd + device;
-    // Shorter than what a pipe takes at once; a full pipe already holds names.
-    static_cast<void>(!write(start.successor, names.data(), names.size()));
+void nameSuccessor(const Start& start, const std::string& application,
+                   const std::string& settings) {
+    const std::string text = application + nameEnd + settings;
+    // Shorter than what a pipe takes at once; a full pipe already holds a name.
+    static_cast<void>(!write(start.successor, text.data(), text.size()));
 }
 
 } // namespace desktop::viewer

@@ -9,8 +9,8 @@ namespace desktop::viewer {
 /// How a phone comes up.
 struct Start {
     std::string application;
-    /// The model of phone, by its name; empty: as the command line says.
-    std::string device;
+    /// What the phone was set to, in words that only its processes know; empty for the first one.
+    std::string settings;
     /// Whether the process before this one crashed.
     bool afterCrash = false;
     /// The application crashes again and again: it is not to be started before somebody asks.
@@ -26,9 +26,9 @@ struct Start {
 /// end with. Before any thread is started.
 int supervise(std::string application, const std::function<int(const Start&)>& phone);
 
-/// Asks, in the child, for another application (or the same one anew) on that device, each by its
-/// name. The child has to end then.
+/// Asks, in the child, for another application (or the same one anew), which gets these settings.
+/// The child has to end then.
 void nameSuccessor(const Start& start, const std::string& application,
-                   const std::string& device = {});
+                   const std::string& settings = {});
 
 } // namespace desktop::viewer

@@ -26,8 +26,13 @@ test("another model is chosen, and the application starts anew on it and stays o
     assert.equal((await shape()).cutout[0], false);
     assert.equal((await phone.do("find", { where: { class: "UINavigationBar" } }))[0].rect[1], 20);
 
+    await phone.page.locator("#text-size").fill("5");
+    await phone.do("appearance", { set: "dark" });
+    assert.equal(await phone.do("textSize"), "extraExtraLarge");
     await phone.restart();
     assert.equal((await phone.do("device")).name, "iPhone SE");
+    assert.equal(await phone.do("textSize"), "extraExtraLarge");
+    assert.equal(await phone.do("appearance"), "dark");
     await phone.page.click("#tab-device");
     assert.equal(await phone.page.inputValue("#model"), "iPhone SE");
 });

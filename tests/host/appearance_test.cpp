@@ -32,4 +32,16 @@ TEST_F(Appearance, ReachesWhatTheApplicationShows) {
     EXPECT_EQ(phone_.node(label)["textColor"], "#000000ff");
 }
 
+TEST(TextSize, ReachesLabelsThatFollowIt) {
+    Phone phone{{"--app", "settings"}};
+    const auto size = [&phone] {
+        return phone.find({{"text", "蓝牙"}})[0]["font"]["size"].get<double>();
+    };
+    EXPECT_EQ(phone.result({{"do", "textSize"}}), "large");
+    EXPECT_EQ(size(), 17);
+    EXPECT_EQ(phone.result({{"do", "textSize"}, {"set", "extraExtraLarge"}}), "extraExtraLarge");
+    EXPECT_EQ(size(), 21);
+    EXPECT_NE(phone.error({{"do", "textSize"}, {"set", "unspecified"}}), "");
+}
+
 } // namespace

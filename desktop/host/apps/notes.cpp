@@ -4,6 +4,7 @@
 #include "desktop/host/apps/notes_content.hpp"
 #include "desktop/host/apps/screen_parts.hpp"
 #include "desktop/host/apps/yy_label.hpp"
+#include "desktop/uikit/traits/content_size.hpp"
 
 #include "bindings/applications/yy_label.hpp"
 #include "bindings/uikit/application.hpp"
@@ -54,11 +55,12 @@ void Page::addCard(const NotesContent::Card& card) {
     stack.setAxis(ui::Axis::vertical);
     stack.setSpacing(6);
     stack.addArrangedSubview(
-        dressed(ui::Label::withFrame({}), card.title, {.weight = ui::Font::semibold}));
+        following(dressed(ui::Label::withFrame({}), card.title), text_styles::headline));
     for (const std::string& line : card.lines) {
         stack.addArrangedSubview(
-            dressed(ui::Label::withFrame({}), line,
-                    {.size = 15, .color = ui::Color::secondaryLabel(), .lines = 0}));
+            following(dressed(ui::Label::withFrame({}), line,
+                              {.color = ui::Color::secondaryLabel(), .lines = 0}),
+                      text_styles::subheadline));
     }
     const double width = width_ - 2 * padding;
     const double height = stack.sizeThatFits({width, 0}).height;

@@ -5,6 +5,8 @@
 #include "bindings/uikit/navigation_bar.hpp"
 #include "bindings/uikit/screen.hpp"
 #include "desktop/uikit/application/screen.hpp"
+#include "desktop/uikit/traits/screen_traits.hpp"
+#include "desktop/uikit/values/font.hpp"
 
 namespace desktop::host {
 namespace {
@@ -16,6 +18,12 @@ constexpr double cornerRadius = 12;
 ui::Color pageColor() { return ui::Color::named("systemGroupedBackgroundColor"); }
 ui::Color cardColor() { return ui::Color::named("secondarySystemGroupedBackgroundColor"); }
 ui::Color separatorColor() { return ui::Color::named("separatorColor"); }
+
+ui::Label following(ui::Label label, std::u16string_view style) {
+    label.setFont(UIFont::preferred(style, screenTraits().contentSize));
+    label.send<"setAdjustsFontForContentSizeCategory:">(true);
+    return label;
+}
 
 ui::View cardWithFrame(CGRect frame) {
     const auto card = ui::View::withFrame(frame);

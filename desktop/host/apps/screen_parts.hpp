@@ -32,6 +32,9 @@ AnyLabel dressed(AnyLabel label, std::string_view text, const TextLook& look = {
     return label;
 }
 
+/// The label in the font of that style of text, at whatever size the phone's texts have.
+ui::Label following(ui::Label label, std::u16string_view style);
+
 /// A box of the cards' colour with round corners.
 ui::View cardWithFrame(CGRect frame);
 

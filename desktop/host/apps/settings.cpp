@@ -11,6 +11,7 @@
 #include "bindings/uikit/scroll_view.hpp"
 #include "bindings/uikit/table_view_label.hpp"
 #include "desktop/class.hpp"
+#include "desktop/uikit/traits/content_size.hpp"
 
 #include <array>
 #include <span>
@@ -63,8 +64,10 @@ void addRow(ui::View card, double top, const Row& row, ui::View icon) {
     icon.setFrame({{margin, top + (rowHeight - iconSize) / 2}, {iconSize, iconSize}});
     card.addSubview(icon);
 
-    card.addSubview(dressed(
-        ui::TableViewLabel::withFrame({{textLeft, top}, {width / 2, rowHeight}}), row.title));
+    card.addSubview(
+        following(dressed(ui::TableViewLabel::withFrame({{textLeft, top}, {width / 2, rowHeight}}),
+                          row.title),
+                  text_styles::body));
     constexpr double arrowWidth = 8;
     const auto arrow = dressed(ui::TableViewLabel::withFrame(
                                    {{width - margin - arrowWidth, top}, {arrowWidth, rowHeight}}),
@@ -76,6 +79,7 @@ void addRow(ui::View card, double top, const Row& row, ui::View icon) {
         dressed(ui::TableViewLabel::withFrame(
                     {{valueLeft, top}, {width - valueLeft - margin - arrowWidth - 8, rowHeight}}),
                 row.value, {.color = ui::Color::secondaryLabel()});
+    following(value, text_styles::body);
     value.setTextAlignment(ui::TextAlignment::right);
     value.setAutoresizingMask(ui::ViewAutoresizing::flexibleLeftMargin);
     card.addSubview(value);

@@ -8,6 +8,7 @@
 #include "desktop/uikit/application/window.hpp"
 #include "desktop/uikit/events/first_responder.hpp"
 #include "desktop/uikit/text/text_effects_window.hpp"
+#include "desktop/uikit/traits/screen_traits.hpp"
 
 #include <algorithm>
 #include <string_view>
@@ -62,6 +63,10 @@ void Application::show(ui::Window window) {
         windows_, [level](ui::Window other) { return Window::of(other).level() > level; });
     windows_.insert(place, window);
     ScreenChanges::shared().announce();
+}
+
+ns::String Application::contentSizeCategory() const {
+    return ns::String::from(categoryOf(screenTraits().contentSize));
 }
 
 /// Every application is installed, as far as one can tell.

@@ -23,6 +23,7 @@ public:
             objc::method<"keyWindow", &Application::keyWindow>(),
             objc::method<"connectedScenes", &Application::connectedScenes>(),
             objc::method<"applicationState", &Application::applicationState>(),
+            objc::method<"preferredContentSizeCategory", &Application::contentSizeCategory>(),
             objc::method<"canOpenURL:", &Application::canOpenUrl>(),
             objc::method<"openURL:", &Application::openUrl>(),
             objc::method<"openURL:options:completionHandler:", &Application::openUrlWithOptions>(),
@@ -48,6 +49,7 @@ private:
     static ui::Application sharedApplication(Class);
     [[nodiscard]] ns::Array windows() const;
     [[nodiscard]] ns::Set connectedScenes() const { return ns::Set::withObject(scene_); }
+    [[nodiscard]] ns::String contentSizeCategory() const;
     [[nodiscard]] bool canOpenUrl(ns::Url url) const;
     bool openUrl(ns::Url url);
     void openUrlWithOptions(ns::Url url, ns::Dictionary options,

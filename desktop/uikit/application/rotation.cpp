@@ -60,7 +60,8 @@ bool isSupported(ui::InterfaceOrientation orientation) {
 void announce(const Windows& windows, const ScreenGeometry& coming,
               TransitionCoordinatorKind coordinator) {
     const Traits now = screenTraits();
-    const auto traits = TraitCollection::with(phoneTraits(coming.size, coming.scale, now.style));
+    const auto traits =
+        TraitCollection::with(phoneTraits(coming.size, coming.scale, now.style, now.contentSize));
     for (const auto& window : windows) {
         const ui::ViewController root = window.rootViewController();
         if (TraitCollection::valueOf(traits) != now) {

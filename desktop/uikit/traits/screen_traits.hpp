@@ -11,6 +11,9 @@ namespace desktop {
 /// Makes the phone light or dark, and tells its windows. Main thread.
 void setScreenStyle(ui::InterfaceStyle style);
 
+/// Makes texts larger or smaller, where an application lets them be, and tells it. Main thread.
+void setScreenContentSize(ContentSize size);
+
 /// Tells the windows on the screen what its traits are now. Main thread.
 void spreadScreenTraits();
 

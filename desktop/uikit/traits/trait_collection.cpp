@@ -10,6 +10,12 @@
 namespace desktop {
 namespace {
 
+ui::TraitCollection tellingContentSize(Class, ns::String category) {
+    Traits traits;
+    traits.contentSize = contentSizeOf(category.utf16());
+    return TraitCollection::with(traits);
+}
+
 template <auto Member>
 ui::TraitCollection telling(Class, std::remove_cvref_t<decltype(Traits().*Member)> value) {
     Traits traits;
@@ -41,6 +47,8 @@ std::vector<objc::MethodRow> TraitCollection::methods() {
                           &telling<&Traits::horizontal>>(),
         objc::classMethod<"traitCollectionWithVerticalSizeClass:", &telling<&Traits::vertical>>(),
         objc::classMethod<"traitCollectionWithDisplayScale:", &telling<&Traits::scale>>(),
+        objc::classMethod<"traitCollectionWithPreferredContentSizeCategory:",
+                          &tellingContentSize>(),
         objc::classMethod<"traitCollectionWithTraitsFromCollections:", &merging>(),
         objc::classMethod<"currentTraitCollection", &current>(),
         objc::classMethod<"setCurrentTraitCollection:", &setCurrent>(),
@@ -48,6 +56,7 @@ std::vector<objc::MethodRow> TraitCollection::methods() {
         objc::method<"userInterfaceLevel", &TraitCollection::level>(),
         objc::method<"horizontalSizeClass", &TraitCollection::horizontal>(),
         objc::method<"verticalSizeClass", &TraitCollection::vertical>(),
+        objc::method<"preferredContentSizeCategory", &TraitCollection::contentSizeCategory>(),
         objc::method<"displayScale", &TraitCollection::scale>(),
         objc::method<"userInterfaceIdiom", &TraitCollection::idiom>(),
         objc::method<"performAsCurrentTraitCollection:", &TraitCollection::performAsCurrent>(),

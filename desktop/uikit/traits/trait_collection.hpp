@@ -28,6 +28,9 @@ private:
     [[nodiscard]] ui::SizeClass horizontal() const { return traits_.horizontal; }
     [[nodiscard]] ui::SizeClass vertical() const { return traits_.vertical; }
     [[nodiscard]] double scale() const { return traits_.scale; }
+    [[nodiscard]] ns::String contentSizeCategory() const {
+        return ns::String::from(categoryOf(traits_.contentSize));
+    }
     /// 0: a phone.
     [[nodiscard]] long idiom() const { return 0; }
     void performAsCurrent(objc::Block<void()> actions) const;

@@ -5,7 +5,7 @@
 
 namespace desktop {
 
-Traits phoneTraits(CGSize screen, double scale, ui::InterfaceStyle style) {
+Traits phoneTraits(CGSize screen, double scale, ui::InterfaceStyle style, ContentSize contentSize) {
     // Held sideways, only the large phones have room for two columns.
     constexpr double largePhone = 414;
     const bool isUpright = screen.height >= screen.width;
@@ -16,6 +16,7 @@ Traits phoneTraits(CGSize screen, double scale, ui::InterfaceStyle style) {
     traits.vertical = isUpright ? ui::SizeClass::regular : ui::SizeClass::compact;
     traits.scale = scale;
     traits.level = ui::InterfaceLevel::base;
+    traits.contentSize = contentSize;
     return traits;
 }
 
@@ -30,6 +31,7 @@ Traits merged(Traits traits, const Traits& over) {
     take(&Traits::vertical);
     take(&Traits::scale);
     take(&Traits::level);
+    take(&Traits::contentSize);
     return traits;
 }
 

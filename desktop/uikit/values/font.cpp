@@ -2,6 +2,8 @@
 #include "desktop/uikit/values/font.hpp"
 
 #include "desktop/drawing/font_catalogue.hpp"
+#include "desktop/uikit/traits/screen_traits.hpp"
+#include "desktop/uikit/traits/trait_collection.hpp"
 #include "desktop/uikit/values/immutable.hpp"
 
 #include <array>
@@ -57,6 +59,13 @@ ui::Font monospacedDigitFont(Class, double size, double weight) {
     return UIFont::with(font);
 }
 
+ui::Font preferredFontIn(Class, ns::String style, ui::TraitCollection traits) {
+    const ContentSize told = TraitCollection::valueOf(traits).contentSize;
+    const bool isTold = told != ContentSize::unspecified;
+    return UIFont::preferred(style.utf16(), isTold ? told : screenTraits().contentSize);
+}
+ui::Font preferredFont(Class, ns::String style) { return preferredFontIn(nullptr, style, nullptr); }
+
 ui::Font fontWithName(Class, ns::String name, double size) {
     const auto font = fontNamed(name.utf8(), size);
     return font ? UIFont::with(*font) : nullptr;
@@ -83,6 +92,9 @@ std::vector<objc::MethodRow> UIFont::methods() {
         objc::classMethod<"italicSystemFontOfSize:", &italicSystemFont>(),
         objc::classMethod<"monospacedSystemFontOfSize:weight:", &monospacedSystemFont>(),
         objc::classMethod<"monospacedDigitSystemFontOfSize:weight:", &monospacedDigitFont>(),
+        objc::classMethod<"preferredFontForTextStyle:", &preferredFont>(),
+        objc::classMethod<"preferredFontForTextStyle:compatibleWithTraitCollection:",
+                          &preferredFontIn>(),
         objc::classMethod<"fontWithName:size:", &fontWithName>(),
         objc::classMethod<"familyNames", &families>(),
         objc::classMethod<"fontNamesForFamilyName:", &namesOfFamily>(),
@@ -108,6 +120,18 @@ ui::Font UIFont::with(Font value) {
     const auto font = ui::Font::make();
     of(font).value_ = std::move(value);
     return font;
+}
+
+ui::Font UIFont::preferred(std::u16string_view name, ContentSize size) {
+    const TextStyle& style = textStyleNamed(name);
+    const ui::Font font = with(system(style.sizeIn(size), style.weight));
+    of(font).style_ = &style;
+    return font;
+}
+
+ui::Font UIFont::resized(ui::Font font, ContentSize size) {
+    const TextStyle* style = font ? of(font).style_ : nullptr;
+    return style != nullptr ? preferred(style->name, size) : font;
 }
 
 ui::Font UIFont::withSize(double size) const {

@@ -6,6 +6,7 @@
 
 #include "desktop/class.hpp"
 #include "desktop/drawing/font.hpp"
+#include "desktop/uikit/traits/content_size.hpp"
 
 namespace desktop {
 
@@ -17,6 +18,10 @@ public:
     static constexpr double defaultSize = 17;
     static Font valueOf(ui::Font font);
     static ui::Font with(Font value);
+    /// The font of that style of text, by the platform's name.
+    static ui::Font preferred(std::u16string_view style, ContentSize size);
+    /// The same font, or, when it is that of a style of text, the style's in that size.
+    static ui::Font resized(ui::Font font, ContentSize size);
 
 private:
     [[nodiscard]] ui::Font withSize(double size) const;
@@ -32,6 +37,7 @@ private:
     [[nodiscard]] unsigned long hash() const;
 
     Font value_;
+    const TextStyle* style_ = nullptr; ///< the style of text that it was made for
 };
 
 } // namespace desktop

@@ -6,6 +6,7 @@
 #include "desktop/uikit/text/text_alignment.hpp"
 #include "desktop/uikit/values/color.hpp"
 #include "desktop/uikit/values/font.hpp"
+#include "desktop/uikit/views/view.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -67,6 +68,19 @@ void Label::setFont(ui::Font font) {
     font_ = font ? font : ui::Font::system(UIFont::defaultSize);
     addAttribute(ui::attributes::font(), font_);
     changed();
+}
+
+void Label::traitsChanged(objc::Object) {
+    flow_.reset(); // it holds colours
+    resize();
+}
+
+/// A font that was made for a style of text follows the size that a person wants.
+void Label::resize() {
+    const ContentSize size = View::of(self()).traits().contentSize;
+    if (const ui::Font font = UIFont::resized(font_, size); followsTextSize_ && font != font_) {
+        setFont(font);
+    }
 }
 
 void Label::setTextColor(ui::Color color) {

@@ -28,6 +28,8 @@ public:
             objc::property<"numberOfLines", &Label::numberOfLines_, &Label::changed>(),
             objc::property<"preferredMaxLayoutWidth", &Label::preferredWidth_, &Label::changed>(),
             objc::property<"adjustsFontSizeToFitWidth", &Label::adjusts_, &Label::changed>(),
+            objc::property<"adjustsFontForContentSizeCategory", &Label::followsTextSize_,
+                           &Label::resize>(),
             objc::property<"minimumScaleFactor", &Label::minimumScale_, &Label::changed>(),
             objc::flag<"enabled", &Label::enabled_>(),
             objc::flag<"highlighted", &Label::highlighted_>(),
@@ -50,7 +52,8 @@ private:
     [[nodiscard]] ui::Color textColor() const { return textColor_; }
     void setTextColor(ui::Color color);
     void changed();
-    void traitsChanged(objc::Object) { flow_.reset(); } // it holds colours
+    void traitsChanged(objc::Object);
+    void resize();
     void drawRect(CGRect dirty);
     void draw(Canvas& canvas, CGRect bounds) const;
     bool drawLongText(Canvas& canvas, CGRect bounds);
@@ -81,6 +84,7 @@ private:
     double preferredWidth_ = 0;
     double minimumScale_ = 0;
     bool adjusts_ = false;
+    bool followsTextSize_ = false;
     bool enabled_ = true;
     bool highlighted_ = false;
 };

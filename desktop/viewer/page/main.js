@@ -174,7 +174,12 @@ for (const told of ["welcome", "resting"]) {
         showPage();
     });
 }
-screen.addEventListener("turned", fitScreen);
+screen.addEventListener("turned", () => {
+    fitScreen();
+    if (phone) {
+        panels.device.welcome?.({ ...phone, screen: screen.size });
+    }
+});
 connection.addEventListener("refused", (event) => {
     tell(word("failed") + /** @type {CustomEvent} */ (event).detail.why);
 });

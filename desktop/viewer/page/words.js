@@ -63,6 +63,7 @@ const words = {
         "Another model starts the application anew; the phone's files and settings stay.",
     ],
     model: ["机型", "Model"],
+    textSize: ["文字大小", "Text size"],
     otherDevice: ["其他尺寸", "Another size"],
     homeButton: ["主屏幕按钮", "home button"],
     notch: ["刘海", "notch"],

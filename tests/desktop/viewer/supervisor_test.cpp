@@ -21,7 +21,7 @@ TEST(Supervisor, StartsTheNamedSuccessor) {
             nameSuccessor(start, "two", "a phone");
             return 5;
         }
-        const bool isNamed = start.application == "two" && start.device == "a phone";
+        const bool isNamed = start.application == "two" && start.settings == "a phone";
         return isNamed && !start.afterCrash ? 7 : 8;
     };
     EXPECT_EQ(supervise("one", phone), 7);

@@ -5,8 +5,12 @@ import { word } from "../words.js";
 
 /** @typedef {import("../connection.js").Connection} Connection */
 
-/** What a phone has, by the protocol's names. @type {Record<string, string>} */
-const fronts = { homeButton: "homeButton", notch: "notch", island: "island" };
+/** The protocol's names of text sizes, from small to large. */
+const textSizes = [
+    "extraSmall", "small", "medium", "large", "extraLarge", "extraExtraLarge", "extraExtraExtraLarge",
+    "accessibilityMedium", "accessibilityLarge", "accessibilityExtraLarge", "accessibilityExtraExtraLarge",
+    "accessibilityExtraExtraExtraLarge",
+];
 
 /** A row with a name and a control. */
 const row = (/** @type {string} */ name, /** @type {HTMLElement} */ control) =>
@@ -21,6 +25,8 @@ export function devicePanel(connection, attempt, { shake }) {
     const panel = element("div", { class: "panel device" });
     const model = element("select", { id: "model" });
     const facts = element("p", { class: "hint" });
+    const sizes = textSizes.length - 1;
+    const size = element("input", { id: "text-size", type: "range", min: 0, max: sizes, step: 1 });
     let application = "";
 
     model.onchange = () =>
@@ -30,8 +36,14 @@ export function devicePanel(connection, attempt, { shake }) {
             connection.send({ type: "launch", application });
         });
 
+    size.onchange = () => attempt(() => connection.ask("textSize", { set: textSizes[Number(size.value)] }));
+
     return {
         panel,
+        refresh: async () => {
+            size.value = String(textSizes.indexOf(await connection.ask("textSize")));
+        },
+        /** The phone came up, or its screen has become another one. */
         welcome(/** @type {any} */ phone) {
             application = phone.application;
             if (!phone.screen) {
@@ -43,10 +55,10 @@ export function devicePanel(connection, attempt, { shake }) {
                 ...names.map((/** @type {string} */ name) =>
                     element("option", { value: name, selected: name === device }, name || word("otherDevice"))),
             );
-            facts.textContent = `${width} × ${height} @ ${scale}× · ${word(fronts[front])}`;
+            facts.textContent = `${width} × ${height} @ ${scale}× · ${word(front)}`;
             panel.replaceChildren(
                 element("p", { class: "hint" }, word("deviceHint")),
-                element("ul", { class: "card" }, row("model", model)),
+                element("ul", { class: "card" }, row("model", model), row("textSize", size)),
                 facts,
                 element("button", { id: "shake", onclick: shake }, word("shake")),
             );

@@ -1,0 +1,90 @@
+// Text sizes: categories, styles, and what follows them.
+#include "tests/desktop/uikit/uikit_fixture.hpp"
+
+#include "bindings/foundation/notification_center.hpp"
+#include "bindings/uikit/application.hpp"
+#include "bindings/uikit/label.hpp"
+#include "desktop/uikit/traits/screen_traits.hpp"
+#include "desktop/uikit/values/font.hpp"
+
+namespace {
+
+using desktop::ContentSize;
+using desktop::UIFont;
+namespace text_styles = desktop::text_styles;
+
+TEST(ContentSizes, HaveNamesAndConstants) {
+    EXPECT_EQ(desktop::contentSizeNamed("large"), ContentSize::large);
+    EXPECT_EQ(desktop::contentSizeNamed("unspecified"), std::nullopt);
+    EXPECT_EQ(desktop::contentSizeNamed("huge"), std::nullopt);
+    EXPECT_EQ(desktop::contentSizeOf(u"UICTContentSizeCategoryAccessibilityXXXL"),
+              ContentSize::accessibilityExtraExtraExtraLarge);
+    EXPECT_EQ(desktop::categoryOf(ContentSize::extraSmall), u"UICTContentSizeCategoryXS");
+}
+
+TEST(TextStyles, GrowWithTheCategory) {
+    struct Case {
+        std::u16string_view style;
+        ContentSize size;
+        double points;
+    };
+    for (const auto& [style, size, points] : {
+             Case{text_styles::body, ContentSize::large, 17},
+             Case{text_styles::body, ContentSize::unspecified, 17},
+             Case{text_styles::body, ContentSize::extraSmall, 14},
+             Case{text_styles::body, ContentSize::accessibilityExtraExtraExtraLarge, 53},
+             Case{text_styles::subheadline, ContentSize::extraLarge, 17},
+             Case{u"UICTFontTextStyleTitle0", ContentSize::large, 34},
+             Case{u"no style", ContentSize::large, 17},
+         }) {
+        EXPECT_EQ(desktop::textStyleNamed(style).sizeIn(size), points);
+    }
+}
+
+class ContentSizeTest : public tests::UIKitTest {
+protected:
+    void SetUp() override {
+        window_.makeKeyAndVisible();
+        label_.setText(ns::String::fromUtf8("text"));
+        window_.addSubview(label_);
+    }
+    void TearDown() override { desktop::setScreenContentSize(ContentSize::large); }
+    double points() const { return label_.font().pointSize(); }
+
+    objc::Strong<ui::Window> window_ = ui::Window::withFrame({{}, {390, 844}});
+    objc::Strong<ui::Label> label_ = ui::Label::withFrame({{10, 100}, {200, 40}});
+};
+
+TEST_F(ContentSizeTest, ALabelFollowsWhenItsFontIsThatOfAStyle) {
+    label_.setFont(UIFont::preferred(text_styles::body, ContentSize::large));
+    desktop::setScreenContentSize(ContentSize::extraLarge);
+    EXPECT_EQ(points(), 17) << "it does not adjust";
+    label_.send<"setAdjustsFontForContentSizeCategory:">(true);
+    EXPECT_EQ(points(), 19);
+    desktop::setScreenContentSize(ContentSize::small);
+    EXPECT_EQ(points(), 15);
+    label_.setFont(ui::Font::system(20));
+    desktop::setScreenContentSize(ContentSize::large);
+    EXPECT_EQ(points(), 20) << "it is no style's font";
+}
+
+TEST_F(ContentSizeTest, TheApplicationIsTold) {
+    using namespace ns::literals;
+    std::string told;
+    const auto center = ns::NotificationCenter::defaultCenter();
+    const objc::Strong<objc::Object> observer = center.addObserverForName(
+        u"UIContentSizeCategoryDidChangeNotification"_ns, nullptr, nullptr,
+        objc::Block<void(ns::Notification)>::from([&told](ns::Notification) {
+            told = ui::Application::sharedApplication()
+                       .send<"preferredContentSizeCategory", ns::String>()
+                       .utf8();
+        }));
+    desktop::setScreenContentSize(ContentSize::extraLarge);
+    EXPECT_EQ(told, "UICTContentSizeCategoryXL");
+    told.clear();
+    desktop::setScreenContentSize(ContentSize::extraLarge);
+    EXPECT_EQ(told, "") << "nothing has changed";
+    center.send<"removeObserver:">(observer);
+}
+
+} // namespace
