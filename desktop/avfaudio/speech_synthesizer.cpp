@@ -44,6 +44,12 @@ void recordSpeech(const SpeechUtterance& utterance, const std::string& file) {
     EventLog::shared().record("speech", fields);
 }
 
+void recordStart(const std::string& file) {
+    const auto fields = ns::MutableDictionary::make();
+    fields.set(ns::String::fromUtf8(file), u"file"_ns);
+    EventLog::shared().record("speechStarted", fields);
+}
+
 } // namespace
 
 SpeechSynthesizer::~SpeechSynthesizer() { Clock::shared().cancel(ticket_); }
@@ -115,6 +121,7 @@ void SpeechSynthesizer::sound() {
     const Entry entry = queue_.front();
     const speech::Sound sound = speech::soundOf(SpeechUtterance::of(entry.utterance).speech());
     writeFile(entry.file, sound);
+    recordStart(entry.file);
     enter(Phase::sounding, sound.seconds());
     tellDelegate<"speechSynthesizer:didStartSpeechUtterance:">(entry.utterance);
 }

@@ -30,6 +30,7 @@ constexpr auto table = std::to_array<Row>({
     {"make", &make},
     {"tree", &tree},
     {"find", &find},
+    {"at", &at},
     {"tap", &tap},
     {"press", &press},
     {"slide", &slide},

@@ -26,6 +26,7 @@ using Command = Json (*)(Session& session, const Json& request);
 [[nodiscard]] Json make(Session& session, const Json& request);
 [[nodiscard]] Json tree(Session& session, const Json& request);
 [[nodiscard]] Json find(Session& session, const Json& request);
+[[nodiscard]] Json at(Session& session, const Json& request);
 // Fingers on the screen.
 [[nodiscard]] Json tap(Session& session, const Json& request);
 [[nodiscard]] Json press(Session& session, const Json& request);

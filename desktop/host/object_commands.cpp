@@ -1,6 +1,7 @@
 // Commands that talk to objects and look at views.
 #include "desktop/host/arguments.hpp"
 #include "desktop/host/commands.hpp"
+#include "desktop/host/hooked_methods.hpp"
 #include "desktop/host/message.hpp"
 #include "desktop/host/view_node.hpp"
 #include "desktop/host/view_search.hpp"
@@ -61,6 +62,18 @@ Json tree(Session& session, const Json& request) {
 
 Json find(Session& session, const Json& request) {
     return findNodes(session.values, anyArgument(request, "where"));
+}
+
+Json at(Session& session, const Json& request) {
+    const CGPoint point = pointArgument(request, "point");
+    uikit::layoutWindows();
+    const ui::View view = viewSeenAt(point);
+    if (!view) {
+        return nullptr;
+    }
+    Json node = viewNode(session.values, view);
+    node["hooks"] = hookedMethods(object_getClass(view.raw()));
+    return node;
 }
 
 } // namespace desktop::host

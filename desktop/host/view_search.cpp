@@ -5,6 +5,7 @@
 #include "bindings/uikit/screen.hpp"
 #include "desktop/host/half_pairs.hpp"
 #include "desktop/host/view_node.hpp"
+#include "desktop/uikit/events/touch_dispatcher.hpp"
 #include "desktop/uikit/uikit.hpp"
 
 #include <algorithm>
@@ -97,6 +98,26 @@ void search(ui::View view, const std::vector<Wanted>& wanted, std::vector<ui::Vi
     }
 }
 
+bool contains(CGRect rect, CGPoint point) {
+    return point.x >= rect.origin.x && point.x < rect.origin.x + rect.size.width &&
+           point.y >= rect.origin.y && point.y < rect.origin.y + rect.size.height;
+}
+
+/// The same below one view; the point is in its coordinates.
+ui::View seenIn(ui::View view, CGPoint point) {
+    const bool isInside = contains(view.bounds(), point);
+    if (view.isHidden() || view.alpha() <= 0 || (!isInside && view.send<"clipsToBounds", bool>())) {
+        return nullptr;
+    }
+    ui::View seen = isInside ? view : nullptr;
+    for (const ui::View child : view.subviews()) { // back to front
+        if (const ui::View inner = seenIn(child, view.convertPoint(point, child)); inner) {
+            seen = inner;
+        }
+    }
+    return seen;
+}
+
 } // namespace
 
 Json findNodes(Values& values, const Json& where) {
@@ -111,6 +132,16 @@ Json findNodes(Values& values, const Json& where) {
         nodes.push_back(viewNode(values, view));
     }
     return nodes;
+}
+
+ui::View viewSeenAt(CGPoint screenPoint) {
+    ui::View seen;
+    for (const ui::Window window : ui::Application::sharedApplication().windows()) {
+        if (const ui::View inner = seenIn(window, intoWindow(window, screenPoint)); inner) {
+            seen = inner;
+        }
+    }
+    return seen;
 }
 
 } // namespace desktop::host

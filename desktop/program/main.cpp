@@ -5,6 +5,7 @@
 #include "desktop/host/device_folder.hpp"
 #include "desktop/host/event_recording.hpp"
 #include "desktop/host/forced_end.hpp"
+#include "desktop/host/hooked_methods.hpp"
 #include "desktop/host/main_loop.hpp"
 #include "desktop/host/options.hpp"
 #include "desktop/host/settings_bundle.hpp"
@@ -93,6 +94,7 @@ void setClock(const Options& options) {
 void launch(const App& app, const Options& options) {
     const objc::Pool pool;
     app.registerClasses();
+    rememberMethods();
     if (options.loadsLibrary) {
         loadLibrary(libraryFile(options));
     }

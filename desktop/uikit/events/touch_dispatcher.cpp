@@ -25,11 +25,6 @@ struct Hit {
     CGPoint point; ///< in the window
 };
 
-CGPoint intoWindow(ui::Window window, CGPoint screenPoint) {
-    const auto toWindow = inverted(View::of(window).layer().toSuperlayer());
-    return toWindow ? apply(*toWindow, screenPoint) : screenPoint;
-}
-
 Hit hitAt(CGPoint screenPoint) {
     if (!Foreground::shared().hasApplication()) {
         return {nullptr, nullptr, screenPoint};
@@ -138,6 +133,11 @@ void tellViews(ui::TouchPhase phase, const Touches& changed, ui::Event event) {
 }
 
 } // namespace
+
+CGPoint intoWindow(ui::Window window, CGPoint screenPoint) {
+    const auto toWindow = inverted(View::of(window).layer().toSuperlayer());
+    return toWindow ? apply(*toWindow, screenPoint) : screenPoint;
+}
 
 TouchDispatcher& TouchDispatcher::shared() {
     static auto* dispatcher = new TouchDispatcher; // its touches live until the process ends

@@ -16,6 +16,9 @@ struct TouchPoint {
     CGPoint point;
 };
 
+/// A point of the screen as one of the window.
+[[nodiscard]] CGPoint intoWindow(ui::Window window, CGPoint screenPoint);
+
 /// All fingers on the screen. Each finger belongs, until it leaves, to the view that was under it
 /// when it came down; to none while the application is not in front. What an application does
 /// meanwhile, such as removing that view, is survived. Main thread.

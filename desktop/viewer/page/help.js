@@ -19,6 +19,7 @@ const rows = [
     [["S"], "摇一摇", "Shakes the phone"],
     [["D"], "切换浅色与深色外观", "Switches between light and dark"],
     [["K"], "收起或显示手机的键盘；用真键盘输入时它自动收起", "Puts the phone's keyboard away and back; it goes by itself while a real one types"],
+    [["I"], "检查屏幕上的视图，再按一次结束", "Inspects the views on the screen, and ends it"],
     [["Tab"], "在页面控件之间移动", "Moves between the page's controls"],
     [["←", "→"], "在面板标签之间切换", "Moves between the panels' tabs"],
     [["?"], "打开此帮助", "Opens this help"],

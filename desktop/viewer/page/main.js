@@ -7,6 +7,7 @@ import { showFilms } from "./films.js";
 import { Fingers } from "./fingers.js";
 import { showHelp } from "./help.js";
 import { holdPhone } from "./holding.js";
+import { Inspector } from "./inspector.js";
 import { realKeyboard, typeInto } from "./keyboard.js";
 import { tellOpenedUrls } from "./opened_urls.js";
 import { applicationsPanel } from "./panels/applications.js";
@@ -17,6 +18,7 @@ import { pasteboardPanel } from "./panels/pasteboard.js";
 import { preferencesPanel } from "./panels/preferences.js";
 import { rulesPanel } from "./panels/rules.js";
 import { Screen } from "./screen.js";
+import { Sounds } from "./sounds.js";
 import { showState } from "./veil.js";
 import { showWebPages } from "./web_pages.js";
 import { language, switchLanguage, word } from "./words.js";
@@ -37,6 +39,10 @@ const part = (id) => /** @type {T} */ (document.getElementById(id));
 const connection = new Connection();
 const screen = new Screen(part("screen"), connection);
 const holding = holdPhone(connection, attempt);
+const inspector = new Inspector(
+    part("glass"), part("inspected"), part("inspect"), screen, connection, attempt,
+);
+new Sounds(part("sound"), connection, tell);
 const field = /** @type {HTMLTextAreaElement} */ (part("keyboard"));
 
 /** Shows the words of the page that stand in its HTML. */
@@ -129,12 +135,13 @@ function showPage() {
         applications: applicationsPanel(connection),
         device: devicePanel(connection, attempt, holding),
         preferences: preferencesPanel(connection),
-        rules: rulesPanel(connection),
+        rules: rulesPanel(connection, attempt),
         pasteboard: pasteboardPanel(connection, attempt),
         microphone: microphonePanel(connection),
         events: eventList,
     };
     showWords();
+    inspector.show();
     makeTabs(panels);
     showState(connectionState, connection, phone);
     eventList.add(events);
@@ -227,6 +234,8 @@ window.addEventListener("keydown", (event) => {
         holding.shake();
     } else if (event.key === "k") {
         attempt(keyboard.toggle);
+    } else if (event.key === "i") {
+        inspector.toggle();
     }
 });
 const shownPanel = () => Object.values(panels).find(({ panel }) => !panel.hidden);

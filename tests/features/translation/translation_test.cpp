@@ -300,7 +300,8 @@ TEST_F(BilingualDialog, CopiesAndReadsAloudUntilItIsClosed) {
     for (const Json& event : phone.result({{"do", "events"}})) {
         kinds.push_back(event["kind"]);
     }
-    EXPECT_EQ(kinds, (std::vector<std::string>{"speech", "speech", "speechStopped"}));
+    EXPECT_EQ(kinds,
+              (std::vector<std::string>{"speech", "speech", "speechStarted", "speechStopped"}));
 }
 
 TEST_F(BilingualDialog, SharesEitherText) {

@@ -66,7 +66,7 @@ function row(/** @type {PhoneEvent} */ event) {
         element("span", { class: `kind ${kind}` }, kind),
         element("span", { class: "fields" }, describe(fields)),
     );
-    if (file) {
+    if (file && kind !== "speechStarted") { // its sound is with the speech
         line.append(attachment(number, file));
     }
     return line;

@@ -1,70 +1,65 @@
 // @ts-check
-// The rules that the running application has stored in its user defaults.
+// The rules that the running application has stored, in the text of the rule editor.
 import { element } from "../element.js";
+import { RuleEditor } from "../rule_editor.js";
+import { storedRules } from "../stored_rules.js";
 import { word } from "../words.js";
 
-/** @typedef {import("../connection.js").Connection} Connection */
-
-/** Each kind of rule, the key of its map, and how its rules are written. */
-const kinds = [
-    ["text", "zerk", "==="],
-    ["colour", "改色zerk", "#="],
-    ["size", "大小zerk", "#÷="],
-    ["height", "高度zerk", "#g="],
-    ["width", "宽度zerk", "#k="],
-    ["horizontal", "横向zerk", "#x="],
-    ["vertical", "纵向zerk", "#y="],
-    ["alpha", "透明zerk", "#t="],
-    ["font", "字体zerk", "#z="],
-];
-
-/** @param {Connection} connection */
-export function rulesPanel(connection) {
-    const list = element("div");
+/**
+ * @param {import("../connection.js").Connection} connection
+ * @param {(work: () => any) => void} attempt does what may fail and tells if it does
+ */
+export function rulesPanel(connection, attempt) {
+    const editor = new RuleEditor(connection);
+    /** What is stored, as it was when the text was read. */
+    let known = "";
+    let isChanged = false;
+    const text = element("textarea", {
+        id: "rule-text",
+        rows: 22,
+        spellcheck: false,
+        "aria-label": word("rules"),
+        oninput: () => change(true),
+    });
+    const save = element("button", { class: "main", onclick: () => attempt(write) }, word("saveRules"));
+    const revert = element("button", { onclick: () => attempt(read) }, word("revertRules"));
     const panel = element(
         "div",
         { class: "panel" },
         element("p", { class: "hint" }, word("rulesHint")),
-        list,
+        text,
+        element("div", { class: "buttons" }, save, revert),
     );
 
-    const section = (/** @type {string} */ name, /** @type {string} */ marker, /** @type {[string, any][]} */ rules) =>
-        element(
-            "section",
-            {},
-            element("h3", {}, word(name)),
-            element(
-                "ul",
-                { class: "card rules" },
-                ...rules.map(([key, value]) =>
-                    element(
-                        "li",
-                        {},
-                        element("span", {}, key),
-                        element("code", {}, marker),
-                        element("span", {}, String(value)),
-                    ),
-                ),
-            ),
-        );
+    const change = (/** @type {boolean} */ changed) => {
+        isChanged = changed;
+        save.disabled = revert.disabled = !changed;
+    };
 
+    const read = async () => {
+        known = JSON.stringify(await storedRules(connection));
+        text.value = await editor.text();
+        change(false);
+    };
+
+    const write = async () => {
+        await editor.save(text.value);
+        await read();
+    };
+
+    change(false);
     return {
         panel,
         isLive: true,
+        welcome() {
+            known = "";
+            change(false);
+        },
+        /** What a person is writing stays until it is saved or thrown away. */
         async refresh() {
-            const maps = await Promise.all(
-                kinds.map(([, key]) => connection.ask("defaults", { key })),
-            );
-            const sections = kinds
-                .map(([name, , marker], index) =>
-                    ({ name, marker, rules: Object.entries(maps[index] ?? {}) }))
-                .filter(({ rules }) => rules.length > 0)
-                .map(({ name, marker, rules }) => section(name, marker, rules));
-            list.replaceChildren(
-                ...(sections.length > 0
-                    ? sections
-                    : [element("p", { class: "empty" }, word("noRules"))]),
-            );
+            if (!isChanged && JSON.stringify(await storedRules(connection)) !== known) {
+                await read();
+            }
         },
     };
 }
