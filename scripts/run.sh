@@ -8,7 +8,7 @@ usage='usage: ./dev run [--app NAME] [--device NAME] [--root DIR] [--port N] [--
 
 Shows the phone in a browser page, at the address that is printed, and opens it where a browser can be
 seen; over SSH, it prints the command that brings the page to the other end. Ctrl-C ends it.
-  --app NAME     the application that runs first (notes, settings, chat, browser, files or plain; default: notes)
+  --app NAME     the application that runs first (notes, settings, chat, browser, files, playground or plain; default: notes)
   --device NAME  the model of phone, "iPhone SE" for instance (default: iPhone 12; the page changes it)
   --root DIR     the folder that keeps the phone'"'"'s files (default: a fresh one, removed at the end)
   --port N       the port of the loopback address, 1 to 65535 (default: a free one)

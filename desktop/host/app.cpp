@@ -7,8 +7,8 @@
 namespace desktop::host {
 
 std::span<const App* const> apps() {
-    static constexpr std::array all{&notesApp,   &settingsApp, &chatApp,
-                                    &browserApp, &filesApp,    &plainApp};
+    static constexpr std::array all{&notesApp, &settingsApp,   &chatApp, &browserApp,
+                                    &filesApp, &playgroundApp, &plainApp};
     return all;
 }
 

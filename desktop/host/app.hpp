@@ -28,6 +28,7 @@ extern const App settingsApp;
 extern const App chatApp;
 extern const App browserApp;
 extern const App filesApp;
+extern const App playgroundApp;
 extern const App plainApp;
 
 /// Every application, in the order in which they are listed.

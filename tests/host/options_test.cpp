@@ -52,10 +52,10 @@ TEST(Options, HelpAndListGoToStandardOutput) {
     HostProcess list = hostWith({"--list-apps"});
     const std::string apps = list.rest();
     EXPECT_EQ(list.wait(), 0);
-    for (const char* line :
-         {"notes", "com.example.notes", "settings", "com.apple.Preferences", "chat",
-          "com.hammerandchisel.discord", "browser", "com.example.browser", "files",
-          "com.example.files", "plain", "com.example.plain"}) {
+    for (const char* line : {"notes", "com.example.notes", "settings", "com.apple.Preferences",
+                             "chat", "com.hammerandchisel.discord", "browser",
+                             "com.example.browser", "files", "com.example.files", "playground",
+                             "com.example.playground", "plain", "com.example.plain"}) {
         EXPECT_NE(apps.find(line), std::string::npos) << line;
     }
 }

@@ -76,6 +76,7 @@ const words = {
     chat: ["聊天", "Chat"],
     browser: ["浏览器", "Browser"],
     files: ["文件", "Files"],
+    playground: ["试验场", "Playground"],
     plain: ["空白应用", "Plain"],
     search: ["搜索设置", "Search preferences"],
     preferencesHint: [
