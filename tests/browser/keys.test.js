@@ -1,6 +1,6 @@
 // Keys and the clipboard of the machine, on the phone.
 import assert from "node:assert/strict";
-import { afterEach, beforeEach, test } from "node:test";
+import { beforeEach, test } from "node:test";
 import { phone, phoneForEach } from "./fixture.js";
 
 phoneForEach("plain");
@@ -39,10 +39,6 @@ beforeEach(async () => {
     await phone.page.context().grantPermissions(["clipboard-read", "clipboard-write"]);
     view = await phone.addView("UITextView", [20, 200, 350, 120]);
     await phone.tap([100, 220]);
-});
-
-afterEach(async () => {
-    await phone.do("send", { to: view, selector: "removeFromSuperview" });
 });
 
 test("keys move the caret, select and erase", async () => {
