@@ -32,6 +32,19 @@ TEST_F(Appearance, ReachesWhatTheApplicationShows) {
     EXPECT_EQ(phone_.node(label)["textColor"], "#000000ff");
 }
 
+TEST(TextSize, MakesTheCardsOfTheNotesHigher) {
+    Phone phone{{"--app", "notes"}};
+    const auto height = [&phone] {
+        const Json stack = phone.find({{"class", "UIStackView"}})[0];
+        return stack["frame"][3].get<double>();
+    };
+    const double usual = height();
+    phone.result({{"do", "textSize"}, {"set", "accessibilityMedium"}});
+    EXPECT_GT(height(), usual * 1.4);
+    phone.result({{"do", "textSize"}, {"set", "large"}});
+    EXPECT_EQ(height(), usual);
+}
+
 TEST(TextSize, ReachesLabelsThatFollowIt) {
     Phone phone{{"--app", "settings"}};
     const auto size = [&phone] {

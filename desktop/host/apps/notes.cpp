@@ -7,6 +7,7 @@
 #include "desktop/uikit/traits/content_size.hpp"
 
 #include "bindings/applications/yy_label.hpp"
+#include "bindings/foundation/notification_center.hpp"
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/screen.hpp"
 #include "bindings/uikit/scroll_view.hpp"
@@ -95,6 +96,26 @@ void Page::addBoard(const std::vector<NotesContent::PlacedLabel>& labels) {
     }
 }
 
+void fill(ui::ScrollView scroll) {
+    for (const ui::View former : scroll.subviews()) {
+        former.removeFromSuperview();
+    }
+    Page page(scroll);
+    std::ranges::for_each(content().cards, [&page](const auto& card) { page.addCard(card); });
+    page.addBoard(content().labels);
+    page.addList(content().list);
+    page.finish();
+}
+
+/// Cards are as high as their texts.
+void fillWhenTextsGrow(ui::ScrollView scroll) {
+    using namespace ns::literals;
+    using Listener = objc::Block<void(ns::Notification)>;
+    ns::NotificationCenter::defaultCenter().addObserverForName(
+        u"UIContentSizeCategoryDidChangeNotification"_ns, nullptr, nullptr,
+        Listener::from([kept = objc::Strong(scroll)](ns::Notification) { fill(kept); }));
+}
+
 void launch() {
     const CGSize screen = ui::Screen::mainScreen().bounds().size;
     const auto controller = ui::ViewController::make();
@@ -106,11 +127,8 @@ void launch() {
     scroll.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth |
                                ui::ViewAutoresizing::flexibleHeight);
     view.addSubview(scroll);
-    Page page(scroll);
-    std::ranges::for_each(content().cards, [&page](const auto& card) { page.addCard(card); });
-    page.addBoard(content().labels);
-    page.addList(content().list);
-    page.finish();
+    fill(scroll);
+    fillWhenTextsGrow(scroll);
     showInWindow(controller);
 }
 

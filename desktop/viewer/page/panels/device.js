@@ -36,12 +36,16 @@ export function devicePanel(connection, attempt, { shake }) {
             connection.send({ type: "launch", application });
         });
 
-    size.onchange = () => attempt(() => connection.ask("textSize", { set: textSizes[Number(size.value)] }));
+    const chosen = () => textSizes[Number(size.value)];
+    const describe = () => size.setAttribute("aria-valuetext", chosen());
+    size.oninput = describe;
+    size.onchange = () => attempt(() => connection.ask("textSize", { set: chosen() }));
 
     return {
         panel,
         refresh: async () => {
             size.value = String(textSizes.indexOf(await connection.ask("textSize")));
+            describe();
         },
         /** The phone came up, or its screen has become another one. */
         welcome(/** @type {any} */ phone) {
