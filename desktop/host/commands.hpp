@@ -2,16 +2,27 @@
 #pragma once
 
 #include "desktop/host/values.hpp"
+#include "desktop/replaykit/screen_film.hpp"
 #include "desktop/runtime/event_log.hpp"
 
+#include <memory>
+#include <optional>
+#include <string>
 #include <string_view>
 
 namespace desktop::host {
+
+/// A film of the screen that is being made, and its file.
+struct Film {
+    std::unique_ptr<ScreenFilm> film;
+    std::string file;
+};
 
 /// What commands share while the host is driven.
 struct Session {
     Values& values;
     bool quits = false;
+    std::optional<Film> film{};
 };
 
 /// Carries a request out and gives its result. Throws RequestError for arguments that will not do;
@@ -33,6 +44,7 @@ using Command = Json (*)(Session& session, const Json& request);
 [[nodiscard]] Json slide(Session& session, const Json& request);
 [[nodiscard]] Json pinch(Session& session, const Json& request);
 [[nodiscard]] Json touch(Session& session, const Json& request);
+[[nodiscard]] Json wheel(Session& session, const Json& request);
 [[nodiscard]] Json swipe(Session& session, const Json& request);
 // The controllers that are shown.
 [[nodiscard]] Json alert(Session& session, const Json& request);
@@ -55,6 +67,7 @@ Json keyboard(Session& session, const Json& request);
 // What is recorded, and what is heard.
 [[nodiscard]] Json recorder(Session& session, const Json& request);
 [[nodiscard]] Json recognizer(Session& session, const Json& request);
+[[nodiscard]] Json film(Session& session, const Json& request);
 // The model of phone, how it is held, its buttons, and its appearance.
 [[nodiscard]] Json appearance(Session& session, const Json& request);
 [[nodiscard]] Json rotate(Session& session, const Json& request);

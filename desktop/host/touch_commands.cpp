@@ -7,6 +7,7 @@
 #include "desktop/coregraphics/affine.hpp"
 #include "desktop/runtime/run_loop.hpp"
 #include "desktop/uikit/events/touch_dispatcher.hpp"
+#include "desktop/uikit/scrolling/wheel.hpp"
 #include "desktop/uikit/uikit.hpp"
 
 #include <algorithm>
@@ -222,6 +223,13 @@ Json touch(Session&, const Json& request) {
         touches.cancel(fingers);
     }
     return nullptr;
+}
+
+Json wheel(Session&, const Json& request) {
+    const CGPoint at = pointArgument(request, "at");
+    const CGPoint by = pointArgument(request, "by");
+    uikit::layoutWindows();
+    return turnWheel(at, by);
 }
 
 } // namespace desktop::host

@@ -1,6 +1,9 @@
 // From changes of the screen to shots, and from shots to the encoder.
 #include "desktop/replaykit/screen_film.hpp"
 
+#include "desktop/deviceroot/deviceroot.hpp"
+#include "desktop/foundation/numbered_file.hpp"
+
 #include <algorithm>
 #include <cstring>
 
@@ -10,6 +13,9 @@ namespace {
 constexpr double interval = 1.0 / 30;
 constexpr std::size_t mostWaiting = 2;
 constexpr int bytesPerPixel = 4;
+
+/// Text is sharp enough, and one core encodes it while the screen moves.
+constexpr double pixelsPerPoint = 2;
 
 } // namespace
 
@@ -115,6 +121,19 @@ bool ScreenFilm::finish() {
     }
     thread_.join();
     return std::exchange(encoder_, nullptr)->finish(elapsed());
+}
+
+std::unique_ptr<ScreenFilm> filmScreen(const std::string& file) {
+    auto image = std::make_unique<ScreenImage>(pixelsPerPoint);
+    auto encoder = FilmEncoder::open(file, image->width(), image->height());
+    return encoder ? std::make_unique<ScreenFilm>(std::move(image), std::move(encoder)) : nullptr;
+}
+
+std::string freeFilmFile(const std::string& prefix) {
+    if (*deviceroot_get() == '\0') {
+        return {};
+    }
+    return foundation::numberedFile("/var/mobile/Library/ReplayKit", prefix, ".webm");
 }
 
 } // namespace desktop

@@ -9,6 +9,7 @@
 #include <deque>
 #include <memory>
 #include <mutex>
+#include <string>
 #include <thread>
 
 namespace desktop {
@@ -60,5 +61,10 @@ private:
     bool isEnding_ = false;
     std::thread thread_;
 };
+
+/// Films the screen into the file from now on; null when that cannot be written.
+[[nodiscard]] std::unique_ptr<ScreenFilm> filmScreen(const std::string& file);
+/// A file on the device for the next film, which has the name's number; empty without a device.
+[[nodiscard]] std::string freeFilmFile(const std::string& prefix);
 
 } // namespace desktop

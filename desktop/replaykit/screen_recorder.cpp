@@ -1,8 +1,6 @@
 // Starting and stopping films, and what is told of it.
 #include "desktop/replaykit/screen_recorder.hpp"
 
-#include "desktop/deviceroot/deviceroot.hpp"
-#include "desktop/foundation/numbered_file.hpp"
 #include "desktop/replaykit/film_view.hpp"
 #include "desktop/replaykit/preview_view_controller.hpp"
 #include "desktop/runtime/event_log.hpp"
@@ -29,14 +27,6 @@ ns::Error errorOf(RecordingError code, ns::String text) {
                                       static_cast<long>(code), text);
 }
 
-/// One that no film has yet; empty without a device.
-std::string freeFile() {
-    if (*deviceroot_get() == '\0') {
-        return {};
-    }
-    return foundation::numberedFile("/var/mobile/Library/ReplayKit", "recording-", ".webm");
-}
-
 /// `file` and `error` may be empty.
 void recordState(ns::String state, const std::string& file, ns::Error error) {
     const auto fields = ns::MutableDictionary::make();
@@ -49,9 +39,6 @@ void recordState(ns::String state, const std::string& file, ns::Error error) {
     }
     EventLog::shared().record("recording", fields);
 }
-
-/// Text is sharp enough, and one core encodes it while the screen moves.
-constexpr double pixelsPerPoint = 2;
 
 } // namespace
 
@@ -69,14 +56,12 @@ ns::Error ScreenRecorder::begin() {
     if (fails_) {
         return errorOf(RecordingError::userDeclined, u"用户拒绝了录屏。"_ns);
     }
-    file_ = freeFile();
-    auto image = std::make_unique<ScreenImage>(pixelsPerPoint);
-    auto encoder = FilmEncoder::open(file_, image->width(), image->height());
-    if (!encoder) {
+    file_ = freeFilmFile("recording-");
+    film_ = filmScreen(file_);
+    if (!film_) {
         file_.clear();
         return errorOf(RecordingError::failedToStart, u"无法开始录屏。"_ns);
     }
-    film_ = std::make_unique<ScreenFilm>(std::move(image), std::move(encoder));
     return nullptr;
 }
 

@@ -8,7 +8,7 @@ import { createInterface } from "node:readline";
 import { fileURLToPath } from "node:url";
 import { chromium } from "playwright-core";
 
-const program = process.env.WENTRA_HOST ??
+export const program = process.env.WENTRA_HOST ??
     fileURLToPath(new URL("../../build/release/bin/host", import.meta.url));
 
 const browserOptions = {

@@ -15,7 +15,7 @@ function revived(/** @type {string} */ _, /** @type {any} */ value) {
 
 /**
  * Dispatches a CustomEvent for each message of the phone, named by its type, with the message as
- * its detail; "frame" with the bytes of a frame; and "state" whenever that changes: "connecting";
+ * its detail; "sent" with what this page has said; "frame" with the bytes of a frame; and "state" whenever that changes: "connecting";
  * "connected", with the phone in this page's hand; "watching", with it in another's; "resting" when the
  * application crashes again and again; "ended" when there is no host any more.
  */
@@ -45,6 +45,7 @@ export class Connection extends EventTarget {
     send(/** @type {object} */ message) {
         if (this.#socket?.readyState === WebSocket.OPEN) {
             this.#socket.send(JSON.stringify(message));
+            this.#tell("sent", message);
         }
     }
 

@@ -17,6 +17,7 @@ import { microphonePanel } from "./panels/microphone.js";
 import { pasteboardPanel } from "./panels/pasteboard.js";
 import { preferencesPanel } from "./panels/preferences.js";
 import { rulesPanel } from "./panels/rules.js";
+import { recordPhone } from "./recording.js";
 import { Screen } from "./screen.js";
 import { Sounds } from "./sounds.js";
 import { showState } from "./veil.js";
@@ -203,11 +204,13 @@ part("help").onclick = showHelp;
 part("home").onclick = holding.home;
 part("home-button").onclick = holding.home;
 part("lock").onclick = holding.lock;
+const recording = recordPhone(part("record"), connection, attempt);
 part("rotate").onclick = holding.turn;
 part("appearance").onclick = holding.switchAppearance;
 part("language").onclick = () => {
     switchLanguage();
     showPage();
+    recording.show();
 };
 field.addEventListener("focus", () => {
     part("typing").textContent = word("typingOn");
@@ -249,6 +252,7 @@ setInterval(() => {
 new ResizeObserver(fitScreen).observe(part("stage"));
 
 showPage();
+recording.show();
 connection.open();
 
 // For the browser's console and for tests.
