@@ -17,22 +17,27 @@ void release(id object, SEL) {
     }
 }
 
-/// A root class whose instances are looked up when their memory goes.
-template <objc::Literal Root>
+/// A class whose instances are looked up when their memory goes.
+template <objc::Literal Name>
 struct Mortal {
     static inline IMP formerDealloc = nullptr;
 
     static void watch() {
-        const Class root = objc_getClass(Root.data());
+        const Class cls = objc_getClass(Name.data());
         const SEL name = objc::selector<"dealloc">();
-        formerDealloc = method_getImplementation(class_getInstanceMethod(root, name));
-        class_replaceMethod(root, name, reinterpret_cast<IMP>(&dealloc), "v@:");
+        formerDealloc = method_getImplementation(class_getInstanceMethod(cls, name));
+        class_replaceMethod(cls, name, reinterpret_cast<IMP>(&dealloc), "v@:");
     }
     static void dealloc(id object, SEL name) {
         SideTable::shared().forget(object);
         objc::invoke<void>(formerDealloc, object, name);
     }
 };
+
+template <objc::Literal... Names>
+void watchClasses() {
+    (Mortal<Names>::watch(), ...);
+}
 
 void clear(std::vector<id*>& places) {
     for (id* place : places) {
@@ -92,8 +97,10 @@ void SideTable::forget(id object) {
 /// From the first entry on, every object that dies passes here.
 void SideTable::watchDeaths() {
     if (!std::exchange(watching_, true)) {
-        Mortal<"NSObject">::watch();
-        Mortal<"NSProxy">::watch();
+        watchClasses<"NSObject", "NSProxy">();
+        // Foundation's collections give their memory back without telling the root class.
+        watchClasses<"GSArray", "GSInlineArray", "GSMutableArray", "GSDictionary",
+                     "GSMutableDictionary", "GSSet", "GSMutableSet">();
         class_replaceMethod(objc_getClass("NSObject"), objc::selector<"release">(),
                             reinterpret_cast<IMP>(&release), "v@:");
     }

@@ -135,6 +135,30 @@ TEST_F(WeakReferences, TakeObjectsThatAreNeverCounted) {
     EXPECT_TRUE(cls);
 }
 
+TEST_F(WeakReferences, KnowOfTheEndOfFoundationsCollections) {
+    struct Collection {
+        const char* cls;
+        const char* maker;
+    };
+    for (const auto& [cls, maker] :
+         {Collection{"NSArray", "arrayWithObject:"},
+          Collection{"NSMutableArray", "arrayWithObject:"}, Collection{"NSSet", "setWithObject:"},
+          Collection{"NSMutableSet", "setWithObject:"},
+          Collection{"NSCountedSet", "setWithObject:"},
+          Collection{"NSDictionary", "dictionaryWithObject:forKey:"},
+          Collection{"NSMutableDictionary", "dictionaryWithObject:forKey:"}}) {
+        Weak<objc::Object> reference;
+        {
+            const objc::Pool pool;
+            // One argument more than a method takes does no harm.
+            reference = objc::sendTo<objc::Object>(objc::object(objc_getClass(cls)),
+                                                   sel_registerName(maker), u"a"_ns, u"b"_ns);
+            EXPECT_TRUE(reference) << cls;
+        }
+        EXPECT_FALSE(reference) << cls;
+    }
+}
+
 TEST_F(WeakReferences, NeverBringAnObjectBackOnAnotherThread) {
     constexpr int rounds = 2000;
     std::atomic<int> round = 0;
