@@ -7,6 +7,7 @@
 #include "desktop/foundation/byte_count_formatter.hpp"
 #include "desktop/foundation/data_detector.hpp"
 #include "desktop/foundation/date.hpp"
+#include "desktop/foundation/declared_arguments.hpp"
 #include "desktop/foundation/delayed_perform.hpp"
 #include "desktop/foundation/dictionary_files.hpp"
 #include "desktop/foundation/error_description.hpp"
@@ -59,6 +60,7 @@ void install(const std::string& bundleIdentifier) {
     installSuggestedFilename();
     installUrlSessions();
     installLoadingProtocol();
+    declareArguments();
 }
 
 } // namespace desktop::foundation

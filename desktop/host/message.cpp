@@ -287,6 +287,12 @@ ns::MethodSignature signatureFor(objc::Object receiver, const std::string& selec
     if (const auto why = whyUnsendable(selector)) {
         throw RequestError(selector + " " + *why);
     }
+    // A class answers "new", an object "init".
+    const Class cls = selector == "new" ? reinterpret_cast<Class>(receiver.raw())
+                                        : object_getClass(receiver.raw());
+    if ((selector == "new" || selector == "init") && needsAnInitialiserOfItsOwn(cls)) {
+        throw RequestError(std::string(class_getName(cls)) + " has initialisers of its own");
+    }
     if (!isAnswerable(unqualified(signature.returnType()))) {
         throw RequestError("the result of " + selector +
                            " has no JSON form: " + signature.returnType());

@@ -21,6 +21,14 @@ constexpr std::array<std::string_view, 14> variadic{
 constexpr std::array<std::string_view, 5> calling{
     "Block:", "omparator:", "PassingTest:", "Function:", "function:"};
 
+constexpr std::array<std::string_view, 11> withInitialisersOfTheirOwn{
+    "NSBundle",     "NSDirectoryEnumerator",
+    "NSInvocation", "NSMethodSignature",
+    "NSNetService", "NSNotificationQueue",
+    "NSProgress",   "NSRegularExpression",
+    "NSScanner",    "NSURL",
+    "NSURLProtocol"};
+
 } // namespace
 
 std::optional<std::string> whyUnsendable(std::string_view selector) {
@@ -34,6 +42,15 @@ std::optional<std::string> whyUnsendable(std::string_view selector) {
         return "takes code, which cannot be passed";
     }
     return std::nullopt;
+}
+
+bool needsAnInitialiserOfItsOwn(Class cls) {
+    for (; cls != nullptr; cls = class_getSuperclass(cls)) {
+        if (std::ranges::count(withInitialisersOfTheirOwn, class_getName(cls)) != 0) {
+            return true;
+        }
+    }
+    return false;
 }
 
 } // namespace desktop::host

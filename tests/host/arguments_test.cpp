@@ -70,6 +70,23 @@ TEST_F(Arguments, OfClassMethodsAreComparedToo) {
     EXPECT_NE(refusal({{"class", "UIColor"}}, "colorWithPatternImage:", json::array({"text"})), "");
 }
 
+TEST_F(Arguments, OfFoundationsMethodsAreComparedWhereThoseDoNot) {
+    EXPECT_NE(host.error({{"do", "make"},
+                          {"class", "NSAttributedString"},
+                          {"selector", "initWithString:attributes:"},
+                          {"args", {"a", "b"}}}),
+              "");
+    EXPECT_NE(refusal({{"class", "NSBundle"}}, "bundleWithURL:", json::array({"text"})), "");
+    EXPECT_EQ(host.message("a", "length"), 1);
+}
+
+TEST_F(Arguments, ADelegateOfAnyClassMayDie) {
+    const json table = made("UITableView");
+    host.message(table, "setDelegate:", {json::array({"a"})});
+    EXPECT_EQ(host.message(table, "delegate"), nullptr);
+    show(table);
+}
+
 TEST_F(Arguments, NilAndSubclassesAreTaken) {
     const json label = made("UILabel");
     host.message(label, "setFont:", {nullptr});

@@ -92,6 +92,16 @@ TEST_F(Making, AnAllocatedObjectIsTakenByItsInitialiserOnly) {
               "not initialised");
 }
 
+TEST_F(Making, WhatNeedsMoreThanInitIsRefused) {
+    for (const char* cls : {"NSURL", "NSScanner", "NSProgress", "NSRegularExpression"}) {
+        EXPECT_EQ(host.error(making(cls, "init")),
+                  std::string(cls) + " has initialisers of its own");
+        EXPECT_NE(host.error({{"do", "send"}, {"to", {{"class", cls}}}, {"selector", "new"}}), "");
+        const json allocated = host.message({{"class", cls}}, "alloc");
+        EXPECT_NE(host.error({{"do", "send"}, {"to", allocated}, {"selector", "init"}}), "");
+    }
+}
+
 TEST_F(Making, AllocationAndInitialisationAreAPair) {
     const json url = host.message({{"class", "NSURL"}}, "alloc");
     EXPECT_EQ(host.message(url, "initWithString:", {"http://a.b"}), json({{"url", "http://a.b"}}));

@@ -74,6 +74,9 @@ void CalloutBar::turnTo(std::size_t page) {
 }
 
 void CalloutBar::touchesBegan(ns::SetOf<ui::Touch> touches, ui::Event) {
+    if (pages_.empty()) {
+        return;
+    }
     const auto touch = touches.allObjects().first();
     const double x = touch.locationIn(self()).x;
     const CalloutPart* found = nullptr;

@@ -82,7 +82,9 @@ Traits TraitCollection::valueOf(ui::TraitCollection collection) {
 
 void TraitCollection::performAsCurrent(objc::Block<void()> actions) const {
     const CurrentTraits current(merged(screenTraits(), traits_));
-    actions();
+    if (actions) {
+        actions();
+    }
 }
 
 bool TraitCollection::hasDifferentColour(ui::TraitCollection other) const {
