@@ -64,10 +64,10 @@ struct Address {
 };
 
 constexpr std::array addresses{
-    Address{"https://files.example/", "WKWebView", &showInWebView},
-    Address{"https://www.example.com/", "SFSafariViewController", &showInSafariPage},
-    Address{"https://www.example.com/news", "UIApplication", &openOutside},
-    Address{"mailto:someone@example.com", "UIApplication", &openOutside},
+    Address{"https://files.example/", "网页视图", &showInWebView},
+    Address{"https://www.example.com/", "Safari 页面", &showInSafariPage},
+    Address{"https://www.example.com/news", "系统", &openOutside},
+    Address{"mailto:someone@example.com", "系统", &openOutside},
 };
 
 struct PlaygroundKind
@@ -165,6 +165,7 @@ double Playground::heightForRow(ui::TableView, ns::IndexPath path) const {
 
 /// Puts the control between the cell's margins; it leaves the cell in which it was before.
 void spread(ui::View control, ui::TableViewCell cell) {
+    cell.layoutIfNeeded();
     const CGSize size = cell.contentView().bounds().size;
     control.setFrame({{margin, 0}, {size.width - 2 * margin, size.height}});
     control.setAutoresizingMask(ui::ViewAutoresizing::flexibleWidth |
