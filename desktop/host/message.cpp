@@ -367,10 +367,9 @@ Json sendMessage(Values& values, objc::Object receiver, const std::string& selec
 objc::Strong<objc::Object> makeObject(Values& values, Class cls, const std::string& selector,
                                       const Json& arguments) {
     requireInitialiser(selector);
-    using Owned = objc::Strong<objc::Object>;
-    auto allocated = Owned::adopt(objc::wrap(objc::object(cls)).send<"alloc", objc::Object>());
-    return initialised(values, allocated, selector, arguments,
-                       [&allocated] { return allocated.release(); });
+    // Not released when it is refused: what is not initialised cannot be deallocated either.
+    const auto allocated = objc::wrap(objc::object(cls)).send<"alloc", objc::Object>();
+    return initialised(values, allocated, selector, arguments, [allocated] { return allocated; });
 }
 
 Json initialise(Values& values, std::uint64_t number, const std::string& selector,

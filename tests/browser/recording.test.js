@@ -61,6 +61,7 @@ test("a script has each message as the protocol says it, with the time between t
             { type: "ask", request: { do: "find", where: {}, id: 1 } },
             { type: "ask", request: { do: "rotate", id: 2 } },
             { type: "ask", request: { do: "appearance", set: "dark", id: 3 } },
+            { type: "ask", request: { do: "shake", id: 4 } },
         ].forEach((message, index) => script.take(message, 1000 + 500 * index));
         return script.text.trim().split("\n").map((line) => JSON.parse(line));
     });
@@ -71,5 +72,6 @@ test("a script has each message as the protocol says it, with the time between t
         pause(1.5), { do: "type", text: "你", compose: ["n", "ni"] },
         pause(0.5), { do: "key", name: "return" },
         pause(2), { do: "appearance", set: "dark" },
+        pause(0.5), { do: "shake" },
     ]);
 });

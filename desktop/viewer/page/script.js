@@ -68,8 +68,10 @@ export class Script {
     }
 }
 
-/** A command that changes something has arguments. */
+/** A command that changes something has arguments, or is a shake. */
 function asked(/** @type {{id: number, do: string}} */ { id, ...request }) {
-    const changes = Object.keys(request).length > 1 && !leftOut.has(request.do);
+    const changes =
+        request.do === "shake" ||
+        (Object.keys(request).length > 1 && !leftOut.has(request.do));
     return changes ? request : null;
 }
