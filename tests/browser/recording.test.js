@@ -1,6 +1,7 @@
 // The record button: a film of the screen, and a script that does again what was done.
 import assert from "node:assert/strict";
 import { execFileSync } from "node:child_process";
+import { readFile } from "node:fs/promises";
 import { test } from "node:test";
 import { middle, onePhone, phone } from "./fixture.js";
 import { program } from "./phone.js";
@@ -37,8 +38,9 @@ test("what was done is recorded as a film, and as a script that does it again", 
         video.play().catch(failed);
     }));
     assert.ok(length > 0.1, `the film lasts ${length} s`);
-    const script = await page.locator("dialog a[download=\"wentra.jsonl\"]").evaluate(
-        async (link) => (await fetch(link.href)).text());
+    const [download] = await Promise.all([
+        page.waitForEvent("download"), page.click("dialog a[download=\"wentra.jsonl\"]")]);
+    const script = await readFile(await download.path(), "utf8");
     assert.match(script, /"do":"touch","phase":"began"/);
     assert.match(script, /"do":"rotate","to":"landscapeLeft"/);
     const screens = await phone.do("screens");
