@@ -17,7 +17,7 @@ using nlohmann::json;
 
 /// A folder for a phone whose toolbox has a ball and a panel that is dragged.
 std::string preparedRoot(const support::TemporaryFolder& folder) {
-    const std::string root = folder.path();
+    std::string root = folder.path();
     PageClient({HOST_PATH, WENTRA_PATH, "plain", root})
         .ask({{"do", "preferences"}, {"set", {{"kqwzfc", true}, {"kqxfyd", true}}}});
     return root;

@@ -16,6 +16,7 @@
 #include <memory>
 #include <spawn.h>
 #include <stdexcept>
+#include <string_view>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -35,6 +36,7 @@ std::unique_ptr<FILE, int (*)(FILE*)> spawn(pid_t& process, std::vector<std::str
     }
     posix_spawn_file_actions_adddup2(&actions, ends[1], STDOUT_FILENO);
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words) {
         arguments.push_back(word.data());
     }
@@ -64,12 +66,15 @@ PageClient::~PageClient() {
 PageClient::Address PageClient::start(const Program& program) {
     const auto output = spawn(process_, {program.host, "--viewer", "--library", program.library,
                                          "--root", program.root, "--app", program.application});
-    std::array<char, 4096> line{};
-    while (std::fgets(line.data(), line.size(), output.get()) != nullptr) {
-        unsigned port = 0;
-        std::array<char, 64> path{};
-        if (std::sscanf(line.data(), "http://127.0.0.1:%u%63s", &port, path.data()) == 2) {
-            return {static_cast<std::uint16_t>(port), path.data()};
+    constexpr std::string_view start = "http://127.0.0.1:";
+    std::array<char, 4096> buffer{};
+    while (std::fgets(buffer.data(), buffer.size(), output.get()) != nullptr) {
+        std::string_view line = buffer.data();
+        if (line.starts_with(start)) {
+            line.remove_prefix(start.size());
+            const std::size_t path = line.find('/');
+            return {static_cast<std::uint16_t>(std::stoul(std::string(line.substr(0, path)))),
+                    std::string(line.substr(path, line.find('\n') - path))};
         }
     }
     throw std::runtime_error("the host tells no address");
