@@ -62,7 +62,7 @@ TEST(Frame, PlacesAndTheirPixelsFollowTheHeader) {
 
 TEST(Frame, WhatIsFlatIsSmallAndNoiseHardlyLarger) {
     constexpr int side = 400;
-    constexpr std::size_t pixels = side * side;
+    constexpr std::size_t pixels = std::size_t{side} * side;
     const std::vector<desktop::PixelRectangle> places{{0, 0, side, side}};
     EXPECT_LT(encodeFrame(1, side, side, {places, Bytes(pixels * 4, 255)}).size(), pixels / 20);
     EXPECT_LT(encodeFrame(1, side, side, {places, noise(pixels)}).size(), pixels * 4 * 102 / 100);
