@@ -33,7 +33,7 @@ public:
             objc::method<"takeUnsignedByte:", &CarrierPeer::take<unsigned char>>(),
             objc::method<"takeSignedHalf:", &CarrierPeer::take<short>>(),
             objc::method<"takeUnsignedHalf:", &CarrierPeer::take<char16_t>>(),
-            objc::method<"takeInBlock:", &CarrierPeer::takeInBlock>(),
+            objc::method<"takeInBlocks:", &CarrierPeer::takeInBlocks>(),
             objc::method<"getFlag:", &CarrierPeer::getFlag>(),
             objc::method<"getSignedByte:", &CarrierPeer::get<&Gate::signedByte>>(),
             objc::method<"getUnsignedByte:", &CarrierPeer::get<&Gate::unsignedByte>>(),
@@ -60,7 +60,7 @@ private:
     long take(Small number) {
         return number;
     }
-    long takeInBlock(long bits) {
+    long takeInBlocks(long bits) {
         return gate_.call(
             objc::Block<long(signed char)>::from([](signed char number) -> long { return number; }),
             bits);

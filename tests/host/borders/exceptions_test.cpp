@@ -18,7 +18,7 @@ struct Border {
 
 constexpr Border borders[] = {
     {"inMethod:", "inMethod:"},
-    {"inBlock:", "block"},
+    {"inBlocks:", "block"},
     {"inDispatchedWork:", "dispatched work"},
     {"inWorkOfAnotherThread:", "dispatched work"},
     {"inDelayedWork:", "dispatched work"},

@@ -41,7 +41,7 @@ TEST_F(PassingValues, SmallArgumentsAreReadFromTheirBitsAlone) {
         const Json name{{"selector", std::string("take") + kind}};
         EXPECT_EQ(host.message(gate, "ask:of:with:", {name, carrier, bits}), number) << kind;
     }
-    EXPECT_EQ(host.message(carrier, "takeInBlock:", {0x1234'5678'9ABC'DEF9}), -7);
+    EXPECT_EQ(host.message(carrier, "takeInBlocks:", {0x1234'5678'9ABC'DEF9}), -7);
 }
 
 TEST_F(PassingValues, SmallResultsAreReadFromTheirBitsAlone) {

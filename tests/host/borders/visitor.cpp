@@ -41,7 +41,7 @@ public:
     static constexpr auto methods() {
         return std::array{
             objc::method<"inMethod:", &VisitorPeer::inMethod>(),
-            objc::method<"inBlock:", &VisitorPeer::inBlock>(),
+            objc::method<"inBlocks:", &VisitorPeer::inBlocks>(),
             objc::method<"inDispatchedWork:", &VisitorPeer::inDispatchedWork>(),
             objc::method<"inWorkOfAnotherThread:", &VisitorPeer::inWorkOfAnotherThread>(),
             objc::method<"inDelayedWork:", &VisitorPeer::inDelayedWork>(),
@@ -55,7 +55,7 @@ public:
 
 private:
     void inMethod(Fault fault) { fail(fault); }
-    void inBlock(Fault fault) {
+    void inBlocks(Fault fault) {
         objc::Block<void()>::from([fault] { fail(fault); })();
     }
     void inDispatchedWork(Fault fault) {
