@@ -77,6 +77,8 @@ TEST_P(TypingCommands, KeysMoveSelectAndErase) {
     EXPECT_EQ(text(), "twoone ");
     press({{"name", "selectAll"}});
     EXPECT_EQ(host.message(view, "selectedRange"), (json{{"range", {0, 7}}}));
+    press({{"name", "redo"}});
+    EXPECT_EQ(text(), "two");
     EXPECT_EQ(host.error({{"do", "key"}, {"name", "redo"}}), "there is nothing to redo now");
 }
 

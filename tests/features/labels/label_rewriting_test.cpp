@@ -208,7 +208,12 @@ TEST(LabelRewriting, LeavesTextsThatAreNoStringsToThePlatform) {
     Phone phone;
     const Json label = phone.make("UILabel");
     phone.shown(label, "before");
-    EXPECT_EQ(phone.shown(label, 42)["text"], "before");
+    const Json setting = phone.result({{"do", "make"},
+                                       {"class", "NSInvocationOperation"},
+                                       {"selector", "initWithTarget:selector:object:"},
+                                       {"args", {label, {{"selector", "setText:"}}, 42}}});
+    phone.message(setting, "start");
+    EXPECT_EQ(phone.node(label)["text"], "before");
     EXPECT_EQ(phone.shown(label, nullptr)["text"], nullptr);
     EXPECT_EQ(phone.shown(label, "")["text"], "");
     EXPECT_TRUE(phone.swallowed().empty());
