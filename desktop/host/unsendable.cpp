@@ -17,7 +17,7 @@ constexpr std::array<std::string_view, 14> variadic{
     "orderedSetWithObjects:",   "initWithObjects:",
     "initWithObjectsAndKeys:",  "dictionaryWithObjectsAndKeys:"};
 
-/// What follows such a word is called, be it nothing.
+/// What follows such a word is called, be it nothing; a property only keeps it.
 constexpr std::array<std::string_view, 5> calling{
     "Block:", "omparator:", "PassingTest:", "Function:", "function:"};
 
@@ -38,7 +38,7 @@ std::optional<std::string> whyUnsendable(std::string_view selector) {
     if (std::ranges::count(variadic, selector) != 0) {
         return "takes a list of any length, which cannot be passed";
     }
-    if (std::ranges::any_of(calling, isIn)) {
+    if (!selector.starts_with("set") && std::ranges::any_of(calling, isIn)) {
         return "takes code, which cannot be passed";
     }
     return std::nullopt;

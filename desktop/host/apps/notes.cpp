@@ -8,6 +8,7 @@
 
 #include "bindings/applications/yy_label.hpp"
 #include "bindings/foundation/notification_center.hpp"
+#include "bindings/objc/weak.hpp"
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/screen.hpp"
 #include "bindings/uikit/scroll_view.hpp"
@@ -113,7 +114,11 @@ void fillWhenTextsGrow(ui::ScrollView scroll) {
     using Listener = objc::Block<void(ns::Notification)>;
     ns::NotificationCenter::defaultCenter().addObserverForName(
         u"UIContentSizeCategoryDidChangeNotification"_ns, nullptr, nullptr,
-        Listener::from([kept = objc::Strong(scroll)](ns::Notification) { fill(kept); }));
+        Listener::from([cards = objc::Weak<ui::ScrollView>(scroll)](ns::Notification) {
+            if (const ui::ScrollView shown = cards) {
+                fill(shown);
+            }
+        }));
 }
 
 void launch() {
