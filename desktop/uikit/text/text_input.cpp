@@ -1,6 +1,8 @@
 // The state of editing: what changes when text is written, erased, composed and selected.
 #include "desktop/uikit/text/text_input.hpp"
 
+#include "desktop/foundation/text.hpp"
+
 #include "bindings/uikit/menu_controller.hpp"
 #include "bindings/uikit/window.hpp"
 #include "desktop/drawing/text_boundaries.hpp"
@@ -112,7 +114,7 @@ void TextInput::edited(ns::Range former, unsigned long length) {
     view().setNeedsDisplay();
 }
 
-/// Made of units, of which Foundation's own substrings lose the halves of pairs.
+/// Foundation refuses a half of a surrogate pair here: what is taken back has U+FFFD in its place.
 ns::AttributedString TextInput::formerText(ns::Range range) const {
     const auto former = ns::MutableAttributedString::make();
     const unsigned long end = range.location + range.length;
@@ -120,7 +122,7 @@ ns::AttributedString TextInput::formerText(ns::Range range) const {
         ns::Range alike;
         const ns::Dictionary attributes = storage_.attributesAt(unit, &alike);
         const unsigned long next = std::min(alike.location + alike.length, end);
-        const auto part = ns::String::from(plainUnits({unit, next - unit}));
+        const auto part = ns::String::fromUtf8(toUtf8(plainUnits({unit, next - unit})));
         former.append(ns::AttributedString::with(part, attributes));
         unit = next;
     }
