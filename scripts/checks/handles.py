@@ -17,7 +17,7 @@ INTERNAL = {
     "UICalloutBar", "UIDimmingView", "UIDropShadowView", "UIKeyboardView", "UILayoutContainerView",
     "UIPickerColumnView",
     "UIScrollViewPanGestureRecognizer", "UITextEffectsWindow", "UITextFieldClearButton",
-    "UITextSelectionView", "UITransitionView", "_UIAlertControllerActionView",
+    "UITextSelectionView", "UITransitionView", "_UITextEdit", "_UIAlertControllerActionView",
     "_UIAlertControllerView", "_UIContextMenuContainerView", "_UIPopoverView", "_UIViewControllerTransitionCoordinator",
 }
 
