@@ -65,6 +65,12 @@ Answer pasteboardPicture() {
     return image != nullptr ? content(*image) : Answer{noContent, "image/png", ""};
 }
 
+/// Keys are pressed by requests, between which texts are typed: they keep their order. Fingers need
+/// not wait.
+template <class Message>
+constexpr bool takesTurns = std::is_same_v<Message, Ask> || std::is_same_v<Message, Insert> ||
+                            std::is_same_v<Message, Compose> || std::is_same_v<Message, Press>;
+
 } // namespace
 
 Phone::Phone(const Door& door, Start start, std::filesystem::path deviceFolder,
@@ -107,7 +113,8 @@ void Phone::said(PageNumber page, const std::string& text) {
         try {
             const PageMessage message = parsePageMessage(text);
             std::visit([&](const auto& each) { take(watcher->second, page, each); }, message);
-            waitsForItsTurn = std::holds_alternative<Ask>(message);
+            waitsForItsTurn = std::visit(
+                [](const auto& each) { return takesTurns<std::decay_t<decltype(each)>>; }, message);
         } catch (const MessageError& error) {
             watcher->second.tell({{"type", "refused"}, {"why", error.what()}});
         }
@@ -185,20 +192,26 @@ void Phone::carryOut(const Wheel& wheel) {
 }
 
 void Phone::carryOut(const Insert& insert) {
-    keyboard_input::insertText(ns::String::fromUtf8(insert.text));
+    inTurn([text = insert.text](PageNumber) {
+        keyboard_input::insertText(ns::String::fromUtf8(text));
+    });
 }
 
 void Phone::carryOut(const Compose& compose) {
-    const auto text = ns::String::fromUtf8(compose.text);
-    keyboard_input::setMarkedText(text, {text.length(), 0});
+    inTurn([composed = compose.text](PageNumber) {
+        const auto text = ns::String::fromUtf8(composed);
+        keyboard_input::setMarkedText(text, {text.length(), 0});
+    });
 }
 
 void Phone::carryOut(const Press& press) {
-    if (press.key == Key::deleteBackward) {
-        keyboard_input::erase();
-    } else {
-        keyboard_input::pressReturn();
-    }
+    inTurn([key = press.key](PageNumber) {
+        if (key == Key::deleteBackward) {
+            keyboard_input::erase();
+        } else {
+            keyboard_input::pressReturn();
+        }
+    });
 }
 
 void Phone::carryOut(const Paste& paste) {
@@ -215,11 +228,15 @@ void Phone::carryOut(const Paste& paste) {
 }
 
 void Phone::carryOut(const Ask& ask) {
-    requests_.add([this, page = holder_, request = ask.request] {
-        if (watchers_.contains(page)) { // it may have left meanwhile
-            answer(page, request);
-        }
+    inTurn([this, request = ask.request](PageNumber page) { answer(page, request); });
+}
+
+void Phone::inTurn(std::function<void(PageNumber)> work) {
+    turns_.add([this, page = holder_, work = std::move(work)] {
         server_.handled(page);
+        if (watchers_.contains(page)) { // it may have left meanwhile
+            work(page);
+        }
     });
 }
 

@@ -47,13 +47,15 @@ private:
     void take(Watcher& watcher, PageNumber page, const Message& message);
     void carryOut(const Fingers& fingers);
     static void carryOut(const Wheel& wheel);
-    static void carryOut(const Insert& insert);
-    static void carryOut(const Compose& compose);
-    static void carryOut(const Press& press);
+    void carryOut(const Insert& insert);
+    void carryOut(const Compose& compose);
+    void carryOut(const Press& press);
     void carryOut(const Paste& paste);
     void carryOut(const Ask& ask);
     void carryOut(const Launch& launch);
 
+    /// Does the work for the page in hand behind all that it has asked for before.
+    void inTurn(std::function<void(PageNumber)> work);
     void answer(PageNumber page, const std::string& request);
     void tellAll(const host::Json& message);
     [[nodiscard]] host::Json welcome(PageNumber page) const;
@@ -64,7 +66,7 @@ private:
     host::Session session_;
     PageNumber holder_ = 0; ///< the page that has the phone in hand; 0: none
     PageHand hand_;
-    Turns requests_;
+    Turns turns_;
     /// What is queued on the main thread must not outlive the phone.
     std::shared_ptr<Phone*> self_;
     EventFeed events_;

@@ -8,21 +8,34 @@
 namespace desktop::viewer {
 
 /// Runs pieces of work one after the other: one that is added while another runs waits for its
-/// end. They must not throw. One thread.
+/// end. What one of them throws is passed on; those behind it follow with the next. One thread.
 class Turns {
 public:
     void add(std::function<void()> work) {
         waiting_.push_back(std::move(work));
-        if (std::exchange(isRunning_, true)) {
+        if (isRunning_) {
             return;
         }
-        for (; !waiting_.empty(); waiting_.pop_front()) {
-            waiting_.front()();
+        const Running running(*this);
+        while (!waiting_.empty()) {
+            const std::function<void()> next = std::move(waiting_.front());
+            waiting_.pop_front();
+            next();
         }
-        isRunning_ = false;
     }
 
 private:
+    class Running {
+    public:
+        explicit Running(Turns& turns) : turns_(turns) { turns_.isRunning_ = true; }
+        Running(const Running&) = delete;
+        Running& operator=(const Running&) = delete;
+        ~Running() { turns_.isRunning_ = false; }
+
+    private:
+        Turns& turns_;
+    };
+
     std::deque<std::function<void()>> waiting_;
     bool isRunning_ = false;
 };

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <string>
 
 namespace {
@@ -22,6 +23,18 @@ TEST(Turns, WhatIsAddedMeanwhileWaitsItsTurn) {
     EXPECT_EQ(seen, "first begins, first ends, second, third, fourth");
     turns.add([&] { seen = "later"; });
     EXPECT_EQ(seen, "later");
+}
+
+TEST(Turns, GoOnAfterWorkThatThrows) {
+    desktop::viewer::Turns turns;
+    std::string seen;
+    const auto fail = [&] {
+        turns.add([&] { seen += "behind, "; });
+        throw std::runtime_error("failed");
+    };
+    EXPECT_THROW(turns.add(fail), std::runtime_error);
+    turns.add([&] { seen += "next"; });
+    EXPECT_EQ(seen, "behind, next");
 }
 
 } // namespace
