@@ -4,7 +4,6 @@
 #include "desktop/foundation/text.hpp"
 #include "desktop/host/lone_escapes.hpp"
 
-#include <regex>
 #include <string_view>
 #include <vector>
 
@@ -118,15 +117,13 @@ private:
         if (const auto found = root_.find("id"); found != root_.end() && found->is_primitive()) {
             return *found;
         }
-        constexpr std::size_t longest = 200;
-        const std::size_t begin =
-            std::max(mistake_, line_.size() - std::min(longest, line_.size()));
-        static const std::regex atTheEnd(R"("id"\s*:\s*("(?:[^"\\]|\\.)*"|-?\d+)\s*\}\s*$)");
-        std::smatch match;
-        return std::regex_search(line_.begin() + static_cast<std::ptrdiff_t>(begin), line_.end(),
-                                 match, atTheEnd)
-                   ? Json::parse(match.str(1), nullptr, false)
-                   : Json();
+        const std::size_t place = line_.rfind(R"("id")");
+        if (place == std::string::npos || place < mistake_) {
+            return nullptr;
+        }
+        const Json rest = Json::parse("{" + line_.substr(place), nullptr, false);
+        return rest.is_object() && rest.size() == 1 && rest["id"].is_primitive() ? rest["id"]
+                                                                                 : Json();
     }
 
     std::string line_;
