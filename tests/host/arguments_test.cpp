@@ -56,9 +56,7 @@ TEST_F(Arguments, OfAnotherClassAreRefusedWhereTheyAreOnlyPassedOn) {
     const json label = made("UILabel");
     refusal(label, "performSelector:withObject:", {{{"selector", "setFont:"}}, "text"});
     refusal(label, "setValue:forKey:", {"text", "font"});
-    EXPECT_EQ(
-        host.message(label, "performSelector:withObject:", {{{"selector", "setText:"}}, "text"}),
-        nullptr);
+    host.message(label, "setValue:forKey:", {"text", "text"});
     EXPECT_EQ(host.message(label, "text"), "text");
     show(label);
 }

@@ -31,7 +31,7 @@ protected:
         const auto before = ns::String::fromUtf8(std::string(text.substr(0, caret)));
         view_.setSelectedRange({before.length(), 0});
     }
-    std::string after(std::initializer_list<TextMovement> movements, bool extends = false) {
+    std::string after(const std::vector<TextMovement>& movements, bool extends = false) {
         for (const TextMovement movement : movements) {
             EXPECT_TRUE(keyboard::move(movement, extends));
         }
@@ -43,7 +43,7 @@ TEST_F(TextKeys, MoveTheCaret) {
     using enum TextMovement;
     struct Case {
         const char* text;
-        std::initializer_list<TextMovement> movements;
+        std::vector<TextMovement> movements;
         const char* expected;
     };
     for (const auto& [text, movements, expected] : std::vector<Case>{
