@@ -2,6 +2,7 @@
 #include "library/crashlogs/report_folder.hpp"
 
 #include "bindings/foundation/file_manager.hpp"
+#include "bindings/objc/pool.hpp"
 #include "library/crashlogs/report_entry.hpp"
 #include "library/preferences/preference_keys.hpp"
 #include "library/preferences/preferences.hpp"
@@ -47,6 +48,7 @@ public:
     [[nodiscard]] ns::Array entries() const {
         Dated found;
         for (const ns::String name : namesIn(folder_).value) {
+            const objc::Pool pool; // what an entry does not keep makes room for the next
             take(name, found);
         }
         const auto entries = ns::MutableArray::make();

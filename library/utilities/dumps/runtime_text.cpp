@@ -24,6 +24,7 @@ void appendClass(Class cls, std::string& text) {
 
 std::string classText() {
     std::string text;
+    text.reserve(4U << 20U); // memory that is not touched costs nothing, growing does
     for (const Class cls : objc::allClasses()) {
         appendClass(cls, text);
     }
