@@ -5,6 +5,8 @@
 
 namespace ns {
 
+struct MutableAttributedString;
+
 struct AttributedString : objc::Kind<AttributedString, "NSAttributedString"> {
     using Kind::Kind;
 
@@ -19,6 +21,7 @@ struct AttributedString : objc::Kind<AttributedString, "NSAttributedString"> {
     Dictionary attributesAt(unsigned long unit, Range* effective = nullptr) const {
         return send<"attributesAtIndex:effectiveRange:", Dictionary>(unit, effective);
     }
+    [[nodiscard]] inline MutableAttributedString mutableCopy() const;
 };
 
 struct MutableAttributedString
@@ -40,5 +43,11 @@ struct MutableAttributedString
         send<"addAttribute:value:range:">(name, value, range);
     }
 };
+
+MutableAttributedString AttributedString::mutableCopy() const {
+    return objc::Strong<MutableAttributedString>::adopt(
+               send<"mutableCopy", MutableAttributedString>())
+        .autoreleased();
+}
 
 } // namespace ns
