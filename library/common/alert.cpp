@@ -38,19 +38,20 @@ const Alert& Alert::covering(ui::ModalPresentation style) const {
 }
 
 void Alert::presentFrom(ui::ViewController controller) const {
-    constexpr bool animated = true;
-    controller.present(controller_, animated);
+    presentSheet(controller_, controller);
 }
 
 void Alert::presentFor(double seconds, ui::ViewController controller) const {
-    constexpr bool animated = true;
     const auto goAfterwards = [seconds, alert = controller_] {
-        dispatch::after(seconds, dispatch::mainQueue(), [alert] { alert.dismiss(animated); });
+        dispatch::after(seconds, dispatch::mainQueue(), [alert] {
+            constexpr bool animated = true;
+            alert.dismiss(animated);
+        });
     };
-    controller.present(controller_, animated, ui::ViewController::Completion::from(goAfterwards));
+    presentSheet(controller_, controller, ui::ViewController::Completion::from(goAfterwards));
 }
 
-void Alert::present() const { topViewController().present(controller_, true); }
+void Alert::present() const { presentFrom(topViewController()); }
 
 objc::Strong<ui::TextField> Alert::firstField() const { return controller_.textFields().first(); }
 

@@ -2,6 +2,7 @@
 #include "library/common/screens.hpp"
 
 #include "bindings/uikit/application.hpp"
+#include "bindings/uikit/popover_presentation_controller.hpp"
 #include "bindings/uikit/window_scene.hpp"
 
 namespace wentra {
@@ -36,6 +37,18 @@ ui::ViewController topViewController() {
         top = next;
     }
     return top;
+}
+
+void presentSheet(ui::ViewController sheet, ui::ViewController controller,
+                  ui::ViewController::Completion completion) {
+    constexpr bool animated = true;
+    if (const auto popover = sheet.popoverPresentationController(); !popover.sourceView()) {
+        const ui::View view = controller.view();
+        const auto [origin, size] = view.bounds();
+        popover.setSourceView(view);
+        popover.setSourceRect({{origin.x + size.width / 2, origin.y + size.height / 2}, {1, 1}});
+    }
+    controller.present(sheet, animated, completion);
 }
 
 ScreenLookups& ScreenLookups::of(objc::Object /*controller*/) {

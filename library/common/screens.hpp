@@ -18,6 +18,12 @@ namespace wentra {
 /// What is presented last above the active window's root controller and is there to stay, or nil.
 [[nodiscard]] ui::ViewController topViewController();
 
+/// Presents an action or share sheet from that controller, animated. Tablets show sheets as
+/// popovers and raise without a place to point at: the middle of the controller's view, if the
+/// sheet has none of its own. The completion is called once the sheet is there.
+void presentSheet(ui::ViewController sheet, ui::ViewController controller,
+                  ui::ViewController::Completion completion = {});
+
 /// What a controller's peer lists to answer where its screens come up:
 ///
 ///     objc::method<"getWindow", &ScreenLookups::window>(),

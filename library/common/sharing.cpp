@@ -5,11 +5,6 @@
 #include "library/common/screens.hpp"
 
 namespace wentra {
-namespace {
-
-constexpr bool animated = true;
-
-} // namespace
 
 ui::ActivityViewController shareSheet(objc::Object item) {
     const auto items = ns::MutableArray::make();
@@ -20,11 +15,11 @@ ui::ActivityViewController shareSheet(objc::Object item) {
 void shareText(ns::String text) {
     const auto sheet = shareSheet(text);
     sheet.setModalPresentationStyle(ui::ModalPresentation::overCurrentContext);
-    topViewController().present(sheet, animated);
+    presentSheet(sheet, topViewController());
 }
 
 void share(objc::Object item, ui::ViewController controller) {
-    controller.present(shareSheet(item), animated);
+    presentSheet(shareSheet(item), controller);
 }
 
 void shareFile(ns::String path, ui::ViewController controller) {

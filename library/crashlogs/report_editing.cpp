@@ -75,7 +75,7 @@ void ReportEditing::share(objc::Object /*sender*/) {
         files.add(lists_.at(row).url);
     }
     if (self().isEditing() && files.count() > 0) {
-        topViewController().present(ui::ActivityViewController::sharing(files), animated);
+        presentSheet(ui::ActivityViewController::sharing(files), topViewController());
     }
 }
 

@@ -33,7 +33,7 @@ void ToolScreens::show(ui::ViewController screen) {
         return;
     }
     const ui::ViewController top = topViewController();
-    (top ? top : ui::ViewController(self())).present(screen, animated);
+    presentSheet(screen, top ? top : ui::ViewController(self()));
 }
 
 void ToolScreens::share(objc::Object item) { show(shareSheet(item)); }
@@ -68,8 +68,8 @@ void ToolScreens::showHeld() {
     }
     const objc::Strong<ui::ViewController> screen = held_.first().assume<ui::ViewController>();
     held_.removeIdentical(screen);
-    topViewController().present(
-        screen, animated,
+    presentSheet(
+        screen, topViewController(),
         ui::ViewController::Completion::from([this, kept = objc::Strong(self())] { showHeld(); }));
 }
 

@@ -3,6 +3,7 @@
 #include "bindings/uikit/activity_view_controller.hpp"
 #include "bindings/uikit/navigation_controller.hpp"
 #include "bindings/uikit/pasteboard.hpp"
+#include "library/common/screens.hpp"
 #include "library/files/browser/file_reading.hpp"
 #include "library/files/browser/menus.hpp"
 #include "library/files/conversion/xml_copy.hpp"
@@ -38,7 +39,7 @@ constexpr auto share = [](Operations& all, const Row& row) {
     if (const ns::Url url = path ? urlOf(*path) : ns::Url(); url) {
         const auto items = ns::MutableArray::make();
         items.add(url);
-        row.controller.present(ui::ActivityViewController::sharing(items), animated);
+        presentSheet(ui::ActivityViewController::sharing(items), row.controller);
     }
 };
 
