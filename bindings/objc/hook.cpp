@@ -24,10 +24,7 @@ Outcome check(Method method, const char* types) {
 
 /// Makes this class alone answer `name` by the implementation; the types are those of its method.
 void put(Class cls, SEL name, IMP implementation) {
-    const Method method = class_getInstanceMethod(cls, name);
-    if (class_addMethod(cls, name, implementation, method_getTypeEncoding(method)) == 0) {
-        method_setImplementation(method, implementation);
-    }
+    MSHookMessageEx(cls, name, implementation, nullptr);
 }
 
 Outcome exchange(const Change& change, Class cls, SEL name) {

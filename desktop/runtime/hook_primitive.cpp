@@ -1,6 +1,8 @@
 // MSHookMessageEx: the code-injection framework's hook, on GNU libobjc.
 #include "bindings/objc/hook_primitive.hpp"
 
+#include "desktop/runtime/dispatch_tables.hpp"
+
 void MSHookMessageEx(Class cls, SEL name, IMP replacement, IMP* former) {
     const Method method = cls != nullptr ? class_getInstanceMethod(cls, name) : nullptr;
     if (method == nullptr) {
@@ -14,5 +16,6 @@ void MSHookMessageEx(Class cls, SEL name, IMP replacement, IMP* former) {
     // to.
     if (class_addMethod(cls, name, replacement, method_getTypeEncoding(method)) == 0) {
         method_setImplementation(method, replacement);
+        desktop::renewDispatchTables(cls);
     }
 }

@@ -1,6 +1,7 @@
 // The table beside the objects, and how it learns of their deaths.
 #include "desktop/runtime/side_table.hpp"
 
+#include "desktop/runtime/dispatch_tables.hpp"
 #include "desktop/runtime/reference_count.hpp"
 
 #include <bit>
@@ -103,6 +104,8 @@ void SideTable::watchDeaths() {
                      "GSMutableDictionary", "GSSet", "GSMutableSet">();
         class_replaceMethod(objc_getClass("NSObject"), objc::selector<"release">(),
                             reinterpret_cast<IMP>(&release), "v@:");
+        renewDispatchTables(objc_getClass("NSObject"));
+        renewDispatchTables(objc_getClass("NSProxy"));
     }
 }
 

@@ -26,6 +26,20 @@ using NamedBell = tests::Bell<"TestNamed">;
 int addTenToNamed(Next<int(int)> next, NamedBell, int times) { return next(times) + 10; }
 bool isNamed(NamedBell) { return true; }
 
+/// Overrides the methods around the one that it inherits.
+struct OwnToll : objc::Kind<OwnToll, "TestOwnToll", tests::Bell<"TestFamily">> {};
+class OwnTollPeer : public objc::Peer<OwnTollPeer, OwnToll> {
+public:
+    static constexpr auto methods() {
+        return std::array{objc::method<"toll:", &OwnTollPeer::toll>(),
+                          objc::method<"crack", &OwnTollPeer::crack>()};
+    }
+
+private:
+    int toll(int times) { return times; }
+    void crack() {}
+};
+
 class HookTest : public testing::Test {
     objc::Pool pool_;
 };
@@ -66,6 +80,18 @@ TEST_F(HookTest, AnInheritedMethodIsOverriddenInTheNamedClassOnly) {
     ASSERT_EQ((objc::install(objc::hook<"TestHandbell", "ring:", &twice>())), Outcome::installed);
     EXPECT_EQ(it.ring(1), 2);
     EXPECT_EQ(bell<"TestParent">().ring(1), 1);
+}
+
+TEST_F(HookTest, SubclassesInUseInheritTheReplacement) {
+    bell<"TestFamily">();
+    OwnTollPeer::registerClass();
+    const auto it = OwnToll::make();
+    EXPECT_EQ(it.ring(3), 3);
+    ASSERT_EQ((objc::install(objc::hook<"TestFamily", "ring:", &twice>())), Outcome::installed);
+    EXPECT_EQ(it.ring(3), 6);
+    ASSERT_EQ((objc::install(objc::exchange<"TestFamily", "ring:", "my_ring:", &addTen>())),
+              Outcome::installed);
+    EXPECT_EQ(it.ring(3), 16);
 }
 
 TEST_F(HookTest, AClassMethodIsHookedApartFromTheInstances) {

@@ -1,4 +1,5 @@
 // Weak references: nil from the beginning of the object's end on, on whatever thread.
+#include "bindings/foundation/data.hpp"
 #include "bindings/foundation/string.hpp"
 #include "bindings/objc/associated.hpp"
 #include "bindings/objc/peer.hpp"
@@ -157,6 +158,16 @@ TEST_F(WeakReferences, KnowOfTheEndOfFoundationsCollections) {
         }
         EXPECT_FALSE(reference) << cls;
     }
+}
+
+TEST_F(WeakReferences, KnowOfTheEndOfClassesThatWereInUseBefore) {
+    Weak<objc::Object> reference;
+    {
+        const objc::Pool pool;
+        reference = ns::Data::fromBase64(u"AAAA"_ns);
+        EXPECT_TRUE(reference);
+    }
+    EXPECT_FALSE(reference);
 }
 
 TEST_F(WeakReferences, NeverBringAnObjectBackOnAnotherThread) {
