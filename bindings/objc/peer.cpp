@@ -2,6 +2,12 @@
 #include "bindings/objc/peer.hpp"
 
 namespace objc::detail {
+namespace {
+
+/// The peer is no object that key-value coding could read or replace.
+bool accessInstanceVariablesDirectly(id, SEL) { return false; }
+
+} // namespace
 
 MadeClass makeClass(const ClassDeclaration& declaration, std::span<const MethodRow> rows) {
     const char* name = declaration.name;
@@ -14,8 +20,10 @@ MadeClass makeClass(const ClassDeclaration& declaration, std::span<const MethodR
     // Named after the class: a superclass's peer has a variable of its own.
     class_addIvar(cls, name, declaration.peerSize,
                   static_cast<unsigned char>(std::countr_zero(declaration.peerAlignment)), "?");
-    class_addMethod(object_getClass(object(cls)), selector<"allocWithZone:">(),
-                    declaration.allocate, "@@:^v");
+    const Class meta = object_getClass(object(cls));
+    class_addMethod(meta, selector<"allocWithZone:">(), declaration.allocate, "@@:^v");
+    class_addMethod(meta, selector<"accessInstanceVariablesDirectly">(),
+                    reinterpret_cast<IMP>(&accessInstanceVariablesDirectly), "B@:");
     class_addMethod(cls, selector<"dealloc">(), declaration.deallocate, "v@:");
     for (const MethodRow& row : rows) {
         addMethod(row, cls);
