@@ -30,19 +30,8 @@ bool isOf(objc::Object object, std::string_view name) {
 
 } // namespace
 
-std::string selectorIn(const Json& value) {
-    const bool is =
-        value.is_object() && value.contains("selector") && value["selector"].is_string();
-    return is ? value["selector"].get<std::string>() : "";
-}
-
 std::vector<DeclaredClass> argumentClasses(objc::Object receiver, const std::string& selector,
                                            const Json& arguments) {
-    if (selector.starts_with("performSelector") && !arguments.empty()) {
-        auto classes = declaredBy(receiver, selectorIn(arguments[0]));
-        classes.insert(classes.begin(), DeclaredClass());
-        return classes;
-    }
     if (selector == "setValue:forKey:" && arguments.size() == 2 && arguments[1].is_string()) {
         return declaredBy(receiver, setterOf(arguments[1].get<std::string>()));
     }

@@ -10,13 +10,10 @@
 namespace desktop::host {
 
 /// What the platform's class declares for each argument, as far as it does; for a message that only
-/// passes arguments on (`performSelector:withObject:`, `setValue:forKey:`) what the method behind
-/// it declares. `arguments` is an array.
+/// passes its argument on (`setValue:forKey:`) what the method behind it declares. `arguments` is
+/// an array.
 [[nodiscard]] std::vector<DeclaredClass>
 argumentClasses(objc::Object receiver, const std::string& selector, const Json& arguments);
-
-/// The name in {"selector":"…"}; empty for anything else.
-[[nodiscard]] std::string selectorIn(const Json& value);
 
 /// Whether the object is nil or of that class, an array's elements too; of a class that there is
 /// not, everything is.

@@ -56,7 +56,7 @@ TEST_F(Arguments, OfAnotherClassAreRefusedWhereTheyAreOnlyPassedOn) {
     const json label = made("UILabel");
     refusal(label, "performSelector:withObject:", {{{"selector", "setFont:"}}, "text"});
     refusal(label, "setValue:forKey:", {"text", "font"});
-    host.message(label, "setValue:forKey:", {"text", "text"});
+    host.message(label, "performSelector:withObject:", {{{"selector", "setText:"}}, "text"});
     EXPECT_EQ(host.message(label, "text"), "text");
     show(label);
 }
@@ -120,9 +120,25 @@ TEST_F(Arguments, NullHasNoBytesToCount) {
               json::parse(R"({"data":""})"));
 }
 
+TEST_F(Arguments, NoSelectorIsRefusedWhereOneIsSent) {
+    EXPECT_EQ(refusal("abc", "respondsToSelector:", json::array({nullptr})),
+              "argument 1 cannot be null (its type is :)");
+    EXPECT_NE(refusal({{"class", "NSTimer"}},
+                      "scheduledTimerWithTimeInterval:target:selector:userInfo:repeats:",
+                      {1, "abc", nullptr, nullptr, false}),
+              "");
+    host.result({{"do", "make"},
+                 {"class", "UITapGestureRecognizer"},
+                 {"selector", "initWithTarget:action:"},
+                 {"args", {nullptr, nullptr}}});
+}
+
 TEST_F(Arguments, CodeIsRefusedWhereAMethodCallsIt) {
     EXPECT_NE(refusal({1, 2}, "enumerateObjectsUsingBlock:", json::array({nullptr})), "");
     EXPECT_NE(refusal({1, 2}, "sortedArrayUsingComparator:", json::array({nullptr})), "");
+    EXPECT_NE(refusal({{"class", "NSTimer"}},
+                      "scheduledTimerWithTimeInterval:repeats:block:", {1, false, nullptr}),
+              "");
     EXPECT_NE(refusal({1, 2}, "sortedArrayUsingFunction:context:", {nullptr, nullptr}), "");
 }
 
