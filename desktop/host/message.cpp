@@ -3,7 +3,9 @@
 
 #include "bindings/foundation/invocation.hpp"
 #include "bindings/foundation/method_signature.hpp"
+#include "bindings/foundation/set.hpp"
 #include "desktop/host/argument_classes.hpp"
+#include "desktop/host/performed_message.hpp"
 #include "desktop/host/structure.hpp"
 #include "desktop/host/unsendable.hpp"
 
@@ -21,6 +23,11 @@ namespace {
 std::string_view unqualified(std::string_view type) {
     type.remove_prefix(std::min(type.find_first_not_of("rnNoORVA"), type.size()));
     return type;
+}
+
+bool isObjectType(std::string_view type) {
+    type = unqualified(type);
+    return type.starts_with('@') || type.starts_with('#');
 }
 
 template <class T>
@@ -60,6 +67,20 @@ public:
     [[nodiscard]] Json result() const;
     [[nodiscard]] bool givesObject() const {
         return unqualified(signature_.returnType()).starts_with('@');
+    }
+    /// Whether what `performSelector:` gives for it is an object.
+    [[nodiscard]] bool givesObjectToPerformer() const {
+        return isObjectType(signature_.returnType());
+    }
+    /// Whether it can be performed with a selector: arguments are objects then, and the caller has
+    /// no room for a structure.
+    [[nodiscard]] bool isPerformable() const {
+        for (unsigned long index = hidden; index < signature_.numberOfArguments(); ++index) {
+            if (!isObjectType(signature_.argumentType(index))) {
+                return false;
+            }
+        }
+        return !unqualified(signature_.returnType()).starts_with('{');
     }
     /// Of a method that gives an object.
     [[nodiscard]] objc::Object objectResult() const {
@@ -156,6 +177,10 @@ void Call::addScalar(std::string_view type, const Json& value) {
         store(value.is_null() ? nullptr : values_->toClass(value));
         break;
     case ':':
+        // An action may be missing, a selector that is to be sent or looked up may not.
+        require(!value.is_null() ||
+                    std::string_view(sel_getName(name_)).find("elector") == std::string_view::npos,
+                value);
         store(value.is_null() ? nullptr : values_->toSelector(value));
         break;
     case 'B':
@@ -278,15 +303,19 @@ ns::MethodSignature signatureOf(objc::Object receiver, SEL name) {
     return ns::MethodSignature::withTypes(types.c_str());
 }
 
+void requireSendable(const std::string& selector) {
+    if (const auto why = whyUnsendable(selector)) {
+        throw RequestError(selector + " " + *why);
+    }
+}
+
 ns::MethodSignature signatureFor(objc::Object receiver, const std::string& selector, SEL name) {
     const auto signature = signatureOf(receiver, name);
     if (!signature) {
         throw RequestError(std::string(object_getClassName(receiver.raw())) + " does not answer " +
                            selector);
     }
-    if (const auto why = whyUnsendable(selector)) {
-        throw RequestError(selector + " " + *why);
-    }
+    requireSendable(selector);
     // A class answers "new", an object "init".
     const Class cls = selector == "new" ? reinterpret_cast<Class>(receiver.raw())
                                         : object_getClass(receiver.raw());
@@ -300,11 +329,25 @@ ns::MethodSignature signatureFor(objc::Object receiver, const std::string& selec
     return signature;
 }
 
+/// An invocation looks at a result that is declared to be an object, even if nobody asks for it.
+enum class Result { asDeclared, ignored };
+
+ns::MethodSignature withoutResult(ns::MethodSignature signature) {
+    std::string types = "v";
+    for (unsigned long index = 0; index < signature.numberOfArguments(); ++index) {
+        types += signature.argumentType(index);
+    }
+    return ns::MethodSignature::withTypes(types.c_str());
+}
+
 /// The message with its arguments, to be sent to the receiver.
 Call preparedCall(Values& values, objc::Object receiver, const std::string& selector,
-                  const Json& arguments) {
+                  const Json& arguments, Result result = Result::asDeclared) {
     const SEL name = sel_registerName(selector.c_str());
-    const auto signature = signatureFor(receiver, selector, name);
+    auto signature = signatureFor(receiver, selector, name);
+    if (result == Result::ignored) {
+        signature = withoutResult(signature);
+    }
     if (arguments.size() + hidden != signature.numberOfArguments()) {
         throw RequestError(selector + " takes " +
                            std::to_string(signature.numberOfArguments() - hidden) +
@@ -323,12 +366,6 @@ bool isOfFamily(std::string_view selector, std::string_view family) {
     return selector.starts_with(family) &&
            (selector.size() == family.size() ||
             std::islower(static_cast<unsigned char>(selector[family.size()])) == 0);
-}
-
-/// Whether what comes back has not been initialised.
-bool allocates(const std::string& selector, const Json& arguments) {
-    const bool performs = selector.starts_with("performSelector") && !arguments.empty();
-    return isOfFamily(performs ? selectorIn(arguments[0]) : selector, "alloc");
 }
 
 void requireInitialiser(const std::string& selector) {
@@ -351,17 +388,67 @@ objc::Strong<objc::Object> initialised(Values& values, objc::Object allocated,
     return objc::Strong<objc::Object>::adopt(call.objectResult());
 }
 
+/// Initialisers are for what is allocated, and an object gets only one.
+void requireNoInitialiser(const std::string& selector) {
+    if (isOfFamily(selector, "init")) {
+        throw RequestError(selector + " is for an object that is not initialised");
+    }
+}
+
+void requireReadable(const std::string& key) {
+    requireNoInitialiser(key);
+    requireSendable(key);
+}
+
+/// Throws RequestError unless the receiver can perform it; whether that gives an object.
+bool checkPerformed(Values& values, objc::Object receiver, const PerformedMessage& message) {
+    if (message.selector.empty()) {
+        throw RequestError("no selector is given to perform");
+    }
+    requireNoInitialiser(message.selector);
+    const auto taken =
+        static_cast<std::size_t>(std::ranges::count(message.selector, ':')); // others are ignored
+    Json arguments = message.arguments;
+    while (arguments.size() > taken) {
+        arguments.erase(arguments.size() - 1);
+    }
+    const Call call = preparedCall(values, receiver, message.selector, arguments);
+    if (!call.isPerformable()) {
+        throw RequestError(message.selector + " cannot be performed with objects alone");
+    }
+    return call.givesObjectToPerformer();
+}
+
+/// The same for the receiver's elements, if they are to perform it.
+bool checkPerformed(Values& values, objc::Object receiver, const std::string& selector,
+                    const PerformedMessage& message) {
+    if (!isPerformedByElements(selector)) {
+        return checkPerformed(values, receiver, message);
+    }
+    const auto set = receiver.as<ns::Set>();
+    for (const objc::Object element : set ? set.allObjects() : receiver.as<ns::Array>()) {
+        checkPerformed(values, element, message);
+    }
+    return false;
+}
+
 } // namespace
 
 Json sendMessage(Values& values, objc::Object receiver, const std::string& selector,
                  const Json& arguments, ObjectForm form) {
-    const Call call = preparedCall(values, receiver, selector, arguments);
+    requireNoInitialiser(selector);
+    std::ranges::for_each(keysRead(selector, arguments), &requireReadable);
+    const auto performed = performedMessage(selector, arguments);
+    const bool isAnObject = !performed || checkPerformed(values, receiver, selector, *performed);
+    const Call call = preparedCall(values, receiver, selector, arguments,
+                                   isAnObject ? Result::asDeclared : Result::ignored);
     call.invoke(receiver);
     if (!call.givesObject()) {
         return call.result();
     }
-    const objc::Object result = call.objectResult();
-    return allocates(selector, arguments) ? values.allocated(result) : values.toJson(result, form);
+    return isOfFamily(performed ? performed->selector : selector, "alloc")
+               ? values.allocated(call.objectResult())
+               : values.toJson(call.objectResult(), form);
 }
 
 objc::Strong<objc::Object> makeObject(Values& values, Class cls, const std::string& selector,

@@ -18,16 +18,18 @@ constexpr std::array<std::string_view, 14> variadic{
     "initWithObjectsAndKeys:",  "dictionaryWithObjectsAndKeys:"};
 
 /// What follows such a word is called, be it nothing; a property only keeps it.
-constexpr std::array<std::string_view, 5> calling{
-    "Block:", "omparator:", "PassingTest:", "Function:", "function:"};
+constexpr std::array<std::string_view, 6> calling{
+    "Block:", ":block:", "omparator:", "PassingTest:", "Function:", "function:"};
 
-constexpr std::array<std::string_view, 11> withInitialisersOfTheirOwn{
-    "NSBundle",     "NSDirectoryEnumerator",
-    "NSInvocation", "NSMethodSignature",
-    "NSNetService", "NSNotificationQueue",
-    "NSProgress",   "NSRegularExpression",
-    "NSScanner",    "NSURL",
-    "NSURLProtocol"};
+constexpr std::array<std::string_view, 3> givingUp{"release", "autorelease", "dealloc"};
+
+constexpr std::array<std::string_view, 12> withInitialisersOfTheirOwn{
+    "NSBundle",      "NSDirectoryEnumerator",
+    "NSInvocation",  "NSMethodSignature",
+    "NSNetService",  "NSNotificationQueue",
+    "NSProgress",    "NSRegularExpression",
+    "NSScanner",     "NSURL",
+    "NSURLProtocol", "NSURLSessionTask"};
 
 } // namespace
 
@@ -35,6 +37,9 @@ std::optional<std::string> whyUnsendable(std::string_view selector) {
     const auto isIn = [selector](std::string_view word) {
         return selector.find(word) != std::string_view::npos;
     };
+    if (std::ranges::count(givingUp, selector) != 0) {
+        return "is for the owner of an object, which its handle is";
+    }
     if (std::ranges::count(variadic, selector) != 0) {
         return "takes a list of any length, which cannot be passed";
     }

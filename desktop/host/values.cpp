@@ -88,9 +88,12 @@ objc::Object data(const Json& base64) {
     return bytes;
 }
 
+/// Foundation here counts the years before the first one by one, and back, to describe a date.
 objc::Object date(const Json& seconds) {
-    if (!seconds.is_number()) {
-        throw RequestError("expected seconds since 1970, got " + written(seconds));
+    constexpr double firstYear = -62'135'596'800;
+    if (!seconds.is_number() || seconds.get<double>() < firstYear) {
+        throw RequestError("expected seconds since 1970, from the year 1 on, got " +
+                           written(seconds));
     }
     return ns::Date::withTimeIntervalSince1970(seconds.get<double>());
 }

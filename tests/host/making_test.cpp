@@ -93,7 +93,8 @@ TEST_F(Making, AnAllocatedObjectIsTakenByItsInitialiserOnly) {
 }
 
 TEST_F(Making, WhatNeedsMoreThanInitIsRefused) {
-    for (const char* cls : {"NSURL", "NSScanner", "NSProgress", "NSRegularExpression"}) {
+    for (const char* cls :
+         {"NSURL", "NSScanner", "NSProgress", "NSRegularExpression", "NSURLSessionDataTask"}) {
         EXPECT_EQ(host.error(making(cls, "init")),
                   std::string(cls) + " has initialisers of its own");
         EXPECT_NE(host.error({{"do", "send"}, {"to", {{"class", cls}}}, {"selector", "new"}}), "");
@@ -128,6 +129,20 @@ TEST_F(Making, ARefusedInitialiserLeavesTheObjectAllocated) {
             {{"do", "send"}, {"to", view}, {"selector", "initWithFrame:"}, {"args", {"text"}}}),
         "");
     EXPECT_EQ(host.message(view, "init").at("object"), view.at("object"));
+}
+
+TEST_F(Making, AnObjectIsInitialisedOnceAndGivenUpByItsHandleOnly) {
+    const json array = host.result(
+        {{"do", "make"}, {"class", "NSMutableArray"}, {"selector", "init"}, {"handle", true}});
+    for (const char* selector :
+         {"init", "initWithObjects:count:", "release", "autorelease", "dealloc"}) {
+        EXPECT_NE(host.error({{"do", "send"}, {"to", array}, {"selector", selector}}), "")
+            << selector;
+    }
+    EXPECT_EQ(host.error({{"do", "send"}, {"to", array}, {"selector", "init"}}),
+              "init is for an object that is not initialised");
+    EXPECT_EQ(host.error({{"do", "send"}, {"to", array}, {"selector", "release"}}),
+              "release is for the owner of an object, which its handle is");
 }
 
 TEST_F(Making, AnyResultCanBeHadAsAHandle) {

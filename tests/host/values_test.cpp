@@ -96,6 +96,13 @@ TEST_F(Values, ScalarsAreConvertedByTheMethodsTypes) {
               18446744073709551615ULL);
 }
 
+TEST_F(Values, DatesBeginWithTheFirstYear) {
+    EXPECT_EQ(host.message({{"date", -62'135'596'800}}, "description"),
+              "0001-01-01 00:00:00 +0000");
+    EXPECT_NE(host.error({{"do", "send"}, {"to", {{"date", -1e12}}}, {"selector", "description"}}),
+              "");
+}
+
 TEST_F(Values, WhatIsNotFiniteIsNull) {
     const json view = host.message({{"class", "UIView"}}, "new");
     host.message(view, "setFrame:", {{{"rect", {0, 0, 100, 100}}}});
