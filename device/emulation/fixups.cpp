@@ -28,31 +28,45 @@ void requirePointer(unsigned type) {
 /// Where the code stands in the image.
 class Place {
 public:
-    explicit Place(const std::vector<std::uint64_t>& segments) : segments_(&segments) {}
+    explicit Place(const std::vector<Segment>& segments) : segments_(&segments) {
+        for (const Segment& segment : segments) {
+            wordsLeft_ += segment.size / wordSize;
+        }
+    }
 
     void set(unsigned segment, std::uint64_t offset) {
         if (segment >= segments_->size()) {
             throw Refusal("a fixup in a segment that is not there");
         }
-        address_ = (*segments_)[segment] + offset;
+        segment_ = &(*segments_)[segment];
+        offset_ = offset;
     }
-    void skip(std::uint64_t bytes) { address_ += bytes; }
+    /// Backwards, too, by a number that wraps around.
+    void skip(std::uint64_t bytes) { offset_ += bytes; }
     /// The word here; the place is behind it then.
     std::uint64_t pass() {
-        const std::uint64_t here = address_;
-        address_ += wordSize;
-        return here;
+        if (segment_ == nullptr || segment_->size < wordSize ||
+            offset_ > segment_->size - wordSize) {
+            throw Refusal("a fixup outside of the segments");
+        }
+        if (wordsLeft_-- == 0) {
+            throw Refusal("more fixups than words");
+        }
+        offset_ += wordSize;
+        return segment_->address + offset_ - wordSize;
     }
 
 private:
-    const std::vector<std::uint64_t>* segments_;
-    std::uint64_t address_ = 0;
+    const std::vector<Segment>* segments_;
+    const Segment* segment_ = nullptr;
+    std::uint64_t offset_ = 0;
+    /// No word has two, so a count that the file exaggerates ends here.
+    std::uint64_t wordsLeft_ = 0;
 };
 
 class Rebasing {
 public:
-    Rebasing(Bytes code, const std::vector<std::uint64_t>& segments)
-        : code_(code), place_(segments) {}
+    Rebasing(Bytes code, const std::vector<Segment>& segments) : code_(code), place_(segments) {}
 
     std::vector<std::uint64_t> run() {
         while (!code_.empty() && step(code_.byte())) {
@@ -113,7 +127,7 @@ private:
 
 class Binder {
 public:
-    Binder(Bytes code, BindingTable table, const std::vector<std::uint64_t>& segments)
+    Binder(Bytes code, BindingTable table, const std::vector<Segment>& segments)
         : code_(code), table_(table), place_(segments) {}
 
     std::vector<Binding> run() {
@@ -195,12 +209,12 @@ private:
 
 } // namespace
 
-std::vector<std::uint64_t> rebasedWords(Bytes code, const std::vector<std::uint64_t>& segments) {
+std::vector<std::uint64_t> rebasedWords(Bytes code, const std::vector<Segment>& segments) {
     return Rebasing(code, segments).run();
 }
 
 std::vector<Binding> bindings(Bytes code, BindingTable table,
-                              const std::vector<std::uint64_t>& segments) {
+                              const std::vector<Segment>& segments) {
     return Binder(code, table, segments).run();
 }
 

@@ -1,10 +1,7 @@
 // The byte code of classic fixups: which words of the image move with it, and which are imports.
 #pragma once
 
-#include "device/emulation/byte_reader.hpp"
-
-#include <string>
-#include <vector>
+#include "device/emulation/image_file.hpp"
 
 namespace emulation {
 
@@ -18,17 +15,17 @@ struct Binding {
     bool operator==(const Binding&) const = default;
 };
 
-/// The addresses of the words that hold addresses within the image. `segments` are the addresses of
-/// the image's segments. Throws Refusal.
+/// The addresses of the words that hold addresses within the image. Throws Refusal, for a word
+/// outside of the segments too.
 [[nodiscard]] std::vector<std::uint64_t> rebasedWords(Bytes code,
-                                                      const std::vector<std::uint64_t>& segments);
+                                                      const std::vector<Segment>& segments);
 
 /// Whether a table of imports ends at the first end mark, or has one behind each import because
 /// these are bound one by one.
 enum class BindingTable { eager, lazy };
 
-/// Throws Refusal.
+/// Throws Refusal as above.
 [[nodiscard]] std::vector<Binding> bindings(Bytes code, BindingTable table,
-                                            const std::vector<std::uint64_t>& segments);
+                                            const std::vector<Segment>& segments);
 
 } // namespace emulation

@@ -34,16 +34,26 @@ std::vector<char> contentOf(const std::filesystem::path& file) {
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-/// A stretch of the image, to be written to. Throws Refusal when it lies outside.
+/// A stretch of the image. Throws Refusal when it lies outside.
 std::span<std::byte> stretch(std::uint64_t address, std::uint64_t size) {
-    const Bytes found = part(mapped, address, size);
-    return {mapped.data() + address, found.size()};
+    if (address > mapped.size() || size > mapped.size() - address) {
+        throw Refusal("an address outside of the image");
+    }
+    return mapped.subspan(address, size);
 }
 
-std::uint64_t word(std::uint64_t address) { return valueAt<std::uint64_t>(mapped, address); }
+std::uint64_t word(std::uint64_t address) {
+    return valueAt<std::uint64_t>(stretch(address, sizeof(std::uint64_t)), 0);
+}
 
 void setWord(std::uint64_t address, std::uint64_t value) {
     std::memcpy(stretch(address, sizeof value).data(), &value, sizeof value);
+}
+
+/// A text of the image, by where it lies in memory. Throws Refusal.
+const char* textAt(std::uint64_t address) {
+    const std::uint64_t start = address - base();
+    return ByteReader(stretch(start, mapped.size() - start)).text().data();
 }
 
 void map(const ImageFile& file) {
@@ -69,18 +79,14 @@ void bind(const Binding& binding, std::string& missing) {
 }
 
 void applyFixups(const ImageFile& file) {
-    std::vector<std::uint64_t> segments;
-    for (const Segment& segment : file.segments) {
-        segments.push_back(segment.address);
-    }
-    for (const std::uint64_t place : rebasedWords(file.rebaseCode, segments)) {
+    for (const std::uint64_t place : rebasedWords(file.rebaseCode, file.segments)) {
         setWord(place, word(place) + base());
     }
     std::string missing;
-    for (const Binding& binding : bindings(file.bindCode, BindingTable::eager, segments)) {
+    for (const Binding& binding : bindings(file.bindCode, BindingTable::eager, file.segments)) {
         bind(binding, missing);
     }
-    for (const Binding& binding : bindings(file.lazyBindCode, BindingTable::lazy, segments)) {
+    for (const Binding& binding : bindings(file.lazyBindCode, BindingTable::lazy, file.segments)) {
         bind(binding, missing);
     }
     if (!missing.empty()) {
@@ -93,13 +99,15 @@ void registerSelectors(const ImageFile& file) {
     const Section* section = file.sectionNamed("__objc_selrefs");
     for (std::uint64_t i = 0; section != nullptr && i < section->size / 8; ++i) {
         const std::uint64_t place = section->address + 8 * i;
-        const auto* name = reinterpret_cast<const char*>(word(place));
-        setWord(place, reinterpret_cast<std::uint64_t>(sel_registerName(name)));
+        setWord(place, reinterpret_cast<std::uint64_t>(sel_registerName(textAt(word(place)))));
     }
 }
 
 void registerCompactFrames(const Section& section) {
-    const auto rows = readUnwindInfo(part(mapped, section.address, section.size));
+    const auto rows = readUnwindInfo(stretch(section.address, section.size));
+    for (const FrameRow& row : rows) {
+        static_cast<void>(stretch(row.start, row.size));
+    }
     // The unwinder reads them for as long as the process lives.
     auto* frames = new std::vector(callFrames(rows, base(), &word));
     __register_frame(frames->data());
@@ -108,7 +116,8 @@ void registerCompactFrames(const Section& section) {
 /// The few frames that the compact form cannot describe are in Linux's form as they are; but Linux
 /// wants a zero word at the end.
 void registerDwarfFrames(const Section& section) {
-    if (valueAt<std::uint32_t>(mapped, section.address + section.size) != 0) {
+    constexpr std::uint64_t endSize = 4;
+    if (valueAt<std::uint32_t>(stretch(section.address + section.size, endSize), 0) != 0) {
         throw Refusal("an __eh_frame without an end");
     }
     __register_frame(stretch(section.address, section.size).data());
@@ -127,9 +136,11 @@ void protect(const ImageFile& file) {
     for (const Segment& segment : file.segments) {
         // A phone's loader makes it constant once its imports are bound.
         const bool isWritable = segment.writable && segment.name != "__DATA_CONST";
-        mprotect(stretch(segment.address, segment.size).data(), segment.size,
-                 (segment.readable ? PROT_READ : 0) | (isWritable ? PROT_WRITE : 0) |
-                     (segment.executable ? PROT_EXEC : 0));
+        if (mprotect(stretch(segment.address, segment.size).data(), segment.size,
+                     (segment.readable ? PROT_READ : 0) | (isWritable ? PROT_WRITE : 0) |
+                         (segment.executable ? PROT_EXEC : 0)) != 0) {
+            throw Refusal("a segment that cannot be protected: " + segment.name);
+        }
     }
     auto* start = reinterpret_cast<char*>(mapped.data());
     __builtin___clear_cache(start, start + mapped.size());
@@ -139,8 +150,11 @@ void runInitialisers(const ImageFile& file) {
     std::array<const char*, 1> none{};
     for (const Section& section : file.sections) {
         for (std::uint64_t i = 0; section.holdsInitialisers && i < section.size / 8; ++i) {
-            const auto initialiser = reinterpret_cast<Initialiser>(word(section.address + 8 * i));
-            initialiser(0, none.data(), environ, none.data());
+            const std::uint64_t start = word(section.address + 8 * i);
+            if (!isInsideImage(start)) {
+                throw Refusal("an initialiser outside of the image");
+            }
+            reinterpret_cast<Initialiser>(start)(0, none.data(), environ, none.data());
         }
     }
 }

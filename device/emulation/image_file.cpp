@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace emulation {
 namespace {
@@ -36,7 +37,9 @@ struct FixupsCommand {
     TablePlace rebase, bind, weakBind, lazyBind, exports;
 };
 
-enum : std::uint32_t { magic64 = 0xFEEDFACF, arm64 = 0x0100000C, dylib = 6, bundle = 8 };
+enum : std::uint32_t { magic64 = 0xFEEDFACF, dylib = 6, bundle = 8 };
+/// The kinds 0 and 1 are plain arm64; arm64e, which signs its addresses, is another one.
+enum : std::uint32_t { arm64 = 0x0100000C, lastPlainKind = 1 };
 enum : std::uint32_t {
     segmentCommand = 0x19,
     classicFixups = 0x22,
@@ -51,7 +54,7 @@ std::string textOf(const std::array<char, size>& characters) {
 }
 
 void checkHeader(const Header& header) {
-    if (header.magic != magic64 || header.cpu != arm64) {
+    if (header.magic != magic64 || header.cpu != arm64 || header.cpuKind > lastPlainKind) {
         throw Refusal("not a file for arm64 alone");
     }
     if (header.fileType != dylib && header.fileType != bundle) {
@@ -64,7 +67,29 @@ bool isUnreadObjectiveC(std::string_view name) {
     return name.starts_with("__objc_") && name != "__objc_selrefs" && name != "__objc_imageinfo";
 }
 
-Section readSection(const SectionRecord& record) {
+/// Much more than any library needs, and little enough to be mapped anywhere.
+constexpr std::uint64_t largestImage = std::uint64_t{1} << 26U;
+
+void checkSize(const SegmentCommand& command) {
+    if (command.address > largestImage || command.size > largestImage - command.address) {
+        throw Refusal("an image of more than 64 megabytes");
+    }
+    if (command.fileSize > command.size) {
+        throw Refusal("a segment that is smaller than what the file puts there");
+    }
+}
+
+template <class Inner>
+bool isWithin(const Inner& inner, const Segment& segment) {
+    return inner.address >= segment.address && inner.size <= segment.size &&
+           inner.address - segment.address <= segment.size - inner.size;
+}
+
+bool overlap(const Segment& one, const Segment& other) {
+    return one.address < other.address + other.size && other.address < one.address + one.size;
+}
+
+Section readSection(const SectionRecord& record, const Segment& segment) {
     const std::string name = textOf(record.name);
     const std::uint32_t kind = record.flags & 0xFFU;
     if (kind >= firstThreadLocal && kind <= lastThreadLocal) {
@@ -73,6 +98,9 @@ Section readSection(const SectionRecord& record) {
     if (isUnreadObjectiveC(name)) {
         throw Refusal("what a compiler of Objective-C leaves to the runtime, in the section " +
                       name);
+    }
+    if (!isWithin(record, segment)) {
+        throw Refusal("a section outside its segment: " + name);
     }
     return {name, record.address, record.size, kind == initialisers};
 }
@@ -84,9 +112,9 @@ public:
     ImageFile read() {
         const auto header = valueAt<Header>(file_, 0);
         checkHeader(header);
-        std::uint64_t offset = sizeof header;
+        Bytes commands = part(file_, sizeof header, header.commandSize);
         for (std::uint32_t left = header.commandCount; left > 0; --left) {
-            offset += readCommand(offset);
+            commands = commands.subspan(readFirst(commands));
         }
         if (!hasFixups_) {
             throw Refusal("a file without classic fixups");
@@ -95,38 +123,51 @@ public:
     }
 
 private:
-    /// The size of the command at that offset.
-    std::uint64_t readCommand(std::uint64_t offset) {
-        const auto command = valueAt<Command>(file_, offset);
-        switch (command.kind) {
+    /// The first command's size.
+    std::uint64_t readFirst(Bytes commands) {
+        const auto [kind, size] = valueAt<Command>(commands, 0);
+        if (size < sizeof(Command)) {
+            throw Refusal("a load command that is smaller than its head");
+        }
+        const Bytes command = part(commands, 0, size);
+        switch (kind) {
         case segmentCommand:
-            readSegment(offset);
+            readSegment(command);
             break;
         case classicFixups:
         case classicFixupsOnly:
-            readFixups(valueAt<FixupsCommand>(file_, offset));
+            readFixups(valueAt<FixupsCommand>(command, 0));
             break;
         case chainedFixups:
             throw Refusal("chained fixups");
         default:
             break;
         }
-        return command.size;
+        return size;
     }
 
-    void readSegment(std::uint64_t offset) {
-        const auto command = valueAt<SegmentCommand>(file_, offset);
-        if (command.fileSize > command.size) {
-            throw Refusal("a segment that is smaller than what the file puts there");
-        }
-        image_.segments.push_back({textOf(command.name), command.address, command.size,
-                                   part(file_, command.fileOffset, command.fileSize),
-                                   (command.protection & 1U) != 0, (command.protection & 2U) != 0,
-                                   (command.protection & 4U) != 0});
+    void readSegment(Bytes bytes) {
+        const auto command = valueAt<SegmentCommand>(bytes, 0);
+        checkSize(command);
+        addSegment({textOf(command.name), command.address, command.size,
+                    part(file_, command.fileOffset, command.fileSize),
+                    (command.protection & 1U) != 0, (command.protection & 2U) != 0,
+                    (command.protection & 4U) != 0});
         for (std::uint32_t i = 0; i < command.sectionCount; ++i) {
-            image_.sections.push_back(readSection(valueAt<SectionRecord>(
-                file_, offset + sizeof command + i * sizeof(SectionRecord))));
+            const auto record =
+                valueAt<SectionRecord>(bytes, sizeof command + i * sizeof(SectionRecord));
+            image_.sections.push_back(readSection(record, image_.segments.back()));
         }
+    }
+
+    void addSegment(Segment added) {
+        for (const Segment& segment : image_.segments) {
+            if (overlap(segment, added)) {
+                throw Refusal("the segments " + segment.name + " and " + added.name +
+                              " in one place");
+            }
+        }
+        image_.segments.push_back(std::move(added));
     }
 
     void readFixups(const FixupsCommand& command) {

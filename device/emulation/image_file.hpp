@@ -42,7 +42,7 @@ struct ImageFile {
 
 /// Reads the file's bytes, which must live as long as the result. Throws Refusal for anything but a
 /// library for arm64 alone with classic fixups, without thread-locals, and whose Objective-C is in
-/// its code alone.
+/// its code alone; its segments lie apart then, and its sections within them.
 [[nodiscard]] ImageFile readImageFile(Bytes file);
 
 } // namespace emulation

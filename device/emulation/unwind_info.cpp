@@ -36,6 +36,9 @@ public:
         }
         end_ = index(header_.indexCount - 1).start;
         std::ranges::sort(rows_, {}, &Row::start);
+        if (!rows_.empty() && rows_.back().start > end_) {
+            throw Refusal("a compact unwind table that ends before its last function");
+        }
     }
 
     [[nodiscard]] std::vector<FrameRow> frames() const {
@@ -58,6 +61,9 @@ private:
         if (entry.page != 0) {
             readPage(entry.page, entry.start);
         }
+        if (next.handlers < entry.handlers) {
+            throw Refusal("a compact unwind table whose handlers are out of order");
+        }
         for (std::uint32_t at = entry.handlers; at < next.handlers; at += sizeof(Row)) {
             const auto [function, table] = valueAt<Row>(bytes_, at);
             handlers_[function] = table;
@@ -67,6 +73,9 @@ private:
     void readPage(std::uint32_t page, std::uint32_t start) {
         const auto header = valueAt<PageHeader>(
             bytes_, page); // a regular one lacks the last two fields, which are not used then
+        if (rows_.size() + header.rowCount > bytes_.size() / 4) {
+            throw Refusal("a compact unwind table whose pages overlap");
+        }
         for (std::uint32_t i = 0; i < header.rowCount; ++i) {
             rows_.push_back(row(header, page, start, i));
         }

@@ -4,8 +4,10 @@
 #include "device/emulation/refusal.hpp"
 
 #include <algorithm>
+#include <charconv>
 #include <optional>
 #include <string>
+#include <system_error>
 
 namespace emulation {
 namespace {
@@ -174,9 +176,12 @@ private:
     }
 
     ValueShape array() {
-        const std::size_t digits = std::min(rest_.find_first_not_of("0123456789"), rest_.size());
-        const auto count = static_cast<unsigned>(std::stoul("0" + std::string(rest_, 0, digits)));
-        rest_.remove_prefix(digits);
+        unsigned count = 0;
+        const auto [end, error] = std::from_chars(rest_.data(), rest_.data() + rest_.size(), count);
+        if (error != std::errc()) {
+            refuseTypes();
+        }
+        rest_.remove_prefix(static_cast<std::size_t>(end - rest_.data()));
         const ValueShape element = shape();
         if (!passIf(']')) {
             refuseTypes();

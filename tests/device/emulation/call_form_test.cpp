@@ -49,8 +49,8 @@ TEST(ValueShape, OfEachTypeOfAMethod) {
 }
 
 TEST(ValueShape, OfUnknownSizeIsRefused) {
-    for (const char* types :
-         {"{unknown}", "v@:{unknown}{P=dd}", "{cut=d", "b3", "D", "[3", "@\"x"}) {
+    for (const char* types : {"{unknown}", "v@:{unknown}{P=dd}", "{cut=d", "b3", "D", "[3", "[d]",
+                              "[99999999999d]", "@\"x"}) {
         EXPECT_THROW(static_cast<void>(shapesOf(types)), Refusal) << types;
     }
 }

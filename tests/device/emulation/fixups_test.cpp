@@ -10,9 +10,15 @@ namespace {
 using emulation::Binding;
 using emulation::BindingTable;
 using emulation::Refusal;
+using emulation::Segment;
 using tests::WrittenBytes;
 
-const std::vector<std::uint64_t> segments{0, 0x8000, 0xC000};
+Segment segment(std::uint64_t address, std::uint64_t size) {
+    return {"", address, size, {}, true, true, false};
+}
+
+const std::vector<Segment> segments{segment(0, 0x8000), segment(0x8000, 0x4000),
+                                    segment(0xC000, 0x40)};
 
 std::vector<std::uint64_t> rebased(const WrittenBytes& code) {
     return emulation::rebasedWords(code.view(), segments);
@@ -36,6 +42,30 @@ TEST(RebasedWords, RefuseWhatIsUnknown) {
     EXPECT_THROW(rebased({0x23, 0x00}), Refusal) << "no such segment";
     EXPECT_THROW(rebased({0x90}), Refusal);
     EXPECT_THROW(rebased({0x60}), Refusal) << "cut off";
+}
+
+TEST(RebasedWords, LieInTheirSegment) {
+    EXPECT_EQ(rebased({0x22, 0x38, 0x51}), (std::vector<std::uint64_t>{0xC038}));
+    EXPECT_THROW(rebased({0x22, 0x39, 0x51}), Refusal) << "its last byte is outside";
+    EXPECT_THROW(rebased({0x22, 0x00, 0x59}), Refusal) << "nine words where eight are";
+    EXPECT_THROW(rebased({0x51}), Refusal) << "in no segment";
+}
+
+/// The number of bytes that leads back by them.
+WrittenBytes back(std::uint8_t bytes) {
+    WrittenBytes number{0x80 - bytes + 0x80};
+    for (int i = 0; i < 8; ++i) {
+        number.append({0xFF});
+    }
+    return number.append({0x01});
+}
+
+TEST(RebasedWords, AreNotMoreThanTheImageHas) {
+    EXPECT_EQ(rebased(WrittenBytes{0x22, 0x08, 0x51, 0x30}.append(back(16)).append({0x51})),
+              (std::vector<std::uint64_t>{0xC008, 0xC000}));
+    EXPECT_THROW(rebased(WrittenBytes{0x22, 0x00, 0x80, 0xFF, 0xFF, 0xFF, 0x7F}.append(back(8))),
+                 Refusal)
+        << "one word again and again";
 }
 
 std::vector<Binding> bound(const WrittenBytes& code, BindingTable table = BindingTable::eager) {

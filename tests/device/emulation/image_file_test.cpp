@@ -28,18 +28,23 @@ struct Parts {
     std::uint32_t fixups = 0x80000022;
     std::uint32_t weakSize = 0;
     std::uint64_t memory = 0x4000;
+    std::uint32_t cpuKind = 0;
+    std::uint32_t commandSize = 152;
+    std::uint64_t address = 0x8000;
+    std::uint64_t sectionSize = 3;
+    std::uint32_t sections = 1;
 };
 
 /// A library of one segment and one section; its five bytes of content are its fixups, too.
 WrittenBytes library(const Parts& parts = {}) {
     constexpr std::uint32_t contents = 32 + 72 + 80 + 48;
     WrittenBytes file;
-    file.words({parts.magic, parts.cpu, 0, parts.type, 2, 200, 0, 0});
-    file.words({0x19, 152}).value(name("__TEXT")).value(std::uint64_t{0x8000});
+    file.words({parts.magic, parts.cpu, parts.cpuKind, parts.type, 2, 200, 0, 0});
+    file.words({0x19, parts.commandSize}).value(name("__TEXT")).value(parts.address);
     file.value(parts.memory).value(std::uint64_t{contents}).value(std::uint64_t{5});
-    file.words({5, 5, 1, 0});
+    file.words({5, 5, parts.sections, 0});
     file.value(name(parts.section)).value(name("__TEXT")).value(std::uint64_t{0x8001});
-    file.value(std::uint64_t{3}).words({contents, 0, 0, 0, parts.sectionKind, 0, 0, 0});
+    file.value(parts.sectionSize).words({contents, 0, 0, 0, parts.sectionKind, 0, 0, 0});
     file.words(
         {parts.fixups, 48, contents, 1, contents + 1, 2, 0, parts.weakSize, contents + 3, 2});
     file.words({0, 0});
@@ -89,6 +94,15 @@ TEST(ImageFile, RefusesByName) {
              {{.fixups = 0x80000099}, "without classic fixups"},
              {{.weakSize = 4}, "another image may replace"},
              {{.memory = 4}, "smaller"},
+             {{.cpuKind = 2}, "arm64 alone"},
+             {{.commandSize = 0}, "a load command"},
+             {{.commandSize = 200}, "the file ends"},
+             {{.memory = ~std::uint64_t{0}}, "64 megabytes"},
+             {{.address = ~std::uint64_t{0} - 7}, "64 megabytes"},
+             {{.address = 0x8002}, "outside its segment: __text"},
+             {{.sectionSize = 0x4000}, "outside its segment: __text"},
+             {{.sectionSize = ~std::uint64_t{0}}, "outside its segment: __text"},
+             {{.sections = 2}, "the file ends"},
          }) {
         EXPECT_NE(refusal(library(parts)).find(text), std::string::npos) << text;
     }

@@ -47,6 +47,20 @@ TEST(UnwindInfo, IsReadWithinItsBytesOnly) {
     }
 }
 
+TEST(UnwindInfo, IsRefusedWhenItDisagreesWithItself) {
+    const auto pages = [](std::uint32_t rows, std::uint32_t firstHandlers, std::uint32_t end) {
+        return WrittenBytes()
+            .words({1, 0, 0, 0, 0, 28, 3})
+            .words({0x1000, 64, firstHandlers, 0x1100, 64, 64, end, 0, 64})
+            .words({2, rows << 16U | 8, 0x1000, leaf, 0x1010, leaf});
+    };
+    EXPECT_EQ(emulation::readUnwindInfo(pages(2, 64, 0x2000).view()).size(), 2U);
+    for (const WrittenBytes& table :
+         {pages(2, 64, 0x100F), pages(2, 72, 0x2000), pages(12, 64, 0x2000)}) {
+        EXPECT_THROW(emulation::readUnwindInfo(table.view()), Refusal);
+    }
+}
+
 std::vector<std::uint8_t> frames(const std::vector<FrameRow>& rows) {
     std::vector<std::uint8_t> bytes;
     for (const std::byte one :
