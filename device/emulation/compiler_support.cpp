@@ -1,11 +1,9 @@
 // Functions of the compiler's and the loader's that Linux has under other names or not at all.
-#include "device/emulation/calls.hpp"
 #include "device/emulation/imports.hpp"
 #include "device/emulation/refusal.hpp"
 
 #include <cmath>
 #include <cstdint>
-#include <dlfcn.h>
 
 namespace emulation {
 namespace {
@@ -26,7 +24,6 @@ std::vector<Translation> compilerTranslations() {
         translation("___exp10", &powerOfTen),
         translation("___stack_chk_fail", &tellOfSmashedStack),
         translation("___stack_chk_guard", &stackGuard),
-        translation("_objc_msgSend", &emulation_msgSend),
         translation("dyld_stub_binder", &bindLate),
     };
 }

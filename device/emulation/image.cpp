@@ -29,7 +29,7 @@ std::uint64_t base() { return reinterpret_cast<std::uint64_t>(mapped.data()); }
 std::vector<char> contentOf(const std::filesystem::path& file) {
     std::ifstream stream(file, std::ios::binary);
     if (!stream) {
-        throw Refusal("there is no such file");
+        throw Refusal("a file that cannot be read");
     }
     return {std::istreambuf_iterator<char>(stream), {}};
 }

@@ -75,6 +75,7 @@ std::vector<Translation> runtimeTranslations() {
         translation("_class_getMethodImplementation", &functionNamed),
         translation("_method_getImplementation", &functionOf),
         translation("_method_setImplementation", &setFunction),
+        translation("_objc_msgSend", &emulation_msgSend),
         translation("_object_getClass", &classOf),
         translation("_sel_isEqual", &isEqual),
     };
