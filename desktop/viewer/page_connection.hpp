@@ -22,8 +22,6 @@ public:
                    const ServerListener& listener)
         : stream_(std::move(socket)), number_(number), listener_(listener) {}
 
-    [[nodiscard]] PageNumber number() const { return number_; }
-
     /// Answers the request for a connection; from then on texts are told.
     void accept(const HttpRequest& request);
     /// A page that does not take what it is sent is cut off.

@@ -81,10 +81,7 @@ Phone::Phone(const Door& door, Start start, std::filesystem::path deviceFolder,
               [this](const host::Json& event) {
                   tellAll({{"type", "events"}, {"events", host::Json::array({event})}});
               }),
-      server_(door.socket, door.token,
-              {later<PageNumber>(&Phone::opened), later<PageNumber, std::string>(&Phone::said),
-               later<PageNumber>(&Phone::closed),
-               later<FetchNumber, std::string>(&Phone::fetched)}) {}
+      server_(door.socket, door.token, listener()) {}
 
 template <class... Arguments, class Method>
 std::function<void(Arguments...)> Phone::later(Method method) {
@@ -96,6 +93,15 @@ std::function<void(Arguments...)> Phone::later(Method method) {
             }
         });
     };
+}
+
+ServerListener Phone::listener() {
+    ServerListener told;
+    told.opened = later<PageNumber>(&Phone::opened);
+    told.said = later<PageNumber, std::string>(&Phone::said);
+    told.closed = later<PageNumber>(&Phone::closed);
+    told.fetched = later<FetchNumber, std::string>(&Phone::fetched);
+    return told;
 }
 
 void Phone::opened(PageNumber page) {

@@ -34,6 +34,7 @@ private:
     /// The method, called on the main thread as long as there is a phone.
     template <class... Arguments, class Method>
     std::function<void(Arguments...)> later(Method method);
+    ServerListener listener();
 
     void opened(PageNumber page);
     void said(PageNumber page, const std::string& text);

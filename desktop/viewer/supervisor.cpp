@@ -19,7 +19,6 @@
 #include <sys/wait.h>
 #include <system_error>
 #include <unistd.h>
-#include <utility>
 
 namespace desktop::viewer {
 namespace {
@@ -109,6 +108,21 @@ private:
     std::deque<std::chrono::steady_clock::time_point> moments_;
 };
 
+/// The child has named what is to come in its place.
+void replace(Start& start, const std::string& successor) {
+    const auto end = successor.find(nameEnd);
+    start.application = successor.substr(0, end);
+    start.settings = successor.substr(end + 1);
+    start.rests = false;
+}
+
+void tellOfCrash(const Start& start, int signal) {
+    std::fprintf(stderr, "host: %s crashed: %s\n", start.application.c_str(), strsignal(signal));
+    if (start.rests) {
+        std::fprintf(stderr, "host: it crashes again and again: the page can start it\n");
+    }
+}
+
 } // namespace
 
 int supervise(std::string application, const std::function<int(const Start&)>& phone) {
@@ -118,27 +132,20 @@ int supervise(std::string application, const std::function<int(const Start&)>& p
     while (!stop_request::isMade()) {
         const Pipe names;
         start.successor = names.ends[1];
-        const pid_t process = startChild(start, phone);
-        const int status = waitFor(process);
+        const int status = waitFor(startChild(start, phone));
         if (stop_request::isMade()) {
             break;
         }
         start.afterCrash = WIFSIGNALED(status);
         if (const std::string successor = names.content(); !successor.empty()) {
-            const auto end = successor.find(nameEnd);
-            start.application = successor.substr(0, end);
-            start.settings = successor.substr(end + 1);
-            start.rests = false;
+            replace(start, successor);
         } else if (!start.afterCrash) {
             return WEXITSTATUS(status);
-        } else if (std::exchange(start.rests, false)) {
+        } else if (start.rests) {
             return EXIT_FAILURE;
         } else {
-            std::fprintf(stderr, "host: %s crashed: %s\n", start.application.c_str(),
-                         strsignal(WTERMSIG(status)));
-            if (start.rests = crashes.areTooMany(); start.rests) {
-                std::fprintf(stderr, "host: it crashes again and again: the page can start it\n");
-            }
+            start.rests = crashes.areTooMany();
+            tellOfCrash(start, WTERMSIG(status));
         }
     }
     return EXIT_SUCCESS;

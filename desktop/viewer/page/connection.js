@@ -14,10 +14,11 @@ function revived(/** @type {string} */ _, /** @type {any} */ value) {
 }
 
 /**
- * Dispatches a CustomEvent for each message of the phone, named by its type, with the message as
- * its detail; "sent" with what this page has said; "frame" with the bytes of a frame; and "state" whenever that changes: "connecting";
- * "connected", with the phone in this page's hand; "watching", with it in another's; "resting" when the
- * application crashes again and again; "ended" when there is no host any more.
+ * Dispatches a CustomEvent for each message of the phone, named by its type, with the message as its
+ * detail; "sent" with what this page has said; "frame" with the bytes of a frame; and "state" whenever
+ * that changes: "connecting"; "connected", with the phone in this page's hand; "watching", with it in
+ * another's; "resting" when the application crashes again and again; "ended" when there is no host any
+ * more.
  */
 export class Connection extends EventTarget {
     /** @type {WebSocket | null} */

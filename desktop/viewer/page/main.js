@@ -218,28 +218,24 @@ field.addEventListener("focus", () => {
 field.addEventListener("blur", () => {
     part("typing").textContent = word("typingOff");
 });
+
+/** What keys do while nothing is written. @type {Record<string, () => void>} */
+const shortcuts = {
+    "?": showHelp,
+    r: holding.turn,
+    d: holding.switchAppearance,
+    h: holding.home,
+    l: holding.lock,
+    s: holding.shake,
+    k: () => attempt(keyboard.toggle),
+    i: () => inspector.toggle(),
+};
 window.addEventListener("keydown", (event) => {
     const types = event.target instanceof HTMLInputElement || event.target instanceof HTMLTextAreaElement;
     if (types || event.ctrlKey || event.metaKey || event.altKey) {
         return;
     }
-    if (event.key === "?") {
-        showHelp();
-    } else if (event.key === "r") {
-        holding.turn();
-    } else if (event.key === "d") {
-        holding.switchAppearance();
-    } else if (event.key === "h") {
-        holding.home();
-    } else if (event.key === "l") {
-        holding.lock();
-    } else if (event.key === "s") {
-        holding.shake();
-    } else if (event.key === "k") {
-        attempt(keyboard.toggle);
-    } else if (event.key === "i") {
-        inspector.toggle();
-    }
+    shortcuts[event.key]?.();
 });
 const shownPanel = () => Object.values(panels).find(({ panel }) => !panel.hidden);
 window.addEventListener("focus", () => attempt(shownPanel()?.refresh));

@@ -1,6 +1,7 @@
 // @ts-check
 // What the phone says and plays, heard after the click that browsers insist on. What is said is shown
 // in any case.
+import { whenThereIsNews } from "./news.js";
 import { word } from "./words.js";
 
 /** What no phone sounds but makes it shake: its tones are low. */
@@ -21,18 +22,8 @@ export class Sounds {
     constructor(button, connection, tell) {
         this.#button = button;
         button.onclick = () => this.#toggle();
-        let isOver = true; // what happened before the page came, told right after the welcome
-        connection.addEventListener("welcome", () => {
-            isOver = true;
-            this.#fallSilent();
-        });
-        connection.addEventListener("events", (happened) => {
-            const { events } = /** @type {CustomEvent} */ (happened).detail;
-            for (const event of isOver ? [] : events) {
-                this.#take(event, tell);
-            }
-            isOver = false;
-        });
+        connection.addEventListener("welcome", () => this.#fallSilent());
+        whenThereIsNews(connection, (events) => events.forEach((event) => this.#take(event, tell)));
     }
 
     #toggle() {
