@@ -171,7 +171,6 @@ void TextInput::remember(ns::Range range, unsigned long length) {
 void TextInput::takeBack(TextEditKind edit) {
     const objc::Strong<ui::View> kept = view();
     unmarkText();
-    history_.pause();
     const ns::Range range = clamped(TextEdit::of(edit).range);
     const objc::Strong<ns::AttributedString> text = TextEdit::of(edit).text;
     history_.add(kept, range.location, formerText(range), text.length());

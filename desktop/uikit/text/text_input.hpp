@@ -142,6 +142,18 @@ private:
     void edited(ns::Range former, unsigned long length);
     [[nodiscard]] unsigned long destination(TextMovement movement, unsigned long from);
     [[nodiscard]] unsigned long lineEnd(unsigned long unit);
+    /// To which a caret keeps that goes up and down from there.
+    [[nodiscard]] double columnAt(unsigned long unit);
+    /// Of the selection, for keys: the one that stays, and the one that moves.
+    struct Ends {
+        unsigned long anchor;
+        unsigned long loose;
+    };
+    /// When the selection was not made by keys, the end on the side of the movement is the loose
+    /// one.
+    [[nodiscard]] Ends ends(TextMovement movement, bool extends) const;
+    [[nodiscard]] ns::Range erasedBy(TextMovement movement);
+    void eraseWithoutAsking(ns::Range range);
     void moveCaret(unsigned long unit) { select({unit, 0}); }
     void showCaret();
     [[nodiscard]] unsigned long unitAt(CGPoint point);

@@ -47,6 +47,8 @@ unsigned long TextInput::lineEnd(unsigned long unit) {
     return isLast ? line.end : composedBefore(line.end).location;
 }
 
+double TextInput::columnAt(unsigned long unit) { return column_ ? *column_ : flow().caret(unit).x; }
+
 unsigned long TextInput::destination(TextMovement movement, unsigned long from) {
     if (isSecret() && (movement == TextMovement::wordLeft || movement == TextMovement::wordRight)) {
         return goesBack(movement) ? 0 : length(); // what its words are is secret too
@@ -58,7 +60,7 @@ unsigned long TextInput::destination(TextMovement movement, unsigned long from) 
         return from + composedAfter(from).length;
     case TextMovement::up:
     case TextMovement::down:
-        return flow().unitInLine(from, goesBack(movement) ? -1 : 1, *column_);
+        return flow().unitInLine(from, goesBack(movement) ? -1 : 1, columnAt(from));
     case TextMovement::wordLeft:
         return wordStartBefore(plainUnits({0, length()}), from);
     case TextMovement::wordRight:
@@ -75,6 +77,15 @@ unsigned long TextInput::destination(TextMovement movement, unsigned long from) 
     return from;
 }
 
+TextInput::Ends TextInput::ends(TextMovement movement, bool extends) const {
+    if (extends && anchor_) {
+        return {*anchor_, looseEnd()};
+    }
+    const unsigned long first = selection_.location;
+    const unsigned long last = first + selection_.length;
+    return goesBack(movement) ? Ends{last, first} : Ends{first, last};
+}
+
 void TextInput::move(TextMovement movement, bool extends) {
     if (!isSelectable()) {
         return;
@@ -83,50 +94,43 @@ void TextInput::move(TextMovement movement, bool extends) {
     ui::MenuController::sharedMenuController().hideMenu();
     unmarkText();
     history_.pause();
-    const unsigned long first = selection_.location;
-    const unsigned long last = first + selection_.length;
-    const unsigned long side = goesBack(movement) ? first : last;
-    const unsigned long from = extends && anchor_ ? looseEnd() : side;
-    const unsigned long anchor = extends && anchor_ ? *anchor_ : first + last - side;
-    column_ =
-        isVertical(movement) ? column_.value_or(flow().caret(from).x) : std::optional<double>();
-    const auto column = column_;
+    const auto [anchor, from] = ends(movement, extends);
+    const auto column = isVertical(movement) ? std::optional(columnAt(from)) : std::nullopt;
     const bool collapses = !extends && selection_.length > 0 &&
                            (movement == TextMovement::left || movement == TextMovement::right);
-    const unsigned long to = collapses ? side : destination(movement, from);
+    const unsigned long to = collapses ? from : destination(movement, from);
     select(extends ? between(anchor, to) : ns::Range{to, 0});
+    anchor_ = extends ? std::optional(anchor) : std::nullopt;
     column_ = column; // up and down keep to it, whatever the lines between are like
-    if (extends) {
-        anchor_ = anchor;
-    }
     showCaret();
+}
+
+ns::Range TextInput::erasedBy(TextMovement movement) {
+    const unsigned long caret = selection_.location;
+    return selection_.length > 0 ? selection_ : between(caret, destination(movement, caret));
 }
 
 void TextInput::erase(TextMovement to) {
     const objc::Strong<ui::View> kept = view();
     ui::MenuController::sharedMenuController().hideMenu();
-    if (!isEditable()) {
-        return;
-    }
     const bool isPlain = to == TextMovement::left || selection_.length > 0;
-    if (isVertical(to)) {
-        column_ = flow().caret(selection_.location).x;
-    }
-    const ns::Range range =
-        selection_.length > 0 ? selection_
-                              : between(selection_.location, destination(to, selection_.location));
-    if (range.length > 0 && !mayChange(range, ns::String::from(u""))) {
+    const ns::Range range = erasedBy(to);
+    if (!isEditable() || (range.length > 0 && !mayChange(range, ns::String::from(u"")))) {
         return;
     }
     if (isPlain) {
         kept.send<"deleteBackward">();
     } else if (range.length > 0) {
-        unmarkText();
-        remember(clamped(range), 0);
-        write(clamped(range), ns::String::from(u""));
-        showCaret();
-        tellChange();
+        eraseWithoutAsking(clamped(range));
     }
+}
+
+void TextInput::eraseWithoutAsking(ns::Range range) {
+    unmarkText();
+    remember(range, 0);
+    write(range, ns::String::from(u""));
+    showCaret();
+    tellChange();
 }
 
 } // namespace desktop
