@@ -129,11 +129,10 @@ private:
     std::string line_;
     LoneEscapes escapes_;
     Json root_;
-    std::vector<Json*>
-        open_; // the value being read and those around it, which do not move meanwhile
+    std::vector<Json*> open_; ///< what is being read and those around it: none moves meanwhile
     std::string key_;
     std::string why_;
-    std::size_t mistake_ = 0; // where what was read last begins
+    std::size_t mistake_ = 0; ///< where what was read last begins
 };
 
 } // namespace

@@ -6,6 +6,8 @@
 
 #include "desktop/class.hpp"
 
+#include <vector>
+
 namespace desktop {
 
 class Responder : public PlatformClass<Responder, ui::Responder> {

@@ -11,7 +11,6 @@
 #include "desktop/uikit/views/view.hpp"
 
 #include <algorithm>
-#include <ranges>
 
 namespace desktop {
 namespace {
@@ -30,9 +29,9 @@ Hit hitAt(CGPoint screenPoint) {
         return {nullptr, nullptr, screenPoint};
     }
     const auto& visible = Application::shared().visibleWindows();
-    // Kept, and a copy: a view's own test may change the list.
-    const std::vector<objc::Strong<ui::Window>> windows(visible.begin(), visible.end());
-    for (const auto& window : windows | std::views::reverse) {
+    // From the front. Kept, and a copy: a view's own test may change the list.
+    const std::vector<objc::Strong<ui::Window>> windows(visible.rbegin(), visible.rend());
+    for (const auto& window : windows) {
         const CGPoint point = intoWindow(window, screenPoint);
         if (const auto view = window.hitTest(point, nullptr); view) {
             return {window, view, point};
@@ -159,11 +158,10 @@ void TouchDispatcher::begin(std::span<const TouchPoint> points) {
         }
         const auto touch = Touch::began(hit.window, hit.view, hit.point, tapCountAt(hit.point));
         // A view that does not ask for several touches gets the first one only.
-        Touch::of(touch).reachesView =
-            hit.view.isMultipleTouchEnabled() ||
-            std::ranges::none_of(touches_ | std::views::values, [&](const auto& other) {
-                return Touch::of(other).view() == hit.view;
-            });
+        Touch::of(touch).reachesView = hit.view.isMultipleTouchEnabled() ||
+                                       std::ranges::none_of(touches_, [&](const auto& other) {
+                                           return Touch::of(other.second).view() == hit.view;
+                                       });
         touches_.emplace(id, touch);
         fresh.push_back(touch);
         assignRecognizers(touch);

@@ -8,6 +8,8 @@
 #include "desktop/drawing/font.hpp"
 #include "desktop/uikit/traits/content_size.hpp"
 
+#include <vector>
+
 namespace desktop {
 
 class UIFont : public PlatformClass<UIFont, ui::Font> {

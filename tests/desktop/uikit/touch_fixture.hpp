@@ -84,9 +84,7 @@ protected:
         desktop::Clock::shared().setMode(desktop::Clock::Mode::real);
     }
 
-    TouchTest() : window_(ui::Window::withFrame(ui::Screen::mainScreen().bounds())) {
-        window_.makeKeyAndVisible();
-    }
+    TouchTest() { window_.makeKeyAndVisible(); }
     ~TouchTest() override {
         window_.setHidden(true);
         desktop::run_loop::advance(5); // so that no tap counts as the second of the next test
@@ -122,7 +120,7 @@ protected:
         up();
     }
 
-    objc::Strong<ui::Window> window_;
+    objc::Strong<ui::Window> window_ = ui::Window::withFrame(ui::Screen::mainScreen().bounds());
     objc::Strong<TouchLogKind> log_ = TouchLogKind::make();
 };
 

@@ -147,7 +147,8 @@ TEST_F(ScreenImageTest, AWindowFillsTheScreenAtEveryScale) {
     for (const CGSize size : {CGSize{390, 844}, {844, 390}, {375, 667}, {393.5, 851.25}}) {
         geometry = desktop::ScreenGeometry::upright(desktop::deviceOfSize(size, 3));
         window.setFrame({{}, size});
-        for (double scale = 0.5; scale < 3; scale += 0.0771) {
+        for (int step = 0; step < 33; ++step) {
+            const double scale = 0.5 + 0.0771 * step;
             ScreenImage screen(scale);
             for (const auto& [colour, drawn] :
                  {std::pair{ui::Color::red(), desktop::Colour{1, 0, 0, 1}},
