@@ -84,6 +84,17 @@ TEST_F(Browser, WalksIntoFoldersAndBack) {
     }
 }
 
+TEST_F(Browser, StaysWhereItIsWhenTheFolderAboveHasGone) {
+    fs::create_directories(files.documents / "inner/deep");
+    start();
+    phone->tap(cell(left, 0));
+    phone->tap(cell(left, 0));
+    fs::remove_all(files.documents / "inner");
+    send("backButtonPressed:", {nullptr});
+    EXPECT_EQ(send("path1"), "/var/mobile/Documents/inner/deep");
+    EXPECT_EQ(list(left), Json::array());
+}
+
 TEST_F(Browser, SwipesBackToTheRight) {
     fs::create_directories(files.documents / "inner");
     start();

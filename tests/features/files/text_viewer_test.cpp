@@ -40,10 +40,11 @@ protected:
     std::string named(const std::string& color) {
         return phone.message({{"class", "UIColor"}}, color)["description"];
     }
-    /// Shows the end of the text, as a flick does that comes to rest there.
-    void reachEnd() {
+    /// Shows the end of the text but for so many points, as a flick does that comes to rest there.
+    void reachEnd(double butFor = 0) {
         const double height = phone.message(view, "contentSize")["size"][1];
-        phone.message(view, "setContentOffset:", {{{"point", {0, height}}}});
+        const double shown = phone.node(view)["frame"][3];
+        phone.message(view, "setContentOffset:", {{{"point", {0, height - shown - butFor}}}});
         phone.message(viewer, "scrollViewDidEndDecelerating:", {view});
     }
     /// Until the text is so long: another thread puts it together.
@@ -80,6 +81,7 @@ TEST_F(TextViewer, ShowsOnePageAndTheNextAtTheEnd) {
     open(std::string(page, 'a') + std::string(page, 'b') + "c");
     EXPECT_EQ(text(), std::string(page, 'a'));
     phone.message(viewer, "scrollViewDidEndDecelerating:", {view}); // at the start
+    reachEnd(0.5);
     EXPECT_EQ(phone.message(viewer, "currentLoadedPage"), 0);
     reachEnd();
     waitFor(2 * page);

@@ -39,6 +39,12 @@ protected:
                                         {documents.substr(std::string("file://").size()) + name});
         return data.is_null() ? data : data["data"];
     }
+    /// The names of the application's documents.
+    Json documentNames() {
+        return phone.message(phone.message({{"class", "NSFileManager"}}, "defaultManager"),
+                             "contentsOfDirectoryAtPath:error:",
+                             {documents.substr(std::string("file://").size()), nullptr});
+    }
     double progress() {
         return phone.message(phone.panel("progressView"), "progress").get<double>();
     }
@@ -59,6 +65,7 @@ TEST_F(Downloads, AreSavedAndShared) {
 }
 
 TEST_F(Downloads, ShowTheirProgressAndCanBeCancelled) {
+    const Json holders = phone.panel("retainCount");
     download(files + "a.bin?size=200000&rate=100000");
     const Json bar = phone.node(phone.panel("progressView"));
     const double width = phone.node(phone.view())["frame"][2];
@@ -71,7 +78,9 @@ TEST_F(Downloads, ShowTheirProgressAndCanBeCancelled) {
     phone.tap("取消下载");
     EXPECT_EQ(phone.panel("progressView"), nullptr);
     EXPECT_TRUE(phone.find({{"title", "取消下载"}, {"visible", true}}).empty());
-    phone.error({{"do", "wait"}, {"for", {{"text", "下载失败❗️"}}}, {"seconds", 0.5}});
+    EXPECT_TRUE(phone.until([&] { return phone.panel("retainCount") == holders; }))
+        << "the session keeps the panel until all is told";
+    EXPECT_TRUE(phone.find({{"text", "下载失败❗️"}}).empty());
     EXPECT_EQ(document("a.bin"), nullptr);
 }
 
@@ -95,11 +104,7 @@ TEST_F(Downloads, ReplaceTheEarlierFileOnlyWhenTheyAreWhole) {
     download(files + "a.txt?text=hello");
     EXPECT_EQ(shared(), documents + "a.txt");
     EXPECT_EQ(document("a.txt"), hello);
-    EXPECT_EQ(phone.message(phone.message({{"class", "NSFileManager"}}, "defaultManager"),
-                            "contentsOfDirectoryAtPath:error:",
-                            {documents.substr(std::string("file://").size()), nullptr}),
-              Json::array({"a.txt"}))
-        << "nothing is left of the others";
+    EXPECT_EQ(documentNames(), Json::array({"a.txt"})) << "nothing is left of the others";
 }
 
 TEST_F(Downloads, LeaveAFolderOfThatNameAlone) {
@@ -110,6 +115,7 @@ TEST_F(Downloads, LeaveAFolderOfThatNameAlone) {
     download(files + "a.txt?text=hello");
     expectFailure();
     EXPECT_EQ(phone.message(manager, "fileExistsAtPath:", {folder + "/kept"}), true);
+    EXPECT_EQ(documentNames(), Json::array({"a.txt"})) << "nothing is left of the download";
     const std::vector<Json> lines = phone.events("log");
     ASSERT_FALSE(lines.empty());
     EXPECT_EQ(lines.back()["text"], "保存文件出错: 未能完成操作。Is a directory");
@@ -169,6 +175,7 @@ TEST_F(Downloads, ALaterOneHasTheBar) {
     EXPECT_EQ(shared(), documents + "slow.txt");
     EXPECT_NE(phone.panel("progressView"), nullptr) << "the later one's";
     EXPECT_EQ(phone.find({{"class", "UIProgressView"}}).size(), 1U);
+    EXPECT_EQ(phone.find({{"title", "取消下载"}}).size(), 1U);
     phone.tap("取消下载");
     EXPECT_EQ(phone.find({{"class", "UIProgressView"}}).size(), 0U);
 }
@@ -243,7 +250,8 @@ TEST_F(Downloads, OfAGivenAddressComeWithoutABar) {
                                                                           {nobody, "x"}}) {
         phone.panel("downloadWithUrl:session:", {address, with});
     }
-    phone.error({{"do", "wait"}, {"for", {{"event", "share"}}}, {"seconds", 0.5}});
+    phone.panel("downloadWithUrl:session:", {files + "last.txt?text=last", session});
+    EXPECT_TRUE(shared().ends_with("/tmp/last.txt")) << "the session tells of one after the other";
     EXPECT_TRUE(phone.swallowed().empty());
 }
 
