@@ -35,6 +35,9 @@ TEST(Inspection, PassesWhatIsHiddenAndWhatIsCutOff) {
     host.message(label, "setHidden:", {true});
     EXPECT_EQ(at(host, 30, 125).at("object"), page.at("object"));
     host.message(label, "setHidden:", {false});
+    host.message(label, "setAlpha:", {0});
+    EXPECT_EQ(at(host, 30, 125).at("object"), page.at("object"));
+    host.message(label, "setAlpha:", {1});
     host.message(page, "setFrame:", {{{"rect", {0, 0, 390, 100}}}});
     EXPECT_EQ(at(host, 30, 125).at("object"), label.at("object"));
     host.message(page, "setClipsToBounds:", {true});
@@ -51,6 +54,23 @@ TEST(Inspection, TheFrontOneOfTwoIsSeen) {
     EXPECT_EQ(at(host, 30, 125).at("object"), cover.at("object"));
     host.message(page, "sendSubviewToBack:", {cover});
     EXPECT_EQ(at(host, 30, 125).at("object"), label.at("object"));
+}
+
+TEST(Inspection, AViewEndsBeforeItsRightAndItsLowerEdge) {
+    support::HostProcess host = tests::automatedHost({"--app", "plain"});
+    const json window = host.message({{"class", "UIWindow"}}, "alloc");
+    host.message(window, "initWithFrame:", {{{"rect", {100, 300, 50, 40}}}});
+    host.message(window, "setHidden:", {false});
+    struct Case {
+        double x;
+        double y;
+        bool isInside;
+    };
+    for (const auto& [x, y, isInside] :
+         {Case{100, 300, true}, Case{149.5, 339.5, true}, Case{150, 320, false},
+          Case{120, 340, false}, Case{99.5, 320, false}, Case{120, 299.5, false}}) {
+        EXPECT_EQ(at(host, x, y).at("class") == "UIWindow", isInside) << x << ", " << y;
+    }
 }
 
 TEST(Inspection, TellsTheMethodsThatTheLibraryReplaced) {

@@ -63,6 +63,8 @@ TEST_F(Making, WhatCannotBeMadeIsRefused) {
     }
     EXPECT_EQ(host.error(making("NoSuchClass", "init")), "no such class: NoSuchClass");
     EXPECT_EQ(host.error(making("UIView", "new")), "new does not initialise an object");
+    EXPECT_EQ(host.error(making("UIView", "initialize")),
+              "initialize does not initialise an object");
 }
 
 TEST_F(Making, WhatAnInitialiserRaisesIsTold) {

@@ -55,9 +55,18 @@ TEST_F(RequestLine, TheIdentifierOfAMalformedLineIsEchoed) {
         EXPECT_EQ(answer.value("id", json()), id) << line;
     }
     for (const char* line : {R"({"x":{"id":7},})", R"({"id":[1],})", "{", R"([{"id":1}])",
-                             R"({"x" {"id":1},"y":2})"}) {
+                             R"({"x":[{"id":7})", R"({"x" {"id":1},"y":2})"}) {
         EXPECT_FALSE(host.sendLine(line).contains("id")) << line;
     }
+}
+
+TEST_F(RequestLine, ValuesMayBeNestedInTwoHundredLevels) {
+    const auto answer = [this](std::size_t lists) {
+        return host.sendLine(R"({"do":"events","x":)" + std::string(lists, '[') +
+                             std::string(lists, ']') + "}");
+    };
+    EXPECT_EQ(answer(199).at("ok"), true);
+    EXPECT_EQ(answer(200).at("error"), "the request is nested too deeply");
 }
 
 /// What the host answers to the line, as it is written: this test's own reader takes no halves.

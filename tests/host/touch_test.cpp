@@ -164,6 +164,24 @@ TEST_F(TouchCommands, BadArgumentsAreRefusedAndTheHostGoesOn) {
     act({{"do", "tap"}, {"on", view}});
 }
 
+TEST_F(TouchCommands, TheWheelScrollsWhatIsUnderIt) {
+    const json scrolled = made("UIScrollView");
+    host.message(scrolled, "setFrame:", {{{"rect", {100, 400, 100, 100}}}});
+    host.message(scrolled, "setContentSize:", {{{"size", {100, 150}}}});
+    host.message(host.result({{"do", "tree"}}).at(0), "addSubview:", {scrolled});
+    const auto turn = [this](double x, double y, double by) {
+        return host.result({{"do", "wheel"}, {"at", {x, y}}, {"by", {0, by}}});
+    };
+    EXPECT_EQ(turn(150, 450, 30), true);
+    EXPECT_EQ(host.message(scrolled, "contentOffset"), (json{{"point", {0, 30}}}));
+    EXPECT_EQ(turn(450, 150, 30), false) << "nothing scrolls there";
+    EXPECT_EQ(turn(150, 450, 30), true);
+    EXPECT_EQ(host.message(scrolled, "contentOffset"), (json{{"point", {0, 50}}}));
+    EXPECT_EQ(turn(150, 450, 30), false) << "it is at its end";
+    EXPECT_NE(host.error({{"do", "wheel"}, {"at", {150, 450}}}), "");
+    EXPECT_NE(host.error({{"do", "wheel"}, {"by", {0, 1}}, {"at", "here"}}), "");
+}
+
 TEST(SwipedRows, AreThoseOfTables) {
     support::HostProcess host = tests::automatedHost({"--app", "plain"});
     const nlohmann::json label =

@@ -61,4 +61,32 @@ TEST(TextBoundaries, FindWords) {
     EXPECT_EQ(wordAround(u"...", 1).end - wordAround(u"...", 1).start, 1u);
 }
 
+TEST(TextBoundaries, StopTheCaretBehindAndBeforeWords) {
+    const std::u16string far =
+        u"one" + std::u16string(1000, u' ') + u"two" + std::u16string(500, u'.');
+    struct Case {
+        std::u16string text;
+        std::size_t from;
+        std::size_t right;
+        std::size_t left;
+    };
+    for (const auto& [text, from, right, left] : {
+             Case{u"one, two", 0, 3, 0},
+             Case{u"one, two", 1, 3, 0},
+             Case{u"one, two", 3, 8, 0},
+             Case{u"one, two", 5, 8, 0},
+             Case{u"one, two", 8, 8, 5},
+             Case{u"one, two", 99, 8, 5},
+             Case{u"...", 1, 3, 0},
+             Case{u"", 0, 0, 0},
+             Case{far, 3, 1006, 0},
+             Case{far, 1003, 1006, 0},
+             Case{far, 1006, far.size(), 1003},
+             Case{far, far.size(), far.size(), 1003},
+         }) {
+        EXPECT_EQ(wordEndAfter(text, from), right) << from;
+        EXPECT_EQ(wordStartBefore(text, from), left) << from;
+    }
+}
+
 } // namespace

@@ -35,6 +35,17 @@ protected:
         }
         return std::bit_cast<double>(bits);
     }
+    /// Width and height of the pictures, as the first of them tells.
+    [[nodiscard]] std::pair<int, int> size() const {
+        const std::string bytes = content();
+        const std::size_t at = bytes.find("\x9D\x01\x2A"); // a picture that stands by itself
+        const auto number = [&](std::size_t from) {
+            return at == bytes.npos ? 0
+                                    : static_cast<unsigned char>(bytes.at(from)) |
+                                          static_cast<unsigned char>(bytes.at(from + 1)) << 8;
+        };
+        return {number(at + 3), number(at + 5)};
+    }
 
     support::TemporaryFolder folder;
     std::string file = folder.path() / "film.webm";
@@ -57,6 +68,7 @@ TEST_F(FilmEncoding, PicturesThatAreNoLaterAreLeftOut) {
     add(*encoder, 200, 0.1);
     EXPECT_TRUE(encoder->finish(0.2));
     EXPECT_NEAR(duration(), 500, 50);
+    EXPECT_EQ(size(), (std::pair{64, 48}));
 }
 
 TEST_F(FilmEncoding, AFilmThatIsNotEndedIsThereNevertheless) {

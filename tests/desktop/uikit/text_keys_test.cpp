@@ -2,6 +2,7 @@
 #include "tests/desktop/uikit/text_fixture.hpp"
 
 #include "bindings/foundation/undo_manager.hpp"
+#include "bindings/uikit/menu_controller.hpp"
 #include "bindings/uikit/pasteboard.hpp"
 #include "desktop/uikit/keyboard/keyboard_input.hpp"
 
@@ -71,6 +72,19 @@ TEST_F(TextKeys, MoveTheCaret) {
     }
 }
 
+TEST_F(TextKeys, StayOnALineThatIsBroken) {
+    std::string words;
+    for (int word = 0; word < 40; ++word) {
+        words += "word ";
+    }
+    setText("|" + words);
+    const std::string end = after({TextMovement::lineEnd});
+    EXPECT_NE(end, "|" + words);
+    EXPECT_NE(end, words + "|");
+    EXPECT_EQ(after({TextMovement::lineEnd}), end);
+    EXPECT_EQ(after({TextMovement::lineStart}), "|" + words);
+}
+
 TEST_F(TextKeys, ExtendTheSelectionAtItsLooseEnd) {
     using enum TextMovement;
     setText("one two| three");
@@ -117,6 +131,8 @@ TEST_F(TextKeys, EraseUpToWhereTheyWouldMove) {
     EXPECT_EQ(erased("two| words", wordRight), "two|");
     EXPECT_EQ(erased("one\ntwo words|\n", lineStart), "one\n|\n");
     EXPECT_EQ(erased("end|", right), "end|");
+    EXPECT_EQ(erased("mm\nmm|m", up), "mm|m");
+    EXPECT_EQ(erased("m|m\nmm", down), "m|m");
     setText("one two| three");
     after({wordLeft}, true);
     keyboard::erase(right);
@@ -137,6 +153,11 @@ TEST_F(TextKeys, WhatATextHidesHasNoWords) {
     field_.setSecureTextEntry(true);
     field_.setText(u"two words"_ns);
     field_.becomeFirstResponder();
+    keyboard::move(TextMovement::wordLeft, false);
+    keyboard::typeText(u"|"_ns);
+    EXPECT_EQ(field_.text().utf8(), "|two words");
+    keyboard::erase(TextMovement::wordRight);
+    EXPECT_EQ(field_.text().utf8(), "|");
     keyboard::erase(TextMovement::wordLeft);
     EXPECT_EQ(field_.text().utf8(), "");
 }
@@ -200,6 +221,35 @@ TEST_F(TextKeys, WhatTheApplicationSetsIsNotTakenBack) {
     keyboard::typeText(u"!"_ns);
     view_.send<"undoManager", ns::UndoManager>().undo();
     EXPECT_EQ(shown(), "two|");
+}
+
+TEST_F(TextKeys, EachThatMovesEndsWhatIsTyped) {
+    keyboard::typeText(u"one"_ns);
+    after({TextMovement::left, TextMovement::right});
+    keyboard::typeText(u" two"_ns);
+    keyboard::undo();
+    EXPECT_EQ(shown(), "one|");
+    keyboard::redo();
+    keyboard::typeText(u"!"_ns);
+    keyboard::undo();
+    EXPECT_EQ(shown(), "one two|") << "what was done again is not what is typed then";
+    view_.setSelectedRange({3, 0});
+    keyboard::typeText(u"-"_ns);
+    keyboard::undo();
+    EXPECT_EQ(shown(), "one| two");
+    keyboard::undo();
+    EXPECT_EQ(shown(), "one|") << "each by itself, whoever moved the caret";
+}
+
+TEST_F(TextKeys, TakeTheMenuAwayAndKeepWhatIsComposed) {
+    const auto menu = ui::MenuController::sharedMenuController();
+    keyboard::setMarkedText(u"ni"_ns, {2, 0});
+    menu.showMenu(view_, view_.bounds());
+    EXPECT_TRUE(menu.isMenuVisible());
+    EXPECT_EQ(after({TextMovement::left}), "n|i");
+    EXPECT_FALSE(menu.isMenuVisible());
+    keyboard::typeText(u"-"_ns);
+    EXPECT_EQ(shown(), "n-|i");
 }
 
 TEST_F(TextKeys, NothingHappensWithoutAFocus) {

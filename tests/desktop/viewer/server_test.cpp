@@ -34,6 +34,10 @@ public:
         address.sin_port = htons(listener.port());
         address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
         ASSERT_EQ(connect(socket_, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+        askOn(path);
+    }
+    /// Without waiting for what was asked before.
+    void askOn(const std::string& path) const {
         const std::string request =
             "GET " + path + " HTTP/1.1\r\nHost: 127.0.0.1\r\nConnection: close\r\n\r\n";
         ASSERT_EQ(write(socket_, request.data(), request.size()),
@@ -120,6 +124,20 @@ TEST(Server, KnowsWhoWaitsNoMore) {
     desk.server().answer(wanted, {200, "text/plain", "here"});
     EXPECT_TRUE(patient.answer().ends_with("\r\n\r\nhere"));
     EXPECT_FALSE(desk.server().isAwaited(wanted));
+}
+
+TEST(Server, AVisitorWhoAsksOnStillWaits) {
+    Desk desk;
+    const Visitor eager;
+    eager.ask(desk.listener(), "/" + token + "/screenshot.png");
+    const FetchNumber first = desk.nextFetch();
+    eager.askOn("/" + token);
+    const Visitor other;
+    other.ask(desk.listener(), "/" + token + "/pasteboard.png");
+    static_cast<void>(desk.nextFetch()); // after the news that there is more to read
+    EXPECT_TRUE(desk.server().isAwaited(first));
+    desk.server().answer(first, {200, "text/plain", "here"});
+    EXPECT_TRUE(eager.answer().ends_with("\r\n\r\nhere"));
 }
 
 /// Allows no further descriptor for as long as it lives.

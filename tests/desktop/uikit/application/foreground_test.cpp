@@ -4,12 +4,12 @@
 #include "bindings/foundation/notification_center.hpp"
 #include "desktop/uikit/application/foreground.hpp"
 #include "desktop/uikit/application/home_screen.hpp"
+#include "desktop/uikit/application/screen_image.hpp"
 #include "desktop/uikit/events/shake.hpp"
 
 namespace {
 
 using desktop::Foreground;
-using tests::TouchedView;
 
 std::vector<std::string>& news() {
     static std::vector<std::string> told;
@@ -125,6 +125,23 @@ TEST_F(ForegroundTest, FingersAreTakenAwayAndOnlyTheIconTakesNewOnes) {
     EXPECT_EQ(seen(view), "bc");
     tap({300, 600});
     EXPECT_EQ(seen(view), "bcbe");
+}
+
+TEST_F(ForegroundTest, WhatIsInFrontIsDrawn) {
+    desktop::ScreenImage screen(1);
+    for (const bool shown : {true, false}) {
+        screen.refresh();
+        Foreground::shared().showHomeScreen(shown);
+        EXPECT_FALSE(screen.refresh().empty());
+    }
+}
+
+TEST_F(ForegroundTest, ALockedPhoneHasNoIcons) {
+    Foreground::shared().showHomeScreen(true);
+    Foreground::shared().lock(true);
+    const desktop::Rectangle icon = desktop::homeScreenIcon({390, 844});
+    tap({icon.x + icon.width / 2, icon.y + icon.height / 2});
+    EXPECT_TRUE(Foreground::shared().isHomeScreenShown());
 }
 
 TEST_F(ForegroundTest, AShakeReachesTheFirstResponderWhileItsApplicationIsInFront) {

@@ -128,4 +128,13 @@ TEST_F(RotationTest, WhatTheControllerDoesNotSupportStays) {
     EXPECT_TRUE(peer().news.empty());
 }
 
+TEST_F(RotationTest, APhoneWithAHomeButtonStandsOnItsHead) {
+    peer().mask = 30;
+    desktop::exchangeDevice(*desktop::deviceNamed("iPhone SE"));
+    EXPECT_EQ(desktop::rotate(InterfaceOrientation::portraitUpsideDown),
+              InterfaceOrientation::portraitUpsideDown);
+    desktop::rotate(InterfaceOrientation::portrait);
+    desktop::exchangeDevice(desktop::usualDevice());
+}
+
 } // namespace

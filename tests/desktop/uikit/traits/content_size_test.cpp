@@ -7,6 +7,8 @@
 #include "desktop/uikit/traits/screen_traits.hpp"
 #include "desktop/uikit/values/font.hpp"
 
+#include <algorithm>
+
 namespace {
 
 using desktop::ContentSize;
@@ -39,6 +41,20 @@ TEST(TextStyles, GrowWithTheCategory) {
          }) {
         EXPECT_EQ(desktop::textStyleNamed(style).sizeIn(size), points);
     }
+}
+
+TEST(TextStyles, AreNoSmallerInALargerCategory) {
+    for (const char16_t* name :
+         {u"UICTFontTextStyleTitle0", u"UICTFontTextStyleTitle1", u"UICTFontTextStyleTitle2",
+          u"UICTFontTextStyleTitle3", u"UICTFontTextStyleHeadline", u"UICTFontTextStyleBody",
+          u"UICTFontTextStyleCallout", u"UICTFontTextStyleSubhead", u"UICTFontTextStyleFootnote",
+          u"UICTFontTextStyleCaption1", u"UICTFontTextStyleCaption2"}) {
+        const desktop::TextStyle& style = desktop::textStyleNamed(name);
+        EXPECT_EQ(style.name, name);
+        EXPECT_TRUE(std::ranges::is_sorted(style.sizes));
+    }
+    EXPECT_EQ(desktop::textStyleNamed(text_styles::headline).sizes,
+              desktop::textStyleNamed(text_styles::body).sizes);
 }
 
 class ContentSizeTest : public tests::UIKitTest {
