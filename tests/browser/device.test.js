@@ -43,6 +43,28 @@ test("a phone that is turned has its notch at the side", async () => {
     assert.deepEqual((await shape()).cutout, [true, false]);
 });
 
+test("keys are shortcuts while nothing is written", async () => {
+    const asks = (command) => phone.page.evaluate((wanted) => new Promise((done) => {
+        const { connection } = window.wentra;
+        connection.addEventListener("sent", function listen({ detail }) {
+            if (detail.type === "ask" && detail.request.do === wanted) {
+                connection.removeEventListener("sent", listen);
+                done(true);
+            }
+        });
+    }), command);
+    await phone.page.focus("#help");
+    for (const [key, command] of Object.entries({
+        r: "rotate", d: "appearance", h: "home", l: "lock", s: "shake", k: "keyboard",
+    })) {
+        const asked = asks(command);
+        await phone.page.keyboard.press(key);
+        await asked;
+    }
+    await phone.page.keyboard.press("?");
+    await phone.page.waitForSelector("dialog.help");
+});
+
 test("home and lock show something else than the application, and say so on their buttons", async () => {
     const application = await phone.colourAt([20, 700]);
     await phone.page.click("#home");

@@ -18,7 +18,11 @@ test("a view is told under the mouse, held by a click, changed and hidden", asyn
     assert.match(await told(), new RegExp(label.frame.join(", ")));
     const outline = await phone.page.locator(".outline").boundingBox();
     const [left, top] = await phone.place(label.rect);
+    const [right, bottom] = await phone.place(
+        [label.rect[0] + label.rect[2], label.rect[1] + label.rect[3]]);
     assert.ok(Math.abs(outline.x - left) < 2 && Math.abs(outline.y - top) < 2);
+    assert.ok(Math.abs(outline.x + outline.width - right) < 2);
+    assert.ok(Math.abs(outline.y + outline.height - bottom) < 2);
 
     await phone.tap(middle(label.rect));
     await hover([200, 20]);
@@ -30,6 +34,19 @@ test("a view is told under the mouse, held by a click, changed and hidden", asyn
     await phone.page.getByRole("button", { name: "显示", exact: true }).click();
     await phone.showing("changed");
     assert.equal(await phone.do("pasteboard"), null, "no finger has reached the label");
+});
+
+test("a button's title is changed, and another click lets go of it", async () => {
+    const button = await phone.addView("UIButton", [20, 300, 350, 100]);
+    await phone.do("send", { to: button, selector: "setTitle:forState:", args: ["press", 0] });
+    await phone.page.click("#inspect");
+    await phone.tap([30, 310]); // beside the label in it
+    await phone.page.fill("#view-text", "changed");
+    await phone.page.getByText("改为此文字").click();
+    await phone.do("wait", { for: { title: "changed", visible: true } });
+    await phone.tap([30, 310]);
+    await phone.page.waitForSelector("#view-text", { state: "detached" });
+    assert.equal(await phone.page.locator(".outline").isVisible(), false);
 });
 
 test("when it is over, fingers reach the phone again", async () => {

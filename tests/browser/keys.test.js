@@ -77,6 +77,21 @@ test("the machine's clipboard is copied to and pasted from", async () => {
     assert.equal(await phone.do("pasteboard"), "from the machine\n😀");
 });
 
+test("a picture on the machine's clipboard is put on the phone's", async () => {
+    await phone.page.evaluate(async () => {
+        const canvas = new OffscreenCanvas(3, 2);
+        canvas.getContext("2d").fillRect(0, 0, 3, 2);
+        const pasted = new DataTransfer();
+        pasted.items.add(new File([await canvas.convertToBlob()], "a.png", { type: "image/png" }));
+        document.getElementById("keyboard").dispatchEvent(
+            new ClipboardEvent("paste", { clipboardData: pasted, cancelable: true }));
+    });
+    await phone.page.waitForFunction(async () => {
+        const answer = await fetch("pasteboard.png");
+        return answer.status === 200 && (await createImageBitmap(await answer.blob())).width === 3;
+    });
+});
+
 test("what is pasted is one insertion, and two thousand characters take no time", async () => {
     const long = "some words, 一些文字\n".repeat(125);
     await phone.page.evaluate((given) => navigator.clipboard.writeText(given), long);

@@ -48,6 +48,19 @@ test("what was done is recorded as a film, and as a script that does it again", 
     await page.click("dialog button");
 });
 
+test("a page that was loaded anew begins a film of its own", async () => {
+    const { page } = phone;
+    for (let times = 0; times < 2; ++times) {
+        await page.click("#record");
+        await page.locator("#record[aria-pressed=true]").waitFor();
+        await page.reload();
+        await page.locator("#record[aria-pressed=false]").waitFor();
+        await phone.picture();
+    }
+    assert.equal(await page.isVisible("#note"), false);
+    await phone.do("film", { films: false });
+});
+
 test("a script has each message as the protocol says it, with the time between them", async () => {
     const lines = await phone.page.evaluate(async () => {
         const { Script } = await import("./script.js");
@@ -61,6 +74,10 @@ test("a script has each message as the protocol says it, with the time between t
             { type: "press", key: "enter" },
             { type: "look", scale: 2 },
             { type: "ask", request: { do: "find", where: {}, id: 1 } },
+            { type: "ask", request: { do: "film", films: false, id: 5 } },
+            { type: "compose", text: "h" },
+            { type: "compose", text: "" },
+            { type: "press", key: "deleteBackward" },
             { type: "ask", request: { do: "rotate", id: 2 } },
             { type: "ask", request: { do: "appearance", set: "dark", id: 3 } },
             { type: "ask", request: { do: "shake", id: 4 } },
@@ -73,7 +90,9 @@ test("a script has each message as the protocol says it, with the time between t
         pause(0.5), { do: "type", text: "a" },
         pause(1.5), { do: "type", text: "你", compose: ["n", "ni"] },
         pause(0.5), { do: "key", name: "return" },
-        pause(2), { do: "appearance", set: "dark" },
+        pause(2.5), { do: "type", text: "", compose: ["h"] },
+        pause(0.5), { do: "key", name: "delete" },
+        pause(1), { do: "appearance", set: "dark" },
         pause(0.5), { do: "shake" },
     ]);
 });

@@ -5,9 +5,9 @@ import { phone, phoneForEach } from "./fixture.js";
 
 phoneForEach("plain");
 
-/** Counts what the page gives to the loudspeaker: the seconds of speech, and the tones. */
+/** Notes what the page gives to the loudspeaker: the seconds of speech, and the tones. */
 const listen = () => phone.page.evaluate(() => {
-    window.heard = { speech: [], tones: 0, silenced: 0 };
+    window.heard = { speech: [], tones: [], silenced: 0 };
     const { heard } = window;
     const { start, stop } = AudioBufferSourceNode.prototype;
     AudioBufferSourceNode.prototype.start = function () {
@@ -20,7 +20,7 @@ const listen = () => phone.page.evaluate(() => {
     };
     const tone = OscillatorNode.prototype.start;
     OscillatorNode.prototype.start = function () {
-        heard.tones += 1;
+        heard.tones.push(this.frequency.value);
         tone.call(this);
     };
 });
@@ -67,5 +67,6 @@ test("system sounds are tones", async () => {
     await phone.page.click("#sound");
     const [x, y, width, height] = (await phone.showing("Hello, world")).rect;
     await phone.press([x + width / 2, y + height / 2], 600); // copies, and taps twice
-    await phone.page.waitForFunction(() => window.heard.tones === 2);
+    await phone.page.waitForFunction(() => window.heard.tones.length === 2);
+    assert.deepEqual(await phone.page.evaluate(() => window.heard.tones), [90, 90]); // it shakes
 });

@@ -41,6 +41,24 @@ test("several pages watch, one has the phone in hand, and any can take it", asyn
     await first.close();
 });
 
+test("fingers do not stay on a phone that another page takes over", async () => {
+    const first = await Phone.open(browser, host.address);
+    const button = await first.addView("UIButton", [20, 300, 350, 100]);
+    const isHeld = (phone) => phone.do("send", { to: button, selector: "isHighlighted" });
+    await first.page.mouse.move(...await first.place([195, 350]));
+    await first.page.mouse.down();
+    while (!(await isHeld(first))) {
+        await first.page.waitForTimeout(20);
+    }
+    const second = await Phone.open(browser, host.address);
+    await second.page.click("#veil-action");
+    await second.page.waitForSelector("#veil", { state: "hidden" });
+    assert.equal(await isHeld(second), false);
+    await second.do("send", { to: button, selector: "removeFromSuperview" });
+    await first.close();
+    await second.close();
+});
+
 test("a page that only watches is refused everything else", async () => {
     const holder = await Phone.open(browser, host.address);
     const watcher = await Phone.open(browser, host.address);
