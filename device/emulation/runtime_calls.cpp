@@ -30,10 +30,6 @@ int addMethod(Class cls, SEL name, IMP function, const char* types) {
 IMP functionOf(Method method) {
     return forLibrary(method_getImplementation(method), method_getTypeEncoding(method));
 }
-IMP setFunction(Method method, IMP function) {
-    const char* types = method_getTypeEncoding(method);
-    return forLibrary(method_setImplementation(method, forLinux(function, types)), types);
-}
 IMP functionNamed(Class cls, SEL name) {
     const Method method = class_getInstanceMethod(cls, name);
     return method != nullptr ? functionOf(method) : class_getMethodImplementation(cls, name);
@@ -74,7 +70,6 @@ std::vector<Translation> runtimeTranslations() {
         translation("_class_addProperty", &addProperty),
         translation("_class_getMethodImplementation", &functionNamed),
         translation("_method_getImplementation", &functionOf),
-        translation("_method_setImplementation", &setFunction),
         translation("_objc_msgSend", &emulation_msgSend),
         translation("_object_getClass", &classOf),
         translation("_sel_isEqual", &isEqual),

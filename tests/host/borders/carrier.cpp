@@ -16,13 +16,25 @@ struct Carrier : objc::Kind<Carrier, "Carrier"> {
 };
 
 /// What the replacement below got from the method that was there before.
-long answeredToHook = 0;
+long answeredToReplacement = 0;
 
 signed char listen(objc::Next<signed char(long)> next, Gate, long bits) {
     const signed char answer = next(bits);
-    answeredToHook = answer; // NOLINT(bugprone-signed-char-misuse): it is a number
+    answeredToReplacement = answer; // NOLINT(bugprone-signed-char-misuse): it is a number
     return answer;
 }
+
+/// Reads its argument before the method that was there before does.
+long take(objc::Next<long(signed char)> next, Gate, signed char number) {
+    return 100L * number + next(number);
+}
+
+constexpr std::array hooks{
+    objc::hook<"signedByteThroughHook:", &listen>(),
+    objc::exchange<"signedByteThroughExchange:", "formerSignedByte:", &listen>(),
+    objc::hook<"takeThroughHook:", &take>(),
+    objc::exchange<"takeThroughExchange:", "formerTake:", &take>(),
+};
 
 class CarrierPeer : public objc::Peer<CarrierPeer, Carrier> {
 public:
@@ -39,13 +51,18 @@ public:
             objc::method<"getUnsignedByte:", &CarrierPeer::get<&Gate::unsignedByte>>(),
             objc::method<"getSignedHalf:", &CarrierPeer::get<&Gate::signedHalf>>(),
             objc::method<"getUnsignedHalf:", &CarrierPeer::get<&Gate::unsignedHalf>>(),
-            objc::method<"getThroughHook:", &CarrierPeer::getThroughHook>(),
+            objc::method<"getThroughHook:", &CarrierPeer::getThrough<"signedByteThroughHook:">>(),
+            objc::method<"getThroughExchange:",
+                         &CarrierPeer::getThrough<"signedByteThroughExchange:">>(),
             objc::method<"negated:", &CarrierPeer::negated>(),
             objc::method<"negatedSingle:", &CarrierPeer::negatedSingle>(),
             objc::method<"moved:by:", &CarrierPeer::moved>(),
             objc::method<"exchanged:", &CarrierPeer::exchanged>(),
             objc::method<"grown:twice:", &CarrierPeer::grown>(),
             objc::method<"last:and:and:", &CarrierPeer::last>(),
+            objc::method<"alike::::", &CarrierPeer::alike>(),
+            objc::method<"movedByNobody:by:", &CarrierPeer::movedByNobody>(),
+            objc::method<"grownByNobody:twice:", &CarrierPeer::grownByNobody>(),
             objc::method<"digits:::::::::", &CarrierPeer::digits>(),
             objc::method<"fractions::::::::::", &CarrierPeer::fractions>(),
             objc::method<"rise:::::::::", &CarrierPeer::rise>(),
@@ -70,9 +87,10 @@ private:
     long get(long bits) {
         return (gate_.*ask)(bits);
     }
-    long getThroughHook(long bits) {
-        static_cast<void>(gate_.send<"signedByteThroughHook:", signed char>(bits));
-        return answeredToHook;
+    template <objc::Literal name>
+    long getThrough(long bits) {
+        static_cast<void>(gate_.send<name, signed char>(bits));
+        return answeredToReplacement;
     }
 
     // Numbers travel as their bits to and from the test, which has no text for some of them.
@@ -88,6 +106,11 @@ private:
     CGAffineTransform exchanged(CGAffineTransform of) { return gate_.exchanged(of); }
     ns::Range grown(ns::Range range, bool twice) { return gate_.grown(range, twice); }
     CGRect last(CGRect one, CGRect two, CGRect three) { return gate_.last(one, two, three); }
+    bool alike(CGRect one, CGRect two, CGRect three, CGRect four) {
+        return gate_.alike(one, two, three, four);
+    }
+    CGRect movedByNobody(CGRect rect, CGPoint by) { return Gate().moved(rect, by); }
+    ns::Range grownByNobody(ns::Range range, bool twice) { return Gate().grown(range, twice); }
     long digits(long a, long b, long c, long d, long e, long f, long g, long h, long i) {
         return gate_.digits(a, b, c, d, e, f, g, h, i);
     }
@@ -106,7 +129,10 @@ private:
 
 void registerCarrier() {
     CarrierPeer::registerClass();
-    objc::install(objc::hook<"signedByteThroughHook:", &listen>());
+    for (const objc::Change& hook : hooks) {
+        objc::install(hook);
+        objc::install(hook); // once more, which changes nothing
+    }
 }
 
 } // namespace tests

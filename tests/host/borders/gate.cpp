@@ -28,6 +28,7 @@ public:
             objc::method<"exchanged:", &GatePeer::exchanged>(),
             objc::method<"grown:twice:", &GatePeer::grown>(),
             objc::method<"last:and:and:", &GatePeer::last>(),
+            objc::method<"alike::::", &GatePeer::alike>(),
             objc::method<"digits:::::::::", &GatePeer::digits>(),
             objc::method<"fractions::::::::::", &GatePeer::fractions>(),
             objc::method<"rise:::::::::", &GatePeer::rise>(),
@@ -67,6 +68,7 @@ private:
         return {range.location, range.length * (twice ? 4 : 2)};
     }
     CGRect last(CGRect, CGRect, CGRect three) { return three; }
+    bool alike(CGRect, CGRect, CGRect three, CGRect four) { return three == four; }
     long digits(long a, long b, long c, long d, long e, long f, long g, long h, long i) {
         long number = 0;
         for (const long digit : {a, b, c, d, e, f, g, h, i}) {
@@ -90,6 +92,8 @@ private:
 /// What a compiler that widens nothing may leave in the register of a small result.
 long bits(id, SEL, long bits) { return bits; }
 
+long taken(id, SEL, signed char number) { return number; }
+
 long callBlock(id, SEL, objc::detail::BlockHeader* block, long bits) {
     return reinterpret_cast<long (*)(void*, long)>(block->invoke)(block, bits);
 }
@@ -103,9 +107,12 @@ long callBlock(id, SEL, objc::detail::BlockHeader* block, long bits) {
     add("flag:", &bits, "B@:q");
     add("signedByte:", &bits, "c@:q");
     add("signedByteThroughHook:", &bits, "c@:q");
+    add("signedByteThroughExchange:", &bits, "c@:q");
     add("unsignedByte:", &bits, "C@:q");
     add("signedHalf:", &bits, "s@:q");
     add("unsignedHalf:", &bits, "S@:q");
+    add("takeThroughHook:", &taken, "q@:c");
+    add("takeThroughExchange:", &taken, "q@:c");
     add("call:with:", &callBlock, "q@:@?q");
 }
 

@@ -57,6 +57,10 @@ struct Gate : objc::Kind<Gate, "Gate"> {
     [[nodiscard]] CGRect last(CGRect one, CGRect two, CGRect three) const {
         return send<"last:and:and:", CGRect>(one, two, three);
     }
+    /// Whether the last two are the same.
+    [[nodiscard]] bool alike(CGRect one, CGRect two, CGRect three, CGRect four) const {
+        return send<"alike::::", bool>(one, two, three, four);
+    }
     /// A number with one digit for each argument.
     [[nodiscard]] long digits(long a, long b, long c, long d, long e, long f, long g, long h,
                               long i) const {

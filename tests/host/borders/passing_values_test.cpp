@@ -42,13 +42,21 @@ TEST_F(PassingValues, SmallArgumentsAreReadFromTheirBitsAlone) {
         EXPECT_EQ(host.message(gate, "ask:of:with:", {name, carrier, bits}), number) << kind;
     }
     EXPECT_EQ(host.message(carrier, "takeInBlocks:", {0x1234'5678'9ABC'DEF9}), -7);
+    for (const char* replaced : {"takeThroughHook:", "takeThroughExchange:"}) {
+        EXPECT_EQ(host.message(gate, "ask:of:with:",
+                               {{{"selector", replaced}}, gate, 0x1234'5678'9ABC'DEF9}),
+                  -707)
+            << replaced;
+    }
 }
 
 TEST_F(PassingValues, SmallResultsAreReadFromTheirBitsAlone) {
     for (const auto& [kind, bits, number] : smalls) {
         EXPECT_EQ(host.message(carrier, std::string("get") + kind, {bits}), number) << kind;
     }
-    EXPECT_EQ(host.message(carrier, "getThroughHook:", {0x1234'5678'9ABC'DEF9}), -7);
+    for (const char* way : {"getThroughHook:", "getThroughExchange:"}) {
+        EXPECT_EQ(host.message(carrier, way, {0x1234'5678'9ABC'DEF9}), -7) << way;
+    }
 }
 
 TEST_F(PassingValues, StructuresOfNumbersStayWhole) {
@@ -73,6 +81,26 @@ TEST_F(PassingValues, StructuresThatFindNoRegistersStayWhole) {
             carrier, "last:and:and:",
             {{{"rect", {1, 2, 3, 4}}}, {{"rect", {5, 6, 7, 8}}}, {{"rect", {9, 10, 11, 12}}}}),
         Json({{"rect", {9.0, 10.0, 11.0, 12.0}}}));
+}
+
+TEST_F(PassingValues, StructuresThatFillTheStackStayWhole) {
+    const auto alike = [&](int last) {
+        return host.message(carrier, "alike::::",
+                            {{{"rect", {1, 2, 3, 4}}},
+                             {{"rect", {5, 6, 7, 8}}},
+                             {{"rect", {9, 10, 11, 12}}},
+                             {{"rect", {9, 10, 11, last}}}});
+    };
+    EXPECT_EQ(alike(12), true);
+    EXPECT_EQ(alike(13), false);
+}
+
+TEST_F(PassingValues, AreZeroFromNobody) {
+    EXPECT_EQ(host.message(carrier, "movedByNobody:by:",
+                           {{{"rect", {1.5, 2, 30, 40}}}, {{"point", {0.25, -4}}}}),
+              Json({{"rect", {0.0, 0.0, 0.0, 0.0}}}));
+    EXPECT_EQ(host.message(carrier, "grownByNobody:twice:", {{{"range", {5, 3}}}, true}),
+              Json({{"range", {0, 0}}}));
 }
 
 TEST_F(PassingValues, NumbersThatAreNoneStayAsTheyAre) {
