@@ -8,7 +8,8 @@ namespace objc {
 /// Keeps the types of a method that tell the classes of its arguments (`v@:@"UIFont"`), for as long
 /// as the process lives, and gives the same as the runtime takes them (`v@:@`): Foundation on the
 /// desktop does not read them. Types without a class are given back as they are. Main thread.
-[[nodiscard]] const char* keepDeclaredTypes(Class cls, const char* selector, const char* types);
+[[nodiscard, gnu::cold]] const char* keepDeclaredTypes(Class cls, const char* selector,
+                                                       const char* types);
 
 /// The types kept for the method that instances of the class have, or a superclass's; null when
 /// none are. Main thread.

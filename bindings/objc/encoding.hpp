@@ -125,6 +125,6 @@ struct ClassedMethodEncoding<Result(Arguments...)> {
 /// Whether two method encodings mean the same to a caller. Frame offsets, qualifiers and the names
 /// of structures and classes do not count; NSInteger may be written "l" or "q", BOOL "B", "c" or
 /// "C".
-[[nodiscard]] bool sameMeaning(std::string_view one, std::string_view other);
+[[nodiscard, gnu::cold]] bool sameMeaning(std::string_view one, std::string_view other);
 
 } // namespace objc

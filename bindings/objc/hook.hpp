@@ -43,7 +43,7 @@ struct Change {
 /// Does what the row says, once, and says how it went. What a maintainer must know is logged: a
 /// method that is missing from a class that exists, or has other types, or is there already. A
 /// missing class is normal and silent.
-Outcome install(const Change& change) noexcept;
+[[gnu::cold]] Outcome install(const Change& change) noexcept;
 
 /// Lets two instance methods of the class trade places: from then on each selector runs the other's
 /// implementation. An inherited method is overridden in `cls` and its superclass stays as it is.

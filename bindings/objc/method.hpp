@@ -43,7 +43,7 @@ struct MethodRow {
 };
 
 /// Adds the row's methods and property to a class that is being made.
-void addMethod(const MethodRow& row, Class cls);
+[[gnu::cold]] void addMethod(const MethodRow& row, Class cls);
 
 namespace detail {
 

@@ -28,7 +28,8 @@ struct MadeClass {
 };
 
 /// Makes the class known to the runtime; a null class when the name is taken.
-MadeClass makeClass(const ClassDeclaration& declaration, std::span<const MethodRow> rows);
+[[gnu::cold]] MadeClass makeClass(const ClassDeclaration& declaration,
+                                  std::span<const MethodRow> rows);
 
 /// The superclass's allocation, for a new instance of `cls`.
 id allocateBySuperclass(Class registered, Class cls, SEL name, void* zone);

@@ -6,6 +6,6 @@
 namespace wentra::analysis {
 
 /// The result screen and the movable dialog.
-Face face();
+[[gnu::cold]] Face face();
 
 } // namespace wentra::analysis

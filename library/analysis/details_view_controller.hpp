@@ -20,6 +20,6 @@ struct DetailsViewController
 };
 
 /// Declares the class.
-void registerDetailsViewController();
+[[gnu::cold]] void registerDetailsViewController();
 
 } // namespace wentra::analysis

@@ -15,6 +15,6 @@ struct MovableAlertView : objc::Kind<MovableAlertView, "MovableAlertView", ui::V
 };
 
 /// Declares the class.
-void registerMovableAlertView();
+[[gnu::cold]] void registerMovableAlertView();
 
 } // namespace wentra::analysis

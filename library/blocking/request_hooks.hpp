@@ -9,10 +9,10 @@ namespace wentra::blocking {
 
 /// Works out where the preference file is, once for the life of the process: the hooks of this
 /// folder read it from there, at each call. At start-up, before they are installed.
-void resolvePreferencePath();
+[[gnu::cold]] void resolvePreferencePath();
 
 /// The ten entry points at which requests are stopped, each by words and in a way of its own. They
 /// may be called on any thread.
-std::span<const objc::Change> requestHooks();
+[[gnu::cold]] std::span<const objc::Change> requestHooks();
 
 } // namespace wentra::blocking

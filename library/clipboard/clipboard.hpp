@@ -6,6 +6,6 @@
 namespace wentra::clipboard {
 
 /// The list of copied texts, the quick switches and the text editor.
-Face face();
+[[gnu::cold]] Face face();
 
 } // namespace wentra::clipboard

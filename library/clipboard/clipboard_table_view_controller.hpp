@@ -19,6 +19,6 @@ struct ClipboardTableViewController
 };
 
 /// Declares the class.
-void registerClipboardTableViewController();
+[[gnu::cold]] void registerClipboardTableViewController();
 
 } // namespace wentra::clipboard

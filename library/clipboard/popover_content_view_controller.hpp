@@ -18,6 +18,6 @@ struct PopoverContentViewController
 };
 
 /// Declares the class.
-void registerPopoverContentViewController();
+[[gnu::cold]] void registerPopoverContentViewController();
 
 } // namespace wentra::clipboard

@@ -24,6 +24,6 @@ struct TextViewController
 };
 
 /// Declares the class.
-void registerTextViewController();
+[[gnu::cold]] void registerTextViewController();
 
 } // namespace wentra::clipboard

@@ -23,11 +23,11 @@ struct TrashButton : objc::Kind<TrashButton, "TrashButton", ui::Button> {
 inline constexpr long trashTag = 99;
 
 /// Declares `TrashButton`.
-void registerTrashButton();
+[[gnu::cold]] void registerTrashButton();
 
 /// `makeDraggableAndZoomable`, its variant with a trash button, and the gestures' actions
 /// `handlePan:`, `handlePinch:` and `handleDoubleTap:`, on UIView.
-std::span<const objc::Change> draggableCategory();
+[[gnu::cold]] std::span<const objc::Change> draggableCategory();
 
 /// Lets the view be dragged, pinched and zoomed by double taps.
 void makeDraggableAndZoomable(ui::View view);

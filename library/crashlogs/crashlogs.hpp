@@ -6,6 +6,6 @@
 namespace wentra::crashlogs {
 
 /// The list.
-Face face();
+[[gnu::cold]] Face face();
 
 } // namespace wentra::crashlogs

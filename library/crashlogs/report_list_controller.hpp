@@ -19,6 +19,6 @@ struct ReportListController
 };
 
 /// Declares the class.
-void registerReportListController();
+[[gnu::cold]] void registerReportListController();
 
 } // namespace wentra::crashlogs

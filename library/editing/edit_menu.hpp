@@ -8,7 +8,7 @@
 namespace wentra::editing {
 
 /// Updates the menu before it shows, on the main operation queue.
-void observeMenu();
+[[gnu::cold]] void observeMenu();
 
 /// What a text view and a text field can perform: the commands; and the system's actions, unless
 /// the user hides those.
@@ -16,7 +16,7 @@ bool canPerformInText(objc::Next<bool(SEL, objc::Object)> next, objc::Object vie
                       objc::Object sender);
 
 /// The hooks on every responder, and the one on the menu.
-std::span<const objc::Change> responderHooks();
-std::span<const objc::Change> menuHooks();
+[[gnu::cold]] std::span<const objc::Change> responderHooks();
+[[gnu::cold]] std::span<const objc::Change> menuHooks();
 
 } // namespace wentra::editing

@@ -9,6 +9,6 @@
 namespace wentra::editing {
 
 /// The edit menu's commands on every responder, and the voices of text views and fields.
-Face face();
+[[gnu::cold]] Face face();
 
 } // namespace wentra::editing

@@ -8,14 +8,14 @@
 namespace wentra::editing {
 
 /// UIResponder(CustomMenuItems): the commands' selectors on every responder, each doing nothing.
-std::span<const objc::Change> menuItemCategory();
+[[gnu::cold]] std::span<const objc::Change> menuItemCategory();
 
 /// The `synth` property of text views and text fields.
-std::span<const objc::Change> speechCategories();
+[[gnu::cold]] std::span<const objc::Change> speechCategories();
 
 /// The commands of text views and of text fields, and the synthesizer that each view gets. What a
 /// text field has no hook for does nothing there.
-std::span<const objc::Change> textViewHooks();
-std::span<const objc::Change> textFieldHooks();
+[[gnu::cold]] std::span<const objc::Change> textViewHooks();
+[[gnu::cold]] std::span<const objc::Change> textFieldHooks();
 
 } // namespace wentra::editing

@@ -8,6 +8,6 @@
 namespace wentra::editing {
 
 /// Creation hooks and the added methods that answer the gestures.
-std::span<const objc::Change> textGestureHooks();
+[[gnu::cold]] std::span<const objc::Change> textGestureHooks();
 
 } // namespace wentra::editing

@@ -6,6 +6,6 @@
 namespace wentra::files {
 
 /// The browser and the viewers.
-Face face();
+[[gnu::cold]] Face face();
 
 } // namespace wentra::files

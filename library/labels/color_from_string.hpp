@@ -13,6 +13,6 @@ namespace wentra::labels {
 ui::Color colorFromString(ns::String text);
 
 /// `colorFromString:` as a class method of UIColor.
-std::span<const objc::Change> colourCategory();
+[[gnu::cold]] std::span<const objc::Change> colourCategory();
 
 } // namespace wentra::labels

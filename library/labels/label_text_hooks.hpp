@@ -8,12 +8,12 @@
 namespace wentra::labels {
 
 /// Exchanges `setText:` of UILabel with `hook_setText:`, the rewriting.
-std::span<const objc::Change> labelTextLoad();
+[[gnu::cold]] std::span<const objc::Change> labelTextLoad();
 
 /// The same for YYLabel, with its smaller set of font rules; nothing where it has no `setText:`.
-std::span<const objc::Change> yyLabelTextLoad();
+[[gnu::cold]] std::span<const objc::Change> yyLabelTextLoad();
 
 /// The small hook around the rewriting on UILabel, which never shows one particular text.
-std::span<const objc::Change> labelTextHooks();
+[[gnu::cold]] std::span<const objc::Change> labelTextHooks();
 
 } // namespace wentra::labels

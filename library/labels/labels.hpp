@@ -10,6 +10,6 @@ namespace wentra::labels {
 
 /// `YYLabel` and the classes of the rule editor; colours from strings, copying by a long press, and
 /// the rule editor on every view.
-Face face();
+[[gnu::cold]] Face face();
 
 } // namespace wentra::labels

@@ -9,9 +9,9 @@ namespace wentra::labels {
 
 /// `setupLongPressCopy`, which gives a view the long press where it may have one, and the gesture's
 /// action `longPress:`, on UIView.
-std::span<const objc::Change> longPressCopyCategory();
+[[gnu::cold]] std::span<const objc::Change> longPressCopyCategory();
 
 /// Swizzles `didMoveToSuperview` of UILabel with `swizzled_didMoveToSuperview`.
-std::span<const objc::Change> longPressCopyLoad();
+[[gnu::cold]] std::span<const objc::Change> longPressCopyLoad();
 
 } // namespace wentra::labels

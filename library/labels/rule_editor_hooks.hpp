@@ -8,9 +8,9 @@
 namespace wentra::labels {
 
 /// `layoutSubviews` of the containers found in many applications.
-std::span<const objc::Change> containerHooks();
+[[gnu::cold]] std::span<const objc::Change> containerHooks();
 
 /// `layoutSubviews` of the camera application's container.
-std::span<const objc::Change> cameraHooks();
+[[gnu::cold]] std::span<const objc::Change> cameraHooks();
 
 } // namespace wentra::labels

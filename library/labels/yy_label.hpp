@@ -5,6 +5,6 @@ namespace wentra::labels {
 
 /// Declares our own `YYLabel`, a view with a font and a text colour, so that the name resolves in
 /// every process. An application's class of that name stays as it is.
-void registerYYLabel();
+[[gnu::cold]] void registerYYLabel();
 
 } // namespace wentra::labels

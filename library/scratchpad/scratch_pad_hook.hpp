@@ -8,6 +8,6 @@
 namespace wentra::scratchpad {
 
 /// `viewDidLoad` of Settings' root controller.
-std::span<const objc::Change> scratchPadHooks();
+[[gnu::cold]] std::span<const objc::Change> scratchPadHooks();
 
 } // namespace wentra::scratchpad

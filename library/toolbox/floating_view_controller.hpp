@@ -35,6 +35,6 @@ struct FloatingViewController
 };
 
 /// Declares the class.
-void registerFloatingViewController();
+[[gnu::cold]] void registerFloatingViewController();
 
 } // namespace wentra::toolbox

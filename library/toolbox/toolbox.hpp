@@ -6,6 +6,6 @@
 namespace wentra::toolbox {
 
 /// The view model, the panel's controller with its tools, and the dialog of both texts.
-Face face();
+[[gnu::cold]] Face face();
 
 } // namespace wentra::toolbox

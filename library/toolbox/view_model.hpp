@@ -16,9 +16,9 @@ struct ViewModel : objc::Kind<ViewModel, "ZKViewModel", ui::ViewController> {
 };
 
 /// Declares the class.
-void registerViewModel();
+[[gnu::cold]] void registerViewModel();
 
 /// Creates the process's view model on the main queue, 0.3 s from now, and tells it to update.
-void scheduleViewModel();
+[[gnu::cold]] void scheduleViewModel();
 
 } // namespace wentra::toolbox

@@ -16,6 +16,6 @@ struct UmacaTableViewController
 };
 
 /// Declares the class.
-void registerUmacaTableViewController();
+[[gnu::cold]] void registerUmacaTableViewController();
 
 } // namespace wentra::utilities

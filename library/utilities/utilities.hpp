@@ -6,6 +6,6 @@
 namespace wentra::utilities {
 
 /// The list.
-Face face();
+[[gnu::cold]] Face face();
 
 } // namespace wentra::utilities

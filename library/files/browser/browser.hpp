@@ -15,6 +15,6 @@ struct UmaCollectionViewController
 };
 
 /// Declares the class.
-void registerUmaCollectionViewController();
+[[gnu::cold]] void registerUmaCollectionViewController();
 
 } // namespace wentra::files

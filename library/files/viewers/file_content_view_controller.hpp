@@ -27,6 +27,6 @@ struct FileContentViewController
 };
 
 /// Declares the class.
-void registerFileContentViewController();
+[[gnu::cold]] void registerFileContentViewController();
 
 } // namespace wentra::files

@@ -14,6 +14,6 @@ struct HexCell : objc::Kind<HexCell, "HexCell", ui::CollectionViewCell> {
 };
 
 /// Declares the class.
-void registerHexCell();
+[[gnu::cold]] void registerHexCell();
 
 } // namespace wentra::files

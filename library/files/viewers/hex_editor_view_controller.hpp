@@ -17,6 +17,6 @@ struct HexEditorViewController
 };
 
 /// Declares the class.
-void registerHexEditorViewController();
+[[gnu::cold]] void registerHexEditorViewController();
 
 } // namespace wentra::files

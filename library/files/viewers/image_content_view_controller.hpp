@@ -22,6 +22,6 @@ struct ImageContentViewController
 };
 
 /// Declares the class.
-void registerImageContentViewController();
+[[gnu::cold]] void registerImageContentViewController();
 
 } // namespace wentra::files

@@ -17,6 +17,6 @@ struct CustomAlertController
 };
 
 /// Declares `CustomAlertController`.
-void registerCustomAlertController();
+[[gnu::cold]] void registerCustomAlertController();
 
 } // namespace wentra::labels

@@ -49,20 +49,20 @@ void addFontPicker(ui::View host, ui::TextView editor);
 // What is added to UIView, by subject.
 
 /// `inputTextView`, `fontPickerView`, `fontNames` and `timer`.
-std::span<const objc::Change> editorProperties();
+[[gnu::cold]] std::span<const objc::Change> editorProperties();
 /// `attachLongPressHandler33` and `handleLongPress33:`.
-std::span<const objc::Change> editorOpening();
+[[gnu::cold]] std::span<const objc::Change> editorOpening();
 /// `saveRulesFromTextView:`, `savePressed:` and `textViewDidChange:`.
-std::span<const objc::Change> editorSaving();
+[[gnu::cold]] std::span<const objc::Change> editorSaving();
 /// What the other buttons do.
-std::span<const objc::Change> editorCommands();
+[[gnu::cold]] std::span<const objc::Change> editorCommands();
 /// `handleDrag:`, `zerkpinchGesture:`, `zerkhandleDoubleTap:` and `handleTap:`.
-std::span<const objc::Change> editorGestures();
+[[gnu::cold]] std::span<const objc::Change> editorGestures();
 /// The font picker's data source and delegate, and its timer's action.
-std::span<const objc::Change> fontPicking();
+[[gnu::cold]] std::span<const objc::Change> fontPicking();
 /// The search for a keyword.
-std::span<const objc::Change> keywordSearch();
+[[gnu::cold]] std::span<const objc::Change> keywordSearch();
 /// The colour chooser.
-std::span<const objc::Change> colourChoosing();
+[[gnu::cold]] std::span<const objc::Change> colourChoosing();
 
 } // namespace wentra::labels

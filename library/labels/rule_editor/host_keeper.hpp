@@ -11,6 +11,6 @@ namespace wentra::labels {
 void keepHostWhileOpen(ui::View host, ui::TextView editor);
 
 /// Declares the invisible view that does it.
-void registerHostKeeper();
+[[gnu::cold]] void registerHostKeeper();
 
 } // namespace wentra::labels

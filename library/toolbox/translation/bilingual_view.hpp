@@ -17,6 +17,6 @@ struct BilingualView : objc::Kind<BilingualView, "MovableAlertViewzerk", ui::Vie
 };
 
 /// Declares the class.
-void registerBilingualView();
+[[gnu::cold]] void registerBilingualView();
 
 } // namespace wentra::toolbox
