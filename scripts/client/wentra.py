@@ -47,14 +47,17 @@ class Ended(WentraError):
 
 
 def rect(x, y, width, height):
+    """A CGRect."""
     return {"rect": [x, y, width, height]}
 
 
 def point(x, y):
+    """A CGPoint."""
     return {"point": [x, y]}
 
 
 def size(width, height):
+    """A CGSize."""
     return {"size": [width, height]}
 
 
@@ -64,10 +67,12 @@ def span(location, length):
 
 
 def cls(name):
+    """A class, as the receiver of a message or an argument."""
     return {"class": name}
 
 
 def selector(name):
+    """A selector, as an argument."""
     return {"selector": name}
 
 
@@ -76,7 +81,8 @@ class Object:
 
     `object["text"]` is what the host told with the handle, so for a node of `find` or `tree` its
     keys of then. Methods of the application's object are called by their selectors with `_` for
-    each colon: `label.setText_("a")`, `label.text()`; or by `send`.
+    each colon: `label.setText_("a")`, `label.text()`; or by `send`, which is also for selectors with
+    underscores and those that have the name of a method here.
     """
 
     def __init__(self, host, told):
@@ -101,7 +107,8 @@ class Object:
         return key in self._told
 
     def __eq__(self, other):
-        return isinstance(other, Object) and self.handle == other.handle
+        return isinstance(other, Object) and self._host is other._host and \
+            self.handle == other.handle
 
     def __hash__(self):
         return hash(self._told["object"])
@@ -134,7 +141,8 @@ class Host:
 
     The words are the options of `./dev host`. `program` is the host's program (when missing, what
     the variable WENTRA_HOST names, or this project's `./dev host`); `timeout` is how many seconds
-    an answer may take; `log` is a file for what the host prints beside its answers.
+    an answer may take; `log` is a file for what the host prints beside its answers. To be used by one
+    thread.
 
     Every command of the protocol is a method: `phone.alert(choose="好的")`,
     `phone.preferences(set={…})`. Where Python has a word of its own, `_` follows: `for_`, `class_`.
@@ -143,7 +151,8 @@ class Host:
     def __init__(self, *options, program=None, timeout=60, log=None):
         self.timeout = timeout
         self._requests = 0
-        self._lines = queue.SimpleQueue()
+        self._is_asking = False
+        self._lines = queue.Queue()  # the simple one may wait for ever in Python 3.9
         self._process = subprocess.Popen(
             [*_command(program), "--automation", *map(str, options)],
             stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=log, text=True, encoding="utf-8")
@@ -157,11 +166,13 @@ class Host:
         self.close()
 
     def close(self):
-        """Ends the host; its exit status."""
+        """Ends the host; its exit status. A request that has been given up is broken off."""
         try:
             self._process.stdin.close()
         except BrokenPipeError:
             pass
+        if self._is_asking:
+            self._process.terminate()
         try:
             self._process.wait(self.timeout)
         except subprocess.TimeoutExpired:
@@ -172,12 +183,16 @@ class Host:
         return self._process.returncode
 
     def ask(self, do, timeout=None, **arguments):
-        """The result of a command. Raises Refused, TimedOut or Ended."""
+        """The result of a command. Raises Refused, TimedOut or Ended. Without a `timeout` of its own,
+        a command that takes `seconds` may take as much longer."""
         self._requests += 1
         request = {"do": do, "id": self._requests}
         request.update((name.rstrip("_"), value) for name, value in arguments.items())
-        self._write(json.dumps(request, default=_handle_of))
-        response = self._response(self.timeout if timeout is None else timeout)
+        line = json.dumps(request, default=_form_of)
+        self._is_asking = True
+        self._write(line)
+        response = self._response(self._patience(arguments) if timeout is None else timeout)
+        self._is_asking = False
         if not response["ok"]:
             raise Refused(response["error"])
         return self._object(response["result"])
@@ -217,13 +232,12 @@ class Host:
 
     def advance(self, seconds):
         """Moves the phone's clock."""
-        self.ask("advance", seconds=seconds, timeout=self.timeout + seconds)
+        self.ask("advance", seconds=seconds)
 
     def wait_for(self, seconds=10, **conditions):
-        """The views that meet the conditions, as soon as there are any: for what other threads do,
-        in seconds of this machine. Raises Refused when the time is over."""
-        return self.ask("wait", for_=_without_underscores(conditions), seconds=seconds,
-                        timeout=self.timeout + seconds)
+        """The views that meet the conditions, or the events (`event="log"`), as soon as there are any:
+        for what other threads do, in seconds of this machine. Raises Refused when the time is over."""
+        return self.ask("wait", for_=_without_underscores(conditions), seconds=seconds)
 
     def until(self, condition, seconds=10, advancing=0):
         """Asks until `condition()` holds, and returns what it gave; each time the phone's clock
@@ -243,9 +257,16 @@ class Host:
         for line in pathlib.Path(file).read_text(encoding="utf-8").splitlines():
             if line.strip():
                 request = json.loads(line)
+                request.pop("id", None)
                 self.ask(request.pop("do"), **request)
 
+    def _patience(self, arguments):
+        return self.timeout + sum(arguments[name] for name in ("seconds", "hold")
+                                  if isinstance(arguments.get(name), (int, float)))
+
     def _write(self, line):
+        if self._process.stdin.closed:
+            raise Ended(self._process.wait())
         try:
             self._process.stdin.write(line + "\n")
             self._process.stdin.flush()
@@ -254,7 +275,8 @@ class Host:
 
     def _read(self):
         for line in self._process.stdout:
-            self._lines.put(line)
+            if line.endswith("\n"):  # else the host has ended amid its answer
+                self._lines.put(line)
         self._lines.put(None)
 
     def _response(self, seconds):
@@ -288,9 +310,11 @@ def _command(program):
     return [str(pathlib.Path(__file__).resolve().parents[2] / "dev"), "host"]
 
 
-def _handle_of(value):
+def _form_of(value):
     if isinstance(value, Object):
         return value.handle
+    if isinstance(value, os.PathLike):
+        return os.fspath(value)
     raise TypeError(f"the protocol has no form for {value!r}")
 
 

@@ -2,6 +2,7 @@
 
 import json
 import pathlib
+import signal
 import sys
 import tempfile
 import unittest
@@ -70,7 +71,8 @@ class ClientTest(unittest.TestCase):
 
     def test_a_script_is_played(self):
         with tempfile.NamedTemporaryFile("w", suffix=".jsonl") as script:
-            for request in ({"do": "advance", "seconds": 1}, {"do": "pasteboard", "set": "played"}):
+            for request in ({"do": "advance", "seconds": 1, "id": "first"},
+                            {"do": "pasteboard", "set": "played"}):
                 print(json.dumps(request), file=script, flush=True)
             self.phone.play(script.name)
         self.assertEqual(self.phone.pasteboard(), "played")
@@ -81,18 +83,50 @@ class ClientTest(unittest.TestCase):
             self.phone.events()
         self.assertEqual(ended.exception.status, 0)
         self.assertEqual(self.phone.close(), 0)
+        with self.assertRaises(Ended):
+            self.phone.events()
 
-
-class TimeoutTest(unittest.TestCase):
-    def test_an_answer_that_comes_late_is_not_taken_for_the_next(self):
+    def test_files_are_named_by_paths(self):
         with tempfile.TemporaryDirectory() as folder:
-            program = pathlib.Path(folder) / "late"
-            program.write_text(LATE, encoding="utf-8")
-            program.chmod(0o700)
-            with Host(program=program) as host:
-                with self.assertRaises(TimedOut):
-                    host.ask("first", timeout=0)
-                self.assertEqual(host.ask("second"), "second")
+            file = pathlib.Path(folder) / "screen.png"
+            self.phone.screenshot(file=file)
+            self.assertTrue(file.read_bytes().startswith(b"\x89PNG"))
+
+    def test_objects_of_two_phones_differ(self):
+        with Host("--app", "plain", "--no-library") as other:
+            self.assertNotEqual(self.phone.find(class_="UIWindow"), other.find(class_="UIWindow"))
+
+
+class OddHostTest(unittest.TestCase):
+    def host(self, text):
+        """A host that does what the text of its program says."""
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        program = pathlib.Path(folder.name) / "host"
+        program.write_text(text, encoding="utf-8")
+        program.chmod(0o700)
+        host = Host(program=program)
+        self.addCleanup(host.close)
+        return host
+
+    def test_an_answer_that_comes_late_is_not_taken_for_the_next(self):
+        host = self.host(LATE)
+        with self.assertRaises(TimedOut):
+            host.ask("first", timeout=0)
+        self.assertEqual(host.ask("second"), "second")
+
+    def test_a_host_that_dies_amid_its_answer_has_ended(self):
+        host = self.host("#!/bin/sh\nread request\nprintf '{\"id\":1,'\nexit 3\n")
+        with self.assertRaises(Ended) as ended:
+            host.events()
+        self.assertEqual(ended.exception.status, 3)
+
+    def test_a_request_that_was_given_up_is_not_waited_for(self):
+        host = Host("--app", "plain", "--no-library", "--clock", "real")
+        host.events()
+        with self.assertRaises(TimedOut):
+            host.ask("advance", seconds=600, timeout=0)
+        self.assertEqual(host.close(), 128 + signal.SIGTERM)
 
 
 if __name__ == "__main__":
