@@ -55,7 +55,7 @@ std::string answer(Session& session, const std::string& line) {
             response["id"] = error.id;
         }
         response["error"] = error.what();
-    } catch (const RequestError& error) {
+    } catch (const std::exception& error) {
         response["error"] = error.what();
     } catch (...) {
         const objc::ExceptionText text = objc::describeCurrentException();

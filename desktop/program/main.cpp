@@ -16,6 +16,7 @@
 #include "desktop/foundation/bundle.hpp"
 #include "desktop/foundation/foundation.hpp"
 #include "desktop/platform/platform.hpp"
+#include "desktop/program/standard_descriptors.hpp"
 #include "desktop/runtime/process_end.hpp"
 #include "desktop/runtime/stop_request.hpp"
 #include "desktop/uikit/traits/screen_traits.hpp"
@@ -27,6 +28,7 @@
 #include "desktop/viewer/resting_phone.hpp"
 #include "desktop/viewer/supervisor.hpp"
 
+#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <dlfcn.h>
@@ -222,7 +224,9 @@ int run(const Options& options) {
 } // namespace
 
 int main(int count, char** words) {
+    openStandardDescriptors();
     stop_request::watchSignals();
+    std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow further is an error of writing it
     try {
         const Options options = parseOptions({words + 1, words + count});
         if (options.help) {

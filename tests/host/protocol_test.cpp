@@ -133,4 +133,26 @@ TEST(Protocol, TheEndOfInputEndsWellAfterTheLastRequest) {
     EXPECT_NE(output.find("\"id\":2"), std::string::npos) << output;
 }
 
+/// The host, started by a command of the shell.
+HostProcess startedBy(const std::string& command) {
+    return {
+        "/bin/sh",
+        {"-c", command, tests::hostProgram(), "--automation", "--no-library", "--app", "plain"}};
+}
+
+TEST(Protocol, ClosedDescriptorsAreNotTakenForOthers) {
+    for (const char* closed : {"<&-", ">&-", "2>&-", "<&- >&- 2>&-"}) {
+        HostProcess host = startedBy(std::string("exec \"$0\" \"$@\" ") + closed);
+        host.closeInput();
+        EXPECT_EQ(host.wait(), 0) << closed;
+    }
+}
+
+TEST(Protocol, AFileThatCannotGrowIsAnError) {
+    HostProcess host = startedBy("ulimit -f 1; exec \"$0\" \"$@\"");
+    const std::string file = host.temporaryFolder() / "screen.png";
+    EXPECT_EQ(host.error({{"do", "screenshot"}, {"file", file}}), "cannot write " + file);
+    EXPECT_EQ(host.result({{"do", "events"}}), json::array());
+}
+
 } // namespace
