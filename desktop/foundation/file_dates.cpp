@@ -42,10 +42,10 @@ Identity identityOf(const struct statx& status) {
 
 } // namespace
 
-double creationDate(const std::string& path) {
+std::optional<double> creationDate(const std::string& path) {
     const auto status = statusOf(path);
     if (!status) {
-        return 0;
+        return std::nullopt;
     }
     const std::lock_guard lock(kept().mutex);
     const auto set = kept().dates.find(identityOf(*status));

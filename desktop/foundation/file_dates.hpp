@@ -3,14 +3,15 @@
 
 #include "bindings/foundation/date.hpp"
 
+#include <optional>
 #include <string>
 
 namespace desktop::foundation {
 
 /// Seconds since 1970 at which the entry was made, itself where it is a link: what was set, else
 /// what the file system knows. The phone's own sets this date back with that of the last change, so
-/// nothing was made after that. Any thread.
-[[nodiscard]] double creationDate(const std::string& path);
+/// nothing was made after that. Nothing where there is no entry. Any thread.
+[[nodiscard]] std::optional<double> creationDate(const std::string& path);
 
 /// Linux lets nobody set the date: this process keeps it, as long as the entry is there. False
 /// when there is none.

@@ -75,7 +75,7 @@ ns::Dictionary attributesOf(const std::string& path, const struct stat& status) 
     all.set(number(status.st_uid), u"NSFileOwnerAccountID"_ns);
     all.set(number(status.st_gid), u"NSFileGroupOwnerAccountID"_ns);
     all.set(ns::Date::withTimeIntervalSince1970(modified), ns::file_attributes::modificationDate());
-    all.set(ns::Date::withTimeIntervalSince1970(creationDate(path)),
+    all.set(ns::Date::withTimeIntervalSince1970(creationDate(path).value_or(0)),
             ns::file_attributes::creationDate());
     return all;
 }

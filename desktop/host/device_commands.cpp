@@ -61,11 +61,14 @@ Json pasteboard(Session& session, const Json& request) {
 
 Json file(Session&, const Json& request) {
     const std::string& path = stringArgument(request, "path");
-    if (argument(request, "created") != nullptr &&
-        !foundation::setCreationDate(path, dateArgument(request, "created"))) {
+    if (argument(request, "created") != nullptr) {
+        foundation::setCreationDate(path, dateArgument(request, "created"));
+    }
+    const auto created = foundation::creationDate(path);
+    if (!created) {
         throw RequestError("there is no file " + path);
     }
-    return {{"created", foundation::creationDate(path)}};
+    return {{"created", *created}};
 }
 
 Json preferences(Session& session, const Json& request) {

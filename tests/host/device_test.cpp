@@ -206,6 +206,7 @@ TEST_F(Device, DatesFiles) {
     EXPECT_EQ(host.result(file)["created"], 1000.5);
     EXPECT_NE(host.error(dated("today")), "");
     EXPECT_NE(host.error({{"do", "file"}, {"path", "/gone"}, {"created", 1}}), "");
+    EXPECT_EQ(host.error({{"do", "file"}, {"path", "/gone"}}), "there is no file /gone");
     EXPECT_NE(host.error({{"do", "file"}}), "");
 }
 
