@@ -8,13 +8,14 @@ namespace desktop::host {
 namespace {
 
 /// Methods that take a list as long as the caller likes do not say so in their encoding.
-constexpr std::array<std::string_view, 14> variadic{
+constexpr std::array<std::string_view, 16> variadic{
     "stringWithFormat:",        "initWithFormat:",
     "initWithFormat:locale:",   "appendFormat:",
     "stringByAppendingFormat:", "localizedStringWithFormat:",
     "predicateWithFormat:",     "raise:format:",
     "arrayWithObjects:",        "setWithObjects:",
     "orderedSetWithObjects:",   "initWithObjects:",
+    "encodeValuesOfObjCTypes:", "decodeValuesOfObjCTypes:",
     "initWithObjectsAndKeys:",  "dictionaryWithObjectsAndKeys:"};
 
 /// What follows such a word is called, be it nothing; a property only keeps it.
@@ -23,13 +24,11 @@ constexpr std::array<std::string_view, 6> calling{
 
 constexpr std::array<std::string_view, 3> givingUp{"release", "autorelease", "dealloc"};
 
-constexpr std::array<std::string_view, 12> withInitialisersOfTheirOwn{
-    "NSBundle",      "NSDirectoryEnumerator",
-    "NSInvocation",  "NSMethodSignature",
-    "NSNetService",  "NSNotificationQueue",
-    "NSProgress",    "NSRegularExpression",
-    "NSScanner",     "NSURL",
-    "NSURLProtocol", "NSURLSessionTask"};
+constexpr auto withInitialisersOfTheirOwn = std::to_array<std::string_view>(
+    {"NSArchiver", "NSBundle", "NSDirectoryEnumerator", "NSInvocation", "NSMethodSignature",
+     "NSNetService", "NSNotificationQueue", "NSPortCoder", "NSProgress", "NSProtocolChecker",
+     "NSRegularExpression", "NSScanner", "NSUnarchiver", "NSURL", "NSURLProtocol",
+     "NSURLSessionTask", "NSXMLParser"});
 
 } // namespace
 
