@@ -124,6 +124,9 @@ int runDevice(const App& app, const Options& options, const std::function<void(V
         closePlatform();
         ns::UserDefaults::standardUserDefaults().synchronize();
         return EXIT_SUCCESS;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "host: %s\n", error.what());
+        return EXIT_FAILURE;
     } catch (...) {
         const objc::ExceptionText text = objc::describeCurrentException();
         std::fprintf(stderr, "host: %s: %s\n", text.name.c_str(), text.reason.c_str());
