@@ -6,6 +6,7 @@ namespace {
 [[gnu::constructor]] void initialise() {
     tests::registerVisitor();
     tests::registerCarrier();
+    tests::registerClerk();
 }
 
 } // namespace

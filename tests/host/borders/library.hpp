@@ -5,6 +5,8 @@ namespace tests {
 
 /// Code of the library that is entered in every way and fails in every way.
 void registerVisitor();
+/// What the library asks of the system's C library.
+void registerClerk();
 /// Values on their way through the library to the host and back.
 void registerCarrier();
 
