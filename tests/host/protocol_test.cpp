@@ -11,11 +11,10 @@ namespace {
 using nlohmann::json;
 using support::HostProcess;
 using tests::automatedHost;
-using tests::hostWith;
 
 bool isRefusal(const json& response) {
-    return response.is_object() && response.value("ok", true) == false &&
-           response.contains("error") && !response.at("error").get<std::string>().empty();
+    return response.is_object() && !response.value("ok", true) && response.contains("error") &&
+           !response.at("error").get<std::string>().empty();
 }
 
 TEST(Protocol, BadLinesAreRefusedAndTheHostGoesOn) {

@@ -233,12 +233,13 @@ TEST_F(TextKeys, EachThatMovesEndsWhatIsTyped) {
     keyboard::typeText(u"!"_ns);
     keyboard::undo();
     EXPECT_EQ(shown(), "one two|") << "what was done again is not what is typed then";
-    view_.setSelectedRange({3, 0});
+    keyboard::typeText(u"!?"_ns);
+    view_.setSelectedRange({8, 0});
     keyboard::typeText(u"-"_ns);
     keyboard::undo();
-    EXPECT_EQ(shown(), "one| two");
+    EXPECT_EQ(shown(), "one two!|?") << "each by itself, whoever moved the caret";
     keyboard::undo();
-    EXPECT_EQ(shown(), "one|") << "each by itself, whoever moved the caret";
+    EXPECT_EQ(shown(), "one two|");
 }
 
 TEST_F(TextKeys, TakeTheMenuAwayAndKeepWhatIsComposed) {
