@@ -84,6 +84,24 @@ TEST_F(ContentSizeTest, ALabelFollowsWhenItsFontIsThatOfAStyle) {
     EXPECT_EQ(points(), 20) << "it is no style's font";
 }
 
+TEST_F(ContentSizeTest, AFontIsThatOfTheTraitsOrElseOfTheScreen) {
+    const auto body = ns::String::from(text_styles::body);
+    const auto sizeIn = [body](ContentSize told) {
+        const auto traits =
+            ui::TraitCollection::sendClass<"traitCollectionWithPreferredContentSizeCategory:",
+                                           ui::TraitCollection>(
+                ns::String::from(desktop::categoryOf(told)));
+        return ui::Font::sendClass<"preferredFontForTextStyle:compatibleWithTraitCollection:",
+                                   ui::Font>(body, traits)
+            .pointSize();
+    };
+    desktop::setScreenContentSize(ContentSize::extraLarge);
+    EXPECT_EQ(sizeIn(ContentSize::extraSmall), 14);
+    EXPECT_EQ(sizeIn(ContentSize::accessibilityMedium), 28);
+    EXPECT_EQ(sizeIn(ContentSize::unspecified), 19);
+    EXPECT_EQ((ui::Font::sendClass<"preferredFontForTextStyle:", ui::Font>(body).pointSize()), 19);
+}
+
 TEST_F(ContentSizeTest, TheApplicationIsTold) {
     using namespace ns::literals;
     std::string told;
