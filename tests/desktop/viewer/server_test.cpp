@@ -28,20 +28,31 @@ public:
     Visitor& operator=(const Visitor&) = delete;
     ~Visitor() { leave(); }
 
-    void ask(const Listener& listener, const std::string& path) const {
+    void ask(const Listener& listener, const std::string& path,
+             const std::string& headers = "Connection: close\r\n") const {
         sockaddr_in address{};
         address.sin_family = AF_INET;
         address.sin_port = htons(listener.port());
         address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
         ASSERT_EQ(connect(socket_, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
-        askOn(path);
+        askOn(path, headers);
     }
     /// Without waiting for what was asked before.
-    void askOn(const std::string& path) const {
-        const std::string request =
-            "GET " + path + " HTTP/1.1\r\nHost: 127.0.0.1\r\nConnection: close\r\n\r\n";
-        ASSERT_EQ(write(socket_, request.data(), request.size()),
-                  static_cast<ssize_t>(request.size()));
+    void askOn(const std::string& path,
+               const std::string& headers = "Connection: close\r\n") const {
+        say("GET " + path + " HTTP/1.1\r\nHost: 127.0.0.1\r\n" + headers + "\r\n");
+    }
+    /// As a page does that shows the phone.
+    void connectPage(const Listener& listener) const {
+        ask(listener, "/" + token + "/socket",
+            "Origin: http://127.0.0.1\r\nUpgrade: websocket\r\nConnection: Upgrade\r\n"
+            "Sec-WebSocket-Version: 13\r\nSec-WebSocket-Key: dGhlIHNhbXBsZSBub25jZQ==\r\n");
+        EXPECT_TRUE(isAnswered(10'000)); // nothing may be said before
+    }
+    /// A short text, masked by zeros.
+    void sayAsPage(const std::string& text) const {
+        say("\x81" + std::string(1, static_cast<char>(0x80U | text.size())) + std::string(4, '\0') +
+            text);
     }
     /// Whether there is an answer within that time.
     [[nodiscard]] bool isAnswered(int milliseconds) const {
@@ -65,6 +76,10 @@ public:
     [[nodiscard]] int socket() const { return socket_; }
 
 private:
+    void say(const std::string& bytes) const {
+        ASSERT_EQ(write(socket_, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
+    }
+
     int socket_;
 };
 
@@ -79,6 +94,12 @@ public:
         fetches_.clear();
         return fetch;
     }
+    /// What pages have said, once there is so much.
+    std::vector<std::string> said(std::size_t count) {
+        std::unique_lock lock(mutex_);
+        told_.wait(lock, [this, count] { return said_.size() >= count; });
+        return said_;
+    }
     Server& server() { return server_; }
     [[nodiscard]] const Listener& listener() const { return listener_; }
 
@@ -89,13 +110,21 @@ private:
         told_.notify_one();
     }
 
+    void heard(const std::string& text) {
+        const std::lock_guard lock(mutex_);
+        said_.push_back(text);
+        told_.notify_one();
+    }
+
     std::mutex mutex_;
     std::condition_variable told_;
     std::vector<FetchNumber> fetches_;
+    std::vector<std::string> said_;
     Listener listener_{0};
     Server server_{dup(listener_.socket()),
                    token,
-                   {[](PageNumber) {}, [](PageNumber, const std::string&) {}, [](PageNumber) {},
+                   {[](PageNumber) {}, [this](PageNumber, const std::string& text) { heard(text); },
+                    [](PageNumber) {},
                     [this](FetchNumber fetch, const std::string&) { fetched(fetch); }}};
 };
 
@@ -138,6 +167,22 @@ TEST(Server, AVisitorWhoAsksOnStillWaits) {
     EXPECT_TRUE(desk.server().isAwaited(first));
     desk.server().answer(first, {200, "text/plain", "here"});
     EXPECT_TRUE(eager.answer().ends_with("\r\n\r\nhere"));
+}
+
+TEST(Server, TakesInSixtyFourMessagesUntilSomeAreHandled) {
+    Desk desk;
+    const Visitor page;
+    page.connectPage(desk.listener());
+    for (int number = 1; number <= 70; ++number) {
+        page.sayAsPage(std::to_string(number));
+    }
+    EXPECT_EQ(desk.said(64).back(), "64");
+    const Visitor other;
+    other.ask(desk.listener(), "/" + token + "/screenshot.png");
+    static_cast<void>(desk.nextFetch()); // behind what the page has said before
+    EXPECT_EQ(desk.said(64).size(), 64U);
+    desk.server().handled(1);
+    EXPECT_EQ(desk.said(65).back(), "65");
 }
 
 /// Allows no further descriptor for as long as it lives.
