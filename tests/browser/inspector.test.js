@@ -101,6 +101,20 @@ test("rules that come from elsewhere appear, but not over what is being written"
     await lists("two===2");
 });
 
+test("rules of every kind are read as the editor has stored them", async () => {
+    const lines = [
+        "x===y", "x#=ff0000", "x#÷=12", "x#g=30", "x#k=40", "x#x=5", "x#y=6", "x#t=0.5", "x#z=Georgia",
+    ];
+    const stored = await phone.page.evaluate(async (text) => {
+        const { RuleEditor } = await import("./rule_editor.js");
+        const { storedRules } = await import("./stored_rules.js");
+        const { connection } = window.wentra;
+        await new RuleEditor(connection).save(text);
+        return (await storedRules(connection)).map(({ key, marker, value }) => key + marker + value);
+    }, lines.join("\n"));
+    assert.deepEqual(stored.sort(), lines.sort());
+});
+
 test("the rules about a text", async () => {
     const rules = [
         { key: "a", marker: "===", value: "b" },

@@ -20,7 +20,7 @@ protected:
     /// A recognizer on the view, whose action takes the marker out of the window.
     json recognizer(const char* className) {
         const json allocated = host.message({{"class", className}}, "alloc");
-        const json one = host.message(
+        json one = host.message(
             allocated, "initWithTarget:action:", {marker, {{"selector", "removeFromSuperview"}}});
         host.message(view, "addGestureRecognizer:", {one});
         return one;
@@ -31,7 +31,7 @@ protected:
         host.message(view, "addSubview:", {marker});
         return gone;
     }
-    void act(json request) { EXPECT_EQ(host.result(request), nullptr) << request; }
+    void act(const json& request) { EXPECT_EQ(host.result(request), nullptr) << request; }
 
     support::HostProcess host = tests::automatedHost({"--app", "plain"});
     json view;
