@@ -132,6 +132,9 @@ test("the panel takes from the machine's clipboard and gives to it", async () =>
     await phone.do("pasteboard", { set: "two" });
     await phone.page.getByRole("button", { name: "复制到本机剪贴板" }).click();
     await copied("two");
+    await phone.do("pasteboard", { set: "" });
+    await phone.page.getByRole("button", { name: "复制到本机剪贴板" }).click();
+    await copied("");
 });
 
 test("without leave, the page says that the clipboard is out of reach", async () => {
