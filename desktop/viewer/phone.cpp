@@ -153,10 +153,17 @@ void Phone::take(Watcher& watcher, PageNumber page, const Message& message) {
         watcher.seen(message.picture);
     } else if constexpr (std::is_same_v<Message, TakeHand>) {
         giveHand(page);
-    } else if (page == holder_) {
-        carryOut(message);
-    } else {
+    } else if (page != holder_) {
         throw MessageError("another page has the phone in hand");
+    } else if constexpr (takesTurns<Message>) {
+        turns_.add([this, page, message] {
+            server_.handled(page);
+            if (watchers_.contains(page)) { // it may have left meanwhile
+                carryOut(page, message);
+            }
+        });
+    } else {
+        carryOut(message);
     }
 }
 
@@ -197,27 +204,21 @@ void Phone::carryOut(const Wheel& wheel) {
     turnWheel({wheel.x, wheel.y}, {wheel.byX, wheel.byY});
 }
 
-void Phone::carryOut(const Insert& insert) {
-    inTurn([text = insert.text](PageNumber) {
-        keyboard_input::insertText(ns::String::fromUtf8(text));
-    });
+void Phone::carryOut(PageNumber, const Insert& insert) {
+    keyboard_input::insertText(ns::String::fromUtf8(insert.text));
 }
 
-void Phone::carryOut(const Compose& compose) {
-    inTurn([composed = compose.text](PageNumber) {
-        const auto text = ns::String::fromUtf8(composed);
-        keyboard_input::setMarkedText(text, {text.length(), 0});
-    });
+void Phone::carryOut(PageNumber, const Compose& compose) {
+    const auto text = ns::String::fromUtf8(compose.text);
+    keyboard_input::setMarkedText(text, {text.length(), 0});
 }
 
-void Phone::carryOut(const Press& press) {
-    inTurn([key = press.key](PageNumber) {
-        if (key == Key::deleteBackward) {
-            keyboard_input::erase();
-        } else {
-            keyboard_input::pressReturn();
-        }
-    });
+void Phone::carryOut(PageNumber, const Press& press) {
+    if (press.key == Key::deleteBackward) {
+        keyboard_input::erase();
+    } else {
+        keyboard_input::pressReturn();
+    }
 }
 
 void Phone::carryOut(const Paste& paste) {
@@ -233,21 +234,8 @@ void Phone::carryOut(const Paste& paste) {
     ui::Pasteboard::generalPasteboard().setImage(picture);
 }
 
-void Phone::carryOut(const Ask& ask) {
-    inTurn([this, request = ask.request](PageNumber page) { answer(page, request); });
-}
-
-void Phone::inTurn(std::function<void(PageNumber)> work) {
-    turns_.add([this, page = holder_, work = std::move(work)] {
-        server_.handled(page);
-        if (watchers_.contains(page)) { // it may have left meanwhile
-            work(page);
-        }
-    });
-}
-
-void Phone::answer(PageNumber page, const std::string& request) {
-    const std::string response = host::answer(session_, request);
+void Phone::carryOut(PageNumber page, const Ask& ask) {
+    const std::string response = host::answer(session_, ask.request);
     server_.send(page, R"({"type":"answer","response":)" + response + "}");
     if (session_.quits) {
         stop_request::make();

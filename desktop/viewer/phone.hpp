@@ -48,16 +48,13 @@ private:
     void take(Watcher& watcher, PageNumber page, const Message& message);
     void carryOut(const Fingers& fingers);
     static void carryOut(const Wheel& wheel);
-    void carryOut(const Insert& insert);
-    void carryOut(const Compose& compose);
-    void carryOut(const Press& press);
     void carryOut(const Paste& paste);
-    void carryOut(const Ask& ask);
     void carryOut(const Launch& launch);
-
-    /// Does the work for the page in hand behind all that it has asked for before.
-    void inTurn(std::function<void(PageNumber)> work);
-    void answer(PageNumber page, const std::string& request);
+    // What takes turns.
+    static void carryOut(PageNumber page, const Insert& insert);
+    static void carryOut(PageNumber page, const Compose& compose);
+    static void carryOut(PageNumber page, const Press& press);
+    void carryOut(PageNumber page, const Ask& ask);
     void tellAll(const host::Json& message);
     [[nodiscard]] host::Json welcome(PageNumber page) const;
     [[nodiscard]] Answer contentAt(const std::string& path) const;

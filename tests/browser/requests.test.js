@@ -24,6 +24,25 @@ test("requests are answered in order, and presses do not overlap", async () => {
     await phone.close();
 });
 
+test("what is typed waits its turn among the requests", async () => {
+    const phone = await Phone.open(browser, host.address);
+    const view = await phone.addView("UITextView", [20, 200, 350, 120]);
+    await phone.do("send", { to: view, selector: "becomeFirstResponder" });
+    await phone.page.evaluate(async () => {
+        const { connection } = window.wentra;
+        const pressed = connection.ask("press", { at: [300, 700], seconds: 0.3 });
+        connection.send({ type: "insert", text: "ab" });
+        connection.send({ type: "press", key: "deleteBackward" });
+        connection.send({ type: "press", key: "enter" });
+        connection.send({ type: "compose", text: "n" });
+        connection.send({ type: "insert", text: "你" });
+        await pressed;
+    });
+    assert.equal(await phone.do("send", { to: view, selector: "text" }), "a\n你");
+    await phone.do("send", { to: view, selector: "removeFromSuperview" });
+    await phone.close();
+});
+
 test("fingers go on while a request waits", async () => {
     const phone = await Phone.open(browser, host.address);
     const view = await phone.addView("UITextView", [20, 200, 350, 120]);
