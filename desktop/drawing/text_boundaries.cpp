@@ -132,10 +132,11 @@ std::size_t wordStartBefore(std::u16string_view text, std::size_t unit) {
     while (unit > 0) {
         const Window window(text, unit);
         const auto words = window.passage().words();
-        for (auto word = words.rbegin(); word != words.rend(); ++word) {
-            if (window.moved(*word).start < unit) {
-                return window.moved(*word).start;
-            }
+        const auto word = std::find_if(words.rbegin(), words.rend(), [&](Stretch each) {
+            return window.moved(each).start < unit;
+        });
+        if (word != words.rend()) {
+            return window.moved(*word).start;
         }
         unit = window.start();
     }

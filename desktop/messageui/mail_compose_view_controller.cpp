@@ -41,6 +41,7 @@ ns::Array arrayOf(const std::vector<std::string>& texts) {
 
 ns::Array namesOf(const std::vector<mail::Attachment>& attachments) {
     std::vector<std::string> names;
+    names.reserve(attachments.size());
     for (const mail::Attachment& attachment : attachments) {
         names.push_back(attachment.name);
     }
