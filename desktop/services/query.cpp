@@ -14,6 +14,14 @@ std::string_view cutOff(std::string_view& text, char separator) {
     return head;
 }
 
+std::string decoded(std::string_view text) {
+    std::string spaced(text);
+    std::ranges::replace(spaced, '+', ' ');
+    return percentDecoded(spaced);
+}
+
+} // namespace
+
 std::string percentDecoded(std::string_view text) {
     constexpr std::size_t digits = 2;
     std::string bytes;
@@ -30,14 +38,6 @@ std::string percentDecoded(std::string_view text) {
     }
     return bytes;
 }
-
-std::string decoded(std::string_view text) {
-    std::string spaced(text);
-    std::ranges::replace(spaced, '+', ' ');
-    return percentDecoded(spaced);
-}
-
-} // namespace
 
 std::string_view pathOf(std::string_view target) { return cutOff(target, '?'); }
 

@@ -15,6 +15,9 @@ std::map<std::string, std::string> queryOf(std::string_view target);
 /// address that a client has put there as it stands. Empty when there is none of that name.
 std::string restBehind(std::string_view target, std::string_view name);
 
+/// The bytes of a text in which "%XX" is one; a malformed escape stays as it is.
+std::string percentDecoded(std::string_view text);
+
 /// The target without its query.
 std::string_view pathOf(std::string_view target);
 

@@ -21,6 +21,7 @@ struct PageFile {
 constexpr std::array files{
     PageFile{"", "index.html", "text/html; charset=utf-8"},
     PageFile{"page.css", "page.css", "text/css; charset=utf-8"},
+    PageFile{"stand_in.css", "stand_in.css", "text/css; charset=utf-8"},
     PageFile{"icon.svg", "icon.svg", "image/svg+xml"},
     PageFile{"preferences.json", "../../../settings/preferences.json", "application/json"},
     PageFile{"main.js", "main.js", script},
@@ -46,6 +47,7 @@ constexpr std::array files{
     PageFile{"stored_rules.js", "stored_rules.js", script},
     PageFile{"unpack.js", "unpack.js", script},
     PageFile{"veil.js", "veil.js", script},
+    PageFile{"web_page_row.js", "web_page_row.js", script},
     PageFile{"web_pages.js", "web_pages.js", script},
     PageFile{"words.js", "words.js", script},
     PageFile{"panels/applications.js", "panels/applications.js", script},

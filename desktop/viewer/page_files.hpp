@@ -13,6 +13,8 @@ struct Answer {
     std::string type;
     std::string content;
     std::string location = {}; ///< where else to look; empty: nowhere
+    /// What the browser may do with it (Content-Security-Policy); empty: what the page may.
+    std::string policy = {};
 };
 
 /// The file of the page under that name ("" is the page itself); nothing when the page has none.

@@ -15,6 +15,7 @@
 #include "desktop/uikit/uikit.hpp"
 #include "desktop/uikit/values/image.hpp"
 #include "desktop/viewer/phone_settings.hpp"
+#include "desktop/viewer/web_pages.hpp"
 #include "desktop/viewer/welcome.hpp"
 
 #include <algorithm>
@@ -175,11 +176,15 @@ void Phone::fetched(FetchNumber fetch, const std::string& path) {
 
 Answer Phone::contentAt(const std::string& path) const {
     constexpr std::string_view files = "file/";
+    constexpr std::string_view web = "web/";
     if (path == "screenshot.png") {
         return screenshot();
     }
     if (path == "pasteboard.png") {
         return pasteboardPicture();
+    }
+    if (path.starts_with(web)) {
+        return webPageAt(path.substr(web.size()));
     }
     return contentOf(path.starts_with(files) ? events_.fileOf(path.substr(files.size())) : "");
 }

@@ -31,14 +31,17 @@ Answer refusal(http::status status, std::string why) {
     return {static_cast<unsigned>(status), "text/plain; charset=utf-8", std::move(why) + "\n"};
 }
 
-/// What every answer says: nothing from elsewhere is run or told, and shown only in frames, which
-/// the page locks in.
-void secure(HttpResponse& response) {
-    response.set("Content-Security-Policy",
-                 "default-src 'none'; script-src 'self'; style-src 'self'; "
-                 "img-src 'self' blob: data:; media-src 'self' blob:; "
-                 "connect-src 'self' ws://127.0.0.1:* ws://localhost:*; frame-src http: https:; "
-                 "base-uri 'none'; form-action 'none'; frame-ancestors 'none'");
+/// What the page may do: nothing from elsewhere is run, told or shown in it.
+constexpr const char* pagePolicy = "default-src 'none'; script-src 'self'; style-src 'self'; "
+                                   "img-src 'self' blob: data:; media-src 'self' blob:; "
+                                   "connect-src 'self' ws://127.0.0.1:* ws://localhost:*; "
+                                   "frame-src 'self'; base-uri 'none'; form-action 'none'; "
+                                   "frame-ancestors 'none'";
+
+/// What every answer says. No name is looked up before something is loaded from there.
+void secure(HttpResponse& response, const std::string& policy) {
+    response.set("Content-Security-Policy", policy.empty() ? pagePolicy : policy);
+    response.set("X-DNS-Prefetch-Control", "off");
     response.set("X-Content-Type-Options", "nosniff");
     response.set("Referrer-Policy", "no-referrer");
     response.set(http::field::cache_control, "no-store");
@@ -137,7 +140,7 @@ public:
         if (!answer.location.empty()) {
             response_->set(http::field::location, answer.location);
         }
-        secure(*response_);
+        secure(*response_, answer.policy);
         response_->keep_alive(keepsAlive_);
         response_->body() = answer.content;
         response_->prepare_payload();

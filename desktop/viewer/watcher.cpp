@@ -1,54 +1,12 @@
 // What a page is told of the screen, whenever it has been drawn.
 #include "desktop/viewer/watcher.hpp"
 
-#include "bindings/uikit/event.hpp"
-#include "bindings/uikit/window.hpp"
-#include "desktop/replaykit/film_view.hpp"
 #include "desktop/uikit/application/foreground.hpp"
 #include "desktop/uikit/application/screen.hpp"
 #include "desktop/uikit/uikit.hpp"
-#include "desktop/webkit/web_content.hpp"
+#include "desktop/viewer/over_screen.hpp"
 
 namespace desktop::viewer {
-namespace {
-
-/// Whether the middle of the view is to be seen and touched.
-bool isInFront(ui::View view, const CGRect& frame) {
-    const CGPoint middle{frame.origin.x + frame.size.width / 2,
-                         frame.origin.y + frame.size.height / 2};
-    return Foreground::shared().hasApplication() &&
-           view.window().hitTest(middle, nullptr).isDescendantOf(view);
-}
-
-host::Json listOf(const CGRect& frame) {
-    return {frame.origin.x, frame.origin.y, frame.size.width, frame.size.height};
-}
-
-/// The web pages in front of everything else, for the page to show what is in them.
-host::Json webPages() {
-    host::Json pages = host::Json::array();
-    for (const LiveWebPage& each : liveWebPages()) {
-        if (isInFront(each.view, each.frame)) {
-            pages.push_back({{"address", each.address}, {"frame", listOf(each.frame)}});
-        }
-    }
-    return pages;
-}
-
-/// The films in front of everything else, for the page to play them, each by the number of the
-/// event that carries its file.
-host::Json films(const EventFeed& events) {
-    host::Json shown = host::Json::array();
-    for (const LiveFilm& each : liveFilms()) {
-        const std::uint64_t number = events.numberOf(each.file);
-        if (number > 0 && isInFront(each.view, each.frame)) {
-            shown.push_back({{"event", number}, {"frame", listOf(each.frame)}});
-        }
-    }
-    return shown;
-}
-
-} // namespace
 
 host::Json screenShape() {
     const ScreenGeometry& screen = ScreenGeometry::current();

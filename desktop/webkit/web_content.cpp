@@ -18,13 +18,17 @@ std::vector<WebContent*>& contents() {
     return *all;
 }
 
+std::uint64_t lastNumber = 0;
+std::uint64_t lastLoad = 0;
+
 } // namespace
 
-WebContent::WebContent() { contents().push_back(this); }
+WebContent::WebContent() : number_(++lastNumber) { contents().push_back(this); }
 
 WebContent::~WebContent() { std::erase(contents(), this); }
 
 void WebContent::load(ui::View view, ns::Url url, ns::Dictionary headers) {
+    load_ = ++lastLoad;
     view_ = view;
     address_ = url.absoluteString().utf8();
     const auto fields = ns::MutableDictionary::make();
@@ -59,7 +63,8 @@ std::vector<LiveWebPage> liveWebPages() {
     for (const WebContent* content : contents()) {
         const ui::View view = content->view_;
         if (const ui::Window window = view.window()) {
-            pages.push_back({view, view.convertRect(view.bounds(), window), content->address_});
+            pages.push_back({content->number_, content->load_, view,
+                             view.convertRect(view.bounds(), window), content->address_});
         }
     }
     return pages;

@@ -5,6 +5,7 @@
 #include "bindings/foundation/url.hpp"
 #include "bindings/uikit/view.hpp"
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -28,12 +29,19 @@ public:
 private:
     friend std::vector<struct LiveWebPage> liveWebPages();
 
+    std::uint64_t number_; ///< of the view
+    std::uint64_t load_ = 0;
     ui::View view_;
     std::string address_;
 };
 
 /// A page in a window.
 struct LiveWebPage {
+    /// Counts the views of this process.
+    std::uint64_t number;
+    /// Counts what all views have loaded: a view that loads the same address again shows another
+    /// page.
+    std::uint64_t load;
     ui::View view;
     /// In the window, in points.
     CGRect frame;

@@ -20,7 +20,8 @@ const browserOptions = {
 };
 
 /** One browser for all tests of a file. */
-export const openBrowser = () => chromium.launch(browserOptions);
+export const openBrowser = (...options) =>
+    chromium.launch({ ...browserOptions, args: [...browserOptions.args, ...options] });
 
 /** A host process with the viewer, and its data in a fresh folder. */
 export class Host {

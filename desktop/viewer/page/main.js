@@ -21,7 +21,7 @@ import { recordPhone } from "./recording.js";
 import { Screen } from "./screen.js";
 import { Sounds } from "./sounds.js";
 import { showState } from "./veil.js";
-import { showWebPages } from "./web_pages.js";
+import { WebPages } from "./web_pages.js";
 import { language, switchLanguage, word } from "./words.js";
 
 /** @template {HTMLElement} T @param {string} id @returns {T} */
@@ -193,7 +193,7 @@ connection.addEventListener("refused", (event) => {
 });
 
 new Fingers(part("glass"), part("marks"), screen, connection);
-showWebPages(part("glass"), connection);
+const webPages = new WebPages(part("glass"), part("web-pages"), connection);
 showFilms(part("glass"), connection);
 tellOpenedUrls(connection, tell);
 const keyboard = realKeyboard(connection, part("keys"));
@@ -211,6 +211,7 @@ part("language").onclick = () => {
     switchLanguage();
     showPage();
     recording.show();
+    webPages.show();
 };
 field.addEventListener("focus", () => {
     part("typing").textContent = word("typingOn");

@@ -1,77 +1,101 @@
 // @ts-check
-// What is in the web views of the phone: the phone itself fetches no page, the browser does, and what is
-// not on this machine only when a person asks for it.
+// What is in the web views of the phone: a page of our own service, which plays the site's, until a
+// person asks for the site itself.
 import { element } from "./element.js";
-import { overScreen } from "./over_screen.js";
-import { word } from "./words.js";
-
-/** The sites that a person has asked for. @type {Set<string>} */
-const wanted = new Set();
-
-/** The site of an address; empty for what is none. */
-function siteOf(/** @type {string} */ address) {
-    return URL.canParse(address) ? new URL(address).origin : "";
-}
-
-/** Whether loading it asks nobody but this machine. */
-function isHere(/** @type {string} */ address) {
-    const names = ["localhost", "127.0.0.1", "[::1]"];
-    return !URL.canParse(address) || names.includes(new URL(address).hostname) ||
-        ["about:", "data:"].includes(new URL(address).protocol);
-}
-
-/** It runs locked in, as nobody's page; one that refuses to be framed can be opened beside this one. */
-function loaded(/** @type {string} */ address) {
-    return [
-        element("iframe", {
-            src: address, title: address, sandbox: "allow-scripts allow-forms", referrerpolicy: "no-referrer",
-        }),
-        element(
-            "a",
-            { class: "button", href: address, target: "_blank", rel: "noopener noreferrer" },
-            word("openBeside"),
-        ),
-    ];
-}
-
-/** Says where the page is, and offers to load it. */
-function offered(/** @type {string} */ address, /** @type {() => void} */ load) {
-    return element(
-        "div",
-        { class: "offer" },
-        element("p", {}, word("outside")),
-        element("code", {}, address),
-        element("button", { onclick: load }, word("loadOutside")),
-    );
-}
+import { moveOverScreen, overScreen } from "./over_screen.js";
+import { webPageRow } from "./web_page_row.js";
 
 /**
- * A web page in its place on the screen.
- * @param {{address: string, frame: number[]}} page
+ * As the phone tells it; "site" is empty when no browser is to load it.
+ * @typedef {{view: number, load: number, address: string, site: string, appearance: string,
+ *     frame: number[]}} WebPage
  */
-function framed({ address, frame }) {
-    const load = () => {
-        wanted.add(siteOf(address));
-        place.replaceChildren(...loaded(address));
-    };
-    const mayLoad = isHere(address) || wanted.has(siteOf(address));
-    const place = element(
-        "div", { class: "web-page" }, ...(mayLoad ? loaded(address) : [offered(address, load)]));
-    return overScreen(place, frame);
-}
 
-/**
- * Keeps the web pages over the screen as they are on the phone.
- * @param {HTMLElement} glass
- * @param {import("./connection.js").Connection} connection
- */
-export function showWebPages(glass, connection) {
-    connection.addEventListener("webPages", (event) => {
-        glass.querySelectorAll(".web-page").forEach((former) => former.remove());
-        const { pages } = /** @type {CustomEvent} */ (event).detail;
-        glass.append(...pages.map(framed));
-    });
-    connection.addEventListener("welcome", () => {
-        glass.querySelectorAll(".web-page").forEach((former) => former.remove());
-    });
+/** Keeps frames over the screen and rows below it as the web pages are on the phone. */
+export class WebPages {
+    #glass;
+    #rows;
+    /** @type {WebPage[]} */
+    #pages = [];
+    /** What a person has asked for: a view and the site that it shows. @type {Set<string>} */
+    #wanted = new Set();
+    /** By what is in them, since one that is made anew loads anew. @type {Map<string, HTMLElement>} */
+    #frames = new Map();
+
+    /**
+     * @param {HTMLElement} glass
+     * @param {HTMLElement} rows
+     * @param {import("./connection.js").Connection} connection
+     */
+    constructor(glass, rows, connection) {
+        this.#glass = glass;
+        this.#rows = rows;
+        connection.addEventListener("webPages", (event) => {
+            this.#become(/** @type {CustomEvent} */ (event).detail.pages);
+        });
+        connection.addEventListener("welcome", () => {
+            this.#wanted.clear(); // another process counts its views anew
+            this.#become([]);
+        });
+    }
+
+    /** In the language of the page. */
+    show() {
+        this.#showFrames();
+        this.#rows.replaceChildren(
+            ...this.#pages.map((page) => webPageRow(page, this.#isWanted(page), () => this.#toggle(page))));
+    }
+
+    #become(/** @type {WebPage[]} */ pages) {
+        this.#pages = pages;
+        this.show();
+    }
+
+    #showFrames() {
+        const wanted = new Map(this.#pages.map((page) => [this.#sourceOf(page), page.frame]));
+        for (const [source, frame] of this.#frames) {
+            if (!wanted.has(source)) {
+                frame.remove();
+                this.#frames.delete(source);
+            }
+        }
+        for (const [source, place] of wanted) {
+            const present = this.#frames.get(source);
+            if (present) {
+                moveOverScreen(present, place);
+            } else {
+                this.#frames.set(source, this.#add(source, place));
+            }
+        }
+    }
+
+    /** It runs locked in, as nobody's page, and a stand-in does not even run. */
+    #add(/** @type {string} */ source, /** @type {number[]} */ place) {
+        const isOutside = source.endsWith("/outside");
+        const frame = element("iframe", {
+            class: isOutside ? "web-page outside" : "web-page",
+            src: source,
+            sandbox: isOutside ? "allow-scripts allow-forms" : "",
+            referrerpolicy: "no-referrer",
+            tabindex: isOutside ? 0 : -1,
+        });
+        this.#glass.append(overScreen(frame, place));
+        return frame;
+    }
+
+    #sourceOf(/** @type {WebPage} */ page) {
+        return `web/${page.load}/${this.#isWanted(page) ? "outside" : page.appearance}`;
+    }
+
+    #isWanted(/** @type {WebPage} */ { view, site }) {
+        return this.#wanted.has(`${view} ${site}`);
+    }
+
+    #toggle(/** @type {WebPage} */ { view, site }) {
+        const key = `${view} ${site}`;
+        if (!this.#wanted.delete(key)) {
+            this.#wanted.add(key);
+        }
+        this.show();
+    }
 }

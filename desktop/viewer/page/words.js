@@ -8,11 +8,24 @@ const words = {
     phone: ["手机屏幕", "Phone screen"],
     typing: ["键盘输入", "Typing"],
     typingOn: ["正在向手机输入 · Esc 退出", "Typing goes to the phone · Esc leaves"],
-    outside: [
-        "这个网页不在本机上。载入时，你的浏览器会访问它：",
-        "This page is not on this machine. To load it, your browser asks for it at",
+    webPages: ["手机上的网页", "Web pages on the phone"],
+    playedHere: ["由本机代演", "Played by this machine"],
+    loadedOutside: ["已从网络载入", "Loaded from the network"],
+    leavesMachine: [
+        "点按后，你的浏览器会把这个地址连同其中的文字发给 {host}，对方还能看到你的 IP 地址：",
+        "When clicked, your browser sends this address, with the words in it, to {host}, which also sees your IP address:",
     ],
+    staysHere: [
+        "点按后，你的浏览器会访问本机的 {host}；那个网页里的内容可能来自别处：",
+        "When clicked, your browser asks {host} on this machine; what that page shows may come from elsewhere:",
+    ],
+    loadedFrom: [
+        "网页和其中的内容来自网络，直到换回替身。这里只显示 {host}；不让别的页面嵌入它的网站，可以在新标签页中打开。",
+        "The page and what is in it come from the network, until the stand-in is back. Only {host} is shown here; a site that lets no page embed it can be opened in a tab.",
+    ],
+    notLoaded: ["这个地址不能从网络载入：", "This address cannot be loaded from the network:"],
     loadOutside: ["从网络载入", "Load from the network"],
+    standIn: ["换回替身", "Back to the stand-in"],
     openBeside: ["在新标签页中打开", "Open in a new tab"],
     typingOff: ["点按屏幕后即可输入", "Click the phone to type"],
     home: ["主屏幕", "Home"],

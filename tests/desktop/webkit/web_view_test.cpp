@@ -109,4 +109,21 @@ TEST_F(WebView, IsListedWhileItIsInAWindow) {
     EXPECT_EQ(desktop::liveWebPages().size(), others);
 }
 
+TEST_F(WebView, NumbersViewsAndWhatTheyLoad) {
+    const objc::Pool inner;
+    const auto window = ui::Window::withFrame({{0, 0}, {390, 844}});
+    window.addSubview(view);
+    load(u"https://example.com/a"_ns);
+    const auto first = desktop::liveWebPages().back();
+    load(u"https://example.com/a"_ns);
+    const auto second = desktop::liveWebPages().back();
+    EXPECT_EQ(second.number, first.number);
+    EXPECT_GT(second.load, first.load);
+    const auto other = wk::WebView::withFrame({{0, 0}, {10, 10}});
+    window.addSubview(other);
+    other.load(ns::UrlRequest::withUrl(ns::Url::withString(u"https://example.com/a"_ns)));
+    EXPECT_NE(desktop::liveWebPages().back().number, first.number);
+    view.removeFromSuperview();
+}
+
 } // namespace
