@@ -36,6 +36,7 @@ constexpr std::array files{
     PageFile{"inspector.js", "inspector.js", script},
     PageFile{"key_combinations.js", "key_combinations.js", script},
     PageFile{"keyboard.js", "keyboard.js", script},
+    PageFile{"menu.js", "menu.js", script},
     PageFile{"news.js", "news.js", script},
     PageFile{"opened_urls.js", "opened_urls.js", script},
     PageFile{"over_screen.js", "over_screen.js", script},

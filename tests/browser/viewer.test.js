@@ -38,6 +38,7 @@ test("the phone is turned, and made dark, by buttons and by keys", async () => {
     await becomes(false);
 
     assert.deepEqual(await phone.colourAt([20, 700]), [255, 255, 255]);
+    await phone.page.click("#more");
     await phone.page.click("#appearance");
     await phone.page.waitForFunction(() => window.wentra.connection.ask("appearance").then((is) => is === "dark"));
     await phone.page.keyboard.press("d");
@@ -149,7 +150,7 @@ test("typing reaches the first responder, input methods included", async () => {
     assert.equal(await text(), "Hello,\n😀你好");
 
     await phone.page.keyboard.press("Escape"); // leaves the phone for the page's buttons
-    assert.equal(await phone.page.evaluate(() => document.activeElement.id), "help");
+    assert.equal(await phone.page.evaluate(() => document.activeElement.id), "more");
     await phone.do("send", { to: view, selector: "resignFirstResponder" });
     await phone.do("send", { to: view, selector: "removeFromSuperview" });
     await phone.close();

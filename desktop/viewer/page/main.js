@@ -9,6 +9,7 @@ import { showHelp } from "./help.js";
 import { holdPhone } from "./holding.js";
 import { Inspector } from "./inspector.js";
 import { realKeyboard, typeInto } from "./keyboard.js";
+import { hangMenu } from "./menu.js";
 import { tellOpenedUrls } from "./opened_urls.js";
 import { applicationsPanel } from "./panels/applications.js";
 import { devicePanel } from "./panels/device.js";
@@ -54,6 +55,9 @@ function showWords() {
     }
     for (const labelled of document.querySelectorAll("[data-label]")) {
         labelled.setAttribute("aria-label", word(labelled.getAttribute("data-label") ?? ""));
+    }
+    for (const button of /** @type {NodeListOf<HTMLElement>} */ (document.querySelectorAll("nav > button"))) {
+        button.title = button.ariaLabel ?? "";
     }
 }
 
@@ -197,13 +201,15 @@ const webPages = new WebPages(part("glass"), part("web-pages"), connection);
 showFilms(part("glass"), connection);
 tellOpenedUrls(connection, tell);
 const keyboard = realKeyboard(connection, part("keys"));
-typeInto(field, part("help"), connection, keyboard.types, attempt);
+typeInto(field, part("more"), connection, keyboard.types, attempt);
 part("keys").onclick = () => attempt(keyboard.toggle);
 part("glass").addEventListener("pointerdown", () => field.focus({ preventScroll: true }));
 part("help").onclick = showHelp;
 part("home").onclick = holding.home;
 part("home-button").onclick = holding.home;
 part("lock").onclick = holding.lock;
+part("shake").onclick = holding.shake;
+hangMenu(part("more"), part("menu"));
 const recording = recordPhone(part("record"), connection, attempt);
 part("rotate").onclick = holding.turn;
 part("appearance").onclick = holding.switchAppearance;

@@ -17,7 +17,8 @@ export function recordPhone(button, connection, attempt) {
 
     const show = () => {
         button.setAttribute("aria-pressed", String(script !== null));
-        button.textContent = word(script ? "stopRecording" : "record");
+        button.title = word(script ? "stopRecording" : "record");
+        button.ariaLabel = button.title;
     };
     const become = (/** @type {Script | null} */ next) => {
         script = next;

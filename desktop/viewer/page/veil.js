@@ -41,7 +41,7 @@ export function showState(state, connection, phone) {
     part("veil-action").hidden = !action;
     part("veil-action").textContent = action ? word(action) : "";
     part("veil-action").onclick = () => act?.(connection, phone);
-    for (const id of ["controls", "keyboard", "typing", "home-button"]) {
+    for (const id of ["controls", "phone-menu", "keyboard", "typing", "home-button"]) {
         part(id).inert = state !== "connected";
     }
     for (const panel of /** @type {NodeListOf<HTMLElement>} */ (document.querySelectorAll("#panels > *"))) {

@@ -43,6 +43,7 @@ const words = {
         "The script is requests of the automation protocol, one a line. The same application, freshly started, plays it again: ./dev host --app NAME --automation < wentra.jsonl",
     ],
     screenshot: ["截图", "Screenshot"],
+    more: ["更多", "More"],
     help: ["键盘与手势", "Keys and gestures"],
     language: ["English", "中文"],
     panels: ["面板", "Panels"],
