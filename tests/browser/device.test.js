@@ -53,7 +53,7 @@ test("keys are shortcuts while nothing is written", async () => {
             }
         });
     }), command);
-    await phone.page.focus("#help");
+    await phone.page.focus("#more");
     for (const [key, command] of Object.entries({
         r: "rotate", d: "appearance", h: "home", l: "lock", s: "shake", k: "keyboard",
     })) {
