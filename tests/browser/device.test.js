@@ -44,22 +44,24 @@ test("a phone that is turned has its notch at the side", async () => {
 });
 
 test("keys are shortcuts while nothing is written", async () => {
-    const asks = (command) => phone.page.evaluate((wanted) => new Promise((done) => {
+    const listen = (command) => phone.page.evaluate((wanted) => {
         const { connection } = window.wentra;
-        connection.addEventListener("sent", function listen({ detail }) {
-            if (detail.type === "ask" && detail.request.do === wanted) {
-                connection.removeEventListener("sent", listen);
-                done(true);
-            }
+        window.asked = new Promise((done) => {
+            connection.addEventListener("sent", function listen({ detail }) {
+                if (detail.type === "ask" && detail.request.do === wanted) {
+                    connection.removeEventListener("sent", listen);
+                    done(true);
+                }
+            });
         });
-    }), command);
+    }, command);
     await phone.page.focus("#more");
     for (const [key, command] of Object.entries({
         r: "rotate", d: "appearance", h: "home", l: "lock", s: "shake", k: "keyboard",
     })) {
-        const asked = asks(command);
+        await listen(command);
         await phone.page.keyboard.press(key);
-        await asked;
+        await phone.page.evaluate(() => window.asked);
     }
     await phone.page.keyboard.press("?");
     await phone.page.waitForSelector("dialog.help");
