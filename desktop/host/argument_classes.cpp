@@ -32,7 +32,9 @@ bool isOf(objc::Object object, std::string_view name) {
 
 std::vector<DeclaredClass> argumentClasses(objc::Object receiver, const std::string& selector,
                                            const Json& arguments) {
-    if (selector == "setValue:forKey:" && arguments.size() == 2 && arguments[1].is_string()) {
+    // A path of several keys names no setter here.
+    if ((selector == "setValue:forKey:" || selector == "setValue:forKeyPath:") &&
+        arguments.size() == 2 && arguments[1].is_string()) {
         return declaredBy(receiver, setterOf(arguments[1].get<std::string>()));
     }
     return declaredBy(receiver, selector);

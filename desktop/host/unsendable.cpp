@@ -19,8 +19,9 @@ constexpr std::array<std::string_view, 16> variadic{
     "initWithObjectsAndKeys:",  "dictionaryWithObjectsAndKeys:"};
 
 /// What follows such a word is called, be it nothing; a property only keeps it.
-constexpr std::array<std::string_view, 6> calling{
-    "Block:", ":block:", "omparator:", "PassingTest:", "Function:", "function:"};
+constexpr std::array<std::string_view, 7> calling{
+    "Block:",    ":block:",   "omparator:",           "PassingTest:",
+    "Function:", "function:", "requestAuthorization:"};
 
 constexpr std::array<std::string_view, 3> givingUp{"release", "autorelease", "dealloc"};
 

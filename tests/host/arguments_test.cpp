@@ -55,7 +55,8 @@ TEST_F(Arguments, OfAnotherClassThanTheMethodTakesAreRefused) {
 TEST_F(Arguments, OfAnotherClassAreRefusedWhereTheyAreOnlyPassedOn) {
     const json label = made("UILabel");
     refusal(label, "performSelector:withObject:", {{{"selector", "setFont:"}}, "text"});
-    refusal(label, "setValue:forKey:", {"text", "font"});
+    EXPECT_NE(refusal(label, "setValue:forKey:", {"text", "font"}), "");
+    EXPECT_NE(refusal(label, "setValue:forKeyPath:", {"text", "font"}), "");
     host.message(label, "performSelector:withObject:", {{{"selector", "setText:"}}, "text"});
     EXPECT_EQ(host.message(label, "text"), "text");
     show(label);
@@ -139,6 +140,9 @@ TEST_F(Arguments, CodeIsRefusedWhereAMethodCallsIt) {
     EXPECT_NE(refusal({{"class", "NSTimer"}},
                       "scheduledTimerWithTimeInterval:repeats:block:", {1, false, nullptr}),
               "");
+    EXPECT_NE(
+        refusal({{"class", "SFSpeechRecognizer"}}, "requestAuthorization:", json::array({nullptr})),
+        "");
     EXPECT_NE(refusal({1, 2}, "sortedArrayUsingFunction:context:", {nullptr, nullptr}), "");
 }
 
