@@ -52,17 +52,21 @@ private:
     double height_ = margin / 2;
 };
 
+/// The text comes last, for the library may change how its label looks.
+ui::Label lineOfCard(std::string_view text, std::u16string_view style, const TextLook& look) {
+    const auto label = following(dressed(ui::Label::withFrame({}), "", look), style);
+    label.setText(ns::String::fromUtf8(text));
+    return label;
+}
+
 void Page::addCard(const NotesContent::Card& card) {
     const auto stack = ui::StackView::withFrame({});
     stack.setAxis(ui::Axis::vertical);
     stack.setSpacing(6);
-    stack.addArrangedSubview(
-        following(dressed(ui::Label::withFrame({}), card.title), text_styles::headline));
+    stack.addArrangedSubview(lineOfCard(card.title, text_styles::headline, {}));
     for (const std::string& line : card.lines) {
-        stack.addArrangedSubview(
-            following(dressed(ui::Label::withFrame({}), line,
-                              {.color = ui::Color::secondaryLabel(), .lines = 0}),
-                      text_styles::subheadline));
+        stack.addArrangedSubview(lineOfCard(line, text_styles::subheadline,
+                                            {.color = ui::Color::secondaryLabel(), .lines = 0}));
     }
     const double width = width_ - 2 * padding;
     const double height = stack.sizeThatFits({width, 0}).height;

@@ -1,5 +1,6 @@
 // Labels rewritten by the loaded library, seen through the host: rules and switches in, views out.
 #include "tests/support/phone.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 #include <gtest/gtest.h>
 
@@ -30,6 +31,18 @@ TEST(LabelRewriting, ReplacesTextsWithoutAnySwitch) {
     }
     EXPECT_EQ(phone.label("same")["textColor"], "#000000ff") << "the colour switch is off";
     EXPECT_EQ(phone.result({{"do", "defaults"}, {"key", "改色zerk"}}), (Json{{"same", "ff0000"}}));
+}
+
+TEST(LabelRewriting, SizesTextsThatFollowTheSizeAPersonWants) {
+    const support::TemporaryFolder root;
+    const std::vector<std::string> notes{"--app", "notes", "--root", root.path()};
+    {
+        Phone phone{notes};
+        phone.saveRules("Travel plan#÷=26");
+        phone.turnOn({"kqwzdx"});
+    }
+    Phone phone{notes};
+    EXPECT_EQ(phone.find({{"text", "Travel plan"}})[0]["font"]["size"], 26);
 }
 
 TEST(LabelRewriting, SavingOneKindLeavesTheOthersStored) {
