@@ -89,9 +89,9 @@ std::string bodyOf(const PageAddress& read, const std::string& address) {
 std::string standInPage(const std::string& address, const std::string& style,
                         uikit::Appearance appearance) {
     const PageAddress read = readPageAddress(address);
-    return std::string("<!doctype html><html lang=\"zh-CN\" class=\"") +
+    return std::string(R"(<!doctype html><html lang="zh-CN" class=")") +
            (appearance == uikit::Appearance::dark ? "dark" : "light") +
-           "\"><head><meta charset=\"utf-8\">" + tagged("title", read.host) + "<style>" + style +
+           R"("><head><meta charset="utf-8">)" + tagged("title", read.host) + "<style>" + style +
            "</style></head><body>" + bodyOf(read, address) + "</body></html>\n";
 }
 
