@@ -2,6 +2,7 @@
 #include "desktop/host/argument_classes.hpp"
 
 #include "bindings/foundation/array.hpp"
+#include "bindings/objc/declared_types.hpp"
 #include "desktop/runtime/declared_types.hpp"
 
 #include <cctype>
@@ -10,9 +11,12 @@
 namespace desktop::host {
 namespace {
 
+/// The applications' classes are declared in the table of this image.
 std::vector<DeclaredClass> declaredBy(objc::Object receiver, const std::string& selector) {
-    const char* types =
-        declaredTypes(object_getClass(receiver.raw()), sel_registerName(selector.c_str()));
+    const Class cls = object_getClass(receiver.raw());
+    const SEL name = sel_registerName(selector.c_str());
+    const char* own = objc::declaredTypes(cls, name);
+    const char* types = own != nullptr ? own : declaredTypes(cls, name);
     return types == nullptr ? std::vector<DeclaredClass>() : declaredClasses(types);
 }
 

@@ -52,6 +52,14 @@ TEST_F(Arguments, OfAnotherClassThanTheMethodTakesAreRefused) {
     show(label);
 }
 
+TEST(ArgumentsOfApplications, OfAnotherClassThanTheMethodTakesAreRefused) {
+    HostProcess host = tests::automatedHost({"--app", "notes"});
+    const json label = host.result({{"do", "make"}, {"class", "YYLabel"}, {"selector", "init"}});
+    EXPECT_EQ(
+        host.error({{"do", "send"}, {"to", label}, {"selector", "setFont:"}, {"args", {"text"}}}),
+        "argument 1 cannot be \"text\" (it must be of the class UIFont)");
+}
+
 TEST_F(Arguments, OfAnotherClassAreRefusedWhereTheyAreOnlyPassedOn) {
     const json label = made("UILabel");
     refusal(label, "performSelector:withObject:", {{{"selector", "setFont:"}}, "text"});
