@@ -2,6 +2,7 @@
 #include "desktop/foundation/foundation.hpp"
 
 #include "desktop/foundation/application_folders.hpp"
+#include "desktop/foundation/ascii_string.hpp"
 #include "desktop/foundation/base64.hpp"
 #include "desktop/foundation/bundle.hpp"
 #include "desktop/foundation/byte_count_formatter.hpp"
@@ -35,6 +36,7 @@ namespace desktop::foundation {
 void install(const std::string& bundleIdentifier) {
     const objc::Pool pool;
     installStrings();
+    installAsciiStrings();
     installStringTransforms();
     installPercentEncoding();
     installByteCountFormatter();

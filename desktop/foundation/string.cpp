@@ -6,11 +6,11 @@
 #include "bindings/foundation/string.hpp"
 #include "bindings/objc/hook.hpp"
 #include "bindings/objc/pool.hpp"
+#include "desktop/foundation/string_contents.hpp"
 #include "desktop/foundation/text.hpp"
 
 #include <algorithm>
 #include <cstddef>
-#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -130,30 +130,6 @@ ns::String readEncodedFile(EncodedFileReader next, ns::String, ns::String path, 
 using Encoder = objc::Next<const char*()>;
 const char* encode(Encoder next, ns::String self) {
     return isWellFormed(self.utf16()) ? next() : nullptr;
-}
-
-struct UnicodeText : objc::Kind<UnicodeText, "GSUnicodeString", ns::String> {
-    using Kind::Kind;
-};
-
-/// A variable of that class, as it lies in the object.
-template <class Value>
-Value variable(UnicodeText text, std::ptrdiff_t offset) {
-    Value value;
-    std::memcpy(&value, reinterpret_cast<const std::byte*>(text.raw()) + offset, sizeof value);
-    return value;
-}
-
-std::ptrdiff_t offsetOf(const char* name) {
-    return ivar_getOffset(class_getInstanceVariable(UnicodeText::classObject(), name));
-}
-
-/// The units where the string keeps them. Each look into a dictionary compares its key, and
-/// messages for the length and a copy would be most of what that costs.
-std::u16string_view unitsOf(UnicodeText text) {
-    static const std::ptrdiff_t contents = offsetOf("_contents");
-    static const std::ptrdiff_t count = offsetOf("_count");
-    return {variable<const char16_t*>(text, contents), variable<unsigned int>(text, count)};
 }
 
 using Comparison = objc::Next<bool(objc::Object)>;
