@@ -21,7 +21,7 @@ changed_sources() {
 
 tidy() {
     # What GCC has precompiled, clang cannot read.
-    cmake --preset release -B build/lint -D CMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
+    cmake --preset release -B build/lint -D CMAKE_DISABLE_PRECOMPILE_HEADERS=ON -D WENTRA_JOINED_SOURCES=0 >/dev/null
     # GCC's headers of the Objective-C runtime are not among those that clang looks for.
     printf '%s\0' "$@" | xargs -0 -n 1 -P "$(nproc)" \
         clang-tidy --quiet "${checks[@]}" -p build/lint --extra-arg=-Wno-pragma-once-outside-header \

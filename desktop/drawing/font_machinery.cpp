@@ -57,12 +57,12 @@ Configuration makeConfiguration() {
     return configuration;
 }
 
-using Context = Handle<PangoContext, g_object_unref>;
+using PangoContextHandle = Handle<PangoContext, g_object_unref>;
 
-Context makeContext() {
+PangoContextHandle makeContext() {
     const Handle<PangoFontMap, g_object_unref> map(pango_cairo_font_map_new());
     pango_fc_font_map_set_config(PANGO_FC_FONT_MAP(map.get()), fontConfiguration());
-    Context context(pango_font_map_create_context(map.get()));
+    PangoContextHandle context(pango_font_map_create_context(map.get()));
     const Handle<cairo_font_options_t, cairo_font_options_destroy> options(
         cairo_font_options_create());
     cairo_font_options_set_antialias(options.get(), CAIRO_ANTIALIAS_GRAY);
@@ -100,7 +100,7 @@ FcConfig* fontConfiguration() {
 }
 
 PangoContext* textContext() {
-    thread_local const Context context = makeContext();
+    thread_local const PangoContextHandle context = makeContext();
     return context.get();
 }
 

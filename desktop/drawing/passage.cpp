@@ -2,6 +2,7 @@
 #include "desktop/drawing/passage.hpp"
 
 #include "desktop/drawing/font_machinery.hpp"
+#include "desktop/surrogates.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -13,9 +14,6 @@ namespace {
 constexpr std::string_view ellipsis = "\u2026";
 constexpr char32_t replacementCharacter = 0xFFFD;
 constexpr char32_t zeroWidthSpace = 0x200B;
-
-bool isHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
-bool isLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
 // The character at the beginning of a text that is not empty.
 char32_t decode(std::u16string_view text) {

@@ -12,7 +12,7 @@ namespace desktop {
 namespace {
 
 using Surface = Handle<cairo_surface_t, cairo_surface_destroy>;
-using Context = Handle<cairo_t, cairo_destroy>;
+using CairoContext = Handle<cairo_t, cairo_destroy>;
 
 // A blur hides detail: larger shadows are made at a lower resolution.
 constexpr double largestSide = 1024;
@@ -81,7 +81,7 @@ void paintBlurred(cairo_t* context, const Rectangle& bounds, double blurRadius,
     const int columns = static_cast<int>(std::ceil(width * scale));
     const int rows = static_cast<int>(std::ceil(height * scale));
     const Surface surface(cairo_image_surface_create(CAIRO_FORMAT_A8, columns, rows));
-    const Context shape(cairo_create(surface.get()));
+    const CairoContext shape(cairo_create(surface.get()));
     cairo_scale(shape.get(), scale, scale);
     cairo_translate(shape.get(), margin - bounds.x, margin - bounds.y);
     addPath(shape.get());

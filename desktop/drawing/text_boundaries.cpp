@@ -2,6 +2,7 @@
 #include "desktop/drawing/text_boundaries.hpp"
 
 #include "desktop/drawing/passage.hpp"
+#include "desktop/surrogates.hpp"
 
 #include <algorithm>
 #include <iterator>
@@ -10,9 +11,6 @@ namespace desktop {
 namespace {
 
 constexpr std::size_t reach = 128;
-
-bool isLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
-bool isHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
 
 std::size_t notInsideAPair(std::u16string_view text, std::size_t unit) {
     const bool inside = unit > 0 && unit < text.size() && isHighSurrogate(text[unit - 1]) &&

@@ -2,6 +2,7 @@
 #include "desktop/drawing/text_flow.hpp"
 
 #include "desktop/drawing/line_estimate.hpp"
+#include "desktop/surrogates.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -16,8 +17,6 @@ namespace {
 constexpr std::size_t blockLength = 2048;
 // Layouts cost some hundred bytes for each unit; these are enough for what is on a screen.
 constexpr std::size_t mostLayouts = 48;
-
-bool isLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
 /// Where to end the first block of so many units that begin with this text: behind the last line
 /// break, if there is one, and so that no small rest is left.

@@ -12,12 +12,12 @@
 namespace desktop {
 namespace {
 
-constexpr double pixelsPerPoint = 3;
+constexpr double finestPixelsPerPoint = 3;
 constexpr double caretWidth = 2;
 
 double roundedUp(double points) {
     constexpr double tolerance = 1e-6;
-    return std::ceil(points * pixelsPerPoint - tolerance) / pixelsPerPoint;
+    return std::ceil(points * finestPixelsPerPoint - tolerance) / finestPixelsPerPoint;
 }
 
 double horizontalPlace(const Line& line, std::size_t unit) {

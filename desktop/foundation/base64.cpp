@@ -14,8 +14,8 @@ bool isInAlphabet(char16_t unit) {
            (unit >= u'0' && unit <= u'9') || unit == u'+' || unit == u'/';
 }
 
-using Maker = objc::Next<ns::Data(ns::String, unsigned long)>;
-ns::Data decode(Maker next, ns::Data data, ns::String text, unsigned long options) {
+using DataMaker = objc::Next<ns::Data(ns::String, unsigned long)>;
+ns::Data decodeBase64(DataMaker next, ns::Data data, ns::String text, unsigned long options) {
     if (options == 0 && !isBase64(text.utf16())) {
         data.send<"release">();
         return nullptr;
@@ -38,7 +38,7 @@ bool isBase64(std::u16string_view text) {
 }
 
 void installBase64() {
-    objc::install(objc::hook<"initWithBase64EncodedString:options:", &decode>());
+    objc::install(objc::hook<"initWithBase64EncodedString:options:", &decodeBase64>());
 }
 
 } // namespace desktop::foundation

@@ -118,7 +118,7 @@ std::string textObject(std::u16string_view text) {
     return object;
 }
 
-class Writer {
+class BinaryWriter {
 public:
     std::string write(objc::Object list) {
         add(list);
@@ -213,6 +213,6 @@ private:
 
 } // namespace
 
-std::string binaryPropertyList(objc::Object list) { return Writer().write(list); }
+std::string binaryPropertyList(objc::Object list) { return BinaryWriter().write(list); }
 
 } // namespace desktop::foundation

@@ -15,8 +15,8 @@ struct Unit {
     const char* name;
     int places; ///< behind the point
 };
-constexpr std::array units{Unit{"KB", 0}, Unit{"MB", 1}, Unit{"GB", 2},
-                           Unit{"TB", 2}, Unit{"PB", 2}, Unit{"EB", 2}};
+constexpr std::array sizeUnits{Unit{"KB", 0}, Unit{"MB", 1}, Unit{"GB", 2},
+                               Unit{"TB", 2}, Unit{"PB", 2}, Unit{"EB", 2}};
 
 double rounded(double value, int places) {
     const double scale = std::pow(10, places);
@@ -54,11 +54,13 @@ std::string byteCountText(long long bytes, double kilobyte) {
     }
     double value = count / kilobyte;
     std::size_t unit = 0;
-    while (unit + 1 < units.size() && std::abs(rounded(value, units[unit].places)) >= kilobyte) {
+    while (unit + 1 < sizeUnits.size() &&
+           std::abs(rounded(value, sizeUnits[unit].places)) >= kilobyte) {
         value /= kilobyte;
         ++unit;
     }
-    return digits(rounded(value, units[unit].places), units[unit].places) + " " + units[unit].name;
+    return digits(rounded(value, sizeUnits[unit].places), sizeUnits[unit].places) + " " +
+           sizeUnits[unit].name;
 }
 
 void installByteCountFormatter() {

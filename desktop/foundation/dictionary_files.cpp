@@ -8,8 +8,8 @@
 namespace desktop::foundation {
 namespace {
 
-using Reader = objc::Next<ns::Dictionary(ns::String)>;
-ns::Dictionary read(Reader, objc::Object, ns::String path) {
+using DictionaryReader = objc::Next<ns::Dictionary(ns::String)>;
+ns::Dictionary readDictionary(DictionaryReader, objc::Object, ns::String path) {
     const auto data = ns::Data::withContentsOfFile(path);
     const auto entries =
         data ? ns::PropertyListSerialization::propertyList(data).value.as<ns::Dictionary>()
@@ -25,7 +25,8 @@ ns::Dictionary read(Reader, objc::Object, ns::String path) {
 } // namespace
 
 void installDictionaryFiles() {
-    objc::install(objc::classHook<"NSDictionary", "dictionaryWithContentsOfFile:", &read>());
+    objc::install(
+        objc::classHook<"NSDictionary", "dictionaryWithContentsOfFile:", &readDictionary>());
 }
 
 } // namespace desktop::foundation

@@ -80,8 +80,8 @@ ns::Dictionary attributesOf(const std::string& path, const struct stat& status) 
     return all;
 }
 
-using Reader = objc::Next<ns::Dictionary(ns::String, id*)>;
-ns::Dictionary attributes(Reader, ns::FileManager, ns::String path, id* error) {
+using AttributesReader = objc::Next<ns::Dictionary(ns::String, id*)>;
+ns::Dictionary attributes(AttributesReader, ns::FileManager, ns::String path, id* error) {
     struct stat status {};
     const std::string file = path.utf8();
     if (lstat(file.c_str(), &status) != 0) {

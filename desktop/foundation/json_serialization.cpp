@@ -35,8 +35,9 @@ private:
     bool isEscaped_ = false;
 };
 
-using Reader = objc::Next<objc::Object(ns::Data, unsigned long, id*)>;
-objc::Object read(Reader next, objc::Object, ns::Data data, unsigned long options, id* error) {
+using JsonReader = objc::Next<objc::Object(ns::Data, unsigned long, id*)>;
+objc::Object readJson(JsonReader next, objc::Object, ns::Data data, unsigned long options,
+                      id* error) {
     constexpr long corrupt = 3840; // NSPropertyListReadCorruptError, for JSON, too
     if (!isNestedTooDeeplyInJson(data.bytes())) {
         return next(data, options, error);
@@ -65,7 +66,7 @@ bool isNestedTooDeeplyInJson(std::string_view json) {
 
 void installJsonSerialization() {
     objc::install(
-        objc::classHook<"NSJSONSerialization", "JSONObjectWithData:options:error:", &read>());
+        objc::classHook<"NSJSONSerialization", "JSONObjectWithData:options:error:", &readJson>());
 }
 
 } // namespace desktop::foundation

@@ -79,9 +79,9 @@ bool isClosed(std::string_view quoted) {
     return content > 0 && quoted.back() == quoted.front() && slashes % 2 == 0;
 }
 
-class Reader {
+class OldListReader {
 public:
-    explicit Reader(std::string_view text) : rest_(text) {}
+    explicit OldListReader(std::string_view text) : rest_(text) {}
 
     objc::Object read() {
         skipSpace();
@@ -195,7 +195,7 @@ private:
 
 objc::Object oldPropertyList(std::string_view text) {
     try {
-        return Reader(text).read();
+        return OldListReader(text).read();
     } catch (const Malformed&) {
         return nullptr;
     }

@@ -24,8 +24,8 @@ namespace {
 
 using namespace ns::literals;
 
-using Writer = objc::Next<ns::Data(objc::Object, ns::PropertyListFormat, unsigned long, id*)>;
-ns::Data write(Writer next, objc::Object, objc::Object list, ns::PropertyListFormat format,
+using ListWriter = objc::Next<ns::Data(objc::Object, ns::PropertyListFormat, unsigned long, id*)>;
+ns::Data write(ListWriter next, objc::Object, objc::Object list, ns::PropertyListFormat format,
                unsigned long options, id* error) {
     const objc::Object copy = propertyListCopy(list);
     if (copy && format == ns::PropertyListFormat::xml) {
@@ -37,7 +37,7 @@ ns::Data write(Writer next, objc::Object, objc::Object list, ns::PropertyListFor
     return next(list, format, options, error);
 }
 
-using Reader = objc::Next<objc::Object(ns::Data, unsigned long, ns::PropertyListFormat*, id*)>;
+using ListReader = objc::Next<objc::Object(ns::Data, unsigned long, ns::PropertyListFormat*, id*)>;
 
 objc::Object refused(id* error) {
     constexpr long corrupt = 3840; // NSPropertyListReadCorruptError
@@ -56,8 +56,8 @@ objc::Object readOld(std::string_view text, ns::PropertyListFormat* format, id* 
 }
 
 /// GNUstep overflows the stack where lists are nested deeply.
-objc::Object read(Reader next, objc::Object, ns::Data data, unsigned long options,
-                  ns::PropertyListFormat* format, id* error) {
+objc::Object readList(ListReader next, objc::Object, ns::Data data, unsigned long options,
+                      ns::PropertyListFormat* format, id* error) {
     const std::string_view bytes = data.bytes();
     const bool isText = !bytes.starts_with("bplist");
     const std::string text = isText ? inUtf8(bytes) : std::string();
@@ -78,7 +78,7 @@ void installPropertyListSerialization() {
     objc::install(objc::classHook<"NSPropertyListSerialization",
                                   "dataWithPropertyList:format:options:error:", &write>());
     objc::install(objc::classHook<"NSPropertyListSerialization",
-                                  "propertyListWithData:options:format:error:", &read>());
+                                  "propertyListWithData:options:format:error:", &readList>());
 }
 
 } // namespace desktop::foundation

@@ -43,8 +43,8 @@ void append(std::u16string_view text, ns::MutableString whole) {
     }
 }
 
-using Maker = objc::Next<ns::String(const char16_t*, unsigned long)>;
-ns::String make(Maker next, ns::String self, const char16_t* units, unsigned long length) {
+using StringMaker = objc::Next<ns::String(const char16_t*, unsigned long)>;
+ns::String make(StringMaker next, ns::String self, const char16_t* units, unsigned long length) {
     const std::u16string_view text(units, length);
     if (isWellFormed(text) && !beginsWithMark(text)) {
         return next(units, length);

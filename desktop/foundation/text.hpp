@@ -3,17 +3,12 @@
 
 #include "bindings/foundation/string.hpp"
 
+#include "desktop/surrogates.hpp"
+
 #include <string>
 #include <string_view>
 
 namespace desktop {
-
-[[nodiscard]] constexpr bool isHighSurrogate(char32_t unit) {
-    return unit >= 0xD800 && unit < 0xDC00;
-}
-[[nodiscard]] constexpr bool isLowSurrogate(char32_t unit) {
-    return unit >= 0xDC00 && unit < 0xE000;
-}
 
 /// Whether a byte of UTF-8 is not the first of its character.
 [[nodiscard]] constexpr bool continuesCharacter(char byte) {

@@ -42,8 +42,8 @@ ns::String readable(ns::String text, std::u16string_view given, std::u16string_v
                             (hasQueryAfterHost ? u"/" : u"") + std::u16string(rest));
 }
 
-using Maker = objc::Next<ns::Url(ns::String, ns::Url)>;
-ns::Url read(Maker next, ns::Url url, ns::String text, ns::Url base) {
+using UrlMaker = objc::Next<ns::Url(ns::String, ns::Url)>;
+ns::Url readUrl(UrlMaker next, ns::Url url, ns::String text, ns::Url base) {
     if (text && text.length() == 0 && !base) {
         static_cast<void>(objc::Strong<ns::Url>::adopt(url)); // as an initialiser that fails does
         return nullptr;
@@ -57,8 +57,8 @@ ns::Url read(Maker next, ns::Url url, ns::String text, ns::Url base) {
     return made;
 }
 
-using Writer = objc::Next<ns::String()>;
-ns::String written(Writer next, ns::Url url) {
+using UrlWriter = objc::Next<ns::String()>;
+ns::String written(UrlWriter next, ns::Url url) {
     const auto given = objc::associated<"givenText", ns::String>(url);
     return given ? given : next();
 }
@@ -74,7 +74,7 @@ ns::Url withString(objc::Next<ns::Url(ns::String)>, objc::Object cls, ns::String
 
 void installUrls() {
     static const bool once = [] {
-        objc::install(objc::hook<"NSURL", "initWithString:relativeToURL:", &read>());
+        objc::install(objc::hook<"NSURL", "initWithString:relativeToURL:", &readUrl>());
         objc::install(objc::classHook<"NSURL", "URLWithString:", &withString>());
         objc::install(objc::hook<"NSURL", "absoluteString", &written>());
         objc::install(objc::hook<"NSURL", "description", &written>());

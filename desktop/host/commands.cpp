@@ -20,12 +20,12 @@ Json quit(Session& session, const Json&) {
     return nullptr;
 }
 
-struct Row {
+struct CommandRow {
     std::string_view name;
     Command command;
 };
 
-constexpr auto table = std::to_array<Row>({
+constexpr auto commandTable = std::to_array<CommandRow>({
     {"send", &send},
     {"make", &make},
     {"tree", &tree},
@@ -72,8 +72,8 @@ constexpr auto table = std::to_array<Row>({
 } // namespace
 
 Command commandNamed(std::string_view name) {
-    const auto* row = std::ranges::find(table, name, &Row::name);
-    return row == table.end() ? nullptr : row->command;
+    const auto* row = std::ranges::find(commandTable, name, &CommandRow::name);
+    return row == commandTable.end() ? nullptr : row->command;
 }
 
 } // namespace desktop::host

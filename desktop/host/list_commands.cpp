@@ -11,13 +11,13 @@
 namespace desktop::host {
 namespace {
 
-struct Row {
+struct ListRow {
     objc::Strong<ui::TableView> table;
     ItemIndex index;
 };
 
 /// The row that the view is, or lies in.
-Row rowAround(ui::View view) {
+ListRow rowAround(ui::View view) {
     for (ui::View around = view; around; around = around.superview()) {
         if (const auto table = around.as<ui::TableView>(); table) {
             if (const auto index = TableView::of(table).rowOf(view); index) {
@@ -39,7 +39,7 @@ Json titlesOf(const RowActions& actions) {
 } // namespace
 
 Json swipe(Session& session, const Json& request) {
-    const Row row = rowAround(viewArgument(session, request));
+    const ListRow row = rowAround(viewArgument(session, request));
     TableView& table = TableView::of(row.table);
     Json offered = titlesOf(table.actionsOf(row.index));
     if (argument(request, "choose") == nullptr) {

@@ -24,7 +24,7 @@ ui::ContextMenuInteraction interactionOf(ui::View view) {
     return nullptr;
 }
 
-void open(ui::View view) {
+void openMenu(ui::View view) {
     const auto interaction = interactionOf(view);
     if (!interaction) {
         throw RequestError("the view has no context menu");
@@ -59,7 +59,7 @@ ui::MenuElement elementTitled(ui::Menu menu, const std::string& title) {
 
 Json context(Session& session, const Json& request) {
     if (argument(request, "on") != nullptr || argument(request, "at") != nullptr) {
-        open(viewArgument(session, request));
+        openMenu(viewArgument(session, request));
     }
     const objc::Strong<ui::Menu> menu = ContextMenuView::shown();
     const Json* choice = argument(request, "choose");

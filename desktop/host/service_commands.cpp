@@ -52,7 +52,7 @@ struct Part {
     void (*take)(Change& change, const Json& request, const char* name);
 };
 
-constexpr std::array parts{
+constexpr std::array answerParts{
     Part{"status",
          [](Change& c, const Json& r, const char* n) { c.status = statusArgument(r, n); }},
     Part{"body", [](Change& c, const Json& r, const char* n) { c.body = stringArgument(r, n); }},
@@ -68,7 +68,7 @@ constexpr std::array parts{
 
 Change changeArgument(const Json& request) {
     Change change;
-    for (const Part& part : parts) {
+    for (const Part& part : answerParts) {
         if (argument(request, part.name) != nullptr) {
             part.take(change, request, part.name);
         }
@@ -77,7 +77,8 @@ Change changeArgument(const Json& request) {
 }
 
 void refuseChanges(const Json& request) {
-    if (std::ranges::any_of(parts, [&](const Part& part) { return request.contains(part.name); })) {
+    if (std::ranges::any_of(answerParts,
+                            [&](const Part& part) { return request.contains(part.name); })) {
         throw RequestError("\"reset\" leaves nothing to be changed");
     }
 }

@@ -18,7 +18,7 @@ namespace desktop::host {
 namespace {
 
 /// Deeper collections become handles: they may contain themselves.
-constexpr int deepest = 100;
+constexpr int deepestDescription = 100;
 
 objc::Object orNull(objc::Object object) { return object ? object : ns::Null::null(); }
 
@@ -253,21 +253,22 @@ Json Values::valueOf(objc::Object object, int depth) {
 }
 
 Json Values::collection(objc::Object object, int depth) {
-    if (const auto array = object.as<ns::Array>(); array && depth < deepest) {
+    if (const auto array = object.as<ns::Array>(); array && depth < deepestDescription) {
         Json elements = Json::array();
         for (const objc::Object element : array) {
             elements.push_back(valueOf(element, depth + 1));
         }
         return elements;
     }
-    if (const auto dictionary = object.as<ns::Dictionary>(); dictionary && depth < deepest) {
+    if (const auto dictionary = object.as<ns::Dictionary>();
+        dictionary && depth < deepestDescription) {
         Json entries = Json::object();
         for (const objc::Object key : dictionary.allKeys()) {
             entries[withHalfPairs(ns::description(key))] = valueOf(dictionary.get(key), depth + 1);
         }
         return entries;
     }
-    return described(object, depth < deepest);
+    return described(object, depth < deepestDescription);
 }
 
 Json Values::described(objc::Object object, bool fully) {

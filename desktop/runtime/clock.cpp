@@ -11,7 +11,7 @@
 namespace desktop {
 namespace {
 
-std::mutex mutex;
+std::mutex clockMutex;
 
 double realSeconds() {
     using namespace std::chrono;
@@ -33,19 +33,19 @@ Clock& Clock::shared() {
 }
 
 void Clock::setMode(Mode mode) {
-    const std::scoped_lock lock(mutex);
+    const std::scoped_lock lock(clockMutex);
     mode_ = mode;
 }
 
 double Clock::now() const {
-    const std::scoped_lock lock(mutex);
+    const std::scoped_lock lock(clockMutex);
     return mode_ == Mode::real ? realSeconds() : virtualNow_;
 }
 
 Clock::Ticket Clock::at(double moment, std::function<void()> work) {
     Ticket ticket = 0;
     {
-        const std::scoped_lock lock(mutex);
+        const std::scoped_lock lock(clockMutex);
         ticket = ++lastTicket_;
         scheduled_.emplace(Key{moment, ticket}, std::move(work));
     }
@@ -54,12 +54,12 @@ Clock::Ticket Clock::at(double moment, std::function<void()> work) {
 }
 
 void Clock::cancel(Ticket ticket) {
-    const std::scoped_lock lock(mutex);
+    const std::scoped_lock lock(clockMutex);
     std::erase_if(scheduled_, [ticket](const auto& call) { return call.first.ticket == ticket; });
 }
 
 std::optional<double> Clock::nextDeadline() const {
-    const std::scoped_lock lock(mutex);
+    const std::scoped_lock lock(clockMutex);
     return scheduled_.empty() ? std::nullopt : std::optional(scheduled_.begin()->first.moment);
 }
 
@@ -67,7 +67,7 @@ bool Clock::runNextDue() {
     const double moment = now();
     std::function<void()> work;
     {
-        const std::scoped_lock lock(mutex);
+        const std::scoped_lock lock(clockMutex);
         if (scheduled_.empty() || scheduled_.begin()->first.moment > moment) {
             return false;
         }
@@ -78,7 +78,7 @@ bool Clock::runNextDue() {
 }
 
 void Clock::moveTo(double moment) {
-    const std::scoped_lock lock(mutex);
+    const std::scoped_lock lock(clockMutex);
     virtualNow_ = std::max(virtualNow_, moment);
 }
 

@@ -10,7 +10,7 @@
 namespace desktop {
 namespace {
 
-std::mutex mutex;
+std::mutex propertiesMutex;
 /// The runtime hands out pointers to them.
 std::map<Class, std::deque<DeclaredProperty>>& declared() {
     static auto* table = new std::map<Class, std::deque<DeclaredProperty>>;
@@ -20,7 +20,7 @@ std::map<Class, std::deque<DeclaredProperty>>& declared() {
 } // namespace
 
 std::deque<DeclaredProperty> declaredProperties(Class cls) {
-    const std::scoped_lock lock(mutex);
+    const std::scoped_lock lock(propertiesMutex);
     const auto found = declared().find(cls);
     return found == declared().end() ? std::deque<DeclaredProperty>() : found->second;
 }
@@ -34,7 +34,7 @@ objc::Boolean class_addProperty(Class cls, const char* name,
         text += text.empty() ? "" : ",";
         text += std::string(attributes[i].name) + attributes[i].value;
     }
-    const std::scoped_lock lock(desktop::mutex);
+    const std::scoped_lock lock(desktop::propertiesMutex);
     auto& properties = desktop::declared()[cls];
     for (const desktop::DeclaredProperty& property : properties) {
         if (property.name == name) {
@@ -46,7 +46,7 @@ objc::Boolean class_addProperty(Class cls, const char* name,
 }
 
 objc_property_t* class_copyPropertyList(Class cls, unsigned int* count) {
-    const std::scoped_lock lock(desktop::mutex);
+    const std::scoped_lock lock(desktop::propertiesMutex);
     const auto found = desktop::declared().find(cls);
     const std::size_t size = found == desktop::declared().end() ? 0 : found->second.size();
     if (count != nullptr) {

@@ -33,19 +33,20 @@ Lines linesWithTwoDigits(std::u16string_view text) {
 
 constexpr std::array keys{pathKey, nameKey};
 constexpr std::array paths{pathKey, nameKey, backslashes, quoteComma};
-constexpr std::array libraries{pathKey, nameKey, backslashes, abortNote, quoteComma};
+constexpr std::array libraryPaths{pathKey, nameKey, backslashes, abortNote, quoteComma};
 
-constexpr std::u16string_view line = u"\n";
+constexpr std::u16string_view lineEnd = u"\n";
 constexpr std::u16string_view paragraph = u"\n\n";
 
 } // namespace
 
 constexpr LineFilter urlFilter{u"过滤网站结果", &linesWith<urls>, keys, paragraph};
-constexpr LineFilter libraryFilter{u"可执行库结果", &linesWith<libraryMarks>, libraries, paragraph};
-constexpr LineFilter dylibFilter{u"dylib结果", &linesWith<dylibs>, libraries, paragraph};
+constexpr LineFilter libraryFilter{u"可执行库结果", &linesWith<libraryMarks>, libraryPaths,
+                                   paragraph};
+constexpr LineFilter dylibFilter{u"dylib结果", &linesWith<dylibs>, libraryPaths, paragraph};
 constexpr LineFilter errorFilter{u"异常插件", &linesWith<foreignPaths>, paths, paragraph};
 constexpr LineFilter systemFilter{u"system可执行库", &linesWith<systemPaths>, paths, paragraph};
-constexpr LineFilter numberFilter{u"过滤数字结果", &linesWithTwoDigits, {}, line};
+constexpr LineFilter numberFilter{u"过滤数字结果", &linesWithTwoDigits, {}, lineEnd};
 
 std::u16string filtered(std::u16string_view text, const LineFilter& filter) {
     return cleaned(filter.pick(text), filter.separator, filter.cleaning);

@@ -7,7 +7,7 @@ namespace wentra {
 namespace {
 
 /// So many places are looked at before anything is decided, which compilers turn into vectors.
-constexpr std::size_t blockSize = 32;
+constexpr std::size_t blockPlaces = 32;
 
 constexpr char16_t lowerCase(char16_t unit) {
     return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 0x20) : unit;
@@ -34,8 +34,8 @@ TextSearch::Letter TextSearch::letter(char16_t unit, LetterCase letterCase) {
 std::size_t TextSearch::next(std::size_t place) const {
     const std::size_t end = placesEnd();
     while (place < end) {
-        const std::size_t blockEnd = std::min(place + blockSize, end);
-        if (blockEnd - place == blockSize && !mayStandIn(place)) {
+        const std::size_t blockEnd = std::min(place + blockPlaces, end);
+        if (blockEnd - place == blockPlaces && !mayStandIn(place)) {
             place = blockEnd;
             continue;
         }
@@ -60,7 +60,7 @@ bool TextSearch::mayStandIn(std::size_t place) const {
     const Letter first = first_; // copies, which nothing in the loop can change
     const Letter last = last_;
     std::uint16_t found = 0;
-    for (std::size_t index = 0; index < blockSize; ++index) {
+    for (std::size_t index = 0; index < blockPlaces; ++index) {
         const auto differs = static_cast<std::uint16_t>(first.difference(starts[index]) |
                                                         last.difference(ends[index]));
         found = static_cast<std::uint16_t>(found | (differs == 0 ? 1U : 0U));

@@ -5,6 +5,7 @@
 #include "bindings/uikit/activity_view_controller.hpp"
 #include "bindings/uikit/bar_button_item.hpp"
 #include "library/common/alert.hpp"
+#include "library/common/animated.hpp"
 #include "library/common/bar_items.hpp"
 #include "library/common/screens.hpp"
 
@@ -15,8 +16,6 @@ namespace wentra::crashlogs {
 namespace {
 
 using namespace ns::literals;
-
-constexpr bool animated = true;
 
 /// Nil when the file is gone.
 ns::Error deleteFile(ns::Url url) {

@@ -4,6 +4,7 @@
 #include "bindings/objc/peer.hpp"
 #include "bindings/uikit/navigation_controller.hpp"
 #include "bindings/uikit/navigation_item.hpp"
+#include "library/common/animated.hpp"
 #include "library/crashlogs/report_cell.hpp"
 #include "library/crashlogs/report_editing.hpp"
 #include "library/crashlogs/report_folder.hpp"
@@ -14,8 +15,6 @@ namespace wentra::crashlogs {
 namespace {
 
 using namespace ns::literals;
-
-constexpr bool animated = true;
 
 ns::String reuseIdentifier() { return u"cell"_ns; }
 

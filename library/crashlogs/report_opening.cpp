@@ -2,6 +2,7 @@
 #include "library/crashlogs/report_opening.hpp"
 
 #include "bindings/uikit/navigation_controller.hpp"
+#include "library/common/animated.hpp"
 #include "library/files/browser/file_reading.hpp"
 #include "library/files/file_kind.hpp"
 #include "library/files/viewers/file_content_view_controller.hpp"
@@ -51,7 +52,6 @@ void ReportOpening::openText(ns::Url url) const {
 ns::String ReportOpening::content(ns::Url url) const { return files::textOfFile(url); }
 
 void ReportOpening::push(ui::ViewController viewer) const {
-    constexpr bool animated = true;
     const ui::NavigationController navigation = self().navigationController();
     navigation.push(viewer, animated);
     navigation.setToolbarHidden(true, animated);

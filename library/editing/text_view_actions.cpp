@@ -26,7 +26,7 @@ ns::Range within(ns::Range range, unsigned long length) {
     return {start, std::min(range.length, length - start)};
 }
 
-void addComment(Next<void(Object)>, ui::TextView view, Object) {
+void addCommentInView(Next<void(Object)>, ui::TextView view, Object) {
     std::u16string text = view.text().utf16();
     const ns::Range selected = within(view.selectedRange(), text.size());
     if (selected.length == 0) {
@@ -39,7 +39,7 @@ void addComment(Next<void(Object)>, ui::TextView view, Object) {
     view.setSelectedRange({selected.location, comment.size()});
 }
 
-void storeAll(Next<void(Object)>, ui::TextView view, Object) {
+void storeAllOfView(Next<void(Object)>, ui::TextView view, Object) {
     selectAllAndCopy(view, view.text(), toastPlace);
 }
 
@@ -84,7 +84,7 @@ void scrollToEnd(Next<void(Object)>, ui::TextView view, Object) {
     view.scrollRangeToVisible({view.text().length(), 0});
 }
 
-void readSelection(Next<void(Object)>, ui::TextView view, Object) {
+void readSelectionInView(Next<void(Object)>, ui::TextView view, Object) {
     const std::u16string text = view.text().utf16();
     const ns::Range selected = within(view.selectedRange(), text.size());
     if (selected.length > 0) {
@@ -103,9 +103,9 @@ std::span<const objc::Change> textViewHooks() {
         objc::hook<"UITextView", "Translatetext:", &translateSelectedText>(),
         objc::hook<"UITextView", "initWithFrame:", &withSynthesizer>(),
         objc::hook<"UITextView", "setSynth:", &keepSynthesizer>(),
-        objc::hook<"Readingtext:", &readSelection>(),
-        objc::hook<"addComment:", &addComment>(),
-        objc::hook<"selectAllAndCopy:", &storeAll>(),
+        objc::hook<"Readingtext:", &readSelectionInView>(),
+        objc::hook<"addComment:", &addCommentInView>(),
+        objc::hook<"selectAllAndCopy:", &storeAllOfView>(),
         objc::hook<"UITextView", "deleteSelectedText:", &deleteSelectedText>(),
         objc::hook<"showSearchAlert:", &showSearchAlert>(),
         objc::hook<"highlightAndScrollToText:", &find>(),

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view documentFolder = "/var/mobile/Documents/";
 
-std::string documentPath(std::string_view name) { return std::string(documentFolder).append(name); }
+std::string documentFile(std::string_view name) { return std::string(documentFolder).append(name); }
 
 std::string rootfulBundlePath(std::string_view name) {
     return rootfulPath(std::string(bundleFolder).append(name));
@@ -34,7 +34,7 @@ std::optional<std::string> ballImagePath() {
             return path;
         }
     }
-    const auto replacementPath = isRootless() ? documentPath : rootfulBundlePath;
+    const auto replacementPath = isRootless() ? documentFile : rootfulBundlePath;
     for (const char* name : {"AAxfq.png", "AAxfq.jpg", "AAxfq.jpeg"}) {
         if (std::string path = replacementPath(name); exists(path)) {
             return path;
@@ -44,7 +44,7 @@ std::optional<std::string> ballImagePath() {
 }
 
 std::vector<std::string> panelImageCandidates() {
-    return {documentPath("AAzerk.jpg"), documentPath("AAzerk.png"), documentPath("AAzerk.jpeg"),
+    return {documentFile("AAzerk.jpg"), documentFile("AAzerk.png"), documentFile("AAzerk.jpeg"),
             bundlePath("AAzerk.png"),   bundlePath("AAzerk.jpeg"),  bundlePath("AAzerk.jpg")};
 }
 

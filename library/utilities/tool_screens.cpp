@@ -5,6 +5,7 @@
 #include "bindings/uikit/screen.hpp"
 #include "bindings/webkit/web_view.hpp"
 #include "library/common/alert.hpp"
+#include "library/common/animated.hpp"
 #include "library/common/buttons.hpp"
 #include "library/common/screens.hpp"
 #include "library/common/sharing.hpp"
@@ -13,8 +14,6 @@ namespace wentra::utilities {
 namespace {
 
 using namespace ns::literals;
-
-constexpr bool animated = true;
 
 bool haveAlert(ns::Array screens) {
     for (const objc::Object screen : screens) {

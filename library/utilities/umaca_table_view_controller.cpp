@@ -3,6 +3,7 @@
 
 #include "bindings/objc/peer.hpp"
 #include "bindings/safariservices/safari_view_controller.hpp"
+#include "library/common/animated.hpp"
 #include "library/common/screens.hpp"
 #include "library/common/string_array.hpp"
 #include "library/utilities/common_paths.hpp"
@@ -141,7 +142,6 @@ ui::TableViewCell UmacaTableViewControllerPeer::cell(ui::TableView table,
 }
 
 void UmacaTableViewControllerPeer::choose(ui::TableView table, ns::IndexPath path) {
-    constexpr bool animated = true;
     table.deselectRow(path, animated);
     screens.runAndLeave([this, title = objc::Strong(titleAt(path))] { run(title); });
 }

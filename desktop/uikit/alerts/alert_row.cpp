@@ -8,7 +8,7 @@ namespace desktop {
 namespace {
 
 /// Between the title and the row's edges.
-constexpr double margin = 12;
+constexpr double rowMargin = 12;
 
 ui::Color colourOf(ui::AlertAction action) {
     if (!action.isEnabled()) {
@@ -44,7 +44,7 @@ AlertRowKind AlertRow::forAction(ui::AlertAction action, ui::AlertController ale
 
 void AlertRow::layoutSubviews() {
     const CGSize size = self().bounds().size;
-    label_.setFrame({{margin, 0}, {std::max(0.0, size.width - 2 * margin), size.height}});
+    label_.setFrame({{rowMargin, 0}, {std::max(0.0, size.width - 2 * rowMargin), size.height}});
 }
 
 void AlertRow::setHighlighted(bool highlighted) {

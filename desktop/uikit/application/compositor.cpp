@@ -27,11 +27,6 @@ constexpr std::uint64_t homeScreenStamp = 5;
 
 AffineTransform affine(const CGAffineTransform& t) { return {t.a, t.b, t.c, t.d, t.tx, t.ty}; }
 
-Size screenSize() {
-    const CGSize size = ScreenGeometry::current().size;
-    return {size.width, size.height};
-}
-
 /// Whether its class has a way to draw that is not UIView's, which draws nothing.
 bool drawsItself(ui::View view) {
     const SEL draw = objc::selector<"drawRect:">();
@@ -176,6 +171,11 @@ private:
 };
 
 } // namespace
+
+Size screenSize() {
+    const CGSize size = ScreenGeometry::current().size;
+    return {size.width, size.height};
+}
 
 void Composition::draw(std::uint64_t stamp, Canvas& canvas) const {
     if (stamp == statusBarStamp || stamp == lightStatusBarStamp) {

@@ -9,6 +9,9 @@
 
 namespace desktop {
 
+/// The screen's size in points.
+[[nodiscard]] Size screenSize();
+
 /// Everything on the screen, and the views whose drawings are contents in the list, by stamp.
 struct Composition {
     DisplayList list;

@@ -14,11 +14,6 @@
 namespace desktop {
 namespace {
 
-Size screenSize() {
-    const CGSize size = ScreenGeometry::current().size;
-    return {size.width, size.height};
-}
-
 Canvas screenCanvas(Size size, double scale) {
     const PixelRectangle pixels = screenPixels(size, scale);
     return {pixels.width, pixels.height, scale};

@@ -7,6 +7,7 @@
 #include "desktop/uikit/controls/button_layout.hpp"
 
 #include <map>
+#include <vector>
 
 namespace desktop {
 

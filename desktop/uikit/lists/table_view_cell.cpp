@@ -11,7 +11,7 @@ namespace {
 using namespace ns::literals;
 
 // Points, as on the phone.
-constexpr double margin = 16;
+constexpr double cellMargin = 16;
 constexpr double titleSize = 17;
 constexpr double detailSize = 15;
 constexpr double subtitleSize = 12;
@@ -20,7 +20,8 @@ constexpr double pickingWidth = 38;
 
 /// Of the content, for image and texts.
 CGRect textRoom(CGSize content) {
-    return {{margin, 0}, {std::max(0.0, content.width - margin - margin / 2), content.height}};
+    return {{cellMargin, 0},
+            {std::max(0.0, content.width - cellMargin - cellMargin / 2), content.height}};
 }
 
 } // namespace
@@ -194,16 +195,16 @@ void TableViewCell::layoutSubviews() {
     double right = size.width;
     if (accessoryView_) {
         const CGSize own = accessoryView_.bounds().size;
-        right -= own.width + margin;
+        right -= own.width + cellMargin;
         accessoryView_.setFrame({{right, (size.height - own.height) / 2}, own});
     } else if (accessoryMark_) {
         const double wide =
             accessory_ == CellAccessory::checkmark ? accessoryWidth + 6 : accessoryWidth;
-        right -= wide + margin;
+        right -= wide + cellMargin;
         accessoryMark_.setFrame({{right, 0}, {wide, size.height}});
     }
     const double left = mark_ ? pickingWidth : 0;
-    mark_.setFrame({{margin, 0}, {pickingWidth - margin / 2, size.height}});
+    mark_.setFrame({{cellMargin, 0}, {pickingWidth - cellMargin / 2, size.height}});
     right -= left;
     content_.setFrame({{left, 0}, {std::max(0.0, right), size.height}});
     addTexts();
@@ -254,7 +255,7 @@ void TableViewCell::placeTexts(CGRect room) const {
     if (image) {
         const CGSize size = image.size();
         image_.setFrame({{room.origin.x, middle - size.height / 2}, size});
-        const double taken = size.width + margin;
+        const double taken = size.width + cellMargin;
         room.origin.x += taken;
         room.size.width = std::max(0.0, room.size.width - taken);
     }

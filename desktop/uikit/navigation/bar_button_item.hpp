@@ -8,6 +8,8 @@
 
 #include "desktop/class.hpp"
 
+#include <vector>
+
 namespace desktop {
 
 class BarButtonItem : public PlatformClass<BarButtonItem, ui::BarButtonItem> {

@@ -15,9 +15,9 @@ using namespace ns::literals;
 
 // The platform's measures.
 constexpr double largeTitleHeight = 52;
-constexpr double titleSize = 17;
+constexpr double barTitleSize = 17;
 constexpr double largeTitleSize = 34;
-constexpr double margin = 16;
+constexpr double barMargin = 16;
 constexpr double backMargin = 8;
 constexpr double gap = 16;
 
@@ -102,7 +102,7 @@ ui::NavigationItem NavigationBar::topItem() const {
 void NavigationBar::showTop() {
     const ui::NavigationItem top = topItem();
     titleLabel_.setFont(prefersLargeTitles_ ? ui::Font::boldSystem(largeTitleSize)
-                                            : ui::Font::system(titleSize, ui::Font::semibold));
+                                            : ui::Font::system(barTitleSize, ui::Font::semibold));
     titleLabel_.setTextAlignment(prefersLargeTitles_ ? ui::TextAlignment::left
                                                      : ui::TextAlignment::center);
     titleLabel_.setText(top.title());
@@ -143,7 +143,7 @@ void NavigationBar::showBackButton(ui::NavigationItem top) {
         ui::Image::systemNamed(u"chevron.left"_ns, ui::ImageSymbolConfiguration::withPointSize(
                                                        21, ui::SymbolWeight::regular)),
         ui::ControlState::normal);
-    backButton_.titleLabel().setFont(ui::Font::system(titleSize));
+    backButton_.titleLabel().setFont(ui::Font::system(barTitleSize));
     backButton_.setTitle(title ? title : u"返回"_ns, ui::ControlState::normal);
     constexpr double space = 6; // between chevron and title
     backButton_.setTitleEdgeInsets({0, space, 0, -space});
@@ -163,8 +163,8 @@ void NavigationBar::layoutSubviews() {
     const CGSize size = self().bounds().size;
     const double top =
         prefersLargeTitles_ ? size.height - largeTitleHeight - barHeight : size.height - barHeight;
-    double left = placeItems(left_, margin, 1, top);
-    const double right = placeItems(right_, size.width - margin, -1, top);
+    double left = placeItems(left_, barMargin, 1, top);
+    const double right = placeItems(right_, size.width - barMargin, -1, top);
     if (backButton_) {
         const double width =
             std::min(backButton_.sizeThatFits({0, barHeight}).width, size.width / 2);
@@ -172,8 +172,8 @@ void NavigationBar::layoutSubviews() {
         left = backMargin + width + gap;
     }
     if (prefersLargeTitles_) {
-        titleLabel_.setFrame({{margin, size.height - largeTitleHeight},
-                              {size.width - 2 * margin, largeTitleHeight}});
+        titleLabel_.setFrame({{barMargin, size.height - largeTitleHeight},
+                              {size.width - 2 * barMargin, largeTitleHeight}});
     } else {
         placeSmallTitle(left, right, top);
     }

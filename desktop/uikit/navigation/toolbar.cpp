@@ -8,7 +8,7 @@
 namespace desktop {
 namespace {
 
-constexpr double margin = 16;
+constexpr double toolbarMargin = 16;
 /// Between two items that no space keeps apart.
 constexpr double itemGap = 8;
 constexpr double flexible = -1;
@@ -67,13 +67,13 @@ void Toolbar::layoutSubviews() {
         BarButtonItem& peer = BarButtonItem::of(item);
         widths.push_back(peer.isFlexible() ? flexible : peer.width(height));
     }
-    const auto places = toolbarPlaces(widths, self().bounds().size.width - 2 * margin);
+    const auto places = toolbarPlaces(widths, self().bounds().size.width - 2 * toolbarMargin);
     for (std::size_t index = 0; index < places.size(); ++index) {
         const ui::View view = BarButtonItem::of(items_.at(index)).view();
         const double own = view.bounds().size.height;
         const double tall = view.as<ui::Button>() || own <= 0 ? height : own;
-        view.setFrame(
-            {{margin + places[index], (height - tall) / 2}, {std::max(0.0, widths[index]), tall}});
+        view.setFrame({{toolbarMargin + places[index], (height - tall) / 2},
+                       {std::max(0.0, widths[index]), tall}});
     }
 }
 

@@ -3,6 +3,7 @@
 #include "bindings/uikit/activity_view_controller.hpp"
 #include "bindings/uikit/navigation_controller.hpp"
 #include "bindings/uikit/pasteboard.hpp"
+#include "library/common/animated.hpp"
 #include "library/common/screens.hpp"
 #include "library/files/browser/file_reading.hpp"
 #include "library/files/browser/menus.hpp"
@@ -13,8 +14,6 @@ namespace wentra::files {
 namespace {
 
 using namespace ns::literals;
-
-constexpr bool animated = true;
 
 /// The row that a menu was opened on.
 struct Row {
@@ -57,7 +56,7 @@ constexpr auto showBytes = [](Operations& all, const Row& row) {
     }
 };
 
-constexpr std::array actions{
+constexpr std::array rowActions{
     RowAction{u"选择", u"checkmark.circle", choose},
     RowAction{u"删除", u"trash",
               [](Operations& all, const Row& row) { all.deleting.ask(row.table, row.path); }},
@@ -89,7 +88,7 @@ constexpr std::array actions{
 
 ui::Menu Menus::menuFor(ui::TableView table, ns::IndexPath row) {
     const auto children = ns::MutableArray::make();
-    for (const RowAction& action : actions) {
+    for (const RowAction& action : rowActions) {
         const auto handle = [this, run = action.run, whole = objc::Strong(self()),
                              table = objc::Strong(table), row = objc::Strong(row)](ui::Action) {
             run(operations_, {whole, table, row});

@@ -2,6 +2,7 @@
 #include "library/files/browser/opening.hpp"
 
 #include "bindings/uikit/navigation_controller.hpp"
+#include "library/common/animated.hpp"
 #include "library/files/browser/file_reading.hpp"
 #include "library/files/file_kind.hpp"
 #include "library/files/viewers/file_content_view_controller.hpp"
@@ -43,7 +44,6 @@ void Opening::showImage(ui::TableView table, const std::string& path) const {
 }
 
 void Opening::push(ui::ViewController viewer) const {
-    constexpr bool animated = true;
     self().navigationController().push(viewer, animated);
 }
 

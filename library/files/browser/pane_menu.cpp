@@ -27,7 +27,7 @@ constexpr auto goUp = [](const Operations& all, ui::TableView table) {
     all.panes.reloadPane(table);
 };
 
-constexpr std::array actions{
+constexpr std::array paneActions{
     PaneAction{u"新建文件", AlertActionStyle::default_, makeFileIn},
     PaneAction{u"新建文件夹", AlertActionStyle::default_, makeFolderIn},
     PaneAction{u"粘贴内容", AlertActionStyle::default_,
@@ -52,7 +52,7 @@ void Menus::showPaneMenu(ui::GestureRecognizer press) {
     const bool isLeft = place.x < page.bounds().size.width / 2;
     const ui::TableView table = isLeft ? operations_.panes.left() : operations_.panes.right();
     const Alert sheet(ui::AlertController::with(nullptr, nullptr, ui::AlertStyle::actionSheet));
-    for (const PaneAction& action : actions) {
+    for (const PaneAction& action : paneActions) {
         sheet.action(ns::String::from(action.title), action.style,
                      [this, run = action.run, table = objc::Strong(table),
                       whole = objc::Strong(self())] { run(operations_, table); });

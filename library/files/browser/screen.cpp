@@ -6,6 +6,7 @@
 #include "bindings/uikit/navigation_controller.hpp"
 #include "bindings/uikit/navigation_item.hpp"
 #include "bindings/uikit/screen.hpp"
+#include "library/common/animated.hpp"
 #include "library/common/bar_items.hpp"
 #include "library/common/gestures.hpp"
 #include "library/common/light_background.hpp"
@@ -138,9 +139,6 @@ ui::TableView Screen::addTable(ui::View container) const {
     return table;
 }
 
-void Screen::close() const {
-    constexpr bool animated = true;
-    self().dismiss(animated);
-}
+void Screen::close() const { self().dismiss(animated); }
 
 } // namespace wentra::files

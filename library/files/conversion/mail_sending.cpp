@@ -2,6 +2,7 @@
 #include "library/files/conversion/mail_sending.hpp"
 
 #include "library/common/alert.hpp"
+#include "library/common/animated.hpp"
 #include "library/files/file_path.hpp"
 #include "library/files/regular_file.hpp"
 
@@ -10,8 +11,6 @@ namespace {
 
 using namespace ns::literals;
 using Result = mf::MailComposeResult;
-
-constexpr bool animated = true;
 
 ns::String messageOf(Result result, ns::Error error) {
     switch (result) {

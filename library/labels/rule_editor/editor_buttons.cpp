@@ -21,7 +21,7 @@ struct ButtonRow {
     SEL (*action)();
 };
 
-constexpr std::array rows{
+constexpr std::array buttonRows{
     ButtonRow{u"上移", Column::right, 13, &objc::selector<"moveCursorUp:">},
     ButtonRow{u"下移", Column::right, 54, &objc::selector<"moveCursorDown:">},
     ButtonRow{u"上页", Column::right, 95, &objc::selector<"prevPage:">},
@@ -88,7 +88,7 @@ void addConfirmation(ui::View host, ui::TextView editor) {
 
 void addEditorButtons(ui::View host, ui::TextView editor) {
     addConfirmation(host, editor);
-    for (const ButtonRow& row : rows) {
+    for (const ButtonRow& row : buttonRows) {
         addToColumn(host, editor, row);
     }
 }

@@ -23,7 +23,7 @@ constexpr std::uint64_t matches(std::uint64_t word, unsigned char byte) {
     return (difference - eachByte(0x01)) & ~difference & eachByte(0x80);
 }
 
-constexpr bool isSpace(char character) {
+constexpr bool isXmlSpace(char character) {
     constexpr std::uint64_t spaces = 1ULL << ' ' | 1ULL << '\n' | 1ULL << '\t' | 1ULL << '\r';
     const auto code = static_cast<unsigned char>(character);
     return code <= ' ' && (spaces >> code & 1) != 0;
@@ -39,7 +39,7 @@ bool isData(std::string_view text) {
     for (const char character : text) {
         if (character == '=') {
             padded = true;
-        } else if (!isSpace(character) && (padded || !isBase64(character))) {
+        } else if (!isXmlSpace(character) && (padded || !isBase64(character))) {
             return false;
         }
     }
@@ -101,7 +101,7 @@ private:
     }
 
     void skipSpace() {
-        while (isSpace(*at_)) {
+        while (isXmlSpace(*at_)) {
             ++at_;
         }
     }
@@ -122,7 +122,7 @@ private:
         if (skip("/>")) {
             return Form::empty;
         }
-        return isSpace(*at_) ? finishTagWithAttributes() : Form::malformed;
+        return isXmlSpace(*at_) ? finishTagWithAttributes() : Form::malformed;
     }
 
     Form finishTagWithAttributes();

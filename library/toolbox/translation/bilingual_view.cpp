@@ -28,7 +28,7 @@ constexpr double margin = 10;
 constexpr double textHeight = 180;
 constexpr double originalTop = 50;
 constexpr double translatedTop = 270;
-constexpr double delayBeforeSpeaking = 0.2;
+constexpr double delayBeforeLines = 0.2;
 
 class BilingualViewPeer : public objc::Peer<BilingualViewPeer, BilingualView> {
 public:
@@ -74,10 +74,10 @@ private:
     void copyOriginal() { copy(originalTextView_.text()); }
     void copyTranslated() { copy(translatedTextView_.text()); }
     void readOriginal() {
-        speakLines(synth_, originalTextView_.text(), delayBeforeSpeaking, u"zh-TW"_ns);
+        speakLines(synth_, originalTextView_.text(), delayBeforeLines, u"zh-TW"_ns);
     }
     void readTranslated() {
-        speakLines(synth_, translatedTextView_.text(), delayBeforeSpeaking, nullptr);
+        speakLines(synth_, translatedTextView_.text(), delayBeforeLines, nullptr);
     }
     void useOriginal() {
         replaceText(originalTextView_.text(), translatedTextView_.text(), self());

@@ -19,7 +19,7 @@ namespace {
 using namespace ns::literals;
 using preferences::keys;
 
-constexpr double delayBeforeSpeaking = 0.3;
+constexpr double delayBeforeResult = 0.3;
 
 /// What an action works on.
 struct Subject {
@@ -38,10 +38,10 @@ void copy(ns::String text) {
 void copyOriginal(const Subject& subject) { copy(subject.original); }
 void copyTranslated(const Subject& subject) { copy(subject.translated); }
 void readOriginal(const Subject& subject) {
-    speak(subject.synthesizer, subject.original, delayBeforeSpeaking);
+    speak(subject.synthesizer, subject.original, delayBeforeResult);
 }
 void readTranslated(const Subject& subject) {
-    speak(subject.synthesizer, subject.translated, delayBeforeSpeaking);
+    speak(subject.synthesizer, subject.translated, delayBeforeResult);
 }
 void modify(const Subject& subject) {
     if (subject.original) {
