@@ -14,6 +14,10 @@ enum class SearchPathDirectory : unsigned long { document = 9 };
 /// Whose folders; the platform's bits.
 enum class SearchPathDomainMask : unsigned long { user = 1 };
 
+/// What listing a folder leaves out; the platform's bits.
+enum class DirectoryEnumerationOptions : unsigned long { skipsHiddenFiles = 1U << 2U };
+constexpr bool areOptions(DirectoryEnumerationOptions) { return true; }
+
 /// The names of files' attributes.
 namespace file_attributes {
 
@@ -25,8 +29,6 @@ inline String posixPermissions() { return u"NSFilePosixPermissions"_ns; }
 /// NSFileCreationDate, NSFileModificationDate: dates.
 inline String creationDate() { return u"NSFileCreationDate"_ns; }
 inline String modificationDate() { return u"NSFileModificationDate"_ns; }
-/// NSFileProtectionKey: a string.
-inline String protection() { return u"NSFileProtectionKey"_ns; }
 /// Whether they are those of a folder; false for nil.
 inline bool isDirectory(Dictionary attributes) {
     return attributes.get(u"NSFileType"_ns).isEqual(u"NSFileTypeDirectory"_ns);
@@ -43,6 +45,16 @@ struct FileManager : objc::Kind<FileManager, "NSFileManager"> {
         const ErrorPointer error;
         return error.result(
             send<"contentsOfDirectoryAtPath:error:", ArrayOf<String>>(path, error.out()));
+    }
+    /// URLs of what the folder holds, in no particular order, those of folders with a slash at the
+    /// end; `keys` (may be nil) names the resource values that will be asked for.
+    [[nodiscard]] Result<ArrayOf<Url>>
+    contentsOfDirectory(Url folder, ArrayOf<String> keys,
+                        DirectoryEnumerationOptions options) const {
+        const ErrorPointer error;
+        return error.result(
+            send<"contentsOfDirectoryAtURL:includingPropertiesForKeys:options:error:",
+                 ArrayOf<Url>>(folder, keys, options, error.out()));
     }
     /// Files and folders alike; links are followed.
     [[nodiscard]] bool fileExists(String path) const {

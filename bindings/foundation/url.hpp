@@ -1,9 +1,22 @@
 // NSURL.
 #pragma once
 
-#include "bindings/foundation/string.hpp"
+#include "bindings/foundation/array.hpp"
+#include "bindings/foundation/result.hpp"
 
 namespace ns {
+
+/// The names of what a file's URL tells of the file.
+namespace url_resources {
+
+using namespace literals;
+
+/// A date.
+inline String creationDate() { return u"NSURLCreationDateKey"_ns; }
+/// A string.
+inline String fileProtection() { return u"NSURLFileProtectionKey"_ns; }
+
+} // namespace url_resources
 
 struct Url : objc::Kind<Url, "NSURL"> {
     using Kind::Kind;
@@ -15,6 +28,13 @@ struct Url : objc::Kind<Url, "NSURL"> {
     }
     /// Without percent escapes; nil when there is none.
     [[nodiscard]] String path() const { return send<"path", String>(); }
+    /// Whether it is written as that of a folder: with a slash at the end of the path.
+    [[nodiscard]] bool hasDirectoryPath() const { return send<"hasDirectoryPath", bool>(); }
+    /// By the names above; what the file does not have is left out.
+    [[nodiscard]] Result<Dictionary> resourceValues(ArrayOf<String> keys) const {
+        const ErrorPointer error;
+        return error.result(send<"resourceValuesForKeys:error:", Dictionary>(keys, error.out()));
+    }
     [[nodiscard]] String lastPathComponent() const { return send<"lastPathComponent", String>(); }
     [[nodiscard]] String absoluteString() const { return send<"absoluteString", String>(); }
     /// Nil when the address has none.

@@ -13,6 +13,7 @@
 #include "desktop/foundation/dictionary_files.hpp"
 #include "desktop/foundation/error_description.hpp"
 #include "desktop/foundation/file_manager.hpp"
+#include "desktop/foundation/folder_listing.hpp"
 #include "desktop/foundation/json_serialization.hpp"
 #include "desktop/foundation/loading_protocol.hpp"
 #include "desktop/foundation/main_operation_queue.hpp"
@@ -26,6 +27,7 @@
 #include "desktop/foundation/suggested_filename.hpp"
 #include "desktop/foundation/timer.hpp"
 #include "desktop/foundation/url.hpp"
+#include "desktop/foundation/url_resources.hpp"
 #include "desktop/foundation/url_session.hpp"
 #include "desktop/foundation/user_defaults.hpp"
 
@@ -51,6 +53,7 @@ void install(const std::string& bundleIdentifier) {
     installUserDefaults(identifier);
     installDictionaryFiles();
     installFileManager();
+    installFolderListing();
     installErrorDescriptions();
     installPropertyListSerialization();
     installJsonSerialization();
@@ -59,6 +62,7 @@ void install(const std::string& bundleIdentifier) {
     installMainOperationQueue();
     installObservers();
     installUrls();
+    installUrlResources();
     installSuggestedFilename();
     installUrlSessions();
     installLoadingProtocol();

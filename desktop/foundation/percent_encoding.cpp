@@ -4,6 +4,7 @@
 #include "bindings/objc/hook.hpp"
 
 #include <algorithm>
+#include <array>
 
 namespace desktop::foundation {
 namespace {
@@ -17,19 +18,38 @@ ns::String decoded(objc::Next<ns::String()> next, ns::String text) {
     return isPercentEncoded(text.utf16()) ? next() : nullptr;
 }
 
-} // namespace
-
-std::string percentEncodedBeyondAscii(std::string_view text) {
+template <class Predicate>
+std::string percentEncoded(std::string_view text, Predicate staysAsItIs) {
     constexpr std::string_view digits = "0123456789ABCDEF";
     std::string encoded;
+    encoded.reserve(text.size());
     for (const char character : text) {
-        if (const auto byte = static_cast<unsigned char>(character); byte < 0x80) {
+        if (const auto byte = static_cast<unsigned char>(character); staysAsItIs(byte)) {
             encoded += character;
         } else {
             encoded.append({'%', digits[byte >> 4U], digits[byte & 0xFU]});
         }
     }
     return encoded;
+}
+
+} // namespace
+
+std::string percentEncodedBeyondAscii(std::string_view text) {
+    return percentEncoded(text, [](unsigned char byte) { return byte < 0x80; });
+}
+
+std::string percentEncodedPath(std::string_view path) {
+    static constexpr auto isPlain = [] {
+        std::array<bool, 256> stays{};
+        for (const char character :
+             std::string_view("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"
+                              "0123456789!$&'()*+,-./:=@_~")) {
+            stays[static_cast<unsigned char>(character)] = true;
+        }
+        return stays;
+    }();
+    return percentEncoded(path, [](unsigned char byte) { return isPlain[byte]; });
 }
 
 bool isPercentEncoded(std::u16string_view text) {

@@ -1,12 +1,13 @@
-// URLs as the phone makes them: they are written as they were given, an empty text is none, and no
-// maker passes through another.
+// URLs as the phone makes them: they are written as they were given, an empty text is none, no
+// maker passes through another, and no file is looked at to name it.
 #include "desktop/foundation/url.hpp"
 
-#include "bindings/foundation/url.hpp"
 #include "bindings/objc/associated.hpp"
 #include "bindings/objc/hook.hpp"
+#include "desktop/foundation/percent_encoding.hpp"
 
 #include <string>
+#include <string_view>
 
 namespace desktop::foundation {
 namespace {
@@ -49,6 +50,9 @@ ns::Url readUrl(UrlMaker next, ns::Url url, ns::String text, ns::Url base) {
         return nullptr;
     }
     const std::u16string given = text.utf16();
+    if (given.starts_with(u"file:///") && given.find_first_of(u"?#") == given.npos) {
+        return next(text, base); // which is written as it was given
+    }
     const std::u16string_view host = hostIn(given);
     const ns::Url made = next(readable(text, given, host), base);
     if (const bool isWhole = !base || !host.empty(); made && isWhole) {
@@ -63,11 +67,24 @@ ns::String written(UrlWriter next, ns::Url url) {
     return given ? given : next();
 }
 
-/// Foundation's own would call `initWithString:`, which others may have replaced.
-ns::Url withString(objc::Next<ns::Url(ns::String)>, objc::Object cls, ns::String text) {
-    const auto url = cls.send<"alloc", ns::Url>().send<"initWithString:relativeToURL:", ns::Url>(
-        text, ns::Url());
+/// Foundation's own makers would call `initWithString:`, which others may have replaced.
+ns::Url made(ns::Url fresh, ns::String text) {
+    const auto url = fresh.send<"initWithString:relativeToURL:", ns::Url>(text, ns::Url());
     return objc::Strong<ns::Url>::adopt(url).autoreleased();
+}
+
+ns::Url withString(objc::Next<ns::Url(ns::String)>, objc::Object cls, ns::String text) {
+    return made(cls.send<"alloc", ns::Url>(), text);
+}
+
+using FileMaker = objc::Next<ns::Url(ns::String, bool)>;
+ns::Url withPath(FileMaker next, objc::Object cls, ns::String path, bool isDirectory) {
+    const std::string file = path.utf8();
+    if (!file.starts_with('/')) {
+        return next(path, isDirectory);
+    }
+    const std::string end = isDirectory && !file.ends_with('/') ? "/" : "";
+    return made(cls.send<"alloc", ns::Url>(), ns::String::fromUtf8(fileUrlText(file) + end));
 }
 
 } // namespace
@@ -76,11 +93,18 @@ void installUrls() {
     static const bool once = [] {
         objc::install(objc::hook<"NSURL", "initWithString:relativeToURL:", &readUrl>());
         objc::install(objc::classHook<"NSURL", "URLWithString:", &withString>());
+        objc::install(objc::classHook<"NSURL", "fileURLWithPath:isDirectory:", &withPath>());
         objc::install(objc::hook<"NSURL", "absoluteString", &written>());
         objc::install(objc::hook<"NSURL", "description", &written>());
         return true;
     }();
     static_cast<void>(once);
+}
+
+std::string fileUrlText(std::string_view path) { return "file://" + percentEncodedPath(path); }
+
+ns::Url urlWithText(std::string_view text) {
+    return made(ns::Url::sendClass<"alloc", ns::Url>(), ns::String::fromUtf8(text));
 }
 
 } // namespace desktop::foundation

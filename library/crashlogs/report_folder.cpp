@@ -1,4 +1,4 @@
-// Lists folders, asks for attributes, sorts.
+// Lists folders, asks what is known of the files, sorts.
 #include "library/crashlogs/report_folder.hpp"
 
 #include "bindings/foundation/file_manager.hpp"
@@ -16,24 +16,24 @@ namespace {
 using namespace ns::literals;
 using preferences::Preferences;
 
-ns::String folderOf(Shown shown) {
-    return shown == Shown::documents ? u"/var/mobile/Documents"_ns
-                                     : u"/var/mobile/Library/Logs/CrashReporter"_ns;
+ns::Url folderOf(Shown shown) {
+    return ns::Url::fileUrlWithPath(shown == Shown::documents
+                                        ? u"/var/mobile/Documents"_ns
+                                        : u"/var/mobile/Library/Logs/CrashReporter"_ns,
+                                    true);
 }
 
-/// The names of what is not hidden.
-ns::Result<ns::ArrayOf<ns::String>> namesIn(ns::String folder) {
-    const auto [all, error] = ns::FileManager::defaultManager().contentsOfDirectory(folder);
-    if (error) {
-        return {nullptr, error};
-    }
-    const auto names = ns::MutableArray::make();
-    for (const ns::String name : all) {
-        if (!name.utf16().starts_with(u'.')) {
-            names.add(name);
-        }
-    }
-    return {names.assume<ns::ArrayOf<ns::String>>(), nullptr};
+ns::Result<ns::ArrayOf<ns::Url>> visibleIn(ns::Url folder, ns::ArrayOf<ns::String> keys) {
+    return ns::FileManager::defaultManager().contentsOfDirectory(
+        folder, keys, ns::DirectoryEnumerationOptions::skipsHiddenFiles);
+}
+
+/// What an entry tells of its file.
+ns::ArrayOf<ns::String> entryKeys() {
+    const auto keys = ns::MutableArray::make();
+    keys.add(ns::url_resources::creationDate());
+    keys.add(ns::url_resources::fileProtection());
+    return keys.assume<ns::ArrayOf<ns::String>>();
 }
 
 /// By seconds since 1970, the newest first.
@@ -42,14 +42,15 @@ using Dated = std::multimap<double, objc::Strong<ns::Dictionary>, std::greater<>
 class Listing {
 public:
     explicit Listing(Shown shown)
-        : shown_(shown), folder_(folderOf(shown)),
-          withFolders_(Preferences::read().on(preferences::keys.browseFolders)) {}
+        : shown_(shown), withFolders_(Preferences::read().on(preferences::keys.browseFolders)) {}
 
     [[nodiscard]] ns::Array entries() const {
         Dated found;
-        for (const ns::String name : namesIn(folder_).value) {
+        for (const ns::Url url : visibleIn(folderOf(shown_), keys_).value) {
             const objc::Pool pool; // what an entry does not keep makes room for the next
-            take(name, found);
+            if (isTaken(url)) {
+                take(url, found);
+            }
         }
         const auto entries = ns::MutableArray::make();
         for (const auto& [date, entry] : found) {
@@ -59,26 +60,19 @@ public:
     }
 
 private:
-    void take(ns::String name, Dated& found) const {
-        const bool isListedFile = isListed(name.utf8(), shown_);
-        if (!isListedFile && !withFolders_) {
-            return; // whatever it is
-        }
-        const ns::String path = folder_.appendingPathComponent(name);
-        const auto attributes = ns::FileManager::defaultManager().attributesOfItem(path).value;
-        const bool isFolder = ns::file_attributes::isDirectory(attributes);
-        if (!(isFolder ? withFolders_ : isListedFile)) {
-            return;
-        }
-        const auto created = attributes.get(ns::file_attributes::creationDate()).as<ns::Date>();
-        const ReportEntry entry{ns::Url::fileUrlWithPath(path, isFolder), created,
-                                attributes.get(ns::file_attributes::protection())};
+    [[nodiscard]] bool isTaken(ns::Url url) const {
+        return url.hasDirectoryPath() ? withFolders_ : isListed(url.path().utf8(), shown_);
+    }
+    void take(ns::Url url, Dated& found) const {
+        const auto known = url.resourceValues(keys_).value;
+        const auto created = known.get(ns::url_resources::creationDate()).as<ns::Date>();
+        const ReportEntry entry{url, created, known.get(ns::url_resources::fileProtection())};
         found.emplace(created ? created.timeIntervalSince1970() : 0, entry.dictionary());
     }
 
     Shown shown_;
-    ns::String folder_;
     bool withFolders_;
+    ns::ArrayOf<ns::String> keys_ = entryKeys();
 };
 
 } // namespace
@@ -90,17 +84,14 @@ Shown shownByPreference() {
 
 ns::Array listedEntries() { return Listing(shownByPreference()).entries(); }
 
-ns::Result<ns::Array> entriesIn(ns::String folder) {
-    const auto [names, error] = namesIn(folder);
+ns::Result<ns::Array> entriesIn(ns::Url folder) {
+    const auto [urls, error] = visibleIn(folder, nullptr);
     if (error) {
         return {nullptr, error};
     }
     const auto entries = ns::MutableArray::make();
-    for (const ns::String name : names) {
-        const ns::String path = folder.appendingPathComponent(name);
-        const auto attributes = ns::FileManager::defaultManager().attributesOfItem(path).value;
-        const bool isFolder = ns::file_attributes::isDirectory(attributes);
-        entries.add(ReportEntry{ns::Url::fileUrlWithPath(path, isFolder)}.dictionary());
+    for (const ns::Url url : urls) {
+        entries.add(ReportEntry{url}.dictionary());
     }
     return {entries, nullptr};
 }

@@ -3,6 +3,7 @@
 
 #include "bindings/foundation/array.hpp"
 #include "bindings/foundation/result.hpp"
+#include "bindings/foundation/url.hpp"
 #include "library/crashlogs/report_name.hpp"
 
 namespace wentra::crashlogs {
@@ -16,6 +17,6 @@ namespace wentra::crashlogs {
 
 /// All that the folder holds but hidden files, in no particular order: entries with nothing but the
 /// file. The array is nil, and the error tells why, when the folder cannot be read.
-[[nodiscard]] ns::Result<ns::Array> entriesIn(ns::String folder);
+[[nodiscard]] ns::Result<ns::Array> entriesIn(ns::Url folder);
 
 } // namespace wentra::crashlogs

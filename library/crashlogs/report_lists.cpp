@@ -49,7 +49,10 @@ void ReportLists::walkInto(ns::Url folder) {
 }
 
 void ReportLists::readFolder() {
-    const auto [entries, error] = entriesIn(folder_.path());
+    if (!folder_) {
+        return; // the system raises when it is asked for nothing
+    }
+    const auto [entries, error] = entriesIn(folder_);
     if (error) {
         ns::log("获取文件列表出错: " + ns::description(error).utf8());
         return;
