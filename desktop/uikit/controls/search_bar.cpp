@@ -44,8 +44,10 @@ ui::SearchBar SearchBar::initWithFrame(CGRect frame) {
 
 void SearchBar::layoutSubviews() const {
     const CGSize size = self().bounds().size;
-    field_.setFrame(
-        {{margin, (size.height - fieldHeight) / 2}, {size.width - 2 * margin, fieldHeight}});
+    const UIEdgeInsets safe = self().safeAreaInsets();
+    const double left = safe.left + margin;
+    field_.setFrame({{left, (size.height - fieldHeight) / 2},
+                     {size.width - left - safe.right - margin, fieldHeight}});
 }
 
 CGSize SearchBar::sizeThatFits(CGSize room) const { return {room.width, barHeight}; }

@@ -111,6 +111,7 @@ private:
     // What stands above and below the rows of a section, in table_view_margins.cpp.
     [[nodiscard]] double headerHeight(long section) const;
     [[nodiscard]] double footerHeight(long section) const;
+    [[nodiscard]] CGRect marginRoom() const;
     [[nodiscard]] ns::String footerTitle(long section) const;
     void showMargins();
     void showMargin(std::pair<long, Margin> place, CGRect frame);

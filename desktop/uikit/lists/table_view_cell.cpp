@@ -192,7 +192,8 @@ void TableViewCell::layoutSubviews() {
     for (const ui::View behind : {background_, selectedBackground_}) {
         behind.setFrame({{}, size});
     }
-    double right = size.width;
+    const UIEdgeInsets safe = self().safeAreaInsets();
+    double right = size.width - safe.right;
     if (accessoryView_) {
         const CGSize own = accessoryView_.bounds().size;
         right -= own.width + cellMargin;
@@ -203,15 +204,15 @@ void TableViewCell::layoutSubviews() {
         right -= wide + cellMargin;
         accessoryMark_.setFrame({{right, 0}, {wide, size.height}});
     }
-    const double left = mark_ ? pickingWidth : 0;
-    mark_.setFrame({{cellMargin, 0}, {pickingWidth - cellMargin / 2, size.height}});
-    right -= left;
-    content_.setFrame({{left, 0}, {std::max(0.0, right), size.height}});
+    const double left = safe.left + (mark_ ? pickingWidth : 0);
+    mark_.setFrame({{safe.left + cellMargin, 0}, {pickingWidth - cellMargin / 2, size.height}});
+    content_.setFrame({{left, 0}, {std::max(0.0, right - left), size.height}});
     addTexts();
     placeTexts(textRoom(content_.bounds().size));
     const double line = 1 / ScreenGeometry::current().scale;
+    const double lineLeft = safe.left + separatorLeft_;
     separator_.setFrame(
-        {{separatorLeft_, size.height - line}, {std::max(0.0, size.width - separatorLeft_), line}});
+        {{lineLeft, size.height - line}, {std::max(0.0, size.width - lineLeft), line}});
 }
 
 double TableViewCell::fittingHeight(double width) const {

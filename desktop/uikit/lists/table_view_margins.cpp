@@ -36,6 +36,13 @@ ui::View holding(ui::Label label, CGRect place, CGSize size) {
 
 } // namespace
 
+/// Where the texts of headers and footers stand, from left to right.
+CGRect TableView::marginRoom() const {
+    const UIEdgeInsets safe = self().safeAreaInsets();
+    const double left = safe.left + margin;
+    return {{left, 0}, {self().bounds().size.width - left - safe.right - margin, 0}};
+}
+
 double TableView::headerHeight(long section) const {
     const objc::Object asked = delegate();
     if (answers<"tableView:heightForHeaderInSection:">(asked)) {
@@ -60,8 +67,7 @@ double TableView::footerHeight(long section) const {
     if (!title) {
         return 0;
     }
-    const double width = self().bounds().size.width - 2 * margin;
-    return groupedLabel(title).sizeThatFits({width, 0}).height + 2 * footerGap;
+    return groupedLabel(title).sizeThatFits({marginRoom().size.width, 0}).height + 2 * footerGap;
 }
 
 /// A view of the delegate's, or the title on the platform's grey.
@@ -81,7 +87,7 @@ ui::View TableView::makeHeader(long section) const {
         label.setFont(ui::Font::system(plainSize, ui::Font::semibold));
         label.setTextColor(ui::Color::label());
     }
-    const ui::View view = holding(label, {{margin, 0}, {200, 0}}, {200 + 2 * margin, 0});
+    const ui::View view = holding(label, marginRoom(), {self().bounds().size.width, 0});
     view.setBackgroundColor(isPlain ? ui::Color::named("secondarySystemBackgroundColor")
                                     : ui::Color::clear());
     return view;
@@ -89,7 +95,9 @@ ui::View TableView::makeHeader(long section) const {
 
 ui::View TableView::makeFooter(long section) const {
     const CGSize size{self().bounds().size.width, footerHeight(section)};
-    const CGRect place{{margin, footerGap}, {size.width - 2 * margin, size.height - 2 * footerGap}};
+    CGRect place = marginRoom();
+    place.origin.y = footerGap;
+    place.size.height = size.height - 2 * footerGap;
     return holding(groupedLabel(footerTitle(section)), place, size);
 }
 

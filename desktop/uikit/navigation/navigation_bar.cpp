@@ -163,17 +163,20 @@ void NavigationBar::layoutSubviews() {
     const CGSize size = self().bounds().size;
     const double top =
         prefersLargeTitles_ ? size.height - largeTitleHeight - barHeight : size.height - barHeight;
-    double left = placeItems(left_, barMargin, 1, top);
-    const double right = placeItems(right_, size.width - barMargin, -1, top);
+    const UIEdgeInsets safe = self().safeAreaInsets();
+    const double start = safe.left + barMargin;
+    const double end = size.width - safe.right - barMargin;
+    double left = placeItems(left_, start, 1, top);
+    const double right = placeItems(right_, end, -1, top);
     if (backButton_) {
         const double width =
             std::min(backButton_.sizeThatFits({0, barHeight}).width, size.width / 2);
-        backButton_.setFrame({{backMargin, top}, {width, barHeight}});
-        left = backMargin + width + gap;
+        backButton_.setFrame({{safe.left + backMargin, top}, {width, barHeight}});
+        left = safe.left + backMargin + width + gap;
     }
     if (prefersLargeTitles_) {
-        titleLabel_.setFrame({{barMargin, size.height - largeTitleHeight},
-                              {size.width - 2 * barMargin, largeTitleHeight}});
+        titleLabel_.setFrame(
+            {{start, size.height - largeTitleHeight}, {end - start, largeTitleHeight}});
     } else {
         placeSmallTitle(left, right, top);
     }

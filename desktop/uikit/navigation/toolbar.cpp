@@ -67,13 +67,16 @@ void Toolbar::layoutSubviews() {
         BarButtonItem& peer = BarButtonItem::of(item);
         widths.push_back(peer.isFlexible() ? flexible : peer.width(height));
     }
-    const auto places = toolbarPlaces(widths, self().bounds().size.width - 2 * toolbarMargin);
+    const UIEdgeInsets safe = self().safeAreaInsets();
+    const double start = safe.left + toolbarMargin;
+    const auto places =
+        toolbarPlaces(widths, self().bounds().size.width - start - safe.right - toolbarMargin);
     for (std::size_t index = 0; index < places.size(); ++index) {
         const ui::View view = BarButtonItem::of(items_.at(index)).view();
         const double own = view.bounds().size.height;
         const double tall = view.as<ui::Button>() || own <= 0 ? height : own;
-        view.setFrame({{toolbarMargin + places[index], (height - tall) / 2},
-                       {std::max(0.0, widths[index]), tall}});
+        view.setFrame(
+            {{start + places[index], (height - tall) / 2}, {std::max(0.0, widths[index]), tall}});
     }
 }
 

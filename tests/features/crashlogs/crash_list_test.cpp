@@ -108,6 +108,26 @@ TEST_F(CrashList, ShowsReportsTheNewestFirst) {
     EXPECT_EQ(phone.message(list, "tableView:heightForRowAtIndexPath:", {table(), path(0)}), 68);
 }
 
+TEST_F(CrashList, StandsBesideTheNotchInLandscape) {
+    report("a.ips", 1);
+    open();
+    phone.result({{"do", "rotate"}, {"to", "landscapeLeft"}});
+    constexpr double notch = 47;
+    EXPECT_EQ(visible({{"title", "关闭"}}).at(0)["frame"][0], notch + 16);
+    const Json edit = visible({{"title", "编辑"}}).at(0)["frame"];
+    EXPECT_EQ(edit[0].get<double>() + edit[2].get<double>(), 844 - notch - 16);
+    EXPECT_EQ(visible({{"class", "UITextField"}}).at(0)["frame"][0], notch + 8);
+    EXPECT_EQ(phone.node(phone.message(visible({{"class", "UITableViewCell"}}).at(0),
+                                       "contentView"))["frame"][0],
+              notch);
+    phone.message(list, "setEditing:animated:", {true, false});
+    phone.message(table(), "selectRowAtIndexPath:animated:scrollPosition:", {path(0), false, 0});
+    phone.message(list, "tableView:didSelectRowAtIndexPath:", {table(), path(0)});
+    phone.advance(1);
+    const Json bar = phone.node(visible({{"class", "UIToolbar"}}).at(0));
+    EXPECT_NEAR(bar["children"].at(0)["frame"][0].get<double>(), notch + 16, 1e-6);
+}
+
 TEST_F(CrashList, ShowsDocumentsAndFoldersWhenAskedTo) {
     write(home / "Documents/a.json", "{}", 1);
     write(home / "Documents/b.ips", "", 2);

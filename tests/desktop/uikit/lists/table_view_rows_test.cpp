@@ -6,6 +6,7 @@
 #include "bindings/uikit/swipe_actions_configuration.hpp"
 #include "bindings/uikit/table_view.hpp"
 
+#include "desktop/uikit/application/rotation.hpp"
 #include "desktop/uikit/lists/table_view.hpp"
 
 namespace {
@@ -195,6 +196,22 @@ TEST_F(TableViewRows, OfferNothingWhereTheyMayNotBeEdited) {
     desktop::TableView& table = desktop::TableView::of(table_);
     EXPECT_TRUE(table.actionsOf({0, 0}).list.empty());
     EXPECT_EQ(table.actionsOf({0, 1}).list.size(), 1U);
+}
+
+TEST_F(TableViewRows, StandBesideTheNotch) {
+    desktop::rotate(ui::InterfaceOrientation::landscapeLeft);
+    table_.setFrame({{}, {844, 390}});
+    window_.layoutIfNeeded();
+    const auto cell = cellAt(0);
+    cell.layoutIfNeeded();
+    EXPECT_EQ(cell.frame().size.width, 844);
+    EXPECT_EQ(cell.contentView().frame().origin.x, 47);
+    EXPECT_EQ(cell.contentView().frame().size.width, 844 - 2 * 47);
+    table_.setFrame({{100, 0}, {400, 390}});
+    window_.layoutIfNeeded();
+    cellAt(0).layoutIfNeeded();
+    EXPECT_EQ(cellAt(0).contentView().frame().origin.x, 0) << "far from it";
+    desktop::rotate(ui::InterfaceOrientation::portrait);
 }
 
 TEST_F(TableViewRows, OfferTheApplicationsOwnActionsFirst) {
