@@ -19,5 +19,5 @@ function(join_sources TARGET)
     endforeach()
     set_target_properties(${TARGET} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
     # GCC takes what is unnamed in a joined source for a header's.
-    target_compile_options(${TARGET} PRIVATE -Wno-subobject-linkage)
+    target_compile_options(${TARGET} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
 endfunction()

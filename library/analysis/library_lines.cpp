@@ -10,7 +10,7 @@
 namespace wentra::analysis {
 namespace {
 
-constexpr std::array steps{backslashes, nameKey, spacedColon, pathKey, abortNote};
+constexpr std::array libraryLineSteps{backslashes, nameKey, spacedColon, pathKey, abortNote};
 
 constexpr std::array<std::u16string_view, 2> libraryKinds{u".dylib", u".framework"};
 
@@ -18,7 +18,7 @@ constexpr std::array<std::u16string_view, 2> libraryKinds{u".dylib", u".framewor
 
 LibraryLines libraryLines(std::u16string_view text, SystemList list) {
     LibraryLines lines;
-    const std::u16string clean = cleaned(linesHolding(text, libraryKinds), u"\n", steps);
+    const std::u16string clean = cleaned(linesHolding(text, libraryKinds), u"\n", libraryLineSteps);
     std::vector<std::u16string_view> parts = split(clean, u'\n');
     parts.pop_back(); // behind the last line's end
     for (const std::u16string_view line : parts) {

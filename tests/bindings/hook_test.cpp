@@ -15,7 +15,7 @@ using tests::handbell;
 
 int twice(Next<int(int)> next, Object, int times) { return next(2 * times); }
 int addTen(Next<int(int)> next, Object, int times) { return next(times) + 10; }
-int passOn(Next<int(int)> next, Object, int times) { return next(times); }
+int passOnTimes(Next<int(int)> next, Object, int times) { return next(times); }
 int counted(Next<int()> next, Object) { return next() + 1; }
 int wrongTypes(Next<int(double)> next, Object, double times) { return next(times); }
 int thousandfold(Object, int times) { return 1000 * times; }
@@ -52,7 +52,8 @@ TEST_F(HookTest, ReplacesAndCallsThrough) {
 
 TEST_F(HookTest, WhatOnlyPassesOnChangesNothing) {
     const auto it = bell<"TestPassedOn">();
-    ASSERT_EQ((objc::install(objc::hook<"TestPassedOn", "ring:", &passOn>())), Outcome::installed);
+    ASSERT_EQ((objc::install(objc::hook<"TestPassedOn", "ring:", &passOnTimes>())),
+              Outcome::installed);
     EXPECT_EQ(it.ring(3), 3);
 }
 

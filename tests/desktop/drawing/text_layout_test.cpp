@@ -247,11 +247,11 @@ TEST(TextLayout, SetsRunsInTheirOwnLook) {
     ordered.draw(canvas.context(), {});
     const double middle = ordered.caretRectangle(1).x / 2;
     const double baseline = ordered.firstBaseline();
-    const Colour red =
+    const Colour drawn =
         canvas.snapshot().pixel(static_cast<int>(middle), static_cast<int>(baseline - 6));
-    EXPECT_GT(red.red, 0.9);
-    EXPECT_LT(red.blue, 0.1);
-    EXPECT_GT(red.alpha, 0.9);
+    EXPECT_GT(drawn.red, 0.9);
+    EXPECT_LT(drawn.blue, 0.1);
+    EXPECT_GT(drawn.alpha, 0.9);
 }
 
 TEST(TextLayout, RelatesCaretsAndPlaces) {

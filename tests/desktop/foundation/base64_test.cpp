@@ -7,19 +7,19 @@
 
 namespace {
 
-struct Case {
+struct Base64Case {
     std::u16string_view text;
     bool isBase64;
 };
 
-const Case cases[]{
+const Base64Case base64Cases[]{
     {u"", true},          {u"SGVsbG8=", true},    {u"SGVsbA==", true},   {u"+/az", true},
     {u"SGVsbG8", false},  {u"SGVsbG8=\n", false}, {u"SG\nVsbG8", false}, {u"S===", false},
     {u"SG=sbG8=", false}, {u"SGV-", false},       {u"SGV_", false},      {u"SGV\u4e2d", false},
 };
 
 TEST(Base64Text, IsBase64ToTheLetter) {
-    for (const Case& each : cases) {
+    for (const Base64Case& each : base64Cases) {
         EXPECT_EQ(desktop::foundation::isBase64(each.text), each.isBase64)
             << std::string(each.text.begin(), each.text.end());
     }

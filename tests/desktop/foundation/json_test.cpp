@@ -47,7 +47,7 @@ TEST(Json, BrokenTextIsNil) {
     EXPECT_TRUE(ns::JsonSerialization::object(nullptr).error);
 }
 
-std::string repeated(std::string_view text, std::size_t times) {
+std::string repeatedJson(std::string_view text, std::size_t times) {
     std::string result;
     for (; times > 0; --times) {
         result += text;
@@ -58,11 +58,11 @@ std::string repeated(std::string_view text, std::size_t times) {
 TEST(Json, NestingHasAnEnd) {
     const objc::Pool pool;
     desktop::foundation::installJsonSerialization();
-    EXPECT_TRUE(parsed(repeated("[", 512) + repeated("]", 512)));
-    EXPECT_TRUE(parsed("[" + repeated("[{}],", 1000) + "1]")) << "beside one another";
+    EXPECT_TRUE(parsed(repeatedJson("[", 512) + repeatedJson("]", 512)));
+    EXPECT_TRUE(parsed("[" + repeatedJson("[{}],", 1000) + "1]")) << "beside one another";
     for (const std::string& text :
-         {repeated("[", 513) + repeated("]", 513), repeated("[", 1'000'000),
-          repeated("{\"a\":", 200'000), repeated({"[\0", 2}, 100'000)}) {
+         {repeatedJson("[", 513) + repeatedJson("]", 513), repeatedJson("[", 1'000'000),
+          repeatedJson("{\"a\":", 200'000), repeatedJson({"[\0", 2}, 100'000)}) {
         const auto result = ns::JsonSerialization::object(ns::Data::from(text));
         EXPECT_FALSE(result.value);
         EXPECT_EQ(result.error.code(), 3840);
@@ -72,7 +72,7 @@ TEST(Json, NestingHasAnEnd) {
 TEST(Json, BracketsOfTextsAreNoNesting) {
     const objc::Pool pool;
     desktop::foundation::installJsonSerialization();
-    const std::string brackets = repeated("[", 1000);
+    const std::string brackets = repeatedJson("[", 1000);
     EXPECT_EQ(value("\"" + brackets + "\"").assume<ns::String>().utf8(), brackets);
     EXPECT_TRUE(value("\"\\\"" + brackets + "\"")) << "behind an escaped quotation mark";
 }

@@ -20,7 +20,7 @@ using namespace ns::literals;
 using desktop::foundation::deepestNesting;
 using desktop::foundation::isNestedTooDeeply;
 
-std::string repeated(std::string_view text, std::size_t times) {
+std::string repeatedText(std::string_view text, std::size_t times) {
     std::string all;
     for (std::size_t time = 0; time < times; ++time) {
         all += text;
@@ -28,11 +28,13 @@ std::string repeated(std::string_view text, std::size_t times) {
     return all;
 }
 
-std::string oldText(std::size_t levels) { return repeated("(", levels) + repeated(")", levels); }
+std::string oldText(std::size_t levels) {
+    return repeatedText("(", levels) + repeatedText(")", levels);
+}
 
 std::string xml(std::size_t levels) {
-    return "<?xml version=\"1.0\"?><!DOCTYPE plist><plist>" + repeated("<array>", levels) +
-           "<string>a</string>" + repeated("</array>", levels) + "</plist>";
+    return "<?xml version=\"1.0\"?><!DOCTYPE plist><plist>" + repeatedText("<array>", levels) +
+           "<string>a</string>" + repeatedText("</array>", levels) + "</plist>";
 }
 
 std::string binary(std::size_t levels) {
@@ -55,16 +57,16 @@ TEST(PropertyListNesting, HasABound) {
 }
 
 TEST(PropertyListNesting, CountsNothingInTextsAndComments) {
-    const std::string many = repeated("{", deepestNesting + 1);
+    const std::string many = repeatedText("{", deepestNesting + 1);
     for (const std::string& text :
          {R"("\")" + many + "\"", "'" + many + "'", "/*" + many + "*/", "//" + many,
-          "<a><!-- " + repeated("<b>", deepestNesting + 3) + " --></a>",
-          "<a><![CDATA[ " + repeated("<b>", deepestNesting + 3) + " ]]></a>",
-          repeated("<a/>", deepestNesting + 3), repeated("{}", deepestNesting + 1)}) {
+          "<a><!-- " + repeatedText("<b>", deepestNesting + 3) + " --></a>",
+          "<a><![CDATA[ " + repeatedText("<b>", deepestNesting + 3) + " ]]></a>",
+          repeatedText("<a/>", deepestNesting + 3), repeatedText("{}", deepestNesting + 1)}) {
         EXPECT_FALSE(isNestedTooDeeply(text)) << text;
     }
-    EXPECT_TRUE(isNestedTooDeeply(repeated("{/*}*/ a = http://}{;", deepestNesting + 1)));
-    EXPECT_TRUE(isNestedTooDeeply(repeated("<a><!--</a>-->", deepestNesting + 3)));
+    EXPECT_TRUE(isNestedTooDeeply(repeatedText("{/*}*/ a = http://}{;", deepestNesting + 1)));
+    EXPECT_TRUE(isNestedTooDeeply(repeatedText("<a><!--</a>-->", deepestNesting + 3)));
 }
 
 TEST(PropertyListNesting, AListInItselfIsTooDeep) {

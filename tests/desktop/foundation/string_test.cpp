@@ -90,9 +90,9 @@ TEST_F(StringUnits, AByteOrderMarkOfAFileIsNoCharacter) {
     folder.write("marked.txt", "\uFEFFé");
     const auto path = ns::String::fromUtf8((folder.path() / "marked.txt").string());
     EXPECT_EQ((ns::String::sendClass<"stringWithContentsOfFile:", ns::String>(path).utf8()), "é");
-    void* const noError = nullptr;
+    void* const nowhere = nullptr;
     EXPECT_EQ((ns::String::sendClass<"stringWithContentsOfFile:encoding:error:", ns::String>(
-                   path, ns::StringEncoding::utf8, noError)
+                   path, ns::StringEncoding::utf8, nowhere)
                    .utf8()),
               "é");
 }

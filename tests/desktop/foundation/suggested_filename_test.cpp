@@ -9,14 +9,14 @@ namespace {
 
 using desktop::foundation::suggestedFilename;
 
-struct Case {
+struct FilenameCase {
     const char* disposition;
     const char* url;
     const char* mimeType;
     const char* name;
 };
 
-void expectNames(const std::vector<Case>& cases) {
+void expectNames(const std::vector<FilenameCase>& cases) {
     for (const auto& [disposition, url, mimeType, name] : cases) {
         EXPECT_EQ(suggestedFilename(disposition, url, mimeType), name) << disposition << ' ' << url;
     }

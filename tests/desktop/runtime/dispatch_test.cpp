@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr std::int64_t second = 1'000'000'000;
+constexpr std::int64_t secondInNanoseconds = 1'000'000'000;
 
 class Dispatch : public testing::Test {
 protected:

@@ -73,14 +73,14 @@ TEST_F(WeakReferences, AreNilFromTheBeginningOfTheEndOn) {
 
 TEST_F(WeakReferences, FollowAssignmentsAndCopies) {
     Strong<MortalKind> first = make();
-    const Strong<MortalKind> second = make();
+    const Strong<MortalKind> other = make();
     Weak<MortalKind> known(first);
     const Weak<MortalKind> copy(known);
-    known = second;
-    EXPECT_TRUE(known.strong() == second);
+    known = other;
+    EXPECT_TRUE(known.strong() == other);
     EXPECT_TRUE(copy.strong() == first);
     first = nullptr;
-    EXPECT_TRUE(known.strong() == second) << "a former object's end is of no concern";
+    EXPECT_TRUE(known.strong() == other) << "a former object's end is of no concern";
     EXPECT_FALSE(copy);
 }
 

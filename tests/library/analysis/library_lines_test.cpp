@@ -6,7 +6,7 @@
 namespace wentra::analysis {
 namespace {
 
-using Lines = std::vector<std::u16string>;
+using LineTexts = std::vector<std::u16string>;
 
 TEST(LibraryLines, AreSortedAndKeepTheirOrder) {
     const LibraryLines lines = libraryLines(uR"(Incident
@@ -16,16 +16,17 @@ TEST(LibraryLines, AreSortedAndKeepTheirOrder) {
   "asi" : {"libsystem_c.dylib":["abort() called"]},UIKitCore.framework
 libsystem_m.dylib)",
                                             SystemList::reports);
-    EXPECT_EQ(lines.system, (Lines{u"  路径 : \"/usr/lib/libobjc.A.dylib\",",
-                                   u"UIKitCore.framework", u"libsystem_m.dylib"}));
-    EXPECT_EQ(lines.others,
-              (Lines{u"  路径 : \"/var/jb/Library/MobileSubstrate/DynamicLibraries/Odd.dylib\",",
-                     u"  名称：\"Unheard.framework\","}));
+    EXPECT_EQ(lines.system, (LineTexts{u"  路径 : \"/usr/lib/libobjc.A.dylib\",",
+                                       u"UIKitCore.framework", u"libsystem_m.dylib"}));
+    EXPECT_EQ(
+        lines.others,
+        (LineTexts{u"  路径 : \"/var/jb/Library/MobileSubstrate/DynamicLibraries/Odd.dylib\",",
+                   u"  名称：\"Unheard.framework\","}));
 }
 
 TEST(LibraryLines, EndAtLineFeedsOnly) {
     EXPECT_EQ(libraryLines(u"a.dylib\r\nb\u2028c.dylib", SystemList::reports).others,
-              (Lines{u"a.dylib\r", u"b\u2028c.dylib"}));
+              (LineTexts{u"a.dylib\r", u"b\u2028c.dylib"}));
     EXPECT_TRUE(libraryLines(u"", SystemList::reports).others.empty());
 }
 

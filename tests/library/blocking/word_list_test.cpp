@@ -10,7 +10,7 @@ namespace wentra::blocking {
 namespace {
 
 using Rule = WordList::Rule;
-using Words = std::vector<std::u16string_view>;
+using WordViews = std::vector<std::u16string_view>;
 
 TEST(WordList, APartDecidesWhereverItStands) {
     const WordList list({u"ad.", u"广告", u"track"}, Rule::part);
@@ -68,7 +68,8 @@ TEST(WordList, FindsWhatASearchForEachWordFinds) {
         const bool isIn = std::ranges::any_of(words, [&address](const std::u16string& word) {
             return !word.empty() && address.find(word) != std::u16string::npos;
         });
-        EXPECT_EQ(WordList(Words(words.begin(), words.end()), Rule::part).decides(address), isIn);
+        EXPECT_EQ(WordList(WordViews(words.begin(), words.end()), Rule::part).decides(address),
+                  isIn);
     }
 }
 

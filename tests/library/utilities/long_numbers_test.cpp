@@ -9,12 +9,12 @@ namespace {
 
 using Numbers = std::vector<std::u16string_view>;
 
-struct Case {
+struct NumberCase {
     std::u16string_view text;
     Numbers numbers;
 };
 
-const Case cases[]{
+const NumberCase numberCases[]{
     {u"8613800138000", {u"8613800138000"}},
     {u"1700000000000 1600000000000 1500000000000", {}},
     {u"<string>8613800138000</string>", {u"8613800138000"}},
@@ -29,7 +29,7 @@ const Case cases[]{
 };
 
 TEST(LongNumbers, AreFoundOnceEach) {
-    for (const Case& each : cases) {
+    for (const NumberCase& each : numberCases) {
         EXPECT_EQ(wentra::utilities::longNumbers(each.text), each.numbers)
             << std::string(each.text.begin(), each.text.end());
     }

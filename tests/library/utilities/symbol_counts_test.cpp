@@ -23,12 +23,12 @@ TEST(SymbolCounts, AreThoseOfEverySymbol) {
     EXPECT_EQ(countOf(u'!', u""), 0U);
 }
 
-struct Case {
+struct CountCase {
     std::u16string_view text;
     Bodies bodies;
 };
 
-const Case cases[]{
+const CountCase countCases[]{
     {u"- (void)a {\nx = 1;\n}", {u"- (void)a {\nx = 1;\n}"}},
     {u"- (\n}", {u"- (\n}"}},
     {u"a - (b)\n{\n}\n- (c)\n}d", {u"- (b)\n{\n}", u"- (c)\n}"}},
@@ -40,7 +40,7 @@ const Case cases[]{
 };
 
 TEST(MethodBodies, EndWithTheFirstLineThatBeginsWithABracket) {
-    for (const Case& each : cases) {
+    for (const CountCase& each : countCases) {
         EXPECT_EQ(methodBodies(each.text), each.bodies)
             << std::string(each.text.begin(), each.text.end());
     }

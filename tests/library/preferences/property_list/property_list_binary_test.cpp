@@ -13,7 +13,9 @@ std::string fileWith(const std::string& object, const std::string& key = binaryT
     return binaryFile({dictionary, binaryText("kqwzgs"), key, "\x09", object}, 0);
 }
 
-bool isAccepted(const std::string& file) { return Preferences::parse(file).on(keys.recolour); }
+bool isBinaryAccepted(const std::string& file) {
+    return Preferences::parse(file).on(keys.recolour);
+}
 
 TEST(PropertyListBinary, AcceptsEveryKindOfObject) {
     const std::string objects[] = {
@@ -34,7 +36,7 @@ TEST(PropertyListBinary, AcceptsEveryKindOfObject) {
         binaryHead(0xD, 1) + bigEndianBytes(0x00010000, 4),
     };
     for (const std::string& object : objects) {
-        EXPECT_TRUE(isAccepted(fileWith(object))) << testing::PrintToString(object);
+        EXPECT_TRUE(isBinaryAccepted(fileWith(object))) << testing::PrintToString(object);
     }
 }
 
@@ -69,15 +71,15 @@ TEST(PropertyListBinary, RejectsMalformedObjects) {
         binaryHead(0xD, 1) + bigEndianBytes(1, 2),
     };
     for (const std::string& object : objects) {
-        EXPECT_FALSE(isAccepted(fileWith(object))) << testing::PrintToString(object);
+        EXPECT_FALSE(isBinaryAccepted(fileWith(object))) << testing::PrintToString(object);
     }
 }
 
 TEST(PropertyListBinary, KeysAreTexts) {
-    EXPECT_TRUE(isAccepted(fileWith("\x08", binaryText("键"))));
-    EXPECT_TRUE(isAccepted(fileWith("\x08", binaryText(""))));
-    EXPECT_FALSE(isAccepted(fileWith("\x08", "\x10\x05")));
-    EXPECT_FALSE(isAccepted(fileWith("\x08", "\x09")));
+    EXPECT_TRUE(isBinaryAccepted(fileWith("\x08", binaryText("键"))));
+    EXPECT_TRUE(isBinaryAccepted(fileWith("\x08", binaryText(""))));
+    EXPECT_FALSE(isBinaryAccepted(fileWith("\x08", "\x10\x05")));
+    EXPECT_FALSE(isBinaryAccepted(fileWith("\x08", "\x09")));
 }
 
 TEST(PropertyListBinary, KeysMayBeWrittenInUtf16Throughout) {
@@ -134,21 +136,21 @@ TEST(PropertyListBinary, RejectsTrailersThatDoNotFit) {
         {1, 7},  {1, 0},  {8, '\xFF'},           // place of the table
     };
     const std::string file = fileWith("\x08");
-    ASSERT_TRUE(isAccepted(file));
+    ASSERT_TRUE(isBinaryAccepted(file));
     for (const auto& [fromEnd, byte] : changes) {
         std::string changed = file;
         changed[file.size() - fromEnd] = byte;
-        EXPECT_FALSE(isAccepted(changed)) << fromEnd << ": " << int{byte};
+        EXPECT_FALSE(isBinaryAccepted(changed)) << fromEnd << ": " << int{byte};
     }
-    EXPECT_FALSE(isAccepted("bplist00"));
-    EXPECT_FALSE(isAccepted(binaryFile({}, 0)));
-    EXPECT_FALSE(isAccepted("bplist01" + file.substr(8)));
-    EXPECT_FALSE(isAccepted(file + '\0'));
+    EXPECT_FALSE(isBinaryAccepted("bplist00"));
+    EXPECT_FALSE(isBinaryAccepted(binaryFile({}, 0)));
+    EXPECT_FALSE(isBinaryAccepted("bplist01" + file.substr(8)));
+    EXPECT_FALSE(isBinaryAccepted(file + '\0'));
 }
 
 TEST(PropertyListBinary, ObjectsThatReferToEachOtherDoNoHarm) {
     const std::string array = binaryHead(0xA, 1) + bigEndianBytes(4, 2);
-    EXPECT_TRUE(isAccepted(fileWith(array)));
+    EXPECT_TRUE(isBinaryAccepted(fileWith(array)));
 }
 
 // Each entry of the offset table names the same array of as many references.
@@ -161,7 +163,7 @@ TEST(PropertyListBinary, SharedLargeObjectsAreRefused) {
     }
     file += bigEndianBytes(1, 7) + '\3' + bigEndianBytes(count, 8) + bigEndianBytes(0, 8) +
             bigEndianBytes(table, 8);
-    EXPECT_FALSE(isAccepted(file));
+    EXPECT_FALSE(isBinaryAccepted(file));
 }
 
 } // namespace

@@ -6,7 +6,7 @@
 namespace wentra::preferences {
 namespace {
 
-bool isAccepted(const std::string& document) {
+bool isOldAccepted(const std::string& document) {
     return Preferences::parse(document).on(keys.recolour);
 }
 
@@ -29,7 +29,7 @@ TEST(OldPropertyList, AcceptsWhatThePlatformAccepts) {
         "kqwzgs = 1; /*",
     };
     for (const char* document : documents) {
-        EXPECT_TRUE(isAccepted(document)) << document;
+        EXPECT_TRUE(isOldAccepted(document)) << document;
     }
 }
 
@@ -63,7 +63,7 @@ TEST(OldPropertyList, RejectsMalformedTextAnywhere) {
         "kqwzgs",
     };
     for (const char* document : documents) {
-        EXPECT_FALSE(isAccepted(document)) << document;
+        EXPECT_FALSE(isOldAccepted(document)) << document;
     }
 }
 
@@ -89,9 +89,9 @@ TEST(OldPropertyList, DepthIsBounded) {
     const auto nested = [](std::size_t depth) {
         return "{kqwzgs=1;a=" + std::string(depth, '(') + std::string(depth, ')') + ";}";
     };
-    EXPECT_TRUE(isAccepted(nested(511)));
-    EXPECT_FALSE(isAccepted(nested(512)));
-    EXPECT_FALSE(isAccepted(nested(1000000)));
+    EXPECT_TRUE(isOldAccepted(nested(511)));
+    EXPECT_FALSE(isOldAccepted(nested(512)));
+    EXPECT_FALSE(isOldAccepted(nested(1000000)));
 }
 
 TEST(OldPropertyList, ItsTextsAreSwitchesNumbersAndTexts) {

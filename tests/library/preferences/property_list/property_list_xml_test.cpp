@@ -12,7 +12,7 @@ namespace {
 
 constexpr const char* marker = "<key>kqwzgs</key><true/>";
 
-bool isAccepted(const std::string& document) {
+bool isXmlAccepted(const std::string& document) {
     return Preferences::parse(document).on(keys.recolour);
 }
 
@@ -41,8 +41,8 @@ TEST(PropertyListXml, AcceptsWellFormedContent) {
         "<key>a&amp;b</key><string>&#x1F604;&#9;<![CDATA[<&>]]></string>",
     };
     for (const char* content : contents) {
-        EXPECT_TRUE(isAccepted(xmlDocument(std::string(content) + marker))) << content;
-        EXPECT_TRUE(isAccepted(xmlDocument(std::string(marker) + content))) << content;
+        EXPECT_TRUE(isXmlAccepted(xmlDocument(std::string(content) + marker))) << content;
+        EXPECT_TRUE(isXmlAccepted(xmlDocument(std::string(marker) + content))) << content;
     }
 }
 
@@ -91,9 +91,9 @@ TEST(PropertyListXml, RejectsMalformedContentAnywhere) {
         "<?open",
     };
     for (const char* content : contents) {
-        EXPECT_FALSE(isAccepted(xmlDocument(marker + std::string(content)))) << content;
+        EXPECT_FALSE(isXmlAccepted(xmlDocument(marker + std::string(content)))) << content;
         const std::string nested = "<key>x</key><dict>" + std::string(content) + "</dict>";
-        EXPECT_FALSE(isAccepted(xmlDocument(marker + nested))) << content;
+        EXPECT_FALSE(isXmlAccepted(xmlDocument(marker + nested))) << content;
     }
 }
 
@@ -121,7 +121,7 @@ TEST(PropertyListXml, AcceptsAndRejectsWhatSurroundsTheDictionary) {
         {plist + std::string(1, '\0'), false},
     };
     for (const auto& [document, accepted] : documents) {
-        EXPECT_EQ(isAccepted(document), accepted) << document;
+        EXPECT_EQ(isXmlAccepted(document), accepted) << document;
     }
 }
 
@@ -148,10 +148,10 @@ TEST(PropertyListXml, DepthIsBounded) {
         return xmlDocument(marker + ("<key>a</key>" + repeated("<array>", depth)) +
                            repeated("</array>", depth));
     };
-    EXPECT_TRUE(isAccepted(nested(511)));
-    EXPECT_FALSE(isAccepted(nested(512)));
-    EXPECT_FALSE(isAccepted(nested(100000)));
-    EXPECT_FALSE(isAccepted(xmlDocument(marker + repeated("<key>a</key><dict>", 100000))));
+    EXPECT_TRUE(isXmlAccepted(nested(511)));
+    EXPECT_FALSE(isXmlAccepted(nested(512)));
+    EXPECT_FALSE(isXmlAccepted(nested(100000)));
+    EXPECT_FALSE(isXmlAccepted(xmlDocument(marker + repeated("<key>a</key><dict>", 100000))));
 }
 
 TEST(PropertyListXml, OnlyTheTopDictionaryCounts) {
