@@ -16,7 +16,25 @@ std::vector<ns::Range> occurrences(std::u16string_view text, std::u16string_view
     return found;
 }
 
+namespace {
+
+/// Moves what stays, without a branch for each unit.
+void removeAll(std::u16string& text, char16_t removed) {
+    std::size_t kept = 0;
+    for (const char16_t unit : text) {
+        text[kept] = unit;
+        kept += unit == removed ? 0 : 1;
+    }
+    text.resize(kept);
+}
+
+} // namespace
+
 void replaceAll(std::u16string& text, std::u16string_view sought, std::u16string_view replacement) {
+    if (sought.size() == 1 && replacement.empty()) {
+        removeAll(text, sought.front());
+        return;
+    }
     const std::vector<ns::Range> found = occurrences(text, sought);
     if (found.empty()) {
         return;

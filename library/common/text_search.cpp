@@ -1,13 +1,12 @@
-// Looks for the first and the last unit of what is sought, a block of places at a time.
+// Looks for the first and the last unit of what is sought, many places at a time.
 #include "library/common/text_search.hpp"
+
+#include "library/common/unit_vector.hpp"
 
 #include <algorithm>
 
 namespace wentra {
 namespace {
-
-/// So many places are looked at before anything is decided, which compilers turn into vectors.
-constexpr std::size_t blockPlaces = 32;
 
 constexpr char16_t lowerCase(char16_t unit) {
     return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 0x20) : unit;
@@ -31,41 +30,71 @@ TextSearch::Letter TextSearch::letter(char16_t unit, LetterCase letterCase) {
     return {lower, lower >= u'a' && lower <= u'z' ? u' ' : u'\0'};
 }
 
+/// The first and the last unit of what is sought, each eight times.
+class TextSearch::Letters {
+public:
+    explicit Letters(const TextSearch& search)
+        : starts_(search.text_.data()), ends_(starts_ + search.sought_.size() - 1),
+          first_(unitVector(search.first_.lower)), firstCase_(unitVector(search.first_.caseBit)),
+          last_(unitVector(search.last_.lower)), lastCase_(unitVector(search.last_.caseBit)) {}
+
+    /// The bits in which the text differs from them at that place and the seven behind it.
+    [[nodiscard]] UnitVector differences(std::size_t place) const {
+        return ((unitsAt(starts_ + place) | firstCase_) ^ first_) |
+               ((unitsAt(ends_ + place) | lastCase_) ^ last_);
+    }
+
+    /// Whether they stand at one of those places or the 24 behind.
+    [[nodiscard]] bool mayStandIn(std::size_t place) const {
+        constexpr std::size_t size = unitVectorSize;
+        const auto found = (differences(place) == 0) | (differences(place + size) == 0) |
+                           (differences(place + 2 * size) == 0) |
+                           (differences(place + 3 * size) == 0);
+        const auto [low, high] = std::bit_cast<std::array<std::uint64_t, 2>>(found);
+        return (low | high) != 0;
+    }
+
+private:
+    const char16_t* starts_;
+    const char16_t* ends_;
+    UnitVector first_;
+    UnitVector firstCase_;
+    UnitVector last_;
+    UnitVector lastCase_;
+};
+
 std::size_t TextSearch::next(std::size_t place) const {
     const std::size_t end = placesEnd();
     while (place < end) {
-        const std::size_t blockEnd = std::min(place + blockPlaces, end);
-        if (blockEnd - place == blockPlaces && !mayStandIn(place)) {
-            place = blockEnd;
-            continue;
+        place = candidate(place, end);
+        if (place < end && standsAt(place)) {
+            return place;
         }
-        for (; place < blockEnd; ++place) {
-            if (first_.difference(text_[place]) == 0 && standsAt(place)) {
-                return place;
-            }
-        }
+        ++place;
     }
     return text_.size();
+}
+
+/// The first place from that one on where the first and the last unit fit, or the first of the
+/// few at the end that make no vector; `end` when there is none.
+std::size_t TextSearch::candidate(std::size_t place, std::size_t end) const {
+    const Letters letters(*this);
+    while (end - place >= 4 * unitVectorSize && !letters.mayStandIn(place)) {
+        place += 4 * unitVectorSize;
+    }
+    while (end - place >= unitVectorSize) {
+        const std::size_t fitting = firstZero(letters.differences(place));
+        place += fitting;
+        if (fitting < unitVectorSize) {
+            break;
+        }
+    }
+    return place;
 }
 
 std::size_t TextSearch::placesEnd() const {
     const bool mayStand = !sought_.empty() && sought_.size() <= text_.size();
     return mayStand ? text_.size() - sought_.size() + 1 : 0;
-}
-
-/// In the block that begins there.
-bool TextSearch::mayStandIn(std::size_t place) const {
-    const char16_t* const starts = text_.data() + place;
-    const char16_t* const ends = starts + sought_.size() - 1;
-    const Letter first = first_; // copies, which nothing in the loop can change
-    const Letter last = last_;
-    std::uint16_t found = 0;
-    for (std::size_t index = 0; index < blockPlaces; ++index) {
-        const auto differs = static_cast<std::uint16_t>(first.difference(starts[index]) |
-                                                        last.difference(ends[index]));
-        found = static_cast<std::uint16_t>(found | (differs == 0 ? 1U : 0U));
-    }
-    return found != 0;
 }
 
 bool TextSearch::standsAt(std::size_t place) const {

@@ -24,16 +24,12 @@ private:
     struct Letter {
         char16_t lower;
         char16_t caseBit; ///< what tells it from the capital letter; 0 where that does not count
-
-        /// The bits in which the unit differs from the letter.
-        [[nodiscard]] constexpr std::uint16_t difference(char16_t unit) const {
-            return static_cast<std::uint16_t>((unit | caseBit) ^ lower);
-        }
     };
 
     static Letter letter(char16_t unit, LetterCase letterCase);
+    class Letters;
     [[nodiscard]] std::size_t placesEnd() const;
-    [[nodiscard]] bool mayStandIn(std::size_t place) const;
+    [[nodiscard]] std::size_t candidate(std::size_t place, std::size_t end) const;
     [[nodiscard]] bool standsAt(std::size_t place) const;
 
     std::u16string_view text_;

@@ -4,6 +4,8 @@
 #include "library/common/case_insensitive_search.hpp"
 #include "tests/desktop/uikit/uikit_fixture.hpp"
 
+#include <random>
+
 namespace wentra {
 namespace {
 
@@ -29,6 +31,23 @@ TEST(Occurrences, AreFoundAnywhereInLongTexts) {
     }
 }
 
+TEST(Occurrences, AreThoseThatAPlainSearchFinds) {
+    std::mt19937 random(7); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same texts every time
+    for (int round = 0; round < 2000; ++round) {
+        std::u16string text(random() % 120, u'a');
+        for (char16_t& unit : text) {
+            unit = u"aaaaaaAbB\xFF61\xFF41"[random() % 11];
+        }
+        const std::u16string sought = text.substr(0, random() % 4 + 1) + (round % 2 ? u"b" : u"");
+        Places expected;
+        for (std::size_t place = text.find(sought); place != text.npos && !sought.empty();
+             place = text.find(sought, place + sought.size())) {
+            expected.push_back({place, sought.size()});
+        }
+        ASSERT_EQ(occurrences(text, sought), expected) << round;
+    }
+}
+
 TEST(Occurrences, AreReplacedInOnePass) {
     std::u16string text = u"aaXaX";
     replaceAll(text, u"aa", u"aaa");
@@ -37,6 +56,10 @@ TEST(Occurrences, AreReplacedInOnePass) {
     EXPECT_EQ(text, u"aaaa");
     replaceAll(text, u"", u"b");
     EXPECT_EQ(text, u"aaaa");
+    replaceAll(text, u"a", u"");
+    EXPECT_EQ(text, u"");
+    replaceAll(text, u"a", u"");
+    EXPECT_EQ(text, u"");
 }
 
 using CaseInsensitiveSearch = tests::UIKitTest;

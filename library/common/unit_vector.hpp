@@ -1,0 +1,39 @@
+// Eight UTF-16 units, compared at once.
+#pragma once
+
+#include <array>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+namespace wentra {
+
+/// Every processor that we know has registers of this size.
+using UnitVector [[gnu::vector_size(16)]] = std::uint16_t;
+
+inline constexpr std::size_t unitVectorSize = sizeof(UnitVector) / sizeof(std::uint16_t);
+
+/// The units there, eight of them.
+inline UnitVector unitsAt(const char16_t* place) {
+    UnitVector units;
+    std::memcpy(&units, place, sizeof units);
+    return units;
+}
+
+/// That unit eight times.
+inline UnitVector unitVector(char16_t unit) { return UnitVector{} + std::uint16_t{unit}; }
+
+/// Which of the units is the first that is zero; `unitVectorSize` when none is.
+inline std::size_t firstZero(UnitVector units) {
+    static_assert(std::endian::native == std::endian::little);
+    constexpr std::size_t half = unitVectorSize / 2;
+    const auto zero = units == UnitVector{}; // all bits of a unit, or none
+    const auto [low, high] = std::bit_cast<std::array<std::uint64_t, 2>>(zero);
+    constexpr int unitBits = 16;
+    return low != 0    ? static_cast<std::size_t>(std::countr_zero(low) / unitBits)
+           : high != 0 ? half + static_cast<std::size_t>(std::countr_zero(high) / unitBits)
+                       : unitVectorSize;
+}
+
+} // namespace wentra
