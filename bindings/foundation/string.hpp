@@ -47,14 +47,23 @@ struct String : objc::Kind<String, "NSString"> {
         return make<"initWithCharacters:length:">(text.data(),
                                                   static_cast<unsigned long>(text.size()));
     }
-    /// A new string from UTF-8; nil when the bytes are not UTF-8.
-    static String fromUtf8(std::string_view text) {
-        return make<"initWithBytes:length:encoding:">(static_cast<const void*>(text.data()),
-                                                      static_cast<unsigned long>(text.size()),
-                                                      StringEncoding::utf8);
+    /// A new string that keeps these bytes, all of them ASCII, and frees them at its end; nothing
+    /// is copied. They come from `std::malloc`.
+    static String takingAscii(char* bytes, std::size_t count) {
+        constexpr auto encoding = StringEncoding::isoLatin1; // in which no byte need be checked
+        constexpr bool freesThem = true;
+        return make<"initWithBytesNoCopy:length:encoding:freeWhenDone:">(
+            static_cast<void*>(bytes), static_cast<unsigned long>(count), encoding, freesThem);
     }
-
-    /// Nil when the bytes are no text in that encoding. Defined in data.hpp.
+    /// A new string from UTF-8; nil when the bytes are not UTF-8.
+    static String fromUtf8(std::string_view text) { return from(text, StringEncoding::utf8); }
+    /// Nil when the bytes are no text in that encoding.
+    static String from(std::string_view bytes, StringEncoding encoding) {
+        return make<"initWithBytes:length:encoding:">(static_cast<const void*>(bytes.data()),
+                                                      static_cast<unsigned long>(bytes.size()),
+                                                      encoding);
+    }
+    /// The same for an object's bytes. Defined in data.hpp.
     static String from(Data data, StringEncoding encoding);
 
     [[nodiscard]] unsigned long length() const { return send<"length", unsigned long>(); }

@@ -5,21 +5,24 @@
 #include "library/files/image_header.hpp"
 
 #include <fcntl.h>
-#include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace wentra::files {
 namespace {
 
-/// The platform's own reading takes texts only.
-ns::Data bytesOfAnyName(const std::string& path, long long size) {
-    const auto room = static_cast<std::size_t>(size);
-    const auto bytes = std::make_unique_for_overwrite<char[]>(room);
-    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    const ssize_t count = pread(file, bytes.get(), room, 0);
-    close(file);
-    return count < 0 ? ns::Data() : ns::Data::from({bytes.get(), static_cast<std::size_t>(count)});
+/// Whether the file could be read, up to its end or that many bytes.
+bool readTo(FileBytes& bytes, std::size_t room, int file) {
+    while (bytes.count < room) {
+        const ssize_t count = pread(file, bytes.memory.get() + bytes.count, room - bytes.count,
+                                    static_cast<off_t>(bytes.count));
+        if (count <= 0) {
+            return count == 0;
+        }
+        bytes.count += static_cast<std::size_t>(count);
+    }
+    return true;
 }
 
 std::uint64_t pixelsByHeader(const std::string& path) {
@@ -43,13 +46,23 @@ std::optional<long long> regularFileSize(const std::string& path) {
                                             : std::nullopt;
 }
 
-ns::Data bytesOfFile(const std::string& path) {
+std::optional<FileBytes> readFile(const std::string& path) {
     const auto size = regularFileSize(path);
-    if (!size) {
-        return nullptr;
+    const auto room = static_cast<std::size_t>(size.value_or(0));
+    FileBytes bytes{{static_cast<char*>(std::malloc(room + 1)), &std::free}, 0};
+    const int file = size && bytes.memory ? open(path.c_str(), O_RDONLY | O_CLOEXEC) : -1;
+    const bool hasAll = file >= 0 && readTo(bytes, room, file);
+    close(file);
+    return hasAll ? std::optional(std::move(bytes)) : std::nullopt;
+}
+
+ns::Data bytesOfFile(const std::string& path) {
+    if (!isUtf8(path)) { // the platform's own reading takes texts only
+        const auto bytes = readFile(path);
+        return bytes ? ns::Data::from(bytes->view()) : ns::Data();
     }
-    return isUtf8(path) ? ns::Data::withContentsOfFile(ns::String::fromUtf8(path))
-                        : bytesOfAnyName(path, *size);
+    return regularFileSize(path) ? ns::Data::withContentsOfFile(ns::String::fromUtf8(path))
+                                 : ns::Data();
 }
 
 ui::Image imageOfFile(const std::string& path) {

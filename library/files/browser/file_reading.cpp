@@ -11,7 +11,7 @@
 namespace wentra::files {
 namespace {
 
-ns::String decoded(ns::Data bytes) {
+ns::String decoded(std::string_view bytes) {
     using enum ns::StringEncoding;
     for (const ns::StringEncoding encoding : {utf8, ascii, japaneseEuc}) {
         if (const auto text = ns::String::from(bytes, encoding); text) {
@@ -36,12 +36,14 @@ ns::Url urlOf(const std::string& path) {
 }
 
 ns::String textOfFile(ns::Url url) {
-    const ns::Data bytes = bytesOfFile(url.path().utf8());
+    auto bytes = readFile(url.path().utf8());
     if (!bytes) {
         ns::log("无法从中读取数据 " + ns::description(url).utf8());
         return nullptr;
     }
-    return decoded(bytes);
+    // Most texts are ASCII, which a string can keep as it has been read.
+    return isAscii(bytes->view()) ? ns::String::takingAscii(bytes->memory.release(), bytes->count)
+                                  : decoded(bytes->view());
 }
 
 } // namespace wentra::files
