@@ -101,8 +101,8 @@ const std::string& largeReport() {
     return report.path();
 }
 
-std::u16string textOf(const std::string& path) {
-    return wentra::files::textOfFile(wentra::files::urlOf(path)).utf16();
+ns::String textOf(const std::string& path) {
+    return wentra::files::textOfFile(wentra::files::urlOf(path));
 }
 
 /// Reading included.
@@ -119,7 +119,8 @@ void findLibraryLines(benchmark::State& state) {
 /// As the dialog does, of the text that it shows.
 void filterLines(benchmark::State& state, const analysis::LineFilter& filter) {
     bench::startPhone();
-    const std::u16string text = textOf(largeReport());
+    const objc::Pool pool;
+    const std::u16string text = textOf(largeReport()).utf16();
     for (auto _ : state) {
         benchmark::DoNotOptimize(analysis::filtered(text, filter));
     }

@@ -1,27 +1,28 @@
 // The lines of a crash report that name libraries.
 #pragma once
 
+#include "bindings/foundation/string.hpp"
 #include "library/analysis/system_libraries.hpp"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace wentra::analysis {
 
-/// Cleaned lines, each sort in the text's order.
+/// Cleaned lines, each sort in the text's order, a line feed behind each.
 struct LibraryLines {
-    std::vector<std::u16string> system;
-    std::vector<std::u16string> others;
+    std::u16string system;
+    std::u16string others;
 
-    /// All of them, the system's first.
-    [[nodiscard]] std::vector<std::u16string> all() const {
-        std::vector<std::u16string> lines = system;
-        lines.insert(lines.end(), others.begin(), others.end());
-        return lines;
-    }
+    /// Each of them without its end, the system's first; views of these texts.
+    [[nodiscard]] std::vector<std::u16string_view> all() const;
 };
 
-/// The lines of the text (ended by "\n" alone) that name a library or framework.
-[[nodiscard]] LibraryLines libraryLines(std::u16string_view text, SystemList list);
+/// Adds the lines of the text (ended by "\n" alone) that name a library or framework.
+void addLibraryLines(std::u16string_view text, SystemList list, LibraryLines& lines);
+
+/// Those of a whole text; none of nil.
+[[nodiscard]] LibraryLines libraryLines(ns::String text, SystemList list);
 
 } // namespace wentra::analysis

@@ -1,16 +1,13 @@
 // Puts the lines together.
 #include "library/analysis/messages.hpp"
 
+#include "library/common/occurrences.hpp"
+
 namespace wentra::analysis {
 
 Messages messagesOf(const LibraryLines& lines) {
-    Messages messages;
-    for (const std::u16string& line : lines.system) {
-        messages.system.append(line).append(u"\n");
-    }
-    for (const std::u16string& line : lines.others) {
-        messages.addOns.append(line).append(u"\n\n");
-    }
+    Messages messages{lines.system, lines.others};
+    replaceAll(messages.addOns, u"\n", u"\n\n");
     return messages;
 }
 

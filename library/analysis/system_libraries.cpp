@@ -164,25 +164,33 @@ bool endsWithOneOf(std::u16string_view text, Names names) {
                        [text](std::u16string_view name) { return text.ends_with(name); });
 }
 
-/// Whether one of the names stands in the line with the ending behind it.
-bool holdsOneOf(std::u16string_view line, Names names, std::u16string_view ending) {
-    for (std::size_t place = line.find(ending); place != line.npos;
-         place = line.find(ending, place + 1)) {
-        if (endsWithOneOf(line.substr(0, place), names)) {
-            return true;
-        }
+/// Whether the line names one of the list's libraries or frameworks at that dot, the name before
+/// it and its kind behind it.
+bool isNamedAt(std::u16string_view line, std::size_t dot, SystemList list) {
+    const std::u16string_view name = line.substr(0, dot);
+    const std::u16string_view kind = line.substr(dot);
+    if (kind.starts_with(u".dylib")) {
+        return endsWithOneOf(name, libraries) ||
+               (list == SystemList::reports && endsWithOneOf(name, furtherLibraries));
     }
-    return false;
+    return kind.starts_with(u".framework") && endsWithOneOf(name, frameworks);
+}
+
+bool isSystemPath(std::u16string_view path) {
+    return path.starts_with(u"/System/Library/PrivateFrameworks") ||
+           path.starts_with(u"/System/Library/Frameworks");
 }
 
 } // namespace
 
 bool isSystemLine(std::u16string_view line, SystemList list) {
-    return line.find(u"/System/Library/PrivateFrameworks") != line.npos ||
-           line.find(u"/System/Library/Frameworks") != line.npos ||
-           holdsOneOf(line, libraries, u".dylib") ||
-           (list == SystemList::reports && holdsOneOf(line, furtherLibraries, u".dylib")) ||
-           holdsOneOf(line, frameworks, u".framework");
+    for (std::size_t place = 0; place < line.size(); ++place) {
+        if ((line[place] == u'.' && isNamedAt(line, place, list)) ||
+            (line[place] == u'/' && isSystemPath(line.substr(place)))) {
+            return true;
+        }
+    }
+    return false;
 }
 
 } // namespace wentra::analysis

@@ -13,7 +13,7 @@ using namespace ns::literals;
 using analysis::SystemList;
 
 ns::Array ReportAnalysis::libraryLines(ns::String text) const {
-    return stringArray(analysis::libraryLines(text.utf16(), SystemList::reports).all());
+    return stringArray(analysis::libraryLines(text, SystemList::reports).all());
 }
 
 bool ReportAnalysis::isSystemLibrary(ns::String line) const {
@@ -25,7 +25,7 @@ void ReportAnalysis::analyse(objc::Object /*sender*/) {
     const ns::String text = selectedWords_.count() > 0
                                 ? selectedWords_.componentsJoined(u" "_ns)
                                 : ui::Pasteboard::generalPasteboard().string();
-    const auto lines = analysis::libraryLines(text.utf16(), SystemList::reports);
+    const auto lines = analysis::libraryLines(text, SystemList::reports);
     self().navigationController().push(
         analysis::DetailsViewController::with(analysis::messagesOf(lines)), animated);
     selectedWords_ = ns::MutableArray::make();

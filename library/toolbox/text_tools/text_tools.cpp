@@ -44,7 +44,7 @@ void TextTools::convert(objc::Object /*sender*/) {
 }
 
 ns::Array TextTools::libraryLines(ns::String text) const {
-    return stringArray(analysis::libraryLines(text.utf16(), SystemList::toolbox).all());
+    return stringArray(analysis::libraryLines(text, SystemList::toolbox).all());
 }
 
 bool TextTools::isSystemLibrary(ns::String line) const {
@@ -53,8 +53,7 @@ bool TextTools::isSystemLibrary(ns::String line) const {
 
 void TextTools::analyse(objc::Object /*sender*/) {
     constexpr bool animated = true;
-    const auto lines =
-        analysis::libraryLines(selection_.pickedOrCopied().utf16(), SystemList::toolbox);
+    const auto lines = analysis::libraryLines(selection_.pickedOrCopied(), SystemList::toolbox);
     const auto details = ui::NavigationController::withRoot(
         analysis::DetailsViewController::with(analysis::messagesOf(lines)));
     details.setModalPresentationStyle(ui::ModalPresentation::pageSheet);

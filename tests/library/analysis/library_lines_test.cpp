@@ -1,39 +1,64 @@
 // Which lines of a crash report name libraries, how they are cleaned, and whose libraries they are.
 #include "library/analysis/library_lines.hpp"
 
+#include "bindings/objc/pool.hpp"
+
 #include <gtest/gtest.h>
 
 namespace wentra::analysis {
 namespace {
 
-using LineTexts = std::vector<std::u16string>;
+LibraryLines linesOf(std::u16string_view text) {
+    LibraryLines lines;
+    addLibraryLines(text, SystemList::reports, lines);
+    return lines;
+}
 
 TEST(LibraryLines, AreSortedAndKeepTheirOrder) {
-    const LibraryLines lines = libraryLines(uR"(Incident
+    const LibraryLines lines = linesOf(uR"(Incident
   "path" : "\/var\/jb\/Library\/MobileSubstrate\/DynamicLibraries\/Odd.dylib",
   "path" : "\/usr\/lib\/libobjc.A.dylib",
   "name"   :   "Unheard.framework",
   "asi" : {"libsystem_c.dylib":["abort() called"]},UIKitCore.framework
-libsystem_m.dylib)",
-                                            SystemList::reports);
-    EXPECT_EQ(lines.system, (LineTexts{u"  路径 : \"/usr/lib/libobjc.A.dylib\",",
-                                       u"UIKitCore.framework", u"libsystem_m.dylib"}));
-    EXPECT_EQ(
-        lines.others,
-        (LineTexts{u"  路径 : \"/var/jb/Library/MobileSubstrate/DynamicLibraries/Odd.dylib\",",
-                   u"  名称：\"Unheard.framework\","}));
+libsystem_m.dylib)");
+    EXPECT_EQ(lines.system, u"  路径 : \"/usr/lib/libobjc.A.dylib\",\n"
+                            u"UIKitCore.framework\nlibsystem_m.dylib\n");
+    EXPECT_EQ(lines.others,
+              u"  路径 : \"/var/jb/Library/MobileSubstrate/DynamicLibraries/Odd.dylib\",\n"
+              u"  名称：\"Unheard.framework\",\n");
 }
 
 TEST(LibraryLines, EndAtLineFeedsOnly) {
-    EXPECT_EQ(libraryLines(u"a.dylib\r\nb\u2028c.dylib", SystemList::reports).others,
-              (LineTexts{u"a.dylib\r", u"b\u2028c.dylib"}));
-    EXPECT_TRUE(libraryLines(u"", SystemList::reports).others.empty());
+    EXPECT_EQ(linesOf(u"a.dylib\r\nb\u2028c.dylib").others, u"a.dylib\r\nb\u2028c.dylib\n");
+    EXPECT_TRUE(linesOf(u"").others.empty());
+}
+
+TEST(LibraryLines, AreGivenOneByOne) {
+    const LibraryLines lines{u"a.dylib\nb.dylib\n", u"\nc.dylib\n"};
+    EXPECT_EQ(lines.all(),
+              (std::vector<std::u16string_view>{u"a.dylib", u"b.dylib", u"", u"c.dylib"}));
+    EXPECT_TRUE(LibraryLines{}.all().empty());
+}
+
+TEST(LibraryLines, AreTheSameInTheBlocksOfALongText) {
+    const objc::Pool pool;
+    std::u16string text;
+    for (int line = 0; line < 5000; ++line) {
+        text +=
+            line % 3 == 0 ? u"\"path\" : \"\\/usr\\/lib\\/libxpc.dylib\",\n" : u"Odd.framework\n";
+    }
+    const LibraryLines whole = linesOf(text);
+    const LibraryLines inBlocks = libraryLines(ns::String::from(text), SystemList::reports);
+    EXPECT_TRUE(inBlocks.system == whole.system && inBlocks.others == whole.others);
+    EXPECT_EQ(inBlocks.all().size(), 5000U);
+    EXPECT_TRUE(libraryLines(nullptr, SystemList::reports).all().empty());
 }
 
 TEST(SystemLines, HoldANameAnywhere) {
     for (const std::u16string_view line :
          {u"0x1 libobjc.A.dylib 0x2", u"mylibz.1.dylib", u"libc++.1.dylib", u"TCC.framework",
-          u"Odd.dylib libxpc.dylib", u"ab/IDS.framework/x", u"systemhook.dylib",
+          u"Odd.dylib libxpc.dylib", u"ab/IDS.framework/x", u"a.b libxpc.dylib.c",
+          u"Odd.framework /System/Library/Frameworks/x", u"systemhook.dylib",
           u"/System/Library/Frameworks/Odd.framework",
           u"\"/System/Library/PrivateFrameworks/Odd.framework"}) {
         EXPECT_TRUE(isSystemLine(line, SystemList::toolbox)) << testing::PrintToString(line);
