@@ -8,12 +8,12 @@ namespace desktop::foundation {
 namespace {
 
 /// So many bytes are widened before anything is decided, which compilers turn into vectors.
-constexpr std::size_t blockSize = 64;
+constexpr std::size_t widenedBytes = 64;
 
 /// Whether they were all ASCII; what has been written does not count otherwise.
 bool widenBlock(const char* __restrict bytes, char16_t* __restrict units) {
     unsigned char seen = 0;
-    for (std::size_t index = 0; index < blockSize; ++index) {
+    for (std::size_t index = 0; index < widenedBytes; ++index) {
         const auto byte = static_cast<unsigned char>(bytes[index]);
         seen |= byte;
         units[index] = byte;
@@ -22,7 +22,7 @@ bool widenBlock(const char* __restrict bytes, char16_t* __restrict units) {
 }
 
 bool widen(std::string_view bytes, char16_t* units) {
-    for (; bytes.size() >= blockSize; bytes.remove_prefix(blockSize), units += blockSize) {
+    for (; bytes.size() >= widenedBytes; bytes.remove_prefix(widenedBytes), units += widenedBytes) {
         if (!widenBlock(bytes.data(), units)) {
             return false;
         }
