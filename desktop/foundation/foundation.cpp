@@ -30,6 +30,7 @@
 #include "desktop/foundation/url_resources.hpp"
 #include "desktop/foundation/url_session.hpp"
 #include "desktop/foundation/user_defaults.hpp"
+#include "desktop/runtime/side_table.hpp"
 
 #include "bindings/objc/pool.hpp"
 
@@ -37,6 +38,7 @@ namespace desktop::foundation {
 
 void install(const std::string& bundleIdentifier) {
     const objc::Pool pool;
+    SideTable::shared().watchDeaths();
     installStrings();
     installAsciiStrings();
     installStringTransforms();

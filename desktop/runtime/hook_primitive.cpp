@@ -15,7 +15,6 @@ void MSHookMessageEx(Class cls, SEL name, IMP replacement, IMP* former) {
     // GNU's class_replaceMethod would reach into the superclass that an inherited method belongs
     // to.
     if (class_addMethod(cls, name, replacement, method_getTypeEncoding(method)) == 0) {
-        method_setImplementation(method, replacement);
-        desktop::renewDispatchTables(cls);
+        desktop::setImplementation(cls, method, replacement);
     }
 }

@@ -95,7 +95,6 @@ void SideTable::forget(id object) {
     }
 }
 
-/// From the first entry on, every object that dies passes here.
 void SideTable::watchDeaths() {
     if (!std::exchange(watching_, true)) {
         watchClasses<"NSObject", "NSProxy">();

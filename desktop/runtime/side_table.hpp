@@ -47,11 +47,14 @@ public:
     /// The object's memory goes: what is known of it is forgotten.
     void forget(id object);
 
+    /// From now on every object that dies passes here; so it is from the first entry on at the
+    /// latest. Early in a process there are few dispatch tables to renew for it.
+    void watchDeaths();
+
 private:
     /// Objects share places here by their addresses.
     using Crowd = std::atomic<unsigned>;
     [[nodiscard]] Crowd& crowdOf(id object);
-    void watchDeaths();
 
     std::recursive_mutex mutex_;
     std::unordered_map<id, SideEntry> entries_;
