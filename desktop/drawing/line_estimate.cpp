@@ -5,13 +5,16 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <deque>
-#include <limits>
 #include <utility>
 #include <vector>
 
 namespace desktop {
 namespace {
+
+/// Widths are whole numbers of this part of a point: adding them up is exact, and quick.
+constexpr double unitsPerPoint = PANGO_SCALE;
 
 class CharacterWidths {
 public:
@@ -19,17 +22,17 @@ public:
 
     [[nodiscard]] const Font& font() const { return font_; }
 
-    double of(char16_t unit) {
-        float& width = widths_[unit];
-        if (std::isnan(width)) {
-            width = static_cast<float>(shaped(unit));
+    std::int64_t of(char16_t unit) {
+        std::int32_t& width = widths_[unit];
+        if (width == unknown) {
+            width = static_cast<std::int32_t>(std::lround(shaped(unit) * unitsPerPoint));
         }
         return width;
     }
 
 private:
     static constexpr std::size_t unitCount = 0x10000;
-    static constexpr float unknown = std::numeric_limits<float>::quiet_NaN();
+    static constexpr std::int32_t unknown = -1;
 
     /// A surrogate pair counts as the width of its first half, which is that of U+FFFD.
     [[nodiscard]] double shaped(char16_t unit) const {
@@ -42,7 +45,7 @@ private:
     }
 
     Font font_;
-    std::vector<float> widths_;
+    std::vector<std::int32_t> widths_;
 };
 
 /// Those of the fonts that were asked about last.
@@ -62,9 +65,10 @@ CharacterWidths& widthsIn(const Font& font) {
 /// Fills lines character by character.
 class Lines {
 public:
-    explicit Lines(double width) : room_(width) {}
+    explicit Lines(double width)
+        : width_(width), room_(static_cast<std::int64_t>(width * unitsPerPoint)) {}
 
-    void add(char16_t unit, double width) {
+    void add(char16_t unit, std::int64_t width) {
         if (unit == u'\n') {
             return end();
         }
@@ -81,7 +85,7 @@ public:
         if (isOpen_) {
             end();
         }
-        return estimate_;
+        return {lines_, std::min(static_cast<double>(widest_) / unitsPerPoint, width_)};
     }
 
 private:
@@ -90,24 +94,26 @@ private:
 
     /// The word that has no room moves down, unless it began with the line.
     void wrap() {
-        const double moved = word_ < line_ ? word_ : 0;
+        const std::int64_t moved = word_ < line_ ? word_ : 0;
         line_ -= moved;
         end();
         line_ = word_ = moved;
     }
 
     void end() {
-        ++estimate_.lines;
-        estimate_.width = std::max(estimate_.width, std::min(line_, room_));
+        ++lines_;
+        widest_ = std::max(widest_, line_);
         line_ = word_ = 0;
         isOpen_ = false;
     }
 
-    double room_;
-    double line_ = 0;
-    double word_ = 0;
+    double width_;
+    std::int64_t room_;
+    std::int64_t line_ = 0;
+    std::int64_t word_ = 0;
+    std::int64_t widest_ = 0;
+    std::size_t lines_ = 0;
     bool isOpen_ = false;
-    LineEstimate estimate_;
 };
 
 } // namespace
