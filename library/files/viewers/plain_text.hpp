@@ -13,7 +13,8 @@ namespace wentra::files {
     if (color) {
         attributes.set(color, ui::attributes::foregroundColor());
     }
-    return attributes;
+    // One that does not change is kept as it is, wherever text gets it.
+    return objc::Copied<ns::Dictionary>(attributes).autoreleased();
 }
 
 /// A copy of the view's text with these attributes; nothing else of its look is left.
