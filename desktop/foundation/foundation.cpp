@@ -3,6 +3,7 @@
 
 #include "desktop/foundation/application_folders.hpp"
 #include "desktop/foundation/ascii_string.hpp"
+#include "desktop/foundation/attributed_string.hpp"
 #include "desktop/foundation/base64.hpp"
 #include "desktop/foundation/bundle.hpp"
 #include "desktop/foundation/byte_count_formatter.hpp"
@@ -41,6 +42,7 @@ void install(const std::string& bundleIdentifier) {
     SideTable::shared().watchDeaths();
     installStrings();
     installAsciiStrings();
+    installAttributedStrings();
     installStringTransforms();
     installPercentEncoding();
     installByteCountFormatter();

@@ -1,8 +1,6 @@
 // The state of editing: what changes when text is written, erased, composed and selected.
 #include "desktop/uikit/text/text_input.hpp"
 
-#include "desktop/foundation/text.hpp"
-
 #include "bindings/uikit/menu_controller.hpp"
 #include "bindings/uikit/window.hpp"
 #include "desktop/drawing/text_boundaries.hpp"
@@ -114,19 +112,8 @@ void TextInput::edited(ns::Range former, unsigned long length) {
     view().setNeedsDisplay();
 }
 
-/// Foundation refuses a half of a surrogate pair here: what is taken back has U+FFFD in its place.
 ns::AttributedString TextInput::formerText(ns::Range range) const {
-    const auto former = ns::MutableAttributedString::make();
-    const unsigned long end = range.location + range.length;
-    for (unsigned long unit = range.location; unit < end;) {
-        ns::Range alike;
-        const ns::Dictionary attributes = storage_.attributesAt(unit, &alike);
-        const unsigned long next = std::min(alike.location + alike.length, end);
-        const auto part = ns::String::fromUtf8(toUtf8(plainUnits({unit, next - unit})));
-        former.append(ns::AttributedString::with(part, attributes));
-        unit = next;
-    }
-    return former;
+    return storage_.send<"attributedSubstringFromRange:", ns::AttributedString>(range);
 }
 
 /// Puts the text in place of the range; the caret goes behind it, and it is no composition.

@@ -40,21 +40,8 @@ void TextStorage::replace(ns::Range range, ns::String text) {
     tell(range, text.length());
 }
 
-/// Replacing would take each stretch of attributes by itself.
-bool TextStorage::takesOver(ns::AttributedString text) {
-    const auto copy = text.mutableCopy();
-    const bool isWhole = copy.length() == text.length(); // GNUstep loses half a surrogate pair
-    if (isWhole) {
-        text_ = copy;
-    }
-    return isWhole;
-}
-
 void TextStorage::replaceAttributed(ns::Range range, ns::AttributedString text) {
-    const ns::AttributedString whole = text ? text : ns::AttributedString::with(u""_ns);
-    if (range.length != text_.length() || !takesOver(whole)) {
-        text_.replace(range, whole);
-    }
+    text_.replace(range, text);
     tell(range, text.length());
 }
 

@@ -29,8 +29,6 @@ private:
     }
     void replace(ns::Range range, ns::String text);
     void replaceAttributed(ns::Range range, ns::AttributedString text);
-    /// Whether the text could be taken in place of all there was.
-    bool takesOver(ns::AttributedString text);
     void setAttributes(ns::Dictionary attributes, ns::Range range);
     /// Every edit is told at once, so there is nothing to gather.
     void gatherEdits() {}

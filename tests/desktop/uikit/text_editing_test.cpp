@@ -2,6 +2,8 @@
 #include "tests/desktop/uikit/text_fixture.hpp"
 
 #include "bindings/uikit/pasteboard.hpp"
+#include "desktop/foundation/attributed_string.hpp"
+#include "desktop/foundation/string.hpp"
 #include "desktop/uikit/events/first_responder.hpp"
 #include "desktop/uikit/keyboard/keyboard_input.hpp"
 
@@ -12,6 +14,11 @@ namespace keyboard = desktop::keyboard_input;
 
 class TextEditing : public tests::TextTest {
 protected:
+    static void SetUpTestSuite() {
+        TextTest::SetUpTestSuite();
+        desktop::foundation::installStrings();
+        desktop::foundation::installAttributedStrings();
+    }
     ui::TextInput input() { return ui::TextInput(view_); }
     std::string shown() { return view_.text().utf8(); }
     ns::Range selected() { return view_.selectedRange(); }
@@ -138,6 +145,8 @@ TEST_F(TextEditing, CharactersAreDeletedAsAWhole) {
     keyboard::erase();
     keyboard::erase();
     EXPECT_EQ(shown(), "a");
+    keyboard::undo();
+    EXPECT_EQ(view_.text().utf16(), lone);
 }
 
 TEST_F(TextEditing, WordsAreComposed) {
