@@ -4,7 +4,9 @@
 #include "library/analysis/line_cleaning.hpp"
 #include "library/analysis/lines_holding.hpp"
 #include "library/common/line_blocks.hpp"
+#include "library/common/text_search.hpp"
 
+#include <algorithm>
 #include <array>
 
 namespace wentra::analysis {
@@ -14,16 +16,29 @@ constexpr std::array libraryLineSteps{backslashes, nameKey, spacedColon, pathKey
 
 constexpr std::array<std::u16string_view, 2> libraryKinds{u".dylib", u".framework"};
 
-/// The text up to its first line feed, and that.
-std::u16string_view firstLine(std::u16string_view text) {
-    return text.substr(0, text.find(u'\n') + 1); // npos + 1 is nothing
+/// Hands over each line of a text that ends with one, with its line feed.
+template <class Visit>
+void forEachLine(std::u16string_view text, Visit visit) {
+    const TextSearch lineFeeds(text, u"\n");
+    for (std::size_t start = 0; start < text.size();) {
+        const std::size_t end = std::min(lineFeeds.next(start) + 1, text.size());
+        visit(text.substr(start, end - start));
+        start = end;
+    }
 }
 
-void addLines(std::u16string_view text, std::vector<std::u16string_view>& lines) {
-    while (!text.empty()) {
-        const std::u16string_view line = firstLine(text);
-        lines.push_back(line.substr(0, line.size() - 1));
-        text.remove_prefix(line.size());
+void addPiece(std::u16string_view text, std::vector<std::u16string>& pieces) {
+    if (!text.empty()) {
+        pieces.emplace_back(text);
+    }
+}
+
+void addLines(const std::vector<std::u16string>& pieces, std::vector<std::u16string_view>& lines) {
+    for (const std::u16string_view piece : pieces) {
+        forEachLine(piece, [&lines](std::u16string_view line) {
+            line.remove_suffix(1);
+            lines.push_back(line);
+        });
     }
 }
 
@@ -38,11 +53,13 @@ std::vector<std::u16string_view> LibraryLines::all() const {
 
 void addLibraryLines(std::u16string_view text, SystemList list, LibraryLines& lines) {
     const std::u16string clean = cleaned(linesHolding(text, libraryKinds), u"\n", libraryLineSteps);
-    for (std::u16string_view rest = clean; !rest.empty();) {
-        const std::u16string_view line = firstLine(rest);
-        (isSystemLine(line, list) ? lines.system : lines.others).append(line);
-        rest.remove_prefix(line.size());
-    }
+    std::u16string system;
+    std::u16string others;
+    forEachLine(clean, [&](std::u16string_view line) {
+        (isSystemLine(line, list) ? system : others).append(line);
+    });
+    addPiece(system, lines.system);
+    addPiece(others, lines.others);
 }
 
 LibraryLines libraryLines(ns::String text, SystemList list) {

@@ -10,10 +10,11 @@
 
 namespace wentra::analysis {
 
-/// Cleaned lines, each sort in the text's order, a line feed behind each.
+/// Cleaned lines, each sort in the text's order, a line feed behind each; in pieces of whole lines,
+/// since a text that grows is copied again and again.
 struct LibraryLines {
-    std::u16string system;
-    std::u16string others;
+    std::vector<std::u16string> system;
+    std::vector<std::u16string> others;
 
     /// Each of them without its end, the system's first; views of these texts.
     [[nodiscard]] std::vector<std::u16string_view> all() const;

@@ -34,6 +34,7 @@ std::vector<std::u16string_view> linesHolding(std::u16string_view text,
     for (const std::u16string_view fragment : fragments) {
         searches.emplace_back(text, fragment);
     }
+    const TextSearch lineFeeds(text, u"\n");
     std::vector<std::u16string_view> lines;
     for (;;) {
         const std::size_t place = std::ranges::min(searches, {}, &Fragment::place).place();
@@ -41,7 +42,7 @@ std::vector<std::u16string_view> linesHolding(std::u16string_view text,
             return lines;
         }
         const std::size_t start = text.rfind(u'\n', place) + 1; // npos + 1 is the text's start
-        const std::size_t end = std::min(text.find(u'\n', place), text.size());
+        const std::size_t end = lineFeeds.next(place);
         lines.push_back(text.substr(start, end - start));
         std::ranges::for_each(searches, [end](Fragment& search) { search.skipTo(end); });
     }

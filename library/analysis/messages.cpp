@@ -4,9 +4,20 @@
 #include "library/common/occurrences.hpp"
 
 namespace wentra::analysis {
+namespace {
+
+std::u16string joined(const std::vector<std::u16string>& pieces) {
+    std::u16string text;
+    for (const std::u16string& piece : pieces) {
+        text += piece;
+    }
+    return text;
+}
+
+} // namespace
 
 Messages messagesOf(const LibraryLines& lines) {
-    Messages messages{lines.system, lines.others};
+    Messages messages{joined(lines.system), joined(lines.others)};
     replaceAll(messages.addOns, u"\n", u"\n\n");
     return messages;
 }
