@@ -17,7 +17,7 @@ using desktop::estimateLines;
 using desktop::Font;
 using desktop::LineEstimate;
 
-constexpr double endless = std::numeric_limits<double>::infinity();
+constexpr double endlessWidth = std::numeric_limits<double>::infinity();
 
 /// Goes word by word: where one has no room, it begins a line, unless it stands at one's begin.
 LineEstimate slowEstimate(std::u16string_view text, const Font& font, double width) {
@@ -30,7 +30,7 @@ LineEstimate slowEstimate(std::u16string_view text, const Font& font, double wid
         estimate.width = std::max(estimate.width, std::min(line, room));
     };
     for (const char16_t unit : text) {
-        const double one = unit == u'\n' ? 0 : estimateLines({&unit, 1}, font, endless).width;
+        const double one = unit == u'\n' ? 0 : estimateLines({&unit, 1}, font, endlessWidth).width;
         const bool isBlank = unit == u' ' || unit == u'\t';
         if (unit == u'\n') {
             end();
@@ -64,7 +64,7 @@ TEST(LineEstimate, IsTheSumOfTheWidths) {
     for (int count = 0; count < 500; ++count) {
         const std::u16string text = someText(random);
         const Font font{.size = 9.0 + static_cast<double>(random() % 20)};
-        for (const double width : {0.3, 10.0, 77.77, 350.0, endless}) {
+        for (const double width : {0.3, 10.0, 77.77, 350.0, endlessWidth}) {
             const LineEstimate found = estimateLines(text, font, width);
             const LineEstimate expected = slowEstimate(text, font, width);
             ASSERT_EQ(found.lines, expected.lines) << count << " in " << width;
@@ -75,7 +75,7 @@ TEST(LineEstimate, IsTheSumOfTheWidths) {
 
 TEST(LineEstimate, EndsLinesAtTheExactWidth) {
     const Font font;
-    const double exact = estimateLines(u"aaaa", font, endless).width;
+    const double exact = estimateLines(u"aaaa", font, endlessWidth).width;
     EXPECT_EQ(estimateLines(u"aaaa aaaa", font, exact).lines, 2U);
     EXPECT_EQ(estimateLines(u"aaaa", font, exact).lines, 1U);
     EXPECT_EQ(estimateLines(u"aaaa", font, std::nextafter(exact, 0)).lines, 2U);

@@ -37,7 +37,7 @@ public:
 };
 
 /// The preference that shows the button.
-const Json shown{{"kqwzfc", true}};
+const Json buttonShown{{"kqwzfc", true}};
 
 TEST(FloatingButton, IsShownAndPlacedByPreference) {
     EXPECT_EQ(Toolbox(Json::object()).ball(), nullptr);
@@ -70,7 +70,7 @@ TEST(FloatingButton, GoesAfterFiveSecondsUnlessSomethingIsCopied) {
 }
 
 TEST(FloatingButton, FollowsTheFinger) {
-    Toolbox phone(shown);
+    Toolbox phone(buttonShown);
     const Json before = phone.ball()["frame"];
     phone.slide({{358, 222}, {300, 322}, {258, 422}});
     const Json after = phone.ball()["frame"];
@@ -79,7 +79,7 @@ TEST(FloatingButton, FollowsTheFinger) {
 }
 
 TEST(FloatingPanel, OpensAfterATapOnTheBall) {
-    Toolbox phone(shown);
+    Toolbox phone(buttonShown);
     phone.tap(phone.ball());
     phone.advance(0.3);
     EXPECT_EQ(phone.panel()["frame"], (Json{0, 60, 390, 610}));
@@ -97,7 +97,7 @@ TEST(FloatingPanel, OpensAfterATapOnTheBall) {
 }
 
 TEST(FloatingPanel, TakesTheHostsKeyboardAway) {
-    Toolbox phone(shown);
+    Toolbox phone(buttonShown);
     const Json field = phone.make("UITextField", {10, 600, 200, 30});
     phone.message(phone.window(), "addSubview:", {field});
     phone.message(field, "becomeFirstResponder");
@@ -107,7 +107,7 @@ TEST(FloatingPanel, TakesTheHostsKeyboardAway) {
 }
 
 TEST(FloatingPanel, WaitsThreeTenthsOfASecond) {
-    Toolbox phone(shown);
+    Toolbox phone(buttonShown);
     phone.result({{"do", "tap"}, {"on", phone.ball()}});
     phone.advance(0.29);
     EXPECT_EQ(phone.panel(), nullptr);
@@ -138,7 +138,7 @@ TEST(FloatingPanel, StaysOpenOnDemandWithoutTheBall) {
 }
 
 TEST(FloatingPanel, IsDraggedOnlyOnDemand) {
-    Toolbox phone(shown);
+    Toolbox phone(buttonShown);
     phone.openPanel();
     const Json path{{4, 650}, {4, 600}, {4, 550}};
     phone.slide(path);
@@ -149,7 +149,7 @@ TEST(FloatingPanel, IsDraggedOnlyOnDemand) {
 }
 
 TEST(FloatingPanel, TakesOverWhatIsCopied) {
-    Toolbox phone(shown);
+    Toolbox phone(buttonShown);
     phone.copy("Hello, 世界!");
     EXPECT_EQ(phone.panel(), nullptr) << "it opens by itself on demand only";
     phone.openPanel();
