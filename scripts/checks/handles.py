@@ -12,8 +12,9 @@ from pathlib import Path
 FOLDERS = ["bindings", "library", "desktop", "tests", "bench"]
 PREFIX = re.compile(r"^_?(AV|CA|MF|NS|PS|RP|SF|UI|WK)(?=[A-Z])")
 HANDLE = re.compile(r'struct (\w+)\s*: objc::Kind<\s*\w+,\s*"([^"]+)"')
-# What UIKit keeps to itself: these handles stand beside the desktop's own make of the class.
+# What the frameworks keep to themselves: these handles stand beside the desktop's own make of the class.
 INTERNAL = {
+    "NSConcreteAttributedString", "NSConcreteMutableAttributedString",
     "UICalloutBar", "UIDimmingView", "UIDropShadowView", "UIKeyboardView", "UILayoutContainerView",
     "UIPickerColumnView",
     "UIScrollViewPanGestureRecognizer", "UITextEffectsWindow", "UITextFieldClearButton",
