@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <span>
 
 namespace wentra::analysis {
@@ -184,9 +185,13 @@ bool isSystemPath(std::u16string_view path) {
 } // namespace
 
 bool isSystemLine(std::u16string_view line, SystemList list) {
-    for (std::size_t place = 0; place < line.size(); ++place) {
-        if ((line[place] == u'.' && isNamedAt(line, place, list)) ||
-            (line[place] == u'/' && isSystemPath(line.substr(place)))) {
+    for (std::size_t place = 0; place + 1 < line.size(); ++place) {
+        const char16_t unit = line[place];
+        // Lines are full of slashes: one comparison of both units foresees more than two.
+        const std::uint32_t pair = std::uint32_t{unit} << 16U | line[place + 1];
+        constexpr std::uint32_t pathStart = std::uint32_t{u'/'} << 16U | u'S';
+        if ((unit == u'.' && isNamedAt(line, place, list)) ||
+            (pair == pathStart && isSystemPath(line.substr(place)))) {
             return true;
         }
     }

@@ -40,12 +40,22 @@ public:
 
     /// The bits in which the text differs from them at that place and the seven behind it.
     [[nodiscard]] UnitVector differences(std::size_t place) const {
-        return ((unitsAt(starts_ + place) | firstCase_) ^ first_) |
-               ((unitsAt(ends_ + place) | lastCase_) ^ last_);
+        return startDifferences(place) | ((unitsAt(ends_ + place) | lastCase_) ^ last_);
     }
 
-    /// Whether they stand at one of those places or the 24 behind.
+    /// Whether they stand at one of those places or the 24 behind. Many texts' first unit is rare
+    /// enough to be looked for alone.
     [[nodiscard]] bool mayStandIn(std::size_t place) const {
+        return hasZero(place, [this](std::size_t at) { return startDifferences(at); }) &&
+               hasZero(place, [this](std::size_t at) { return differences(at); });
+    }
+
+private:
+    [[nodiscard]] UnitVector startDifferences(std::size_t place) const {
+        return (unitsAt(starts_ + place) | firstCase_) ^ first_;
+    }
+    template <class Differences>
+    static bool hasZero(std::size_t place, Differences differences) {
         constexpr std::size_t size = unitVectorSize;
         const auto found = (differences(place) == 0) | (differences(place + size) == 0) |
                            (differences(place + 2 * size) == 0) |
@@ -54,7 +64,6 @@ public:
         return (low | high) != 0;
     }
 
-private:
     const char16_t* starts_;
     const char16_t* ends_;
     UnitVector first_;
