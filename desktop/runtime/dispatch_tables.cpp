@@ -3,17 +3,8 @@
 
 #include "desktop/runtime/runtime_structures.hpp"
 
-#include <cstdint>
-
 namespace desktop {
 namespace {
-
-/// The runtime numbers its tables' places by bucket, in the lower half, and place in the bucket.
-std::size_t placeOf(SEL name) {
-    constexpr std::size_t bucketSize = 32;
-    constexpr unsigned half = 32;
-    return static_cast<std::uint32_t>(name->number) * bucketSize + (name->number >> half);
-}
 
 /// A class without a table gets it at its first message; one that is being initialised has a table
 /// that only the runtime knows. A table that has been copied cannot grow.

@@ -3,6 +3,9 @@
 
 #include "bindings/objc/runtime.hpp"
 
+#include <cstddef>
+#include <cstdint>
+
 namespace desktop {
 
 struct MethodList;
@@ -56,6 +59,13 @@ struct MethodList {
 
     objc_method* methods() { return reinterpret_cast<objc_method*>(this + 1); }
 };
+
+/// The runtime numbers its tables' places by bucket, in the lower half, and place in the bucket.
+inline std::size_t placeOf(SEL name) {
+    constexpr std::size_t bucketSize = 32;
+    constexpr unsigned half = 32;
+    return static_cast<std::uint32_t>(name->number) * bucketSize + (name->number >> half);
+}
 
 /// Bits of `objc_class::info`.
 namespace info {
