@@ -5,18 +5,29 @@
 #include "bindings/objc/class_list.hpp"
 #include "library/common/fixed_point.hpp"
 
+#include <cstring>
+
 namespace wentra::utilities {
 namespace {
 
+/// The name and a line feed, at once: a dump has thousands of lines.
+void appendLine(std::string& text, const char* name) {
+    const std::size_t place = text.size();
+    const std::size_t length = std::strlen(name);
+    text.resize(place + length + 1, '\n');
+    std::memcpy(text.data() + place, name, length);
+}
+
 void appendClass(Class cls, std::string& text) {
-    text.append(class_getName(cls)).append("\n");
+    appendLine(text, class_getName(cls));
     objc::forEachProperty(
-        cls, [&text](const char* name) { text.append("\t@property ").append(name).append("\n"); });
+        cls, [&text](const char* name) { appendLine(text.append("\t@property "), name); });
     objc::forEachMethod(cls, [&text](SEL selector) {
-        text.append("\t").append(sel_getName(selector)).append("\n");
+        text.push_back('\t');
+        appendLine(text, sel_getName(selector));
     });
     if (const Class superclass = class_getSuperclass(cls); superclass != nullptr) {
-        text.append("\t@superclass ").append(class_getName(superclass)).append("\n");
+        appendLine(text.append("\t@superclass "), class_getName(superclass));
     }
 }
 
