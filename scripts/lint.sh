@@ -44,8 +44,10 @@ tidy_library() {
     describe build/lint-joined 20
     mapfile -t joined < <(sed -En 's/^ *"file": "(.*)",?$/\1/p' build/lint-joined/compile_commands.json |
         grep -E "^$PWD/(build/lint-joined/)?(bindings|library)/")
-    tidy build/lint-joined '-clang-analyzer-*,-bugprone-suspicious-include' "${joined[@]}" &&
-        tidy build/lint '-*,misc-unused-alias-decls' "${sources[@]}"
+    local failed=0
+    tidy build/lint-joined '-clang-analyzer-*,-bugprone-suspicious-include' "${joined[@]}" || failed=1
+    tidy build/lint '-*,misc-unused-alias-decls,misc-unused-using-decls' "${sources[@]}" || failed=1
+    return "$failed"
 }
 
 scripts/install.sh build format lint

@@ -4,6 +4,8 @@
 #include "library/common/text_encoding.hpp"
 #include "library/files/image_header.hpp"
 
+#include <algorithm>
+#include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -14,9 +16,14 @@ namespace {
 
 /// Whether the file could be read, up to its end or that many bytes.
 bool readTo(FileBytes& bytes, std::size_t room, int file) {
+    constexpr std::size_t most = 1U << 30U; // phones refuse what an int cannot tell
     while (bytes.count < room) {
-        const ssize_t count = pread(file, bytes.memory.get() + bytes.count, room - bytes.count,
-                                    static_cast<off_t>(bytes.count));
+        const ssize_t count =
+            pread(file, bytes.memory.get() + bytes.count, std::min(room - bytes.count, most),
+                  static_cast<off_t>(bytes.count));
+        if (count < 0 && errno == EINTR) {
+            continue;
+        }
         if (count <= 0) {
             return count == 0;
         }
@@ -47,10 +54,11 @@ std::optional<long long> regularFileSize(const std::string& path) {
 }
 
 std::optional<FileBytes> readFile(const std::string& path) {
+    constexpr int reading = O_RDONLY | O_CLOEXEC | O_NONBLOCK; // a pipe may have taken its place
     const auto size = regularFileSize(path);
     const auto room = static_cast<std::size_t>(size.value_or(0));
     FileBytes bytes{{static_cast<char*>(std::malloc(room + 1)), &std::free}, 0};
-    const int file = size && bytes.memory ? open(path.c_str(), O_RDONLY | O_CLOEXEC) : -1;
+    const int file = size && bytes.memory ? open(path.c_str(), reading) : -1;
     const bool hasAll = file >= 0 && readTo(bytes, room, file);
     close(file);
     return hasAll ? std::optional(std::move(bytes)) : std::nullopt;

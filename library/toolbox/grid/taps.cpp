@@ -9,7 +9,7 @@ namespace {
 
 using namespace ns::literals;
 
-constexpr bool animated = false;
+constexpr bool notAnimated = false;
 
 /// The paths of all items of all sections. Any thread.
 ns::MutableArray allPaths(ui::CollectionView grid) {
@@ -61,7 +61,7 @@ void Taps::pickAll(ns::Array paths) {
         const auto path = each.assume<ns::IndexPath>();
         // The text may have become shorter since the paths were collected.
         if (tiles_.tokenAt(path)) {
-            tiles_.view().selectItem(path, animated, withoutScrolling);
+            tiles_.view().selectItem(path, notAnimated, withoutScrolling);
             selection_.pick(path, PickedBy::tap);
         }
     }
@@ -71,7 +71,7 @@ void Taps::unpickAll(ns::Array paths) {
     const ui::CollectionView grid = tiles_.view();
     grid.setDelegate(nullptr);
     for (const objc::Object path : paths) {
-        grid.deselectItem(path.assume<ns::IndexPath>(), animated);
+        grid.deselectItem(path.assume<ns::IndexPath>(), notAnimated);
     }
     grid.setDelegate(self());
     selection_.unpickAll(paths);
