@@ -58,15 +58,27 @@ void AttributeRuns::set(ns::Dictionary attributes, ns::Range range) {
     if (range.length == 0) {
         return;
     }
+    const ns::Dictionary kept = keep(attributes);
     const auto [first, end] = isolate(range);
-    runs_[end - 1].attributes = keep(attributes);
+    runs_[end - 1].attributes = kept;
     runs_.erase(place(first), place(end - 1));
     join(std::max<std::size_t>(first, 1) - 1, std::min(first + 2, runs_.size()));
     forgetUnused();
 }
 
+void AttributeRuns::adopt(AttributeRuns& other, ns::Range range) {
+    if (range.length < length()) {
+        for (Run& run : other.runs_) {
+            run.attributes = keep(run.attributes);
+        }
+    }
+}
+
 void AttributeRuns::replace(ns::Range range, AttributeRuns other) {
     if (range.length == length()) {
+        for (const objc::Strong<ns::Dictionary>& one : kept_) {
+            static_cast<void>(one.autoreleased()); // who has just asked for it may look at it
+        }
         *this = std::move(other);
         return;
     }
@@ -74,7 +86,7 @@ void AttributeRuns::replace(ns::Range range, AttributeRuns other) {
     const std::size_t more = other.length() - range.length; // may wrap: it is added again
     std::for_each(place(end), runs_.end(), [more](Run& run) { run.end += more; });
     for (Run& run : other.runs_) {
-        run = {run.end + range.location, keep(run.attributes)};
+        run.end += range.location;
     }
     runs_.insert(runs_.erase(place(first), place(end)), other.runs_.begin(), other.runs_.end());
     join(std::max<std::size_t>(first, 1) - 1,
@@ -84,15 +96,23 @@ void AttributeRuns::replace(ns::Range range, AttributeRuns other) {
 
 void AttributeRuns::change(
     ns::Range range, const std::function<objc::Strong<ns::Dictionary>(ns::Dictionary)>& changed) {
+    if (range.length == 0) {
+        return;
+    }
+    std::unordered_map<id, ns::Dictionary> later;
+    for (std::size_t index = indexOf(range.location);
+         index < runs_.size() && startOf(index) < range.location + range.length; ++index) {
+        later.try_emplace(runs_[index].attributes.raw());
+    }
+    // Applications' objects are asked, and may raise, before anything changes.
+    for (auto& [former, attributes] : later) {
+        attributes = keep(changed(objc::wrap<ns::Dictionary>(former)));
+    }
     const auto [first, end] = isolate(range);
-    std::unordered_map<id, ns::Dictionary> known;
     for (std::size_t index = first; index < end; ++index) {
-        ns::Dictionary& attributes = runs_[index].attributes;
-        const auto [entry, isNew] = known.try_emplace(attributes.raw());
-        if (isNew) {
-            entry->second = keep(changed(attributes));
+        if (const auto found = later.find(runs_[index].attributes.raw()); found != later.end()) {
+            runs_[index].attributes = found->second;
         }
-        attributes = entry->second;
     }
     join(std::max<std::size_t>(first, 1) - 1, std::min(end + 1, runs_.size()));
     forgetUnused();

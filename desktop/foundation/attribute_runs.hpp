@@ -33,6 +33,10 @@ public:
 
     void append(ns::Dictionary attributes, std::size_t length);
     void set(ns::Dictionary attributes, ns::Range range);
+    /// Makes the attributes of runs that will replace the range those of this text, for which
+    /// objects are compared, which may raise.
+    void adopt(AttributeRuns& other, ns::Range range);
+    /// By runs that have been adopted.
     void replace(ns::Range range, AttributeRuns other);
     /// Asks once for each dictionary of the range what shall be in its place.
     void change(ns::Range range,

@@ -91,18 +91,22 @@ void AttributedText::write(ns::Range range, ns::String text) {
         editable.append(string());
         string_ = editable;
     }
-    string_.send<"replaceCharactersInRange:withString:">(range, text);
+    const bool isItself = text.raw() == string_.raw();
+    const auto written = isItself ? objc::Copied<ns::String>(text) : objc::Strong<ns::String>(text);
+    string_.send<"replaceCharactersInRange:withString:">(range, written);
 }
 
 void AttributedText::replace(ns::Range range, ns::String text) {
     check(range);
     AttributeRuns runs(runs_.inheritedBy(range), text.length());
+    runs_.adopt(runs, range);
     write(range, text ? text : u""_ns);
     runs_.replace(range, std::move(runs));
 }
 
 void AttributedText::replace(ns::Range range, AttributedText text) {
     check(range);
+    runs_.adopt(text.runs_, range);
     write(range, text.string());
     runs_.replace(range, std::move(text.runs_));
 }

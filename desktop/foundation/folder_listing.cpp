@@ -22,11 +22,14 @@ namespace {
 
 class Folder {
 public:
-    explicit Folder(ns::Url url) : Folder(url.path().utf8()) {}
+    explicit Folder(ns::Url url) : Folder(filePath(url)) {}
 
     explicit operator bool() const { return entries_ != nullptr; }
-    /// Null after the last one.
-    [[nodiscard]] const dirent* next() const { return readdir(entries_.get()); }
+    /// Null after the last one, and where reading fails, of which errno tells.
+    [[nodiscard]] const dirent* next() const {
+        errno = 0;
+        return readdir(entries_.get());
+    }
     [[nodiscard]] ns::Url urlOf(const dirent& entry) const {
         return urlWithText(url_ + percentEncodedPath(entry.d_name) + (isFolder(entry) ? "/" : ""));
     }
@@ -72,6 +75,10 @@ ns::ArrayOf<ns::Url> list(Lister, ns::FileManager, ns::Url url, ns::ArrayOf<ns::
         if (isListed(entry->d_name, options)) {
             urls.add(folder.urlOf(*entry));
         }
+    }
+    if (errno != 0) {
+        report(error, errno);
+        return nullptr;
     }
     return urls.assume<ns::ArrayOf<ns::Url>>();
 }

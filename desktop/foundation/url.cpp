@@ -103,6 +103,10 @@ void installUrls() {
 
 std::string fileUrlText(std::string_view path) { return "file://" + percentEncodedPath(path); }
 
+std::string filePath(ns::Url url) {
+    return url.send<"isFileURL", bool>() ? url.path().utf8() : std::string();
+}
+
 ns::Url urlWithText(std::string_view text) {
     return made(ns::Url::sendClass<"alloc", ns::Url>(), ns::String::fromUtf8(text));
 }

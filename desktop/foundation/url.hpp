@@ -16,6 +16,9 @@ void installUrls();
 /// The text of the URL of the file at an absolute path (UTF-8).
 [[nodiscard]] std::string fileUrlText(std::string_view path);
 
+/// The path of a file's URL (UTF-8); empty for others and nil.
+[[nodiscard]] std::string filePath(ns::Url url);
+
 /// The URL of that text (UTF-8), autoreleased; nil when it is none.
 [[nodiscard]] ns::Url urlWithText(std::string_view text);
 

@@ -7,6 +7,7 @@
 #include "desktop/foundation/error_encoding.hpp"
 #include "desktop/foundation/file_dates.hpp"
 #include "desktop/foundation/file_error.hpp"
+#include "desktop/foundation/url.hpp"
 
 #include <cerrno>
 
@@ -16,7 +17,7 @@ namespace {
 using Keys = ns::ArrayOf<ns::String>;
 
 ns::Dictionary resourceValues(ns::Url url, Keys keys, id* error) {
-    const auto created = creationDate(url.path().utf8());
+    const auto created = creationDate(filePath(url));
     if (!created) {
         report(error, errno);
         return nullptr;

@@ -302,6 +302,34 @@ TEST_F(AttributedStrings, AreNotTouchedByWhatBecomesOfTheirParts) {
     EXPECT_EQ(unitsOf(text), (Units{{u'a', {}}, {u'b', {{u"colour", u"red"}}}}));
 }
 
+TEST_F(AttributedStrings, CanBeWrittenIntoThemselves) {
+    const auto red = ns::Dictionary::withObject(u"red"_ns, u"colour"_ns);
+    for (const ns::Range range : {ns::Range{0, 0}, {1, 1}, {3, 0}, {0, 3}, {2, 1}}) {
+        const auto text = ns::MutableAttributedString::make<"initWithString:">(u"abc"_ns);
+        text.setAttributes(red, {1, 2});
+        text.append(ns::AttributedString::with(u""_ns)); // its string is one that changes
+        Units model = unitsOf(text);
+        const Units former = model;
+        const auto start = model.begin() + static_cast<std::ptrdiff_t>(range.location);
+        model.insert(model.erase(start, start + static_cast<std::ptrdiff_t>(range.length)),
+                     former.begin(), former.end());
+        text.replace(range, ns::AttributedString(text));
+        EXPECT_EQ(unitsOf(text), model) << range.location;
+        const std::u16string whole = text.string().utf16();
+        text.replace(range, text.string());
+        EXPECT_EQ(text.string().utf16(),
+                  std::u16string(whole).replace(range.location, range.length, whole));
+    }
+}
+
+TEST_F(AttributedStrings, LendAttributesUntilThePoolEnds) {
+    const auto text = ns::MutableAttributedString::make<"initWithString:">(u"abc"_ns);
+    text.setAttributes(dictionaryOf({{u"colour", u"red"}}), {0, 3});
+    const ns::Dictionary lent = text.attributesAt(1);
+    text.replace({0, 3}, ns::AttributedString::with(u"d"_ns));
+    EXPECT_EQ(attributesOf(lent), (Attributes{{u"colour", u"red"}}));
+}
+
 TEST_F(AttributedStrings, TellStretchesAsLongAsTheyAre) {
     const auto red = ns::Dictionary::withObject(u"red"_ns, u"colour"_ns);
     const auto text = ns::MutableAttributedString::make<"initWithString:">(u"abcdef"_ns);

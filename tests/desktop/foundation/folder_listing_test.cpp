@@ -78,6 +78,10 @@ TEST_F(FolderListing, TellsWhyThereIsNone) {
     const auto [urls, error] = list("gone", 0);
     EXPECT_FALSE(urls);
     EXPECT_EQ((error.send<"code", long>()), noSuchFile);
+    const auto elsewhere = urlWithText("http://a.example" + folder.path().string());
+    EXPECT_TRUE(
+        ns::FileManager::defaultManager().contentsOfDirectory(elsewhere, nullptr, {}).error);
+    EXPECT_TRUE(elsewhere.resourceValues(nullptr).error);
     const auto nothing =
         ns::FileManager::defaultManager().contentsOfDirectory(nullptr, nullptr, {});
     EXPECT_FALSE(nothing.value);
