@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 #include <thread>
-#include <vector>
 
 extern "C" SEL sel_registerTypedName(const char* name, const char* types);
 
@@ -23,9 +23,9 @@ TEST(SelectorNames, AreThoseOfRegistration) {
 }
 
 TEST(SelectorNames, CanBeAskedForByManyThreadsAtOnce) {
-    std::vector<std::thread> threads;
-    for (int thread = 0; thread < 4; ++thread) {
-        threads.emplace_back([] {
+    std::array<std::thread, 4> threads;
+    for (std::thread& thread : threads) {
+        thread = std::thread([] {
             for (int number = 0; number < 5000; ++number) {
                 const std::string name = "shared" + std::to_string(number);
                 EXPECT_EQ(sel_getName(sel_registerName(name.c_str())), name);
