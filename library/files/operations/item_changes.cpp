@@ -109,13 +109,14 @@ Failure exchange(const std::string& from, const std::string& to) {
     return failure == 0 ? removeItem(from) : failure;
 }
 
-/// Puts an entry of the same volume in its place, over what is there.
+/// Puts an entry of the same volume in its place, over what is there. Whether something is there
+/// is known by trying only: another copy may come first.
 Failure place(const std::string& from, const std::string& to) {
+    if (const Failure failure = settle(from, to); failure != EEXIST) {
+        return failure;
+    }
     const auto moved = statusOf(from);
     const auto former = statusOf(to);
-    if (!former) {
-        return settle(from, to);
-    }
     // Renaming does nothing for two names of one file.
     if (isFolder(moved) || isFolder(former) || areSame(moved, former)) {
         return exchange(from, to);

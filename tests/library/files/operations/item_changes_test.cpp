@@ -8,6 +8,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <future>
 #include <unistd.h>
 
 namespace {
@@ -93,6 +94,21 @@ TEST_F(ItemChanges, ReplacesFilesAndFoldersByOneAnother) {
             }
         }
     }
+}
+
+TEST_F(ItemChanges, ReplaceWhatAnotherCopyPutThereMeanwhile) {
+    folder.write("file", "whole");
+    folder.write("tree/inner", "whole");
+    for (int round = 0; round != 100; ++round) {
+        for (const char* source : {"file", "tree"}) {
+            const auto copy = [&] { return replaceByCopy(at(source), at("copy")); };
+            auto other = std::async(std::launch::async, copy);
+            EXPECT_EQ(copy(), 0);
+            EXPECT_EQ(other.get(), 0);
+            EXPECT_EQ(removeItem(at("copy")), 0);
+        }
+    }
+    EXPECT_EQ(names(), (std::set<std::string>{"file", "tree"}));
 }
 
 TEST_F(ItemChanges, LeavesAloneWhatWouldReplaceItself) {
