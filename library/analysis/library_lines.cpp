@@ -14,15 +14,18 @@ namespace {
 
 constexpr std::array libraryLineSteps{backslashes, nameKey, spacedColon, pathKey, abortNote};
 
-constexpr std::array<std::u16string_view, 2> libraryKinds{u".dylib", u".framework"};
+/// Whether a library's or framework's name ends where the text begins.
+bool isLibraryKind(std::u16string_view text) {
+    return text.starts_with(u".dylib") || text.starts_with(u".framework");
+}
 
-/// Hands over each line of a text that ends with one, with its line feed.
+/// Hands over where each line of a text that ends with one starts, and where the next does.
 template <class Visit>
 void forEachLine(std::u16string_view text, Visit visit) {
     const TextSearch lineFeeds(text, u"\n");
     for (std::size_t start = 0; start < text.size();) {
         const std::size_t end = std::min(lineFeeds.next(start) + 1, text.size());
-        visit(text.substr(start, end - start));
+        visit(start, end);
         start = end;
     }
 }
@@ -35,9 +38,8 @@ void addPiece(std::u16string_view text, std::vector<std::u16string>& pieces) {
 
 void addLines(const std::vector<std::u16string>& pieces, std::vector<std::u16string_view>& lines) {
     for (const std::u16string_view piece : pieces) {
-        forEachLine(piece, [&lines](std::u16string_view line) {
-            line.remove_suffix(1);
-            lines.push_back(line);
+        forEachLine(piece, [&](std::size_t start, std::size_t end) {
+            lines.push_back(piece.substr(start, end - 1 - start));
         });
     }
 }
@@ -52,11 +54,13 @@ std::vector<std::u16string_view> LibraryLines::all() const {
 }
 
 void addLibraryLines(std::u16string_view text, SystemList list, LibraryLines& lines) {
-    const std::u16string clean = cleaned(linesHolding(text, libraryKinds), u"\n", libraryLineSteps);
+    const std::u16string clean =
+        cleaned(linesWhere(text, u".", &isLibraryKind), u"\n", libraryLineSteps);
     std::u16string system;
     std::u16string others;
-    forEachLine(clean, [&](std::u16string_view line) {
-        (isSystemLine(line, list) ? system : others).append(line);
+    SystemNames names(clean, list);
+    forEachLine(clean, [&](std::size_t start, std::size_t end) {
+        (names.standIn(start, end) ? system : others).append(clean, start, end - start);
     });
     addPiece(system, lines.system);
     addPiece(others, lines.others);

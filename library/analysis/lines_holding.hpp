@@ -12,4 +12,10 @@ namespace wentra::analysis {
 [[nodiscard]] std::vector<std::u16string_view>
 linesHolding(std::u16string_view text, std::span<const std::u16string_view> fragments);
 
+/// The lines in which one fragment, which holds no line feed, stands at a place that is accepted by
+/// the text from there on.
+[[nodiscard]] std::vector<std::u16string_view> linesWhere(std::u16string_view text,
+                                                          std::u16string_view fragment,
+                                                          bool (*accept)(std::u16string_view rest));
+
 } // namespace wentra::analysis

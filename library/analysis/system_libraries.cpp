@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
 #include <span>
 
 namespace wentra::analysis {
@@ -165,11 +164,11 @@ bool endsWithOneOf(std::u16string_view text, Names names) {
                        [text](std::u16string_view name) { return text.ends_with(name); });
 }
 
-/// Whether the line names one of the list's libraries or frameworks at that dot, the name before
+/// Whether the text names one of the list's libraries or frameworks at that dot, the name before
 /// it and its kind behind it.
-bool isNamedAt(std::u16string_view line, std::size_t dot, SystemList list) {
-    const std::u16string_view name = line.substr(0, dot);
-    const std::u16string_view kind = line.substr(dot);
+bool isNamedAt(std::u16string_view text, std::size_t dot, SystemList list) {
+    const std::u16string_view name = text.substr(0, dot);
+    const std::u16string_view kind = text.substr(dot);
     if (kind.starts_with(u".dylib")) {
         return endsWithOneOf(name, libraries) ||
                (list == SystemList::reports && endsWithOneOf(name, furtherLibraries));
@@ -177,25 +176,38 @@ bool isNamedAt(std::u16string_view line, std::size_t dot, SystemList list) {
     return kind.starts_with(u".framework") && endsWithOneOf(name, frameworks);
 }
 
-bool isSystemPath(std::u16string_view path) {
-    return path.starts_with(u"/System/Library/PrivateFrameworks") ||
-           path.starts_with(u"/System/Library/Frameworks");
+constexpr std::u16string_view systemFolder = u"/System/Library/";
+
+bool isFrameworkPath(std::u16string_view path) {
+    path.remove_prefix(systemFolder.size());
+    return path.starts_with(u"PrivateFrameworks") || path.starts_with(u"Frameworks");
 }
 
-} // namespace
-
-bool isSystemLine(std::u16string_view line, SystemList list) {
-    for (std::size_t place = 0; place + 1 < line.size(); ++place) {
-        const char16_t unit = line[place];
-        // Lines are full of slashes: one comparison of both units foresees more than two.
-        const std::uint32_t pair = std::uint32_t{unit} << 16U | line[place + 1];
-        constexpr std::uint32_t pathStart = std::uint32_t{u'/'} << 16U | u'S';
-        if ((unit == u'.' && isNamedAt(line, place, list)) ||
-            (pair == pathStart && isSystemPath(line.substr(place)))) {
+/// Whether what is sought stands somewhere between those bounds as it has to.
+template <class Accept>
+bool standsIn(SearchAhead& sought, std::size_t start, std::size_t end, Accept accept) {
+    for (sought.skipTo(start); sought.place() < end; sought.skipTo(sought.place() + 1)) {
+        if (accept(sought.place())) {
             return true;
         }
     }
     return false;
+}
+
+} // namespace
+
+SystemNames::SystemNames(std::u16string_view text, SystemList list)
+    : text_(text), list_(list), dots_(text, u"."), paths_(text, systemFolder) {}
+
+bool SystemNames::standIn(std::size_t start, std::size_t end) {
+    return standsIn(dots_, start, end,
+                    [this](std::size_t dot) { return isNamedAt(text_, dot, list_); }) ||
+           standsIn(paths_, start, end,
+                    [this](std::size_t path) { return isFrameworkPath(text_.substr(path)); });
+}
+
+bool isSystemLine(std::u16string_view line, SystemList list) {
+    return SystemNames(line, list).standIn(0, line.size());
 }
 
 } // namespace wentra::analysis

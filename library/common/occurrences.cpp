@@ -1,6 +1,9 @@
-// One search for the places, one copy for the replacing.
+// One way through the text.
 #include "library/common/occurrences.hpp"
 
+#include "library/common/unit_vector.hpp"
+
+#include <cstring>
 #include <utility>
 
 namespace wentra {
@@ -18,14 +21,32 @@ std::vector<ns::Range> occurrences(std::u16string_view text, std::u16string_view
 
 namespace {
 
-/// Moves what stays, without a branch for each unit.
+/// Moves what stays: eight units at once where all of them do, else without a branch for each.
 void removeAll(std::u16string& text, char16_t removed) {
-    std::size_t kept = 0;
-    for (const char16_t unit : text) {
-        text[kept] = unit;
-        kept += unit == removed ? 0 : 1;
+    char16_t* kept = text.data();
+    const char16_t* unit = text.data();
+    const char16_t* const end = unit + text.size();
+    const UnitVector sought = unitVector(removed);
+    const auto moveOne = [&] {
+        *kept = *unit++;
+        kept += *kept == removed ? 0 : 1;
+    };
+    while (end - unit >= std::ptrdiff_t{unitVectorSize}) {
+        const UnitVector units = unitsAt(unit);
+        if (holdsAny(units == sought)) {
+            for (std::size_t count = 0; count != unitVectorSize; ++count) {
+                moveOne();
+            }
+        } else {
+            std::memcpy(kept, &units, sizeof units);
+            kept += unitVectorSize;
+            unit += unitVectorSize;
+        }
     }
-    text.resize(kept);
+    while (unit != end) {
+        moveOne();
+    }
+    text.resize(static_cast<std::size_t>(kept - text.data()));
 }
 
 } // namespace
@@ -35,16 +56,17 @@ void replaceAll(std::u16string& text, std::u16string_view sought, std::u16string
         removeAll(text, sought.front());
         return;
     }
-    const std::vector<ns::Range> found = occurrences(text, sought);
-    if (found.empty()) {
+    const TextSearch search(text, sought);
+    std::size_t place = search.next(0);
+    if (place == text.size()) {
         return;
     }
     std::u16string replaced;
     replaced.reserve(text.size());
     std::size_t copied = 0;
-    for (const ns::Range& range : found) {
-        replaced.append(text, copied, range.location - copied).append(replacement);
-        copied = range.location + range.length;
+    for (; place < text.size(); place = search.next(copied)) {
+        replaced.append(text, copied, place - copied).append(replacement);
+        copied = place + sought.size();
     }
     replaced.append(text, copied);
     text = std::move(replaced);

@@ -1,8 +1,6 @@
 // Looks for the first and the last unit of what is sought, many places at a time.
 #include "library/common/text_search.hpp"
 
-#include "library/common/unit_vector.hpp"
-
 #include <algorithm>
 
 namespace wentra {
@@ -10,6 +8,14 @@ namespace {
 
 constexpr char16_t lowerCase(char16_t unit) {
     return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 0x20) : unit;
+}
+
+/// Whether one of the units is zero in the vectors of that place and the 24 behind.
+template <class Vectors>
+bool hasZero(std::size_t place, Vectors vectorAt) {
+    constexpr std::size_t size = unitVectorSize;
+    return holdsAny((vectorAt(place) == 0) | (vectorAt(place + size) == 0) |
+                    (vectorAt(place + 2 * size) == 0) | (vectorAt(place + 3 * size) == 0));
 }
 
 } // namespace
@@ -24,53 +30,36 @@ TextSearch::TextSearch(std::u16string_view text, std::u16string_view sought, Let
 
 TextSearch::Letter TextSearch::letter(char16_t unit, LetterCase letterCase) {
     if (letterCase == LetterCase::counts) {
-        return {unit, u'\0'};
+        return {unitVector(unit), UnitVector{}};
     }
     const char16_t lower = lowerCase(unit);
-    return {lower, lower >= u'a' && lower <= u'z' ? u' ' : u'\0'};
+    const bool hasCase = lower >= u'a' && lower <= u'z';
+    return {unitVector(lower), unitVector(hasCase ? u' ' : u'\0')};
 }
 
-/// The first and the last unit of what is sought, each eight times.
-class TextSearch::Letters {
-public:
-    explicit Letters(const TextSearch& search)
-        : starts_(search.text_.data()), ends_(starts_ + search.sought_.size() - 1),
-          first_(unitVector(search.first_.lower)), firstCase_(unitVector(search.first_.caseBit)),
-          last_(unitVector(search.last_.lower)), lastCase_(unitVector(search.last_.caseBit)) {}
+inline UnitVector TextSearch::Letter::differences(const char16_t* place) const {
+    return (unitsAt(place) | caseBit) ^ lower;
+}
 
-    /// The bits in which the text differs from them at that place and the seven behind it.
-    [[nodiscard]] UnitVector differences(std::size_t place) const {
-        return startDifferences(place) | ((unitsAt(ends_ + place) | lastCase_) ^ last_);
-    }
+inline bool TextSearch::Letter::fits(char16_t unit) const {
+    return (unit | caseBit[0]) == lower[0];
+}
 
-    /// Whether they stand at one of those places or the 24 behind. Many texts' first unit is rare
-    /// enough to be looked for alone.
-    [[nodiscard]] bool mayStandIn(std::size_t place) const {
-        return hasZero(place, [this](std::size_t at) { return startDifferences(at); }) &&
-               hasZero(place, [this](std::size_t at) { return differences(at); });
-    }
+/// The bits in which the text differs from the first or the last unit at that place and the seven
+/// behind it.
+inline UnitVector TextSearch::differences(std::size_t place) const {
+    const char16_t* const there = text_.data() + place;
+    return first_.differences(there) | last_.differences(there + sought_.size() - 1);
+}
 
-private:
-    [[nodiscard]] UnitVector startDifferences(std::size_t place) const {
-        return (unitsAt(starts_ + place) | firstCase_) ^ first_;
-    }
-    template <class Differences>
-    static bool hasZero(std::size_t place, Differences differences) {
-        constexpr std::size_t size = unitVectorSize;
-        const auto found = (differences(place) == 0) | (differences(place + size) == 0) |
-                           (differences(place + 2 * size) == 0) |
-                           (differences(place + 3 * size) == 0);
-        const auto [low, high] = std::bit_cast<std::array<std::uint64_t, 2>>(found);
-        return (low | high) != 0;
-    }
-
-    const char16_t* starts_;
-    const char16_t* ends_;
-    UnitVector first_;
-    UnitVector firstCase_;
-    UnitVector last_;
-    UnitVector lastCase_;
-};
+/// Whether both units fit at one of those places or the 24 behind. Many texts' first unit is rare
+/// enough to be looked for alone.
+inline bool TextSearch::mayStandIn(std::size_t place) const {
+    return hasZero(place,
+                   [this](std::size_t at) { return first_.differences(text_.data() + at); }) &&
+           (sought_.size() == 1 ||
+            hasZero(place, [this](std::size_t at) { return differences(at); }));
+}
 
 std::size_t TextSearch::next(std::size_t place) const {
     const std::size_t end = placesEnd();
@@ -84,19 +73,22 @@ std::size_t TextSearch::next(std::size_t place) const {
     return text_.size();
 }
 
-/// The first place from that one on where the first and the last unit fit, or the first of the
-/// few at the end that make no vector; `end` when there is none.
+/// The first place from that one on where the first and the last unit fit; `end` when there is
+/// none.
 std::size_t TextSearch::candidate(std::size_t place, std::size_t end) const {
-    const Letters letters(*this);
-    while (end - place >= 4 * unitVectorSize && !letters.mayStandIn(place)) {
+    while (end - place >= 4 * unitVectorSize && !mayStandIn(place)) {
         place += 4 * unitVectorSize;
     }
     while (end - place >= unitVectorSize) {
-        const std::size_t fitting = firstZero(letters.differences(place));
+        const std::size_t fitting = firstZero(differences(place));
         place += fitting;
         if (fitting < unitVectorSize) {
-            break;
+            return place;
         }
+    }
+    while (place < end &&
+           !(first_.fits(text_[place]) && last_.fits(text_[place + sought_.size() - 1]))) {
+        ++place;
     }
     return place;
 }
@@ -107,9 +99,13 @@ std::size_t TextSearch::placesEnd() const {
 }
 
 bool TextSearch::standsAt(std::size_t place) const {
+    constexpr std::size_t known = 2; // the first and the last unit fit
+    if (sought_.size() <= known) {
+        return true;
+    }
     const std::u16string_view there = text_.substr(place, sought_.size());
     return letterCase_ == LetterCase::counts
-               ? there == sought_
+               ? std::ranges::equal(there, sought_)
                : std::ranges::equal(there, sought_, {}, &lowerCase, &lowerCase);
 }
 

@@ -1,6 +1,8 @@
 // Searching a text for another, many places at a time.
 #pragma once
 
+#include "library/common/unit_vector.hpp"
+
 #include <cstdint>
 #include <string_view>
 
@@ -20,14 +22,18 @@ public:
     [[nodiscard]] std::size_t next(std::size_t place) const;
 
 private:
-    /// A unit of what is sought.
+    /// A unit of what is sought, eight times.
     struct Letter {
-        char16_t lower;
-        char16_t caseBit; ///< what tells it from the capital letter; 0 where that does not count
+        UnitVector lower;
+        UnitVector caseBit; ///< what tells it from the capital letter; 0 where that does not count
+
+        [[nodiscard]] UnitVector differences(const char16_t* place) const;
+        [[nodiscard]] bool fits(char16_t unit) const;
     };
 
     static Letter letter(char16_t unit, LetterCase letterCase);
-    class Letters;
+    [[nodiscard]] UnitVector differences(std::size_t place) const;
+    [[nodiscard]] bool mayStandIn(std::size_t place) const;
     [[nodiscard]] std::size_t placesEnd() const;
     [[nodiscard]] std::size_t candidate(std::size_t place, std::size_t end) const;
     [[nodiscard]] bool standsAt(std::size_t place) const;

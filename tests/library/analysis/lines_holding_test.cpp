@@ -15,11 +15,20 @@ namespace {
 
 constexpr std::array<std::u16string_view, 2> fragments{u"aa", u"b"};
 
+using Lines = std::vector<std::u16string_view>;
+
 TEST(LinesHolding, AreWholeAndNamedOnce) {
-    using Lines = std::vector<std::u16string_view>;
     EXPECT_EQ(linesHolding(u"aab b\nc\n\nb\r\naa", fragments), (Lines{u"aab b", u"b\r", u"aa"}));
     EXPECT_EQ(linesHolding(u"a\na\n", fragments), Lines{}) << "nothing spans two lines";
     EXPECT_EQ(linesHolding(u"", fragments), Lines{});
+}
+
+TEST(LinesHolding, HoldWhatIsAcceptedAfterWhatIsNot) {
+    const auto endsLine = [](std::u16string_view rest) {
+        return rest.size() == 1 || rest[1] == u'\n';
+    };
+    EXPECT_EQ(linesWhere(u"..x\n.x..\n\nx\n.", u".", endsLine), (Lines{u".x..", u"."}));
+    EXPECT_EQ(linesWhere(u"", u".", endsLine), Lines{});
 }
 
 TEST(LinesHolding, AreThoseFoundLineByLine) {

@@ -48,6 +48,46 @@ TEST(Occurrences, AreThoseThatAPlainSearchFinds) {
     }
 }
 
+TEST(Occurrences, AreThoseThatAPlainSearchFindsInLowerCase) {
+    std::mt19937 random(5); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same texts every time
+    const auto lower = [](std::u16string text) {
+        for (char16_t& unit : text) {
+            unit = unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
+        }
+        return text;
+    };
+    for (int round = 0; round < 2000; ++round) {
+        std::u16string text(random() % 120 + 1, u'a');
+        for (char16_t& unit : text) {
+            unit = u"aAzZ@`[{\xFF21\xFF41"[random() % 10];
+        }
+        std::u16string sought = text.substr(0, random() % 4 + 1);
+        sought.front() = u"aAzZ@`[{"[random() % 8];
+        const std::size_t expected = lower(text).find(lower(sought));
+        const Places found = occurrences(text, sought, LetterCase::ignored);
+        ASSERT_EQ(found.empty() ? text.npos : found.front().location, expected) << round;
+    }
+}
+
+TEST(Occurrences, GiveWayInTextsOfAnyLength) {
+    std::mt19937 random(3); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same texts every time
+    for (std::size_t length = 0; length < 200; ++length) {
+        std::u16string text(length, u'a');
+        for (char16_t& unit : text) {
+            unit = u"aaaaaaaaaab"[random() % 11];
+        }
+        for (const std::u16string_view put : {u"", u"cc"}) {
+            std::u16string replaced = text;
+            replaceAll(replaced, u"b", put);
+            std::u16string expected;
+            for (const char16_t unit : text) {
+                expected += unit == u'b' ? put : std::u16string_view(&unit, 1);
+            }
+            ASSERT_EQ(replaced, expected);
+        }
+    }
+}
+
 TEST(Occurrences, AreReplacedInOnePass) {
     std::u16string text = u"aaXaX";
     replaceAll(text, u"aa", u"aaa");
