@@ -6,6 +6,7 @@
 #include "desktop/runtime/runtime_structures.hpp"
 
 #include <bit>
+#include <bitset>
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
@@ -48,6 +49,29 @@ void addToNewClass(Class cls, const objc_method& method) {
     }
     cls->methods->methods()[count] = method;
     ++cls->methods->count;
+}
+
+bool hasMethod(Class cls, SEL name) {
+    return search_for_method_in_list(cls->methods, name) != nullptr;
+}
+
+/// Whether it has the method already. To search the list of a new class for each would take the
+/// square of their number, so the class that is being made is remembered with its names' bits:
+/// whose bit is not set is new. The caller holds the runtime's lock.
+bool newClassHasMethod(Class cls, SEL name) {
+    static Class last = nullptr;
+    static std::bitset<4096> bits;
+    const auto bitOf = [](SEL known) { return placeOf(known) % bits.size(); };
+    if (cls != last) {
+        last = cls;
+        bits.reset();
+        for (int index = 0; cls->methods != nullptr && index < cls->methods->count; ++index) {
+            bits.set(bitOf(cls->methods->methods()[index].name));
+        }
+    }
+    const bool mayHave = bits.test(bitOf(name));
+    bits.set(bitOf(name));
+    return mayHave && hasMethod(cls, name);
 }
 
 bool isNewPair(Class cls) {
@@ -96,17 +120,17 @@ void freeMethods(Class cls) {
 } // namespace desktop
 
 objc::Boolean class_addMethod(Class cls, SEL name, IMP implementation, const char* types) {
-    if (cls == nullptr || name == nullptr || sel_getName(name) == nullptr ||
-        implementation == nullptr || types == nullptr || *types == '\0') {
+    if (cls == nullptr || name == nullptr || implementation == nullptr || types == nullptr ||
+        *types == '\0') {
         return 0;
     }
     const desktop::RuntimeLock lock;
-    if (search_for_method_in_list(cls->methods, name) != nullptr) {
+    const bool isNew = desktop::isInConstruction(cls);
+    if (isNew ? desktop::newClassHasMethod(cls, name) : desktop::hasMethod(cls, name)) {
         return 0;
     }
     const objc_method method{name, strdup(types), implementation};
-    desktop::isInConstruction(cls) ? desktop::addToNewClass(cls, method)
-                                   : desktop::addToClassInUse(cls, method);
+    isNew ? desktop::addToNewClass(cls, method) : desktop::addToClassInUse(cls, method);
     return 1;
 }
 

@@ -31,8 +31,7 @@ objc::Boolean class_addProperty(Class cls, const char* name,
                                 const objc_property_attribute_t* attributes, unsigned int count) {
     std::string text;
     for (unsigned int i = 0; i < count; ++i) {
-        text += text.empty() ? "" : ",";
-        text += std::string(attributes[i].name) + attributes[i].value;
+        text.append(text.empty() ? "" : ",").append(attributes[i].name).append(attributes[i].value);
     }
     const std::scoped_lock lock(desktop::propertiesMutex);
     auto& properties = desktop::declared()[cls];

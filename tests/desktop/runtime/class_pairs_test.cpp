@@ -136,18 +136,23 @@ TEST_F(ClassPairs, AreThoseThatLibobjcMakes) {
 }
 
 TEST_F(ClassPairs, TakeManyMethodsAndEachNameOnce) {
-    constexpr int count = 300;
+    constexpr int count = 5000;
     const Class cls = allocated(root());
-    for (int index = 0; index < count; ++index) {
+    const auto add = [](Class to, int index, const char* types) {
         const std::string name = "pairNumber" + std::to_string(index);
-        EXPECT_TRUE(class_addMethod(cls, sel_registerName(name.c_str()), answering<7>, "i@:"));
-        // The same name, be it by a selector that knows its types.
-        EXPECT_FALSE(
-            class_addMethod(cls, sel_registerTypedName(name.c_str(), "i@:"), answering<8>, "i@:"));
+        return class_addMethod(to, sel_registerTypedName(name.c_str(), types), answering<7>, "i@:");
+    };
+    for (int index = 0; index < count; ++index) {
+        ASSERT_TRUE(add(cls, index, nullptr));
+        ASSERT_FALSE(add(cls, index / 2, "i@:")); // by a selector that knows its types
+        if (index % 1000 == 0) {                  // the other side of the class meanwhile
+            EXPECT_TRUE(add(metaclass(cls), index, nullptr));
+            EXPECT_FALSE(add(metaclass(cls), index, nullptr));
+        }
     }
     objc_registerClassPair(cls);
     EXPECT_EQ(methodsOf(cls).size(), count);
-    EXPECT_EQ(ask(instanceOf(cls), sel_registerName("pairNumber299")), 7);
+    EXPECT_EQ(ask(instanceOf(cls), sel_registerName("pairNumber4999")), 7);
     EXPECT_EQ(ask(instanceOf(registered(cls)), sel_registerName("pairNumber0")), 7);
 }
 
