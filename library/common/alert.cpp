@@ -3,6 +3,7 @@
 
 #include "bindings/dispatch/dispatch.hpp"
 #include "bindings/uikit/popover_presentation_controller.hpp"
+#include "library/common/animated.hpp"
 #include "library/common/screens.hpp"
 
 namespace wentra {
@@ -43,10 +44,7 @@ void Alert::presentFrom(ui::ViewController controller) const {
 
 void Alert::presentFor(double seconds, ui::ViewController controller) const {
     const auto goAfterwards = [seconds, alert = controller_] {
-        dispatch::after(seconds, dispatch::mainQueue(), [alert] {
-            constexpr bool animated = true;
-            alert.dismiss(animated);
-        });
+        dispatch::after(seconds, dispatch::mainQueue(), [alert] { alert.dismiss(animated); });
     };
     presentSheet(controller_, controller, ui::ViewController::Completion::from(goAfterwards));
 }

@@ -4,6 +4,7 @@
 #include "bindings/uikit/application.hpp"
 #include "bindings/uikit/popover_presentation_controller.hpp"
 #include "bindings/uikit/window_scene.hpp"
+#include "library/common/animated.hpp"
 
 namespace wentra {
 
@@ -41,7 +42,6 @@ ui::ViewController topViewController() {
 
 void presentSheet(ui::ViewController sheet, ui::ViewController controller,
                   ui::ViewController::Completion completion) {
-    constexpr bool animated = true;
     if (const auto popover = sheet.popoverPresentationController(); !popover.sourceView()) {
         const ui::View view = controller.view();
         const auto [origin, size] = view.bounds();

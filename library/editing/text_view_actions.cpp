@@ -4,6 +4,7 @@
 #include "bindings/uikit/view_controller.hpp"
 #include "bindings/uikit/window.hpp"
 #include "library/common/alert.hpp"
+#include "library/common/animated.hpp"
 #include "library/editing/edit_menu.hpp"
 #include "library/editing/input_actions.hpp"
 #include "library/editing/text_actions.hpp"
@@ -56,7 +57,6 @@ void showSearchAlert(Next<void(Object)>, ui::TextView view, Object) {
 
 /// In red, in the middle of the view.
 void highlight(ui::TextView view, ns::Range found) {
-    constexpr bool animated = true;
     view.textStorage().addAttribute(ui::attributes::foregroundColor(), ui::Color::red(), found);
     const CGRect place = view.layoutManager().boundingRect(found, view.textContainer());
     view.setContentOffset({0, place.origin.y - view.bounds().size.height / 2}, animated);

@@ -11,6 +11,7 @@
 #include "bindings/uikit/screen.hpp"
 #include "bindings/uikit/scroll_view.hpp"
 #include "bindings/uikit/toolbar.hpp"
+#include "library/common/animated.hpp"
 #include "library/common/bar_items.hpp"
 #include "library/common/light_background.hpp"
 #include "library/common/sharing.hpp"
@@ -179,9 +180,8 @@ void ImageContentViewControllerPeer::addPage(ns::Url url, CGRect frame) {
 }
 
 void ImageContentViewControllerPeer::scrollToImage(long index) {
-    constexpr bool animated = false;
     pager_.setContentOffset({self().view().bounds().size.width * static_cast<double>(index), 0},
-                            animated);
+                            !animated);
     self().send<"updateImageInfoWithIndex:">(index);
 }
 

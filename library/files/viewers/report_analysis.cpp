@@ -5,6 +5,7 @@
 #include "bindings/uikit/pasteboard.hpp"
 #include "library/analysis/details_view_controller.hpp"
 #include "library/analysis/library_lines.hpp"
+#include "library/common/animated.hpp"
 #include "library/common/string_array.hpp"
 
 namespace wentra::files {
@@ -21,7 +22,6 @@ bool ReportAnalysis::isSystemLibrary(ns::String line) const {
 }
 
 void ReportAnalysis::analyse(objc::Object /*sender*/) {
-    constexpr bool animated = true;
     const ns::String text = selectedWords_.count() > 0
                                 ? selectedWords_.componentsJoined(u" "_ns)
                                 : ui::Pasteboard::generalPasteboard().string();

@@ -4,6 +4,7 @@
 #include "bindings/dispatch/dispatch.hpp"
 #include "bindings/foundation/log.hpp"
 #include "bindings/uikit/window.hpp"
+#include "library/common/animated.hpp"
 #include "library/common/buttons.hpp"
 #include "library/common/draggable_view.hpp"
 #include "library/common/gestures.hpp"
@@ -142,7 +143,6 @@ void Recording::stopped(rp::PreviewViewController preview, ns::Error error) cons
 }
 
 void Recording::previewFinished(objc::Object preview) {
-    constexpr bool animated = true;
     preview.as<ui::ViewController>().dismiss(animated);
     container_.removeFromSuperview();
 }

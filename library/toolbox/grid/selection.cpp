@@ -2,6 +2,7 @@
 #include "library/toolbox/grid/selection.hpp"
 
 #include "bindings/uikit/pasteboard.hpp"
+#include "library/common/animated.hpp"
 
 namespace wentra::toolbox {
 
@@ -78,10 +79,9 @@ void Selection::unpickAll(ns::Array paths) const {
 }
 
 void Selection::clear() const {
-    constexpr bool animated = false;
     const ns::Array paths = paths_.allObjects();
     for (const objc::Object path : paths) {
-        tiles_.view().deselectItem(path.assume<ns::IndexPath>(), animated);
+        tiles_.view().deselectItem(path.assume<ns::IndexPath>(), !animated);
     }
     forgetTokens();
     unpickAll(paths);

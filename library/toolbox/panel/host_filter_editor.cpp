@@ -3,6 +3,7 @@
 
 #include "bindings/dispatch/dispatch.hpp"
 #include "bindings/uikit/keyboard.hpp"
+#include "library/common/animated.hpp"
 #include "library/common/buttons.hpp"
 #include "library/common/keyboard_insets.hpp"
 #include "library/common/screens.hpp"
@@ -92,7 +93,6 @@ void HostFilterEditor::save(objc::Object) {
 }
 
 void HostFilterEditor::close(objc::Object) {
-    constexpr bool animated = true;
     const ui::Responder screen = text_.superview().nextResponder();
     screen.as<ui::ViewController>().dismiss(animated);
     text_ = nullptr;

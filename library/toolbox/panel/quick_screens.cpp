@@ -6,6 +6,7 @@
 #include "bindings/uikit/popover_presentation_controller.hpp"
 #include "library/clipboard/clipboard_table_view_controller.hpp"
 #include "library/clipboard/popover_content_view_controller.hpp"
+#include "library/common/animated.hpp"
 #include "library/common/string_array.hpp"
 #include "library/crashlogs/report_list_controller.hpp"
 #include "library/toolbox/panel/host_screens.hpp"
@@ -66,7 +67,6 @@ void QuickScreens::showClipboard(ui::LongPressGestureRecognizer press) const {
     list.setModalPresentationStyle(ui::ModalPresentation::overFullScreen);
     list.setDismissBlock(ClipboardTableViewController::Dismissal::from(
         [shown = objc::Weak<ClipboardTableViewController>(list)] {
-            constexpr bool animated = true;
             shown.strong().dismiss(animated);
         }));
     presentOverHost(self(), list);

@@ -6,6 +6,7 @@
 #include "bindings/uikit/pasteboard.hpp"
 #include "bindings/uikit/popover_presentation_controller.hpp"
 #include "bindings/uikit/table_view_controller.hpp"
+#include "library/common/animated.hpp"
 #include "library/common/light_background.hpp"
 #include "library/common/links.hpp"
 #include "library/common/screens.hpp"
@@ -21,7 +22,6 @@ using namespace ns::literals;
 
 /// By the system, or in the application when the user wants that of web pages.
 void open(ns::Url url, Opener opener) {
-    constexpr bool animated = true;
     if (url && opener == Opener::browser &&
         preferences::Preferences::read().on(preferences::keys.searchInApp)) {
         topViewController().present(sf::SafariViewController::with(url), animated);
@@ -93,7 +93,6 @@ ui::TableViewCell SearchTargets::cell(ui::TableView table, ns::IndexPath path) c
 
 /// A target may show a screen, which must not go with the menu: so the menu goes first.
 void SearchTargets::chose(ui::TableView table, ns::IndexPath path) {
-    constexpr bool animated = true;
     table.deselectRow(path, animated);
     const ns::String title = titleAt(path);
     if (const ui::ViewController menu = menu_.strong(); menu.presentingViewController()) {

@@ -2,6 +2,7 @@
 #include "library/toolbox/search/web_preview.hpp"
 
 #include "bindings/uikit/screen.hpp"
+#include "library/common/animated.hpp"
 #include "library/common/buttons.hpp"
 #include "library/toolbox/panel/host_screens.hpp"
 #include "library/toolbox/search/search_url.hpp"
@@ -57,7 +58,6 @@ void WebPreview::addCloseButton() const {
 }
 
 void WebPreview::close(objc::Object /*sender*/) {
-    constexpr bool animated = true;
     page_.stopLoading();
     page_.setNavigationDelegate(nullptr);
     page_.removeFromSuperview();

@@ -6,6 +6,7 @@
 #include "library/analysis/details_view_controller.hpp"
 #include "library/analysis/library_lines.hpp"
 #include "library/common/alert.hpp"
+#include "library/common/animated.hpp"
 #include "library/common/string_array.hpp"
 #include "library/toolbox/text_tools/unicode_escapes.hpp"
 
@@ -52,7 +53,6 @@ bool TextTools::isSystemLibrary(ns::String line) const {
 }
 
 void TextTools::analyse(objc::Object /*sender*/) {
-    constexpr bool animated = true;
     const auto lines = analysis::libraryLines(selection_.pickedOrCopied(), SystemList::toolbox);
     const auto details = ui::NavigationController::withRoot(
         analysis::DetailsViewController::with(analysis::messagesOf(lines)));
