@@ -3,8 +3,10 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -41,15 +43,19 @@ void loading(benchmark::State& state) {
     bench::Loading last{};
     // By where the library comes to lie, the system maps more or fewer pages around each touched
     // one.
+    double best = std::numeric_limits<double>::infinity();
     double ownResidentBytes = 0;
     double otherResidentBytes = 0;
     for (auto _ : state) {
         last = loadInProcess();
         ownResidentBytes += static_cast<double>(last.ownResidentBytes);
         otherResidentBytes += static_cast<double>(last.otherResidentBytes);
+        best = std::min(best, last.milliseconds);
         state.SetIterationTime(last.milliseconds / millisecondsPerSecond);
     }
     using benchmark::Counter;
+    // What else the machine does takes time, it never saves any.
+    state.counters["bestMilliseconds"] = best;
     state.counters["ownResidentBytes"] = Counter(ownResidentBytes, Counter::kAvgIterations);
     state.counters["otherResidentBytes"] = Counter(otherResidentBytes, Counter::kAvgIterations);
     state.counters["fileBytes"] = static_cast<double>(last.fileBytes);

@@ -129,7 +129,8 @@ def show_others(results, time):
 
 
 def show_loading(loading):
-    print(f"\nloading the library: {loading['real_time']:.2f} ms,"
+    print(f"\nloading the library: {loading['bestMilliseconds']:.2f} ms at best,"
+          f" {loading['real_time']:.2f} on average,"
           f" {loading['ownResidentBytes'] / 1024:.0f} KiB of its file resident"
           f" and {loading['otherResidentBytes'] / 1024:.0f} KiB of others,"
           f" {loading['fileBytes'] / 1024:.0f} KiB on disk with debugging information")

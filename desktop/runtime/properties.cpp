@@ -3,6 +3,7 @@
 
 #include "bindings/objc/class_list.hpp"
 
+#include <algorithm>
 #include <cstdlib>
 #include <map>
 #include <mutex>
@@ -35,10 +36,10 @@ objc::Boolean class_addProperty(Class cls, const char* name,
     }
     const std::scoped_lock lock(desktop::propertiesMutex);
     auto& properties = desktop::declared()[cls];
-    for (const desktop::DeclaredProperty& property : properties) {
-        if (property.name == name) {
-            return 0;
-        }
+    const std::string_view newName = name; // measured once
+    if (std::ranges::find(properties, newName, &desktop::DeclaredProperty::name) !=
+        properties.end()) {
+        return 0;
     }
     properties.push_back({name, text});
     return 1;
