@@ -14,7 +14,8 @@ struct CounterKind : objc::Kind<CounterKind, "BenchCounter"> {
     [[nodiscard]] long addHooked(long amount) const { return send<"addHooked:", long>(amount); }
 };
 
-class Counter : public objc::Peer<Counter, CounterKind, objc::Boundary::propagates> {
+class Counter
+    : public objc::Peer<Counter, CounterKind, objc::Boundary::propagates, objc::Methods::atOnce> {
 public:
     static auto methods() {
         return std::array{objc::method<"add:", &Counter::add>(),

@@ -20,6 +20,17 @@ MadeClass makeClass(const ClassDeclaration& declaration, std::span<const MethodR
     // Named after the class: a superclass's peer has a variable of its own.
     class_addIvar(cls, name, declaration.peerSize,
                   static_cast<unsigned char>(std::countr_zero(declaration.peerAlignment)), "?");
+    if (declaration.initialise != nullptr) {
+        class_addMethod(object_getClass(object(cls)), selector<"initialize">(),
+                        declaration.initialise, "v@:");
+    } else {
+        addMethods(cls, declaration, rows);
+    }
+    objc_registerClassPair(cls);
+    return {cls, ivar_getOffset(class_getInstanceVariable(cls, name))};
+}
+
+void addMethods(Class cls, const ClassDeclaration& declaration, std::span<const MethodRow> rows) {
     const Class meta = object_getClass(object(cls));
     class_addMethod(meta, selector<"allocWithZone:">(), declaration.allocate, "@@:^v");
     class_addMethod(meta, selector<"accessInstanceVariablesDirectly">(),
@@ -28,8 +39,11 @@ MadeClass makeClass(const ClassDeclaration& declaration, std::span<const MethodR
     for (const MethodRow& row : rows) {
         addMethod(row, cls);
     }
-    objc_registerClassPair(cls);
-    return {cls, ivar_getOffset(class_getInstanceVariable(cls, name))};
+}
+
+void initialiseBySuperclass(Class registered, id cls, SEL name) {
+    const Class meta = object_getClass(object(class_getSuperclass(registered)));
+    invoke<void>(class_getMethodImplementation(meta, name), cls, name);
 }
 
 id allocateBySuperclass(Class registered, Class cls, SEL name, void* zone) {

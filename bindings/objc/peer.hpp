@@ -9,6 +9,13 @@
 #include <span>
 
 namespace objc {
+
+/// When the runtime comes to know a class's methods.
+enum class Methods : std::uint8_t {
+    withFirstMessage, ///< to the class: a process that never sends one pays for the name only
+    atOnce,           ///< for others to replace before anybody uses the class
+};
+
 namespace detail {
 
 /// A class as it is declared to the runtime.
@@ -17,6 +24,7 @@ struct ClassDeclaration {
     Class superclass;
     std::size_t peerSize;
     std::size_t peerAlignment;
+    IMP initialise; ///< of a class whose methods come with the first message, else null
     IMP allocate;
     IMP deallocate;
 };
@@ -27,9 +35,17 @@ struct MadeClass {
     std::ptrdiff_t peerOffset = 0;
 };
 
-/// Makes the class known to the runtime; a null class when the name is taken.
+/// Makes the class known to the runtime, with methods or with what adds them; a null class when the
+/// name is taken.
 [[gnu::cold]] MadeClass makeClass(const ClassDeclaration& declaration,
                                   std::span<const MethodRow> rows);
+
+/// Adds the methods of the rows and what gives life to instances.
+[[gnu::cold]] void addMethods(Class cls, const ClassDeclaration& declaration,
+                              std::span<const MethodRow> rows);
+
+/// What the superclass does at the first message to `cls`.
+void initialiseBySuperclass(Class registered, id cls, SEL name);
 
 /// The superclass's allocation, for a new instance of `cls`.
 id allocateBySuperclass(Class registered, Class cls, SEL name, void* zone);
@@ -63,7 +79,8 @@ concept ConstantRows = requires {
 /// destroyed when it is deallocated. `methods()` is the only place that knows selectors; type
 /// encodings come from the member functions' types. Where it is `constexpr`, the rows are constants
 /// of the image.
-template <class Self, class KindOfSelf, Boundary Border = Boundary::contained>
+template <class Self, class KindOfSelf, Boundary Border = Boundary::contained,
+          Methods Known = Methods::withFirstMessage>
 class Peer {
 public:
     using Kind = KindOfSelf;
@@ -103,6 +120,13 @@ protected:
     }
 
 private:
+    /// The runtime calls it once for the class and once for each subclass without its own.
+    static void initialise(id cls, SEL name) {
+        if (reinterpret_cast<Class>(cls) == made_.cls) {
+            detail::addMethods(made_.cls, declaration(), rows());
+        }
+        detail::initialiseBySuperclass(made_.cls, cls, name);
+    }
     static id allocate(id cls, SEL name, void* zone) {
         const id instance =
             detail::allocateBySuperclass(made_.cls, reinterpret_cast<Class>(cls), name, zone);
@@ -124,15 +148,23 @@ private:
         }
     }
 
+    static detail::ClassDeclaration declaration() {
+        constexpr bool isLate = Known == Methods::withFirstMessage;
+        return {Kind::className.data(),
+                Kind::Superkind::classObject(),
+                sizeof(Self),
+                alignof(Self),
+                isLate ? reinterpret_cast<IMP>(&initialise) : nullptr,
+                reinterpret_cast<IMP>(&allocate),
+                reinterpret_cast<IMP>(&deallocate)};
+    }
+
     static inline detail::MadeClass made_;
 };
 
-template <class Self, class Kind, Boundary Border>
-Class Peer<Self, Kind, Border>::registerClass() {
-    const auto made = detail::makeClass(
-        {Kind::className.data(), Kind::Superkind::classObject(), sizeof(Self), alignof(Self),
-         reinterpret_cast<IMP>(&allocate), reinterpret_cast<IMP>(&deallocate)},
-        rows());
+template <class Self, class Kind, Boundary Border, Methods Known>
+Class Peer<Self, Kind, Border, Known>::registerClass() {
+    const auto made = detail::makeClass(declaration(), rows());
     if (made.cls != nullptr) {
         made_ = made;
     }

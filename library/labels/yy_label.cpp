@@ -7,7 +7,8 @@
 namespace wentra::labels {
 namespace {
 
-class YYLabelPeer : public objc::Peer<YYLabelPeer, apps::YYLabel> {
+class YYLabelPeer : public objc::Peer<YYLabelPeer, apps::YYLabel, objc::Boundary::contained,
+                                      objc::Methods::atOnce> {
 public:
     static constexpr auto methods() {
         return std::array{

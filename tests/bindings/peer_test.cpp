@@ -53,6 +53,44 @@ private:
     bool tame_ = false;
 };
 
+std::vector<Class> initialised;
+
+struct Dog : objc::Kind<Dog, "TestDog"> {};
+
+/// Plays the platform.
+class DogPeer : public objc::Peer<DogPeer, Dog, objc::Boundary::propagates, objc::Methods::atOnce> {
+public:
+    static constexpr auto methods() {
+        return std::array{
+            objc::classMethod<"initialize", &DogPeer::initialiseClass>(),
+            objc::method<"bark", &DogPeer::bark>(),
+        };
+    }
+
+private:
+    static void initialiseClass(Class cls) { initialised.push_back(cls); }
+    void bark() {}
+};
+
+struct Puppy : objc::Kind<Puppy, "TestPuppy", Dog> {
+    using Kind::Kind;
+};
+
+class PuppyPeer : public objc::Peer<PuppyPeer, Puppy> {
+public:
+    static constexpr auto methods() {
+        return std::array{
+            objc::classMethod<"sound", &PuppyPeer::sound>(),
+            objc::method<"play", &PuppyPeer::play>(),
+        };
+    }
+
+private:
+    static ns::String sound(Class) { return u"汪"_ns; }
+    int play() { return ++plays_; }
+    int plays_ = 0;
+};
+
 struct Bird : objc::Kind<Bird, "TestBird", Animal> {};
 
 class BirdPeer : public objc::Peer<BirdPeer, Bird> {
@@ -77,6 +115,7 @@ class PeerTest : public testing::Test {
 protected:
     static void SetUpTestSuite() {
         AnimalPeer::registerClass();
+        DogPeer::registerClass();
         BirdPeer::registerClass();
     }
     void SetUp() override { lives.clear(); }
@@ -118,6 +157,7 @@ TEST_F(PeerTest, PropertiesCopyRetainAndTell) {
 
 TEST_F(PeerTest, TheRuntimeTellsOfClassesAndWhatTheyDeclare) {
     EXPECT_EQ(std::ranges::count(objc::allClasses(), Animal::classObject()), 1);
+    Bird::sendClass<"class">();
     std::vector<std::string> properties;
     objc::forEachProperty(Animal::classObject(),
                           [&](const char* name) { properties.emplace_back(name); });
@@ -127,6 +167,30 @@ TEST_F(PeerTest, TheRuntimeTellsOfClassesAndWhatTheyDeclare) {
                         [&](SEL selector) { methods.emplace_back(sel_getName(selector)); });
     EXPECT_EQ(std::ranges::count(methods, "legs"), 1);
     EXPECT_EQ(std::ranges::count(methods, "name"), 0) << "the superclass's";
+}
+
+TEST_F(PeerTest, MethodsComeWithTheFirstMessageToTheClass) {
+    const auto knows = [](Class cls, const std::string& name) { // without a message to it
+        bool isKnown = false;
+        objc::forEachMethod(cls, [&](SEL known) { isKnown |= name == sel_getName(known); });
+        return isKnown;
+    };
+    const Class puppy = PuppyPeer::registerClass();
+    EXPECT_TRUE(knows(DogPeer::registeredClass(), "bark")) << "at once";
+    EXPECT_FALSE(knows(puppy, "play"));
+    EXPECT_TRUE(initialised.empty());
+    EXPECT_EQ((Puppy::sendClass<"sound", ns::String>().utf8()), "汪");
+    EXPECT_TRUE(knows(puppy, "play"));
+    EXPECT_EQ(initialised, (std::vector{DogPeer::registeredClass(), puppy}));
+
+    // A subclass of others initialises itself by the same method.
+    const Class others = objc_allocateClassPair(puppy, "TestPuppyOfOthers", 0);
+    objc_registerClassPair(others);
+    const auto theirs =
+        objc::wrap<Puppy>(objc_autorelease(objc::send<"init", id>(objc_alloc(others))));
+    EXPECT_EQ((theirs.send<"play", int>()), 1);
+    EXPECT_EQ(initialised.size(), 3U);
+    EXPECT_EQ(initialised.back(), others);
 }
 
 TEST_F(PeerTest, SubclassesOverrideAndReachTheSuperclass) {

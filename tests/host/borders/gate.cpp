@@ -12,7 +12,8 @@ namespace {
 using tests::Fault;
 using tests::Gate;
 
-class GatePeer : public objc::Peer<GatePeer, Gate, objc::Boundary::propagates> {
+class GatePeer
+    : public objc::Peer<GatePeer, Gate, objc::Boundary::propagates, objc::Methods::atOnce> {
 public:
     static constexpr auto methods() {
         return std::array{
