@@ -17,6 +17,7 @@
 #include <chrono>
 #include <exception>
 #include <memory>
+#include <openssl/crypto.h>
 #include <string_view>
 #include <thread>
 #include <utility>
@@ -32,6 +33,10 @@ using asio::ip::tcp;
 
 constexpr std::chrono::seconds quietTime{60};
 constexpr std::size_t largestRequest = 1U << 20U;
+
+/// Servers answer until the process is gone: OpenSSL must not tidy up while it exits. Who uses it
+/// first decides, so this is done before anybody does.
+[[maybe_unused]] const bool staysWhole = OPENSSL_init_crypto(OPENSSL_INIT_NO_ATEXIT, nullptr) == 1;
 
 struct Server {
     Server(const Identity& identity, Handler answering) : handler(std::move(answering)) {
