@@ -78,7 +78,8 @@ concept ConstantRows = requires {
 /// constructed inside the instance when the object is allocated, after the superclass's peer, and
 /// destroyed when it is deallocated. `methods()` is the only place that knows selectors; type
 /// encodings come from the member functions' types. Where it is `constexpr`, the rows are constants
-/// of the image.
+/// of the image. The class's first message makes them known, before it is answered; a superclass's
+/// own `+initialize` gets the class too, as if the peer had none.
 template <class Self, class KindOfSelf, Boundary Border = Boundary::contained,
           Methods Known = Methods::withFirstMessage>
 class Peer {
