@@ -1,4 +1,4 @@
-// Adding rows of a method table to a class in construction.
+// Adding rows of a method table to a class.
 #include "bindings/objc/method.hpp"
 
 #include "bindings/objc/declared_types.hpp"

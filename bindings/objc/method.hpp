@@ -42,7 +42,7 @@ struct MethodRow {
     Side side = Side::instance;
 };
 
-/// Adds the row's methods and property to a class that is being made.
+/// Adds the row's methods and property to a class, where it does not have them already.
 [[gnu::cold]] void addMethod(const MethodRow& row, Class cls);
 
 namespace detail {

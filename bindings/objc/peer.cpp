@@ -1,11 +1,26 @@
 // Making classes, and the life of their instances beyond the peer.
 #include "bindings/objc/peer.hpp"
 
-namespace objc::detail {
+#include <vector>
+
+namespace objc {
+namespace detail {
 namespace {
 
 /// The peer is no object that key-value coding could read or replace.
 bool accessInstanceVariablesDirectly(id, SEL) { return false; }
+
+/// Those whose methods come with the first message.
+std::vector<Class>& lateClasses() {
+    static auto* const classes = new std::vector<Class>;
+    return *classes;
+}
+
+void addMethods(Class cls, std::span<const MethodRow> rows) {
+    for (const MethodRow& row : rows) {
+        addMethod(row, cls);
+    }
+}
 
 } // namespace
 
@@ -20,29 +35,28 @@ MadeClass makeClass(const ClassDeclaration& declaration, std::span<const MethodR
     // Named after the class: a superclass's peer has a variable of its own.
     class_addIvar(cls, name, declaration.peerSize,
                   static_cast<unsigned char>(std::countr_zero(declaration.peerAlignment)), "?");
+    // Others may replace these by their names before the first message: they are there from the
+    // start, since an instance without its peer would be none.
+    const Class meta = object_getClass(object(cls));
+    class_addMethod(meta, selector<"allocWithZone:">(), declaration.allocate, "@@:^v");
+    class_addMethod(cls, selector<"dealloc">(), declaration.deallocate, "v@:");
+    class_addMethod(meta, selector<"accessInstanceVariablesDirectly">(),
+                    reinterpret_cast<IMP>(&accessInstanceVariablesDirectly), "B@:");
     if (declaration.initialise != nullptr) {
-        class_addMethod(object_getClass(object(cls)), selector<"initialize">(),
-                        declaration.initialise, "v@:");
+        class_addMethod(meta, selector<"initialize">(), declaration.initialise, "v@:");
+        lateClasses().push_back(cls);
     } else {
-        addMethods(cls, declaration, rows);
+        addMethods(cls, rows);
     }
     objc_registerClassPair(cls);
     return {cls, ivar_getOffset(class_getInstanceVariable(cls, name))};
 }
 
-void addMethods(Class cls, const ClassDeclaration& declaration, std::span<const MethodRow> rows) {
-    const Class meta = object_getClass(object(cls));
-    class_addMethod(meta, selector<"allocWithZone:">(), declaration.allocate, "@@:^v");
-    class_addMethod(meta, selector<"accessInstanceVariablesDirectly">(),
-                    reinterpret_cast<IMP>(&accessInstanceVariablesDirectly), "B@:");
-    class_addMethod(cls, selector<"dealloc">(), declaration.deallocate, "v@:");
-    for (const MethodRow& row : rows) {
-        addMethod(row, cls);
+void initialise(Class own, id cls, SEL name, std::span<const MethodRow> rows) {
+    if (reinterpret_cast<Class>(cls) == own) {
+        contained("initialize", [&] { addMethods(own, rows); });
     }
-}
-
-void initialiseBySuperclass(Class registered, id cls, SEL name) {
-    const Class meta = object_getClass(object(class_getSuperclass(registered)));
+    const Class meta = object_getClass(object(class_getSuperclass(own)));
     invoke<void>(class_getMethodImplementation(meta, name), cls, name);
 }
 
@@ -57,4 +71,12 @@ void deallocateBySuperclass(Class registered, id instance, SEL name) {
     invoke<void>(class_getMethodImplementation(superclass, name), instance, name);
 }
 
-} // namespace objc::detail
+} // namespace detail
+
+void makeMethodsKnown() {
+    for (const Class cls : detail::lateClasses()) {
+        static_cast<void>(wrap(object(cls)).class_());
+    }
+}
+
+} // namespace objc

@@ -4,6 +4,8 @@
 #include "bindings/objc/method.hpp"
 
 #include <bit>
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <new>
 #include <span>
@@ -12,8 +14,10 @@ namespace objc {
 
 /// When the runtime comes to know a class's methods.
 enum class Methods : std::uint8_t {
-    withFirstMessage, ///< to the class: a process that never sends one pays for the name only
-    atOnce,           ///< for others to replace before anybody uses the class
+    /// To the class: a process that never sends one pays for the name only. The rows have no
+    /// `initialize` of their own.
+    withFirstMessage,
+    atOnce, ///< for others to replace before anybody uses the class
 };
 
 namespace detail {
@@ -35,17 +39,14 @@ struct MadeClass {
     std::ptrdiff_t peerOffset = 0;
 };
 
-/// Makes the class known to the runtime, with methods or with what adds them; a null class when the
-/// name is taken.
+/// Makes the class known to the runtime, with the methods of the rows or with what adds them later;
+/// a null class when the name is taken.
 [[gnu::cold]] MadeClass makeClass(const ClassDeclaration& declaration,
                                   std::span<const MethodRow> rows);
 
-/// Adds the methods of the rows and what gives life to instances.
-[[gnu::cold]] void addMethods(Class cls, const ClassDeclaration& declaration,
-                              std::span<const MethodRow> rows);
-
-/// What the superclass does at the first message to `cls`.
-void initialiseBySuperclass(Class registered, id cls, SEL name);
+/// The first message to `cls`, which may be a subclass: adds the rows to the class itself, then
+/// does what the superclass does.
+[[gnu::cold]] void initialise(Class own, id cls, SEL name, std::span<const MethodRow> rows);
 
 /// The superclass's allocation, for a new instance of `cls`.
 id allocateBySuperclass(Class registered, Class cls, SEL name, void* zone);
@@ -63,6 +64,10 @@ concept ConstantRows = requires {
 
 } // namespace detail
 
+/// Makes the methods known of every class that got no message yet: for those who list them. Main
+/// thread.
+void makeMethodsKnown();
+
 /// The base of a class written in C++:
 ///
 ///     class GripPeer : public objc::Peer<GripPeer, Grip> {
@@ -78,8 +83,9 @@ concept ConstantRows = requires {
 /// constructed inside the instance when the object is allocated, after the superclass's peer, and
 /// destroyed when it is deallocated. `methods()` is the only place that knows selectors; type
 /// encodings come from the member functions' types. Where it is `constexpr`, the rows are constants
-/// of the image. The class's first message makes them known, before it is answered; a superclass's
-/// own `+initialize` gets the class too, as if the peer had none.
+/// of the image. The methods come at once or with the first message, as `Methods` says; a
+/// superclass's
+/// `+initialize` gets the class in any case.
 template <class Self, class KindOfSelf, Boundary Border = Boundary::contained,
           Methods Known = Methods::withFirstMessage>
 class Peer {
@@ -121,12 +127,8 @@ protected:
     }
 
 private:
-    /// The runtime calls it once for the class and once for each subclass without its own.
     static void initialise(id cls, SEL name) {
-        if (reinterpret_cast<Class>(cls) == made_.cls) {
-            detail::addMethods(made_.cls, declaration(), rows());
-        }
-        detail::initialiseBySuperclass(made_.cls, cls, name);
+        detail::initialise(Kind::classObject(), cls, name, rows());
     }
     static id allocate(id cls, SEL name, void* zone) {
         const id instance =

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <map>
 #include <mutex>
+#include <string_view>
 
 namespace desktop {
 namespace {

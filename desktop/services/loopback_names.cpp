@@ -7,8 +7,6 @@
 #include "desktop/services/links/links.hpp"
 #include "desktop/services/translation/translation.hpp"
 
-#include <openssl/crypto.h>
-
 #include <algorithm>
 #include <array>
 #include <iterator>
@@ -26,7 +24,8 @@ struct Service {
     AnswerChange change;
 };
 
-std::array services{
+/// Services answer until the process is gone.
+auto& services = *new std::array{
     Service{"translation", translation::hostName, &translation::answerTo, 0, {}},
     Service{"links", links::hostName, &links::answerTo, 0, {}},
     Service{"files", files::hostName, &files::answerTo, 0, {}},
@@ -41,12 +40,7 @@ AnswerChange changeOf(const Service& service) {
 }
 
 const Authority& authority() {
-    static const Authority* const made = [] {
-        // The services' threads run until the process ends; the library must not be torn down
-        // under them.
-        OPENSSL_init_crypto(OPENSSL_INIT_NO_ATEXIT, nullptr);
-        return new Authority;
-    }();
+    static const auto* const made = new Authority;
     return *made;
 }
 

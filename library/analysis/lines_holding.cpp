@@ -5,6 +5,7 @@
 #include "library/common/unit_vector.hpp"
 
 #include <algorithm>
+#include <utility>
 
 namespace wentra::analysis {
 namespace {

@@ -3,6 +3,9 @@
 
 #include "library/common/text_search.hpp"
 
+#include <cstddef>
+#include <string_view>
+
 namespace wentra {
 
 /// Where something stands next in a text. Both are borrowed.

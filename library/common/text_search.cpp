@@ -37,24 +37,22 @@ TextSearch::Letter TextSearch::letter(char16_t unit, LetterCase letterCase) {
     return {unitVector(lower), unitVector(hasCase ? u' ' : u'\0')};
 }
 
-inline UnitVector TextSearch::Letter::differences(const char16_t* place) const {
+UnitVector TextSearch::Letter::differences(const char16_t* place) const {
     return (unitsAt(place) | caseBit) ^ lower;
 }
 
-inline bool TextSearch::Letter::fits(char16_t unit) const {
-    return (unit | caseBit[0]) == lower[0];
-}
+bool TextSearch::Letter::fits(char16_t unit) const { return (unit | caseBit[0]) == lower[0]; }
 
 /// The bits in which the text differs from the first or the last unit at that place and the seven
 /// behind it.
-inline UnitVector TextSearch::differences(std::size_t place) const {
+UnitVector TextSearch::differences(std::size_t place) const {
     const char16_t* const there = text_.data() + place;
     return first_.differences(there) | last_.differences(there + sought_.size() - 1);
 }
 
 /// Whether both units fit at one of those places or the 24 behind. Many texts' first unit is rare
 /// enough to be looked for alone.
-inline bool TextSearch::mayStandIn(std::size_t place) const {
+bool TextSearch::mayStandIn(std::size_t place) const {
     return hasZero(place,
                    [this](std::size_t at) { return first_.differences(text_.data() + at); }) &&
            (sought_.size() == 1 ||

@@ -3,6 +3,7 @@
 
 #include "library/common/unit_vector.hpp"
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -27,13 +28,14 @@ private:
         UnitVector lower;
         UnitVector caseBit; ///< what tells it from the capital letter; 0 where that does not count
 
-        [[nodiscard]] UnitVector differences(const char16_t* place) const;
-        [[nodiscard]] bool fits(char16_t unit) const;
+        [[nodiscard]] inline UnitVector differences(const char16_t* place) const;
+        [[nodiscard]] inline bool fits(char16_t unit) const;
     };
 
     static Letter letter(char16_t unit, LetterCase letterCase);
-    [[nodiscard]] UnitVector differences(std::size_t place) const;
-    [[nodiscard]] bool mayStandIn(std::size_t place) const;
+    // Only `next` needs these two, many times.
+    [[nodiscard]] inline UnitVector differences(std::size_t place) const;
+    [[nodiscard]] inline bool mayStandIn(std::size_t place) const;
     [[nodiscard]] std::size_t placesEnd() const;
     [[nodiscard]] std::size_t candidate(std::size_t place, std::size_t end) const;
     [[nodiscard]] bool standsAt(std::size_t place) const;

@@ -3,6 +3,7 @@
 
 #include "bindings/dyld/images.hpp"
 #include "bindings/objc/class_list.hpp"
+#include "bindings/objc/peer.hpp"
 #include "library/common/fixed_point.hpp"
 
 #include <cstring>
@@ -34,6 +35,7 @@ void appendClass(Class cls, std::string& text) {
 } // namespace
 
 std::string classText() {
+    objc::makeMethodsKnown();
     std::string text;
     text.reserve(4U << 20U); // memory that is not touched costs nothing, growing does
     for (const Class cls : objc::allClasses()) {

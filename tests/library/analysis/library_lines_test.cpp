@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace wentra::analysis {
 namespace {
 
@@ -79,6 +81,20 @@ TEST(SystemLines, HoldANameAnywhere) {
           u"LIBXPC.DYLIB", u"/System/Library/Odd.dylib", u"Odd.framework"}) {
         EXPECT_FALSE(isSystemLine(line, SystemList::reports)) << testing::PrintToString(line);
     }
+}
+
+TEST(SystemLines, HoldTheirOwnNamesOnly) {
+    const std::u16string_view text =
+        u"a.b\nx libxpc.dylib TCC.framework\nOdd.dylib\n\n"
+        u"Odd.dylib /System/Library/Frameworks/x\n.dylib\nlibxpc.dylib";
+    SystemNames names(text, SystemList::reports);
+    std::string found;
+    for (std::size_t start = 0; start <= text.size();) {
+        const std::size_t end = std::min(text.find(u'\n', start), text.size());
+        found += names.standIn(start, end) ? 'S' : '-';
+        start = end + 1;
+    }
+    EXPECT_EQ(found, "-S--S-S");
 }
 
 TEST(SystemLines, DifferInTwoNames) {
