@@ -26,6 +26,9 @@ set(flags
     # Exceptions pass and are caught, but none of ours has a C++ type: types would be imports from
     # the phone's C++ library. At exit the host's threads still run, so nothing is destroyed then.
     -fexceptions -fno-rtti -fno-c++-static-destructors
+    # What the compiler outlines of functions that let nothing out gets no unwind information, so that
+    # an exception that they would catch inside ends the process. Nothing grows without it.
+    -mno-outline
     -ffunction-sections -fdata-sections)
 list(JOIN flags " " CMAKE_CXX_FLAGS_INIT)
 set(CMAKE_MODULE_LINKER_FLAGS_INIT "-fuse-ld=lld -nostdlib")
